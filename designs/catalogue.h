@@ -1,0 +1,32 @@
+#pragma once
+
+#include "session/frmMain.h"
+
+#include <string>
+#include <string_view>
+
+/// The design catalogue, `designs.ini` of the data folder, read forward only into `main.design_record`.
+
+/// Opens the catalogue from the top; a walk that was open is closed first. Raises 53, 70.
+void open_catalogue(frmMain & main);
+
+/// Closes the walk and forgets the section read ahead. Does nothing when none is open.
+void close_catalogue(frmMain & main);
+
+enum class catalogue_start { first, next };
+
+/// Reads the next section, from the top with `first`. True if more sections follow; false comes with a valid
+/// record all the same: that of the last section. A catalogue without sections gives a blank record and
+/// false.
+bool read_design(frmMain & main, catalogue_start start);
+
+/// Reads from the top until "Name=" equals `name`. False when the catalogue has no such design; the caller
+/// words it.
+bool find_design(frmMain & main, std::string_view name);
+
+/// The first free section from "Design600" to "Design998", its number kept in `main.next_design_number`;
+/// empty when all are taken.
+std::string GetNextDesign(frmMain & main);
+
+/// A value of a section, cut at 254 bytes; empty when section or key is missing.
+std::string GetDesignString(const frmMain & main, std::string_view section, std::string_view key);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "support/forms.h"
+
+/// The small window that tells how far the counting of the photos is.
+struct frmPhotoCnt : form {
+    frmPhotoCnt() : form("frmPhotoCnt") { set_caption("Photo Count"); }
+    label lblCount{*this, "lblCount", "Counting and checking photos..."};
+    label lblAnnounce{*this, "lblAnnounce"};
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "session/frmMain.h"
+
+#include <string>
+#include <vector>
+
+/// The working table of photos, filled from a list, a folder or a selection.
+
+/// Reads the list at the tag of `txtPhotos`: at most 1001 lines, the first two characters of each cut off. A
+/// list that isn't there leaves `last_photo` at 0 and entry 0 as it is.
+void get_photos(frmMain & main);
+
+/// Fills the table with the ".jpg" files of a folder, 499 at most, in the file system's order. `last_photo`
+/// is -1 for a folder without any.
+void photos_of_folder(frmMain & main, const std::string & folder);
+
+/// Lets the user choose a folder and fills the table from it. A cancel leaves `last_photo` at 999. Gives the
+/// folder.
+std::string get_photo_folder(frmMain & main);
+
+/// Lets the user choose files and appends them to the list at the tag of `txtPhotos`, which becomes
+/// `last_photos.pls` when it is empty. A cancel sets `photo_choice_cancelled`.
+void get_selected_photos(frmMain & main);
+
+/// Appends photos to the working list as a selection does and raises `selected_count`.
+void append_to_list(frmMain & main, const std::vector<std::string> & photos);
+
+/// Takes one entry out, moving the later ones down. The caller lowers `last_photo`.
+void remove_photo(frmMain & main, int index);
+
+/// Checks every entry, swaps it for its thumbnail and counts the orientations; missing photos are dropped.
+/// Shows its progress in `frmPhotoCnt`, which the caller has shown.
+void count_photos(frmMain & main);
+
+/// Puts the table in a random order.
+void shuffle_photos(frmMain & main);
+
+/// Called when the photos have run out: asks, once a selection, whether to shuffle them, and shuffles on a
+/// yes.
+void ask_reshuffle(frmMain & main);

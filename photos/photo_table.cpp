@@ -1,0 +1,24 @@
+#include "photos/photo_table.h"
+
+#include "support/platform_error.h"
+
+namespace {
+
+int checked(int index)
+{
+    if (index < 0 || index >= photo_table::capacity)
+        throw platform_error(error_number::subscript, "The table of photos has no such entry.");
+    return index;
+}
+
+}  // namespace
+
+std::string & photo_table::operator[](int index)
+{
+    return photos[checked(index)];
+}
+
+const std::string & photo_table::operator[](int index) const
+{
+    return photos[checked(index)];
+}

@@ -1,0 +1,62 @@
+#include "session/frmMain.h"
+
+#include "support/numbers.h"
+
+namespace {
+
+void fill_lists(frmMain & main)
+{
+    std::vector<std::string> spacings;
+    for (int spacing = -100; spacing <= 140; spacing += 10)
+        spacings.push_back(std::to_string(spacing));
+    main.cmbSpace.set_items(spacings);
+    main.cmbFrame.set_items(
+        {"0", "1", "4", "7", "10", "14", "18", "22", "26", "30", "35", "40", "45", "50", "55", "60"});
+    main.cmbShadow.set_items({"0", "5", "10", "15", "20", "25", "30", "35", "40", "45", "50"});
+    main.cmbSize.set_items({"40", "60", "80", "100", "120", "140", "160", "180", "200", "220", "240", "260"});
+    main.cmbBlend.set_items({"0", "10", "20", "30", "40", "50", "60", "70", "80", "90", "100"});
+    main.cmbBlanks.set_items({"0",  "3",  "4",  "5",  "6",  "7",  "8",  "9",  "10", "11", "12",
+                              "13", "14", "15", "16", "17", "18", "20", "25", "30", "35", "40"});
+    // "Hearrs" stays as it is: readers of the list compare positions.
+    main.cmbShapes.set_items({"Squares", "Circles", "Stars", "Hearrs", "Puzzle pieces", "Stamps", "Clouds",
+                              "Leaves", "Ovals", "Polka Dots", "Targets", "Stripes"});
+}
+
+}  // namespace
+
+frmMain::frmMain(desktop & shown_on, random_source chance, windows * all_windows)
+    : form("frmMain"), desk(shown_on), random(std::move(chance)), all(all_windows)
+{
+    set_caption("F l u r n s");
+    fill_lists(*this);
+    cmbSpace.set_text("20");
+    cmbFrame.set_text("10");
+    cmbShadow.set_text("10");
+    cmbSize.set_text("60");
+    cmbShapes.set_text("Squares");
+    optPortrait.select();
+    optSolid.select();
+    optNone.select();
+    optTop.select();
+    optAlignCenter.select();
+    picFrameColor.tag = "True";
+    picFrameColor.set_back_color(0xFFFFFF);
+    lblPhotos.tag = "0";
+    design_locations.clear();
+    scratch_locations.clear();
+}
+
+photo_source photo_source_kind(const frmMain & main)
+{
+    return static_cast<photo_source>(static_cast<int>(leading_number(main.lblPhotos.tag)));
+}
+
+void set_photo_source_kind(frmMain & main, photo_source kind)
+{
+    main.lblPhotos.tag = std::to_string(static_cast<int>(kind));
+}
+
+double number_in(const combo_box & list)
+{
+    return leading_number(list.text());
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "session/frmMain.h"
+
+/// What the main window does with its own controls alone.
+
+/// Shows or hides the groups of the finishing stage; those of the quick styles only while one is active.
+void show_work_controls(frmMain & main, bool show);
+
+/// Shows or hides the menus: the choosing stage.
+void show_menus(frmMain & main, bool show);
+
+/// Brings the controls to their free state, as no design limits them.
+void enable_all(frmMain & main);
+
+/// Notes all nine groups as enabled and enables them.
+void start_enable_true(frmMain & main);
+
+/// False notes the state of the nine groups and disables them for a run, true puts it back. The same value
+/// twice in a row does nothing, so that what was noted isn't lost.
+void set_enable(frmMain & main, bool enable);
+
+/// Red, green and blue of a colour name of the catalogue as a control holds them; black for any other name.
+std::uint32_t color_from_name(std::string_view name);
+
+/// Shows font name and size beside the caption.
+void show_caption_font(frmMain & main);

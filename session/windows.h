@@ -1,0 +1,18 @@
+#pragma once
+
+#include "engine/frmImage.h"
+#include "photos/frmPhotoCnt.h"
+#include "session/frmMain.h"
+
+#include <vector>
+
+/// All windows of the session. One is opened with `desk.show_modal(all.image)`.
+struct windows {
+    windows(desktop & shown_on, const random_source & chance) : main(shown_on, chance, this) {}
+    frmMain main;
+    frmPhotoCnt photo_count;
+    frmImage image;
+
+    /// Every window but the main one, in the order above.
+    std::vector<form *> others() { return {&photo_count, &image}; }
+};

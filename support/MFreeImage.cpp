@@ -1,0 +1,179 @@
+#include "support/MFreeImage.h"
+
+#include "support/platform_error.h"
+#include "support/text_file.h"
+
+#include <FreeImage.h>
+#include <cstring>
+
+namespace {
+
+constexpr int superb_quality = 128;  // the library's flag for the highest JPEG quality
+
+bitmap in_24_bits(FIBITMAP * loaded)
+{
+    if (loaded == nullptr)
+        return {};
+    if (FreeImage_GetBPP(loaded) == 24)
+        return bitmap(loaded);
+    const bitmap source(loaded);
+    return bitmap(FreeImage_ConvertTo24Bits(loaded));
+}
+
+bitmap made(FIBITMAP * result)
+{
+    return bitmap(result);
+}
+
+std::string encoded(const bitmap & image, FREE_IMAGE_FORMAT format, int flags)
+{
+    const std::unique_ptr<FIMEMORY, void (*)(FIMEMORY *)> memory(FreeImage_OpenMemory(),
+                                                                 FreeImage_CloseMemory);
+    BYTE * data = nullptr;
+    DWORD size = 0;
+    if (!image || FreeImage_SaveToMemory(format, image.get(), memory.get(), flags) == FALSE ||
+        FreeImage_AcquireMemory(memory.get(), &data, &size) == FALSE)
+        throw platform_error(error_number::invalid_call, "The picture can't be encoded.");
+    return {reinterpret_cast<const char *>(data), size};
+}
+
+bool inside(const bitmap & image, int x, int y)
+{
+    return image && x >= 0 && y >= 0 && x < image.width() && y < image.height();
+}
+
+}  // namespace
+
+void bitmap::unloader::operator()(FIBITMAP * owned) const
+{
+    FreeImage_Unload(owned);
+}
+
+bitmap::bitmap(FIBITMAP * owned) : handle(owned) {}
+
+bitmap::bitmap(int width, int height)
+{
+    if (width <= 0 || height <= 0)
+        return;
+    handle.reset(FreeImage_Allocate(width, height, 24, 0, 0, 0));
+    if (!handle)
+        throw platform_error(error_number::out_of_memory, "Out of memory");
+}
+
+int bitmap::width() const
+{
+    return handle ? narrow(FreeImage_GetWidth(handle.get())) : 0;
+}
+
+int bitmap::height() const
+{
+    return handle ? narrow(FreeImage_GetHeight(handle.get())) : 0;
+}
+
+std::span<std::uint8_t> bitmap::row(int y)
+{
+    return {FreeImage_GetScanLine(handle.get(), y), static_cast<std::size_t>(width()) * pixel_bytes};
+}
+
+std::span<const std::uint8_t> bitmap::row(int y) const
+{
+    return {FreeImage_GetScanLine(handle.get(), y), static_cast<std::size_t>(width()) * pixel_bytes};
+}
+
+rgb_triple get_rgb_triple(std::uint32_t color)
+{
+    return {.red = static_cast<std::uint8_t>(color & 0xFF),
+            .green = static_cast<std::uint8_t>(color >> 8 & 0xFF),
+            .blue = static_cast<std::uint8_t>(color >> 16 & 0xFF)};
+}
+
+void set_output_message()
+{
+    FreeImage_SetOutputMessageStdCall([](FREE_IMAGE_FORMAT, const char *) {});
+}
+
+bitmap load_picture(picture_format format, const std::string & path)
+{
+    bitmap loaded = in_24_bits(FreeImage_Load(static_cast<FREE_IMAGE_FORMAT>(format), path.c_str(), 0));
+    narrow(loaded.width());
+    narrow(loaded.height());
+    return loaded;
+}
+
+std::optional<picture_size> jpeg_size(const std::string & path)
+{
+    const bitmap header(FreeImage_Load(FIF_JPEG, path.c_str(), FIF_LOAD_NOPIXELS));
+    if (!header)
+        return std::nullopt;
+    return picture_size{.width = header.width(), .height = header.height()};
+}
+
+std::string jpeg_bytes(const bitmap & image)
+{
+    return encoded(image, FIF_JPEG, superb_quality);
+}
+
+void save_jpeg(const bitmap & image, const std::string & path)
+{
+    write_file(path, jpeg_bytes(image));
+}
+
+void save_bmp(const bitmap & image, const std::string & path)
+{
+    write_file(path, encoded(image, FIF_BMP, 0));
+}
+
+bitmap rescaled(const bitmap & image, int width, int height)
+{
+    if (!image || width <= 0 || height <= 0)
+        return {};
+    return made(FreeImage_Rescale(image.get(), width, height, FILTER_BILINEAR));
+}
+
+bitmap copied(const bitmap & image, int left, int top, int right, int bottom)
+{
+    if (!image)
+        return {};
+    return made(FreeImage_Copy(image.get(), left, top, right, bottom));
+}
+
+bool paste(bitmap & target, const bitmap & source, int left, int top, int alpha)
+{
+    return target && source && FreeImage_Paste(target.get(), source.get(), left, top, alpha) != FALSE;
+}
+
+bitmap rotated(const bitmap & image, double degrees)
+{
+    if (!image)
+        return {};
+    return made(FreeImage_Rotate(image.get(), degrees, nullptr));
+}
+
+std::optional<rgb_triple> pixel(const bitmap & image, int x, int y)
+{
+    if (!inside(image, x, y))
+        return std::nullopt;
+    const std::uint8_t * bytes = image.row(y).data() + static_cast<std::ptrdiff_t>(x) * pixel_bytes;
+    return rgb_triple{.red = bytes[FI_RGBA_RED], .green = bytes[FI_RGBA_GREEN], .blue = bytes[FI_RGBA_BLUE]};
+}
+
+void set_pixel(bitmap & image, int x, int y, rgb_triple color)
+{
+    if (!inside(image, x, y))
+        return;
+    std::uint8_t * bytes = image.row(y).data() + static_cast<std::ptrdiff_t>(x) * pixel_bytes;
+    bytes[FI_RGBA_RED] = color.red;
+    bytes[FI_RGBA_GREEN] = color.green;
+    bytes[FI_RGBA_BLUE] = color.blue;
+}
+
+void fill(bitmap & image, rgb_triple color)
+{
+    if (!image)
+        return;
+    for (int x = 0; x < image.width(); ++x)
+        set_pixel(image, x, 0, color);
+    const std::span<const std::uint8_t> first = image.row(0);
+    for (int y = 1; y < image.height(); ++y)
+        std::memcpy(image.row(y).data(), first.data(), first.size());
+}

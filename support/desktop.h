@@ -1,0 +1,88 @@
+#pragma once
+
+#include "support/MFreeImage.h"
+#include "support/forms.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The platform as the session sees it. There is one with windows, one for the batch program and one that
+/// tests script. Texts are bytes, UTF-8 as a rule.
+
+enum class answer { yes, no, cancel };
+enum class answers { yes_no, yes_no_cancel };
+
+struct question {
+    std::string title;
+    std::string text;
+    answers offered = answers::yes_no;
+};
+
+struct file_request {
+    std::string title;
+    std::string filter;     ///< "Image files (*.jpg)|*.jpg"
+    std::string folder;     ///< where it opens; empty: where the user last was
+    std::string extension;  ///< added by a save chooser to a name without one
+};
+
+/// Text to be drawn in one line; the size is in points at 96 dots an inch.
+struct text_request {
+    std::string text;
+    font_style font;
+    rgb_triple color, background;
+    int extra_width = 0;  ///< pixels added to the right of the text
+};
+
+enum class page { portrait, landscape };
+
+class desktop {
+public:
+    desktop() = default;
+    desktop(const desktop &) = delete;
+    desktop & operator=(const desktop &) = delete;
+    virtual ~desktop() = default;
+
+    /// A box with one button.
+    virtual void message(const std::string & text, const std::string & title = {}) = 0;
+    virtual answer ask(const question & asked) = 0;
+
+    /// Shows a window without waiting; fires its load handler first. Hiding unloads it.
+    virtual void show(form & window) = 0;
+    virtual void hide(form & window) = 0;
+    /// Fires the load handler, shows the window and returns when it has been unloaded.
+    virtual void show_modal(form & window) = 0;
+    /// Lets pending events through.
+    virtual void pump() = 0;
+    virtual void busy_pointer(bool on) = 0;
+
+    /// Choosers; nothing or an empty list after a cancel.
+    virtual std::optional<std::string> choose_folder(const std::string & title) = 0;
+    virtual std::vector<std::string> choose_files(const file_request & asked) = 0;
+    virtual std::optional<std::string> choose_file(const file_request & asked) = 0;
+    virtual std::optional<std::string> choose_save(const file_request & asked) = 0;
+    virtual std::optional<std::uint32_t> choose_color(std::uint32_t initial) = 0;
+
+    /// Opens a file or an address with the user's default program; false when there is none.
+    virtual bool open_document(const std::string & target) = 0;
+    /// Prints on the default printer: whole, centred, proportions kept. False when printing failed or was
+    /// cancelled.
+    virtual bool print(const bitmap & image, page orientation) = 0;
+
+    virtual std::vector<std::string> font_names() = 0;
+    /// The text drawn in a bitmap as wide as the text and `extra_width`, as high as the text's line. No
+    /// bitmap for an empty text.
+    virtual bitmap draw_text(const text_request & request) = 0;
+};
+
+/// The busy pointer while it lives.
+class busy {
+public:
+    explicit busy(desktop & shown_on) : desk(shown_on) { desk.busy_pointer(true); }
+    busy(const busy &) = delete;
+    busy & operator=(const busy &) = delete;
+    ~busy() { desk.busy_pointer(false); }
+
+private:
+    desktop & desk;
+};

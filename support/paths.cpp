@@ -1,0 +1,134 @@
+#include "support/paths.h"
+
+#include "support/platform_error.h"
+#include "support/text_file.h"
+
+#include <algorithm>
+#include <fcntl.h>
+#include <filesystem>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+const char path_separator = static_cast<char>(fs::path::preferred_separator);
+
+namespace {
+
+bool is_separator(char sign)
+{
+    return sign == '/' || sign == '\\';
+}
+
+}  // namespace
+
+std::string joined(const std::string & folder, std::string_view name)
+{
+    while (!name.empty() && is_separator(name.front()))
+        name.remove_prefix(1);
+    return folder + path_separator + with_platform_separators(name);
+}
+
+std::string with_platform_separators(std::string_view text)
+{
+    std::string path(text);
+    std::replace_if(path.begin(), path.end(), is_separator, path_separator);
+    return path;
+}
+
+std::size_t last_separator(std::string_view path)
+{
+    return path.find_last_of("/\\");
+}
+
+std::string folder_of(std::string_view path)
+{
+    const std::size_t at = last_separator(path);
+    return at == std::string_view::npos ? std::string() : std::string(path.substr(0, at));
+}
+
+std::string name_of(std::string_view path)
+{
+    const std::size_t at = last_separator(path);
+    return std::string(at == std::string_view::npos ? path : path.substr(at + 1));
+}
+
+bool is_under(std::string_view text, std::string_view folder)
+{
+    return text.size() > folder.size() && text.starts_with(folder) && is_separator(text[folder.size()]);
+}
+
+std::string lower_case(std::string_view text)
+{
+    std::string lower(text);
+    for (char & sign : lower)
+        if (sign >= 'A' && sign <= 'Z')
+            sign = static_cast<char>(sign - 'A' + 'a');
+    return lower;
+}
+
+bool file_exists(const std::string & path)
+{
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored);
+}
+
+bool folder_exists(const std::string & path)
+{
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
+
+std::vector<std::string> files_in(const std::string & folder)
+{
+    return with_platform_errors([&] {
+        std::vector<std::string> names;
+        for (const auto & entry : fs::directory_iterator(folder)) {
+            std::error_code unreadable;
+            if (entry.is_regular_file(unreadable))
+                names.push_back(entry.path().filename().string());
+        }
+        return names;
+    });
+}
+
+void make_folder(const std::string & path)
+{
+    with_platform_errors([&] { fs::create_directory(path); });
+}
+
+void delete_file(const std::string & path)
+{
+    with_platform_errors([&] {
+        if (file_exists(path))
+            fs::remove(path);
+    });
+}
+
+void copy_file(const std::string & from, const std::string & to)
+{
+    replace_file(to, read_file(from));
+}
+
+void copy_folder(const std::string & from, const std::string & to)
+{
+    with_platform_errors([&] {
+        fs::create_directories(to);
+        for (const auto & entry : fs::recursive_directory_iterator(from)) {
+            const fs::path target = fs::path(to) / entry.path().lexically_relative(from);
+            if (entry.is_directory())
+                fs::create_directories(target);
+            else
+                copy_file(entry.path().string(), target.string());
+        }
+    });
+}
+
+bool is_newer(const std::string & path, const std::string & other)
+{
+    return with_platform_errors([&] { return fs::last_write_time(path) > fs::last_write_time(other); });
+}
+
+bool folder_writable(const std::string & folder)
+{
+    return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Paths are bytes, compared as bytes. Folders carry no separator at their end.
+
+/// The platform's separator between folders.
+extern const char path_separator;
+
+/// `folder` and `name` with one separator between them; separators of either kind at the start of `name` are
+/// dropped, those inside it become the platform's.
+std::string joined(const std::string & folder, std::string_view name);
+
+/// The text with every separator, of either kind, turned into the platform's.
+std::string with_platform_separators(std::string_view text);
+
+/// Position of the last separator of either kind, npos when there is none.
+std::size_t last_separator(std::string_view path);
+
+/// The part in front of the last separator (empty without one) and the part behind it.
+std::string folder_of(std::string_view path);
+std::string name_of(std::string_view path);
+
+/// True when the text starts with `folder` and a separator of either kind: is_under("images\\a.jpg",
+/// "images").
+bool is_under(std::string_view text, std::string_view folder);
+
+/// The text in lower case, ASCII letters only.
+std::string lower_case(std::string_view text);
+
+bool file_exists(const std::string & path);
+bool folder_exists(const std::string & path);
+
+/// Names of the plain files in a folder, in the file system's order. Raises path_not_found (76) or 70.
+std::vector<std::string> files_in(const std::string & folder);
+
+/// Makes one folder. Raises 70, 75, 76.
+void make_folder(const std::string & path);
+
+/// Deletes a file if it is there, a write-protected one too. Raises 70, 75.
+void delete_file(const std::string & path);
+
+/// Copies one file, overwriting. Raises 53, 61, 70, 75. The copy is whole or not there.
+void copy_file(const std::string & from, const std::string & to);
+
+/// Copies a folder with all that lies in it, overwriting files of the same name. Raises as copy_file.
+void copy_folder(const std::string & from, const std::string & to);
+
+/// True when the user can make files in the folder.
+bool folder_writable(const std::string & folder);
+
+/// True when `path` was last changed after `other`. Both have to exist. Raises 53.
+bool is_newer(const std::string & path, const std::string & other);

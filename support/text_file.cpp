@@ -1,0 +1,191 @@
+#include "support/text_file.h"
+
+#include "support/paths.h"
+#include "support/platform_error.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t chunk_size = 1 << 16;
+
+class descriptor {
+public:
+    descriptor(const std::string & path, int flags)
+        : number(::open(path.c_str(), flags | O_CLOEXEC, 0666)), name(path)
+    {
+        if (number < 0)
+            throw from_system(errno, path);
+    }
+    descriptor(const descriptor &) = delete;
+    descriptor & operator=(const descriptor &) = delete;
+    ~descriptor() { ::close(number); }
+
+    void write_all(std::string_view bytes) const
+    {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(number, bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written < 0)
+                throw from_system(errno, name);
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+    }
+    std::string read_all() const
+    {
+        std::string bytes;
+        std::string chunk(chunk_size, '\0');
+        for (;;) {
+            const ssize_t got = ::read(number, chunk.data(), chunk.size());
+            if (got < 0 && errno == EINTR)
+                continue;
+            if (got < 0)
+                throw from_system(errno, name);
+            if (got == 0)
+                return bytes;
+            bytes.append(chunk, 0, static_cast<std::size_t>(got));
+        }
+    }
+    void flush() const
+    {
+        // Special files (a terminal, /dev/full) can't be flushed to a disk and need not be.
+        if (::fsync(number) != 0 && errno != EINVAL && errno != EROFS)
+            throw from_system(errno, name);
+    }
+
+private:
+    int number;
+    std::string name;
+};
+
+enum class durability { flushed, left_to_the_system };
+
+void write_whole(const std::string & path, std::string_view bytes, durability wanted)
+{
+    const descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    file.write_all(bytes);
+    if (wanted == durability::flushed)
+        file.flush();
+}
+
+void swap_in(const std::string & path, std::string_view bytes, durability wanted)
+{
+    const std::string beside = path + ".part";
+    try {
+        write_whole(beside, bytes, wanted);
+        if (std::rename(beside.c_str(), path.c_str()) != 0)
+            throw from_system(errno, path);
+    } catch (platform_error & error) {
+        std::remove(beside.c_str());
+        error.path = path;
+        throw;
+    }
+}
+
+void flush_folder(const std::string & path)
+{
+    const std::string folder = folder_of(path);
+    const int number = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (number < 0)
+        return;  // the rename stands; only its place on the disk is the system's affair
+    ::fsync(number);
+    ::close(number);
+}
+
+}  // namespace
+
+line_source::line_source(const std::string & path) : bytes(read_file(path)), source_path(path) {}
+
+line_source line_source::of_text(std::string text)
+{
+    line_source source;
+    source.bytes = std::move(text);
+    return source;
+}
+
+std::string line_source::read_line()
+{
+    if (at_end())
+        throw platform_error(error_number::past_end_of_file, "The file has no more lines.", source_path);
+    const std::size_t feed = bytes.find('\n', position);
+    const std::size_t end = feed == std::string::npos ? bytes.size() : feed;
+    std::string line = bytes.substr(position, end - position);
+    position = feed == std::string::npos ? end : end + 1;
+    if (feed != std::string::npos && line.ends_with('\r'))
+        line.pop_back();
+    return line;
+}
+
+line_writer::line_writer(const std::string & path, mode opened) : target(path)
+{
+    errno = 0;
+    file.open(path, std::ios::binary | (opened == mode::append ? std::ios::app : std::ios::trunc));
+    if (!file)
+        throw from_system(errno, path);
+}
+
+void line_writer::write_line(std::string_view line)
+{
+    errno = 0;
+    file << line << "\r\n";
+    if (!file)
+        throw from_system(errno != 0 ? errno : ENOSPC, target);
+}
+
+void line_writer::close()
+{
+    errno = 0;
+    file.close();
+    if (!file)
+        throw from_system(errno != 0 ? errno : ENOSPC, target);
+}
+
+std::string read_file(const std::string & path)
+{
+    const descriptor file(path, O_RDONLY);
+    return file.read_all();
+}
+
+void replace_file(const std::string & path, std::string_view bytes)
+{
+    swap_in(path, bytes, durability::flushed);
+    flush_folder(path);
+}
+
+void write_file(const std::string & path, std::string_view bytes)
+{
+    swap_in(path, bytes, durability::left_to_the_system);
+}
+
+std::string text_of(const std::vector<std::string> & lines)
+{
+    std::string text;
+    for (const std::string & line : lines)
+        text += line + "\r\n";
+    return text;
+}
+
+std::vector<std::string> split(std::string_view text, char sign, std::size_t limit)
+{
+    std::vector<std::string> fields;
+    while (fields.size() + 1 < limit) {
+        const std::size_t at = text.find(sign);
+        if (at == std::string_view::npos)
+            break;
+        fields.emplace_back(text.substr(0, at));
+        text.remove_prefix(at + 1);
+    }
+    fields.emplace_back(text);
+    return fields;
+}
+
+const std::string & field_at(const std::vector<std::string> & fields, std::size_t index)
+{
+    if (index >= fields.size())
+        throw platform_error(error_number::subscript, "A line has too few fields.");
+    return fields[index];
+}

@@ -1,0 +1,40 @@
+#include "tests/pictures.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+bitmap plain(int width, int height, rgb_triple color)
+{
+    bitmap image(width, height);
+    fill(image, color);
+    return image;
+}
+
+bitmap graded(int width, int height)
+{
+    bitmap image(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            set_pixel(image, x, height - 1 - y,
+                      {static_cast<std::uint8_t>(x % 256), static_cast<std::uint8_t>(y % 256),
+                       static_cast<std::uint8_t>((x / 256 * 16 + y / 256) % 256)});
+    return image;
+}
+
+rgb_triple seen(const bitmap & image, int x, int y)
+{
+    const std::optional<rgb_triple> found = pixel(image, x, image.height() - 1 - y);
+    EXPECT_TRUE(found) << "no pixel at " << x << ", " << y << " in " << image.width() << " by "
+                       << image.height();
+    return found.value_or(rgb_triple{});
+}
+
+bool same(const bitmap & left, const bitmap & right)
+{
+    if (left.width() != right.width() || left.height() != right.height())
+        return false;
+    for (int y = 0; y < left.height(); ++y)
+        if (!std::ranges::equal(left.row(y), right.row(y)))
+            return false;
+    return true;
+}

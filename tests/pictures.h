@@ -1,0 +1,30 @@
+#pragma once
+
+#include "support/MFreeImage.h"
+
+#include <string>
+
+/// A bitmap of one colour.
+bitmap plain(int width, int height, rgb_triple color);
+
+/// A bitmap in which every pixel tells where it is: red and green rise with column and row from the top.
+bitmap graded(int width, int height);
+
+/// Pixel (x, y) counted from the top; fails the test outside the bitmap.
+rgb_triple seen(const bitmap & image, int x, int y);
+
+/// The whole bitmap as letters, one line a row from the top: `letters` gives the letter of a pixel.
+template <typename Letters>
+std::string drawn(const bitmap & image, Letters letters)
+{
+    std::string text;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            text += letters(seen(image, x, y));
+        text += '\n';
+    }
+    return text;
+}
+
+/// True when both have the same size and the same pixels.
+bool same(const bitmap & left, const bitmap & right);

@@ -1,0 +1,76 @@
+#include "tests/temporary_folder.h"
+
+#include "support/paths.h"
+#include "support/text_file.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+constexpr uid_t nobody = 65534;
+}
+
+temporary_folder::temporary_folder()
+{
+    std::string pattern = (fs::temp_directory_path() / "tessaloom_test_XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr)
+        throw std::runtime_error("no temporary folder: " + pattern);
+    folder = pattern;
+    fs::permissions(folder, fs::perms::all);
+}
+
+temporary_folder::~temporary_folder()
+{
+    std::error_code ignored;
+    fs::remove_all(folder, ignored);
+}
+
+std::string temporary_folder::at(std::string_view name) const
+{
+    const std::string path = joined(folder, name);
+    fs::create_directories(folder_of(path));
+    return path;
+}
+
+std::string temporary_folder::write(std::string_view name, std::string_view bytes) const
+{
+    const std::string path = at(name);
+    write_file(path, bytes);
+    return path;
+}
+
+as_ordinary_user::as_ordinary_user()
+{
+    if (::geteuid() == 0 && ::seteuid(nobody) != 0)
+        throw std::runtime_error("can't become an ordinary user");
+}
+
+as_ordinary_user::~as_ordinary_user()
+{
+    if (::getuid() == 0 && ::seteuid(0) != 0)
+        std::abort();
+}
+
+full_disk::full_disk(unsigned long bytes) : before(0)
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    before = limit.rlim_cur;
+    limit.rlim_cur = bytes;
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+full_disk::~full_disk()
+{
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = before;
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
