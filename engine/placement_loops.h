@@ -14,11 +14,3 @@ void fill_loop(frmMain & main);
 /// Settle frame and shadow of the current photo from the value of its location.
 void apply_frame_size(frmMain & main, int value);
 void apply_shadow_size(frmMain & main, int value);
-
-enum class mixing { as_before, forced };
-
-/// Swaps locations by a step that is kept; nothing with fewer than nine.
-void mix_locations(frmMain & main, mixing wanted);
-
-/// Deals the locations into runs and puts them back from a random place on.
-void shuffle_locations(frmMain & main, int step);
