@@ -66,6 +66,14 @@ std::string lower_case(std::string_view text)
     return lower;
 }
 
+std::string absolute_path(const std::string & path)
+{
+    std::string absolute = fs::absolute(path).lexically_normal().string();
+    if (absolute.size() > 1 && is_separator(absolute.back()))
+        absolute.pop_back();
+    return absolute;
+}
+
 bool file_exists(const std::string & path)
 {
     std::error_code ignored;

@@ -30,6 +30,9 @@ bool is_under(std::string_view text, std::string_view folder);
 /// The text in lower case, ASCII letters only.
 std::string lower_case(std::string_view text);
 
+/// The path made absolute, without "." and ".." in it; links stay as they are.
+std::string absolute_path(const std::string & path);
+
 bool file_exists(const std::string & path);
 bool folder_exists(const std::string & path);
 

@@ -1,0 +1,237 @@
+#include "batch/batch_session.h"
+
+#include "batch/batch_desktop.h"
+#include "designs/catalogue.h"
+#include "engine/flurn_driver.h"
+#include "engine/flurn_file.h"
+#include "photos/photo_list.h"
+#include "session/connect_all.h"
+#include "session/new_poster.h"
+#include "session/windows.h"
+#include "support/paths.h"
+#include "support/platform_error.h"
+#include "support/text_file.h"
+
+#include <cstdio>
+
+namespace {
+
+random_source chance_of(const batch_arguments & arguments)
+{
+    return arguments.seed ? seeded_random(*arguments.seed) : clock_random();
+}
+
+// A session as the program with a window has it, up to the point where the window would be shown.
+struct session {
+    batch_desktop desk;
+    windows all;
+    session(const batch_arguments & arguments, const batch_folders & folders)
+        : desk(arguments.answers_yes ? answer::yes : answer::no), all(desk, chance_of(arguments))
+    {
+        all.main.install_folder = folders.install_folder;
+        prepare_data_folder(all.main, folders.data);
+        supply_package_folders(all.main);
+        connect_all(all);
+        all.main.load();
+        desk.progress = [this] { return all.main.txtDoing.text(); };
+    }
+};
+
+// ---- designs
+
+void print_designs(frmMain & main)
+{
+    bool more = true;
+    for (catalogue_start start = catalogue_start::first; more; start = catalogue_start::next) {
+        more = read_design(main, start);
+        const design_record & design = main.design_record;
+        if (!design.section.empty())
+            std::printf("%s\t%s\t%s\t%s\n", design.section.c_str(), design.name.c_str(),
+                        design.design.c_str(), design.count.c_str());
+    }
+    close_catalogue(main);
+}
+
+bool has_own_background(const design_record & design)
+{
+    const std::string & image = design.bg_image;
+    return image != "Either" && !image.empty() && image != "None" && image != "Solid";
+}
+
+option_button & orientation_option(frmMain & main, const std::string & asked)
+{
+    const std::string & drawn_for = main.design_record.background;
+    const std::string wanted = !asked.empty() ? asked : drawn_for == "Landscape" ? "landscape" : "portrait";
+    if (wanted == "square")
+        return main.optSquare;
+    return wanted == "landscape" ? main.optLandscape : main.optPortrait;
+}
+
+// Leaves the session as the design browser leaves it after its Ok.
+void choose_design(frmMain & main, const batch_arguments & arguments)
+{
+    if (!find_design(main, arguments.design))
+        throw bad_arguments{"there is no design named \"" + arguments.design +
+                            "\"; --list shows the designs"};
+    close_catalogue(main);
+    design_record & design = main.design_record;
+    if (design.caption_clear.empty())
+        design.caption_clear = design.design == "Scatter" ? "Adjust" : "Same";
+    if (has_own_background(design))
+        main.optNone.select();
+    main.lblDesign.tag = design.section;
+    main.lblDesign.set_caption(design.name);
+    const updating guard(main);  // the photos are not there yet, so there is nothing to preview
+    option_button & chosen = orientation_option(main, arguments.orientation);
+    chosen.select(false);  // its click has to run even when it is selected already
+    chosen.select();
+    main.poster_tall = &chosen != &main.optLandscape;
+}
+
+// ---- photos
+
+void use_folder(frmMain & main, const std::string & folder)
+{
+    photos_of_folder(main, folder);
+    set_photo_source_kind(main, photo_source::folder);
+    main.lblPhotos.set_caption("Folder:");
+    main.txtPhotos.set_text(folder);
+    main.txtPhotos.tag = folder;
+}
+
+void use_list(frmMain & main, const std::string & list)
+{
+    main.txtPhotos.tag = list;
+    set_photo_source_kind(main, photo_source::list);
+    main.lblPhotos.set_caption("Photo List:");
+    main.txtPhotos.set_text(name_of(list));
+    get_photos(main);
+}
+
+void use_selection(frmMain & main, const std::vector<std::string> & files)
+{
+    append_to_list(main, files);
+    set_photo_source_kind(main, photo_source::selection);
+    main.lblPhotos.set_caption("Selected:");
+    main.txtPhotos.set_text(std::to_string(main.selected_count) + " selected photos");
+    get_photos(main);
+}
+
+void choose_photos(frmMain & main, const std::vector<std::string> & given)
+{
+    std::vector<std::string> paths;
+    for (const std::string & path : given)
+        paths.push_back(absolute_path(path));
+    for (const std::string & path : paths)
+        if (!file_exists(path) && !folder_exists(path))
+            throw platform_error(error_number::file_not_found, "There is no such photo, folder or list.",
+                                 path);
+    if (paths.size() == 1 && folder_exists(paths.front()))
+        use_folder(main, paths.front());
+    else if (paths.size() == 1 && lower_case(paths.front()).ends_with(".pls"))
+        use_list(main, paths.front());
+    else
+        use_selection(main, paths);
+    if (main.table.last_photo < 0)
+        throw platform_error(error_number::file_not_found, "There are no photos in that folder.",
+                             given.front());
+}
+
+// ---- settings
+
+void apply_setting(frmMain & main, const std::string & name, const std::string & value)
+{
+    control * const found = main.find(name);
+    if (found == nullptr)
+        throw bad_arguments{"there is no control named \"" + name + "\"; --dump shows the controls"};
+    if (!found->enabled())
+        std::fprintf(stderr, "%s is disabled for this design; it is set all the same.\n", name.c_str());
+    if (!found->set_as_user(value))
+        throw bad_arguments{name + " can't be set to \"" + value + "\""};
+}
+
+void apply_settings(frmMain & main, const batch_arguments & arguments)
+{
+    const updating guard(main);  // one picture at the end instead of one a setting
+    if (arguments.caption)
+        main.txtCaption.set_as_user(*arguments.caption);
+    for (const auto & [name, value] : arguments.settings)
+        apply_setting(main, name, value);
+}
+
+std::string escaped(const std::string & text)
+{
+    std::string line;
+    for (const char sign : text)
+        line += sign == '\t' ? "\\t" : sign == '\n' ? "\\n" : sign == '\r' ? "\\r" : std::string(1, sign);
+    return line;
+}
+
+void print_controls(const frmMain & main)
+{
+    for (const control * shown : main.controls())
+        std::printf("%s\t%d\t%d\t%s\t%s\n", shown->name().c_str(), shown->visible() ? 1 : 0,
+                    shown->enabled() ? 1 : 0, escaped(shown->value()).c_str(), escaped(shown->tag).c_str());
+}
+
+// ---- the collage
+
+bool save_result(const bitmap & image, const batch_arguments & arguments)
+{
+    try {
+        const int own = std::max(image.width(), image.height());
+        save_flurn(image, arguments.size.value_or(own), arguments.out);
+        return true;
+    } catch (const platform_error & error) {
+        std::fprintf(stderr, "%s\n", in_one_line(told(error)).c_str());
+        return false;
+    }
+}
+
+exit_status make_full_size(session & running, const batch_arguments & arguments)
+{
+    bool saved = false;
+    running.desk.on_modal = [&](form & window) {
+        if (&window == &running.all.image)
+            saved = save_result(running.all.main.run.canvas, arguments);
+    };
+    running.all.main.cmdFlurn.click();
+    return saved ? exit_status::made : exit_status::not_made;
+}
+
+exit_status make_small(session & running, const batch_arguments & arguments)
+{
+    frmMain & main = running.all.main;
+    const std::string picture = joined(main.data_folder, "tmp/finished.jpg");
+    delete_file(picture);
+    gen_sample(main);
+    const bitmap image = load_picture(picture_format::jpeg, picture);
+    return image && save_result(image, arguments) ? exit_status::made : exit_status::not_made;
+}
+
+exit_status make_collage(session & running, const batch_arguments & arguments)
+{
+    frmMain & main = running.all.main;
+    choose_design(main, arguments);
+    if (!arguments.photos.empty())
+        choose_photos(main, arguments.photos);
+    start_designed(main);
+    apply_settings(main, arguments);
+    if (arguments.wanted == batch_arguments::task::dump)
+        print_controls(main);
+    if (arguments.out.empty())
+        return exit_status::made;
+    return arguments.preview ? make_small(running, arguments) : make_full_size(running, arguments);
+}
+
+}  // namespace
+
+exit_status run_batch(const batch_arguments & arguments, const batch_folders & folders)
+{
+    session running(arguments, folders);
+    if (arguments.wanted == batch_arguments::task::list) {
+        print_designs(running.all.main);
+        return exit_status::made;
+    }
+    return make_collage(running, arguments);
+}
