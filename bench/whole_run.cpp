@@ -1,10 +1,11 @@
-// Times whole runs: the engine at full size and in the preview, against a bare loop that only loads, rescales and
-// pastes the same photos. Each figure comes from a process of its own, so that its peak memory is its own too.
+// Times whole runs: the engine at full size and in the preview, against a bare loop that only loads, rescales
+// and pastes the same photos. Each figure comes from a process of its own, so that its peak memory is its own
+// too.
 //
 //     whole_run_bench APP PHOTOS WORK [RUNS]
 //
-// APP is a staged program folder, PHOTOS a folder of JPEG files, which are enlarged to 12 megapixels, 40 of them, in
-// WORK. Prints medians, the ratio to the bare loop, and the peak of resident memory.
+// APP is a staged program folder, PHOTOS a folder of JPEG files, which are enlarged to 12 megapixels, 40 of
+// them, in WORK. Prints medians, the ratio to the bare loop, and the peak of resident memory.
 
 #include "designs/catalogue.h"
 #include "designs/template_reader.h"
@@ -18,16 +19,15 @@
 #include "support/paths.h"
 #include "support/platform_error.h"
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -37,7 +37,10 @@ constexpr int long_side = 4000, short_side = 3000;  // 12 megapixels
 /// A desktop on which nothing is ever shown or asked; captions are plain bars.
 class silent_desktop : public desktop {
 public:
-    void message(const std::string & text, const std::string &) override { std::fprintf(stderr, "%s\n", text.c_str()); }
+    void message(const std::string & text, const std::string &) override
+    {
+        std::fprintf(stderr, "%s\n", text.c_str());
+    }
     answer ask(const question &) override { return answer::no; }
     void show(form & window) override { window.load(); }
     void hide(form & window) override { window.unload(); }
@@ -115,7 +118,8 @@ void make_big_photos(const std::string & from, const std::string & work)
             continue;
         const bitmap source = load_picture(picture_format::jpeg, joined(from, names[i % names.size()]));
         const bool wide = source.width() > source.height();
-        save_jpeg(rescaled(source, wide ? long_side : short_side, wide ? short_side : long_side), big_photo(work, i));
+        save_jpeg(rescaled(source, wide ? long_side : short_side, wide ? short_side : long_side),
+                  big_photo(work, i));
     }
 }
 
@@ -150,7 +154,8 @@ struct bench_session {
 
 // ---- what is timed
 
-// The least that has to be done for these locations: load, rescale, paste. Which photo goes where is no matter.
+// The least that has to be done for these locations: load, rescale, paste. Which photo goes where is no
+// matter.
 double bare_seconds(bench_session & session, const std::string & work)
 {
     read_template(session.all.main, run_size::full);
@@ -173,7 +178,8 @@ struct row {
 
 figure median_of(std::vector<figure> figures)
 {
-    std::sort(figures.begin(), figures.end(), [](const figure & a, const figure & b) { return a.seconds < b.seconds; });
+    std::sort(figures.begin(), figures.end(),
+              [](const figure & a, const figure & b) { return a.seconds < b.seconds; });
     figure middle = figures[figures.size() / 2];
     for (const figure & each : figures)
         middle.peak_mib = std::max(middle.peak_mib, each.peak_mib);
@@ -184,8 +190,10 @@ void measure_design(const std::string & app, const std::string & work, const std
 {
     const std::vector<row> rows = {
         {"bare loop", [&](bench_session & session) { return bare_seconds(session, work); }},
-        {"full size", [](bench_session & session) { return seconds_of([&] { make_flurn(session.all.main); }); }},
-        {"preview", [](bench_session & session) { return seconds_of([&] { gen_sample(session.all.main); }); }},
+        {"full size",
+         [](bench_session & session) { return seconds_of([&] { make_flurn(session.all.main); }); }},
+        {"preview",
+         [](bench_session & session) { return seconds_of([&] { gen_sample(session.all.main); }); }},
     };
     double bare = 0;
     for (const row & each : rows) {
@@ -222,8 +230,8 @@ void measure_thumbnails(const std::string & work)
                 rescaled(load_picture(picture_format::jpeg, big_photo(work, i)), 200, 150);
         });
     });
-    std::printf("%-24s %-10s %9.1f ms %8.3f of bare %8.0f MiB peak\n", "40 thumbnails", "made", made.seconds * 1000,
-                made.seconds / bare.seconds, made.peak_mib);
+    std::printf("%-24s %-10s %9.1f ms %8.3f of bare %8.0f MiB peak\n", "40 thumbnails", "made",
+                made.seconds * 1000, made.seconds / bare.seconds, made.peak_mib);
 }
 
 std::vector<std::string> starter_designs(const std::string & app)

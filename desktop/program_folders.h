@@ -1,0 +1,17 @@
+#pragma once
+
+#include "session/start_up.h"
+
+#include <string>
+
+/// Where this program lies and where it keeps the user's data. A QCoreApplication has to be there.
+
+/// The folder of the program file, links followed: an installed program is reached through a link in `bin`.
+std::string program_folder();
+
+/// The user's own data folder, `tessaloom4` under the user's data home, is used on a platform of that one
+/// version, and elsewhere when the program's folder can't be written.
+folder_choice data_folder_choice();
+
+/// The user's pictures folder, or the home folder when there is none: where choosers open first.
+std::string pictures_folder();

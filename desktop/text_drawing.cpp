@@ -1,0 +1,82 @@
+#include "desktop/text_drawing.h"
+
+#include "desktop/qt_text.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double dots_per_inch = 96, points_per_inch = 72;
+constexpr int widest_text = 32000;  // a bitmap's side has 16 bits
+
+QFont font_of(const font_style & style)
+{
+    QFont font;
+    if (!style.name.empty())
+        font.setFamily(shown(style.name));
+    font.setPixelSize(
+        std::max(1, static_cast<int>(std::lround(style.size * dots_per_inch / points_per_inch))));
+    font.setBold(style.bold);
+    font.setItalic(style.italic);
+    font.setUnderline(style.underline);
+    font.setStrikeOut(style.strikethrough);
+    return font;
+}
+
+QColor color_of(rgb_triple color)
+{
+    return {color.red, color.green, color.blue};
+}
+
+// The painter's rows count from the top and hold four bytes a pixel, blue first; the bitmap's count from the
+// bottom.
+bitmap bitmap_of(const QImage & painted)
+{
+    bitmap copy(painted.width(), painted.height());
+    for (int y = 0; y < painted.height(); ++y) {
+        const auto * from = reinterpret_cast<const QRgb *>(painted.constScanLine(y));
+        std::uint8_t * to = copy.row(painted.height() - 1 - y).data();
+        for (int x = 0; x < painted.width(); ++x, ++from, to += pixel_bytes) {
+            to[0] = static_cast<std::uint8_t>(qBlue(*from));
+            to[1] = static_cast<std::uint8_t>(qGreen(*from));
+            to[2] = static_cast<std::uint8_t>(qRed(*from));
+        }
+    }
+    return copy;
+}
+
+}  // namespace
+
+bitmap drawn_text(const text_request & request)
+{
+    const QString text = shown(request.text);
+    if (text.isEmpty())
+        return {};
+    const QFont font = font_of(request.font);
+    const QFontMetrics metrics(font);
+    const int width = std::min(widest_text, metrics.horizontalAdvance(text) + request.extra_width);
+    QImage painted(std::max(1, width), metrics.height(), QImage::Format_RGB32);
+    painted.fill(color_of(request.background));
+    QPainter painter(&painted);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.setFont(font);
+    painter.setPen(color_of(request.color));
+    painter.drawText(0, metrics.ascent(), text);
+    painter.end();
+    return bitmap_of(painted);
+}
+
+std::vector<std::string> installed_fonts()
+{
+    std::vector<std::string> names;
+    for (const QString & family : QFontDatabase::families())
+        names.push_back(bytes_of(family));
+    return names;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "support/desktop.h"
+
+#include <string>
+#include <vector>
+
+/// Text through Qt's fonts, without a window. A QGuiApplication has to be there.
+
+/// The text in one line, smoothed, in a bitmap as wide as the text and `extra_width` and as high as its line.
+/// No bitmap for an empty text.
+bitmap drawn_text(const text_request & request);
+
+/// The names of the installed fonts, in alphabetical order.
+std::vector<std::string> installed_fonts();
