@@ -13,6 +13,9 @@ void open_catalogue(frmMain & main);
 /// Closes the walk and forgets the section read ahead. Does nothing when none is open.
 void close_catalogue(frmMain & main);
 
+/// Puts the defaults into `main.design_record`, those of a section without keys.
+void clear_design_record(frmMain & main);
+
 enum class catalogue_start { first, next };
 
 /// Reads the next section, from the top with `first`. True if more sections follow; false comes with a valid
@@ -21,7 +24,7 @@ enum class catalogue_start { first, next };
 bool read_design(frmMain & main, catalogue_start start);
 
 /// Reads from the top until "Name=" equals `name`. False when the catalogue has no such design; the caller
-/// words it.
+/// words it, and the record is that of the last section. Raises 53, 70.
 bool find_design(frmMain & main, std::string_view name);
 
 /// The first free section from "Design600" to "Design998", its number kept in `main.next_design_number`;

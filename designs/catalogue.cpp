@@ -1,0 +1,97 @@
+#include "designs/catalogue.h"
+
+#include "designs/design_lines.h"
+#include "support/paths.h"
+#include "support/profile.h"
+
+namespace {
+
+constexpr int first_saved = 600;
+constexpr int end_of_saved = 999;
+
+std::string catalogue_path(const frmMain & main)
+{
+    return joined(main.data_folder, "designs.ini");
+}
+
+enum class line_kind { of_this_section, of_the_next };
+
+line_kind read_catalogue_line(frmMain & main, const std::string & line)
+{
+    const std::optional<std::string> section = design_section(line);
+    if (!section) {
+        read_design_line(main.design_record, line);
+        return line_kind::of_this_section;
+    }
+    if (main.design_record.section.empty()) {
+        main.design_record.section = *section;
+        return line_kind::of_this_section;
+    }
+    main.catalogue.next_section = *section;
+    return line_kind::of_the_next;
+}
+
+}  // namespace
+
+void open_catalogue(frmMain & main)
+{
+    close_catalogue(main);
+    main.catalogue.catalogue_stream = line_source(catalogue_path(main));
+    main.catalogue.catalogue_closed = false;
+    main.catalogue.catalogue_at_end = true;
+}
+
+void close_catalogue(frmMain & main)
+{
+    if (main.catalogue.catalogue_at_end)
+        main.catalogue = {};
+}
+
+void clear_design_record(frmMain & main)
+{
+    main.design_record = {};
+}
+
+bool read_design(frmMain & main, catalogue_start start)
+{
+    if (start == catalogue_start::first)
+        open_catalogue(main);
+    clear_design_record(main);
+    line_source & lines = main.catalogue.catalogue_stream;
+    if (main.catalogue.next_section.starts_with("Design"))
+        main.design_record.section = main.catalogue.next_section;
+    while (!lines.at_end())
+        if (read_catalogue_line(main, lines.read_line()) == line_kind::of_the_next && !lines.at_end())
+            return true;
+    close_catalogue(main);
+    return false;
+}
+
+bool find_design(frmMain & main, std::string_view name)
+{
+    bool more = read_design(main, catalogue_start::first);
+    while (main.design_record.name != name) {
+        if (!more)
+            return false;
+        more = read_design(main, catalogue_start::next);
+    }
+    return true;
+}
+
+std::string GetNextDesign(frmMain & main)
+{
+    const profile designs(catalogue_path(main));
+    for (int number = first_saved; number < end_of_saved; ++number) {
+        const std::string section = "Design" + formatted(number, 3);
+        if (!designs.value(section, "Name").empty())
+            continue;
+        main.next_design_number = narrow(number);
+        return section;
+    }
+    return {};
+}
+
+std::string GetDesignString(const frmMain & main, std::string_view section, std::string_view key)
+{
+    return profile(catalogue_path(main)).value(section, key);
+}
