@@ -1,0 +1,97 @@
+#include "tests/engine/by_pixel.h"
+
+#include "tests/pictures.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+int fading(int value)
+{
+    return 200 - value < 10 ? 10 : 200 - value;
+}
+
+void paste_dot(bitmap & target, rgb_triple color, int x, int y, int alpha)
+{
+    paste(target, plain(1, 1, color), x, y, alpha);
+}
+
+}  // namespace
+
+void draw_frame_by_pixel(bitmap & target, int left, int row, int height, int width, int band,
+                         rgb_triple color)
+{
+    // The frame is the ring between the photo and a rectangle that reaches `band` pixels further.
+    for (int x = left - 1 - band; x <= left + width + band; ++x)
+        for (int y = row - 1 - band; y <= row + height + band; ++y)
+            if (x < left || x >= left + width || y < row || y >= row + height)
+                set_pixel(target, x, y, color);
+}
+
+void draw_shadow_by_paste(bitmap & target, int left, int top, int height, int width, int frame,
+                          int shadow_size, rgb_triple color)
+{
+    left -= frame;
+    top -= frame;
+    const int k = static_cast<int>(std::nearbyint(160.0 / shadow_size));
+    const int offset = shadow_size > 5 ? 5 : shadow_size;
+    const int framed_height = 2 * frame + height, framed_width = 2 * frame + width;
+
+    const bitmap tall = plain(1, framed_height + shadow_size, color);
+    int length = framed_height - 2 - offset;
+    int start = top + 2 + offset;
+    for (int i = 0; i <= shadow_size - 1; ++i) {
+        const int x = left + framed_width + i;
+        if (i == shadow_size - 1 || i == shadow_size - 2 || i == shadow_size - 3) {
+            length -= 2;
+            paste_dot(target, color, x, start + length, fading(k * i + 24));
+            paste_dot(target, color, x, start + length + 1, fading(k * i + 36));
+        } else {
+            length += 1;
+        }
+        paste(target, copied(tall, 0, 0, 1, length), x, start, fading(k * i));
+        if (i > 0 && i < shadow_size - 12)
+            paste_dot(target, color, x, start - 2, fading(k * i + 36));
+        if (i > 0 && i < shadow_size - 7)
+            paste_dot(target, color, x, start - 1, fading(k * i + 24));
+    }
+
+    const bitmap wide = plain(framed_width + shadow_size, 1, color);
+    length = framed_width - 2 - offset;
+    start = left + 2 + offset;
+    for (int i = 0; i <= shadow_size - 1; ++i) {
+        const int y = top + framed_height + i;
+        if (i == shadow_size - 1 || i == shadow_size - 2) {
+            length -= 2;
+            paste_dot(target, color, start + length, y, fading(k * i + 24));
+            paste_dot(target, color, start + length + 1, y, fading(k * i + 36));
+        } else {
+            length += 1;
+        }
+        paste(target, copied(wide, 0, 0, length, 1), start, y, fading(k * i));
+        if (i > 0 && i < shadow_size - 12)
+            paste_dot(target, color, start - 2, y, fading(k * i + 36));
+        if (i > 0 && i < shadow_size - 7)
+            paste_dot(target, color, start - 1, y, fading(k * i + 24));
+    }
+}
+
+void soft_edge_by_paste(bitmap & target, const bitmap & image, int width, int height, int top, int left)
+{
+    const int side = std::min(width, height);
+    const int n = side < 120 ? 5 : side < 200 ? 17 : side < 270 ? 50 : 80;
+    const double step = side < 120 ? 50.0 : side < 200 ? 15.0 : side < 270 ? 5.1 : 3.2;
+    paste(target, copied(image, n, n, width - n, height - n), left + n, top + n, 256);
+    for (int i = 1; i <= n; ++i) {
+        const int alpha = std::max(0, static_cast<int>(std::nearbyint(255 - i * step)));
+        paste(target, copied(image, n - i, n - i, n + 1 - i, height - n + i), left + n - i, top + n - i,
+              alpha);
+        paste(target, copied(image, n - i, n - i, width - n + i, n + 1 - i), left + n - i, top + n - i,
+              alpha);
+        paste(target, copied(image, width - n + i - 1, n - i, width - n + i, height - n + i),
+              left + width - n + i - 1, top + n - i, alpha);
+        paste(target, copied(image, n - i, height - n + i - 1, width - n + i, height - n + i), left + n - i,
+              top + height - n + i - 1, alpha);
+    }
+}

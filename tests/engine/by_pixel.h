@@ -1,0 +1,15 @@
+#pragma once
+
+#include "support/MFreeImage.h"
+
+/// The drawing of photos once more, one pixel or one library paste at a time: slow, plain, and what the
+/// row-walking code has to agree with. `row` counts from the bottom, `top` from the top.
+
+void draw_frame_by_pixel(bitmap & target, int left, int row, int height, int width, int band,
+                         rgb_triple color);
+
+/// `left` is that of the photo, not lowered.
+void draw_shadow_by_paste(bitmap & target, int left, int top, int height, int width, int frame,
+                          int shadow_size, rgb_triple color);
+
+void soft_edge_by_paste(bitmap & target, const bitmap & image, int width, int height, int top, int left);
