@@ -1,0 +1,403 @@
+// The supplied tables, read as plain text, so that a fault of the program's readers can't hide one of the
+// tables.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <numbers>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using fields = std::vector<std::string>;
+using section_lines = std::map<std::string, std::vector<std::string>>;
+
+std::string bytes_of(const std::string & name)
+{
+    std::ifstream file(std::string(SEED_FOLDER "/") + name, std::ios::binary);
+    EXPECT_TRUE(file) << name;
+    std::ostringstream all;
+    all << file.rdbuf();
+    return all.str();
+}
+
+/// The lines of a table, without their ends; each has to end with CR LF.
+std::vector<std::string> lines_of(const std::string & name)
+{
+    std::vector<std::string> lines;
+    std::istringstream text(bytes_of(name));
+    for (std::string line; std::getline(text, line);) {
+        EXPECT_TRUE(line.ends_with('\r')) << name << ": " << line;
+        line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+/// The lines below each header, by the name in its brackets.
+section_lines sections_of(const std::string & name)
+{
+    section_lines sections;
+    std::string header;
+    for (const std::string & line : lines_of(name)) {
+        if (line.starts_with('[')) {
+            header = line.substr(1, line.size() - 2);
+            EXPECT_FALSE(sections.contains(header)) << name << ": " << header << " comes twice";
+            sections[header];
+        } else {
+            sections[header].push_back(line);
+        }
+    }
+    return sections;
+}
+
+struct design {
+    std::string section;
+    std::map<std::string, std::string> keys;
+    std::string operator[](const std::string & key) const { return keys.contains(key) ? keys.at(key) : ""; }
+    bool reserved() const { return (*this)["File"].starts_with("__"); }
+    bool grid() const { return (*this)["Style"] == "Fill" || (*this)["Style"] == "Matrix"; }
+};
+
+std::vector<design> all_designs()
+{
+    std::vector<design> found;
+    for (const auto & [section, lines] : sections_of("designs.ini")) {
+        found.push_back({section, {}});
+        for (const std::string & line : lines)
+            if (const auto sign = line.find('='); sign != std::string::npos) {
+                EXPECT_TRUE(found.back().keys.emplace(line.substr(0, sign), line.substr(sign + 1)).second)
+                    << line;
+            }
+    }
+    return found;
+}
+
+std::vector<design> starters()
+{
+    std::vector<design> found = all_designs();
+    std::erase_if(found, [](const design & one) { return one.reserved(); });
+    return found;
+}
+
+fields split_at_colons(const std::string & line)
+{
+    fields found;
+    std::istringstream text(line + ":");
+    for (std::string field; std::getline(text, field, ':');)
+        found.push_back(field);
+    return found;
+}
+
+struct place {
+    int top, left, height, width, rotation, frame, shadow, spare;
+    std::string file;
+    bool shape() const { return height == 0 || width == 0; }
+    bool takes_photo() const { return shape() ? spare == 0 : file.empty(); }
+};
+
+std::vector<place> places_of(const design & one)
+{
+    static const section_lines templates = sections_of("design_list");
+    std::vector<place> places;
+    for (const std::string & line : templates.at(one["File"])) {
+        const fields f = split_at_colons(line);
+        const auto n = [&](std::size_t i) { return std::stoi(f.at(i)); };
+        places.push_back({n(0), n(1), n(2), n(3), n(4), n(5), n(6), n(7), f.at(8)});
+    }
+    return places;
+}
+
+struct bounds {
+    double top = 1e9, left = 1e9, right = -1e9, bottom = -1e9;
+};
+
+/// What a tilted photo takes up: it turns clockwise about its own top-left corner.
+bounds bounds_of(const place & one)
+{
+    const double c = std::cos(one.rotation * std::numbers::pi / 180);
+    const double s = std::sin(one.rotation * std::numbers::pi / 180);
+    const int width = one.width ? one.width : one.height;
+    const int height = one.height ? one.height : one.width;
+    bounds found;
+    for (const auto & [x, y] : {std::pair{0, 0}, {width, 0}, {0, height}, {width, height}}) {
+        found.left = std::min(found.left, one.left + x * c - y * s);
+        found.right = std::max(found.right, one.left + x * c - y * s);
+        found.top = std::min(found.top, one.top + x * s + y * c);
+        found.bottom = std::max(found.bottom, one.top + x * s + y * c);
+    }
+    return found;
+}
+
+int photos_taken(const design & one)
+{
+    const std::vector<place> places = places_of(one);
+    if (!one.grid())
+        return static_cast<int>(std::ranges::count_if(places, &place::takes_photo));
+    int cells = 0;
+    for (std::size_t i = 0; i < places.size(); i += 2)
+        cells += places[i].height * places[i].width;
+    return cells;
+}
+
+bool whole_number(const std::string & text)
+{
+    const std::size_t sign = text.starts_with('-') ? 1 : 0;
+    return text.size() > sign && text.find_first_not_of("0123456789", sign) == std::string::npos;
+}
+
+}  // namespace
+
+TEST(starter_designs, blank_lines_stand_only_between_the_sections_of_the_catalogue)
+{
+    for (const char * name : {"design_list", "description_list"})
+        for (const std::string & line : lines_of(name))
+            EXPECT_FALSE(line.empty()) << name;
+    const std::vector<std::string> lines = lines_of("designs.ini");
+    EXPECT_FALSE(lines.back().empty());
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+        if (lines[i].empty()) {
+            EXPECT_TRUE(lines[i + 1].starts_with("[Design")) << "line " << i + 1;
+        }
+}
+
+TEST(starter_designs, every_line_of_the_catalogue_is_a_header_or_a_key_that_is_read)
+{
+    const std::set<std::string> known{
+        "Name",        "File",         "Style",    "Design",      "Background",    "Ratio",
+        "Distort",     "Sample",       "Help Tip", "Description", "System",        "Count",
+        "Turn BG",     "BG Image",     "BG Color", "Match",       "Resize",        "Caption",
+        "Frames",      "Shadows",      "Block",    "Soft Edge",   "Caption Color", "Caption Clear",
+        "Frame Color", "Shadow Color", "Flip",     "Borders",     "Quick Shape"};
+    for (const design & one : all_designs()) {
+        EXPECT_EQ(one.section.size(), 9u) << one.section;
+        for (const auto & [key, value] : one.keys) {
+            EXPECT_TRUE(known.contains(key)) << one.section << ": " << key;
+            EXPECT_FALSE(value.empty() || value.starts_with(' ') || value.ends_with(' '))
+                << one.section << ": " << key;
+        }
+    }
+}
+
+TEST(starter_designs, the_reserved_entries_are_there_under_their_exact_names)
+{
+    std::map<std::string, std::string> files;
+    for (const design & one : all_designs())
+        if (one.reserved())
+            files[one["Name"]] = one["File"];
+    const std::map<std::string, std::string> wanted{
+        {"Match", "__match"},         {"Quick matrix", "__quick"},  {"Matrix grid", "__matrix"},
+        {"Frame_matrix", "__matrix"}, {"Lettering", "__lettering"}, {"Puzzle", "__puzzle"}};
+    EXPECT_EQ(files, wanted);
+}
+
+TEST(starter_designs, names_and_files_are_each_used_once)
+{
+    std::set<std::string> names, files;
+    for (const design & one : all_designs()) {
+        EXPECT_TRUE(names.insert(one["Name"]).second) << one["Name"];
+        EXPECT_TRUE(one.reserved() || files.insert(one["File"]).second) << one["File"];
+    }
+}
+
+TEST(starter_designs, supplied_designs_stand_below_the_numbers_of_saved_ones_and_say_so)
+{
+    for (const design & one : all_designs()) {
+        EXPECT_LT(std::stoi(one.section.substr(6)), 500) << one.section;
+        EXPECT_EQ(one["System"], "Yes") << one.section;
+        EXPECT_EQ(one["Ratio"], "2x3") << one.section;
+    }
+}
+
+TEST(starter_designs, each_has_a_template_and_a_description_and_none_is_left_over)
+{
+    std::set<std::string> files, templates, descriptions;
+    for (const design & one : starters()) {
+        files.insert(one["File"]);
+        EXPECT_EQ(one["Description"], one["File"]);
+        EXPECT_FALSE(one["Help Tip"].empty()) << one["Name"];
+    }
+    for (const auto & [name, lines] : sections_of("design_list"))
+        templates.insert(name);
+    for (const auto & [name, lines] : sections_of("description_list"))
+        descriptions.insert(name);
+    EXPECT_EQ(files, templates);
+    EXPECT_EQ(files, descriptions);
+}
+
+TEST(starter_designs, every_location_line_has_nine_fields_and_eight_whole_numbers)
+{
+    for (const auto & [name, lines] : sections_of("design_list"))
+        for (const std::string & line : lines) {
+            EXPECT_EQ(std::ranges::count(line, ':'), 8) << name << ": " << line;
+            const fields f = split_at_colons(line);
+            for (std::size_t i = 0; i < 8; ++i)
+                EXPECT_TRUE(whole_number(f.at(i))) << name << ": " << line;
+        }
+}
+
+TEST(starter_designs, a_template_holds_three_locations_at_least_and_no_more_lines_than_are_read)
+{
+    for (const design & one : starters()) {
+        const std::size_t lines = places_of(one).size();
+        EXPECT_LE(lines, 1001u) << one["Name"];
+        EXPECT_GE(lines, one.grid() ? 2u : 3u) << one["Name"];
+        if (one.grid()) {
+            EXPECT_EQ(lines % 2, 0u) << one["Name"];
+        }
+    }
+}
+
+TEST(starter_designs, no_product_of_a_turn_leaves_sixteen_bits)
+{
+    for (const design & one : starters())
+        for (const place & spot : places_of(one)) {
+            // Grown by what soft edges and frames may add.
+            EXPECT_LE((spot.height + 200) * std::abs(spot.rotation), 32767) << one["Name"];
+            EXPECT_LE((spot.width + 200) * std::abs(spot.rotation), 32767) << one["Name"];
+        }
+}
+
+TEST(starter_designs, tilts_are_those_that_the_rotation_table_knows)
+{
+    for (const design & one : starters())
+        for (const place & spot : places_of(one)) {
+            if (one.grid())
+                continue;
+            EXPECT_EQ(spot.rotation % 5, 0) << one["Name"];
+            EXPECT_LE(std::abs(spot.rotation), 35) << one["Name"];
+        }
+}
+
+TEST(starter_designs, nothing_hangs_over_the_poster_by_more_than_a_preview_can_show)
+{
+    for (const design & one : starters()) {
+        if (one.grid())
+            continue;
+        const bool wide = one["Background"] == "Landscape";
+        for (const place & spot : places_of(one)) {
+            const bounds taken = bounds_of(spot);
+            EXPECT_GE(std::min(taken.top, taken.left), -140) << one["Name"];
+            EXPECT_LE(taken.right, (wide ? 3000 : 2000) + 140) << one["Name"];
+            EXPECT_LE(taken.bottom, (wide ? 2000 : 3000) + 140) << one["Name"];
+        }
+    }
+}
+
+TEST(starter_designs, the_cells_of_a_grid_stay_on_the_poster)
+{
+    for (const design & one : starters()) {
+        if (!one.grid())
+            continue;
+        const bool wide = one["Background"] == "Landscape";
+        const std::vector<place> rows = places_of(one);
+        for (std::size_t i = 0; i < rows.size(); i += 2) {
+            const place & first = rows[i];
+            const place & cell = rows[i + 1];
+            EXPECT_GT(first.height * first.width, 0) << one["Name"];
+            EXPECT_LE(first.left + first.width * (cell.width + cell.left) - cell.left, wide ? 3000 : 2000);
+            EXPECT_LE(first.top + first.height * (cell.height + cell.top) - cell.top, wide ? 2000 : 3000);
+        }
+    }
+}
+
+TEST(starter_designs, a_count_is_the_number_of_photos_that_the_design_takes)
+{
+    for (const design & one : starters())
+        EXPECT_EQ(one["Count"], std::to_string(photos_taken(one))) << one["Name"];
+}
+
+TEST(starter_designs, grids_do_not_turn)
+{
+    for (const design & one : starters())
+        if (one.grid()) {
+            EXPECT_EQ(one["Turn BG"], "No") << one["Name"];
+        }
+}
+
+TEST(starter_designs, a_fixed_shadow_is_as_large_as_the_fixed_frame)
+{
+    for (const design & one : all_designs())
+        if (whole_number(one["Shadows"])) {
+            EXPECT_EQ(one["Shadows"], one["Frames"]) << one["Name"];
+        }
+}
+
+TEST(starter_designs, a_caption_preset_is_a_text_that_may_be_printed)
+{
+    for (const design & one : all_designs())
+        for (const char * word : {"None", "Top", "Bottom"})
+            EXPECT_NE(one["Caption"], word) << one["Name"];
+}
+
+TEST(starter_designs, shapes_are_upright_square_and_never_framed_or_softened)
+{
+    for (const design & one : starters()) {
+        const std::vector<place> places = places_of(one);
+        if (one.grid() || std::ranges::none_of(places, &place::shape))
+            continue;
+        EXPECT_EQ(one["Background"], "Portrait") << one["Name"];
+        EXPECT_EQ(one["Frames"], "None") << one["Name"];
+        EXPECT_EQ(one["Match"], "No") << one["Name"];
+        EXPECT_EQ(one["Design"], "Block") << one["Name"];  // it alone unticks the captions
+        for (const place & spot : places) {
+            EXPECT_EQ(spot.height, 0) << one["Name"];
+            EXPECT_EQ(spot.rotation, 0) << one["Name"];
+            EXPECT_TRUE(spot.spare >= 0 && spot.spare <= 7) << one["Name"];
+        }
+    }
+}
+
+TEST(starter_designs, mosaics_cover_the_poster_once_and_leave_no_hole)
+{
+    for (const design & one : starters()) {
+        if (one["File"] != "mosaic_wall" && one["File"] != "panorama")
+            continue;
+        std::map<std::pair<int, int>, int> taken;
+        for (const place & spot : places_of(one))
+            for (int y = spot.top; y < spot.top + spot.height; y += 50)
+                for (int x = spot.left; x < spot.left + spot.width; x += 50)
+                    ++taken[{x, y}];
+        EXPECT_EQ(taken.size(), 40u * 60u) << one["Name"];
+        for (const auto & [spot, count] : taken)
+            EXPECT_EQ(count, 1) << one["Name"] << " at " << spot.first << ", " << spot.second;
+    }
+}
+
+TEST(starter_designs, together_they_reach_every_road_of_the_engine)
+{
+    std::map<std::string, std::set<std::string>> values;
+    std::set<int> colors;
+    std::set<std::size_t> layers;
+    int scatters = 0;
+    for (const design & one : starters()) {
+        for (const auto & [key, value] : one.keys)
+            values[key].insert(value);
+        const std::vector<place> places = places_of(one);
+        std::set<int> tilts;
+        for (const place & spot : places) {
+            if (!one.grid() && spot.shape())
+                colors.insert(spot.spare);
+            tilts.insert(spot.rotation);
+        }
+        if (one.grid())
+            layers.insert(places.size() / 2);
+        scatters += one["Design"] == "Scatter" && places.size() >= 20 && tilts.size() >= 14;
+    }
+    EXPECT_EQ(colors, (std::set{0, 1, 2, 3, 4, 5, 6, 7}));
+    EXPECT_EQ(layers, (std::set<std::size_t>{1, 3}));
+    EXPECT_GE(scatters, 2);
+    EXPECT_EQ(values["Style"], (std::set<std::string>{"Place", "Fill", "Matrix"}));
+    EXPECT_EQ(values["Design"], (std::set<std::string>{"Block", "Scatter", "Theme", "Frame"}));
+    EXPECT_EQ(values["Background"], (std::set<std::string>{"Portrait", "Landscape"}));
+    for (const char * size : {"Adjust", "45", "Color", "None"})
+        EXPECT_TRUE(values["Frames"].contains(size)) << size;
+    EXPECT_TRUE(values["Soft Edge"].contains("Yes"));
+    EXPECT_TRUE(values["Block"].contains("Yes"));
+}

@@ -1,0 +1,145 @@
+"""The catalogue: the reserved entries and the starter designs, with what the window should allow for each."""
+from dataclasses import dataclass, field
+
+from starter_designs import layouts
+
+
+@dataclass
+class Design:
+    number: int
+    name: str
+    file: str
+    style: str
+    family: str
+    background: str
+    tip: str = ""
+    description: str = ""
+    places: list = field(default_factory=list)
+    keys: dict = field(default_factory=dict)
+
+    def count(self):
+        """How many photos one collage takes."""
+        if self.style in ("Fill", "Matrix"):
+            return sum(first.height * first.width for first in self.places[::2])
+        return sum(1 for place in self.places
+                   if (place.spare == 0 if 0 in (place.height, place.width) else not place.file))
+
+    def section(self):
+        lines = [f"[Design{self.number:03}]", f"Name={self.name}", f"File={self.file}", f"Style={self.style}",
+                 f"Design={self.family}", "Ratio=2x3", f"Background={self.background}", "System=Yes"]
+        if self.places:
+            lines += [f"Count={self.count()}", f"Sample={self.file}.jpg", f"Help Tip={self.tip}",
+                      f"Description={self.file}"]
+        return lines + [f"{key}={value}" for key, value in self.keys.items()]
+
+
+PLAIN_GROUND = {"BG Image": "Either"}
+FITTING = {"Match": "Yes"}
+ANY_SHAPE = {"Match": "No"}
+FIXED = {"Turn BG": "No", "Flip": "No"}
+# A shape drawn with soft edges or as a card would lose its outline, so the whole group of the frames goes.
+SHAPES = {"Match": "No", "Frames": "None", "Shadows": "No", "Block": "No", "Soft Edge": "No", "Flip": "No"}
+
+RESERVED = [
+    Design(1, "Match", "__match", "Place", "Block", "Portrait", keys={**FITTING, **PLAIN_GROUND}),
+    Design(2, "Quick matrix", "__quick", "Place", "Block", "Portrait", keys={**FITTING, **PLAIN_GROUND}),
+    Design(3, "Matrix grid", "__matrix", "Matrix", "Matrix", "Both", keys={**FITTING, **PLAIN_GROUND}),
+    Design(4, "Frame_matrix", "__matrix", "Place", "Frame", "Both",
+           keys={**FITTING, **PLAIN_GROUND, "Frames": "None", "Shadows": "No", "Block": "No", "Soft Edge": "No"}),
+    Design(5, "Lettering", "__lettering", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND}),
+    Design(6, "Puzzle", "__puzzle", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND}),
+]
+
+STARTERS = [
+    Design(101, "Mosaic wall", "mosaic_wall", "Place", "Block", "Portrait",
+           "Photos of five sizes, wall to wall",
+           "A wall of photos of five sizes that fills the poster from edge to edge. The frames are laid_\n"
+           " inside the photos, so that no picture covers its neighbour.",
+           layouts.mosaic_wall(), {**FITTING, "Frames": "Adjust", "Turn BG": "Yes"}),
+    Design(102, "Panorama", "panorama", "Place", "Block", "Landscape",
+           "One large photo and twelve around it",
+           "Your best photo takes the middle, twelve more make its frame. Drawn for a landscape poster; on a_\n"
+           " portrait poster all photos stand upright.",
+           layouts.panorama(), {**FITTING, "Turn BG": "Yes", "Borders": "No"}),
+    Design(103, "Gallery wall", "gallery_wall", "Place", "Block", "Portrait",
+           "Rows of different heights with air between the photos",
+           "Four rows of photos with room around each, as in a gallery.",
+           layouts.gallery_wall(), {**FITTING, "Turn BG": "Yes"}),
+    Design(104, "Daydream", "daydream", "Place", "Block", "Portrait",
+           "Soft photos that melt into each other",
+           "Ten photos whose soft edges melt into each other, without frames and shadows.",
+           layouts.daydream(), {**FITTING, "Soft Edge": "Yes", "Turn BG": "Yes"}),
+    Design(105, "Thrown on the table", "thrown", "Place", "Scatter", "Portrait",
+           "Photos at every angle that cover the whole poster",
+           "A box of photos, emptied on the table. They lie at every angle and cover the whole poster.\n"
+           "Try it with a white frame and a little shadow.",
+           layouts.thrown(), {**FITTING, "Turn BG": "Yes"}),
+    Design(106, "Picnic", "picnic", "Place", "Scatter", "Landscape",
+           "Photos spread on a wide blanket",
+           "Photos spread out on a wide blanket. Drawn for a landscape poster; it turns for a portrait one.",
+           layouts.picnic(), {**FITTING, "Turn BG": "Yes", "Borders": "No"}),
+    Design(107, "Snapshots", "snapshots", "Place", "Scatter", "Portrait",
+           "Instant pictures with room to write on",
+           "Square pictures on cards, with room below each to write on.\n"
+           "The frame colour is the colour of the card.",
+           layouts.polaroids(), {**ANY_SHAPE, "Block": "Yes", "Turn BG": "No"}),
+    Design(108, "White mats", "white_mats", "Place", "Theme", "Portrait",
+           "Few photos in broad frames, some of them askew",
+           "Nine photos in broad frames of a fixed size. Somebody should straighten a few of them.",
+           layouts.white_mats(), {**FITTING, "Frames": "45", "Turn BG": "Yes"}),
+    Design(109, "Contact sheet", "contact_sheet", "Fill", "Block", "Portrait",
+           "Landscape photos in eight rows of four",
+           "All photos in the same size, row by row, as they come from the camera.",
+           layouts.contact_sheet(), {**FITTING, "Turn BG": "No"}),
+    Design(110, "Wide contact sheet", "contact_sheet_wide", "Fill", "Block", "Landscape",
+           "Landscape photos in six rows of six",
+           "All photos in the same size, row by row, for a landscape poster.",
+           layouts.contact_sheet_wide(), {**FITTING, "Turn BG": "No", "Borders": "No"}),
+    Design(111, "Three bands", "three_bands", "Fill", "Block", "Portrait",
+           "Two large portraits between bands of small landscapes",
+           "Two large portraits in the middle, and above and below them a band of small landscape photos.",
+           layouts.three_bands(), {**FITTING, "Turn BG": "No"}),
+    Design(112, "Shaken wall", "shaken_wall", "Matrix", "Theme", "Portrait",
+           "A grid of portraits that has been shaken",
+           "Twenty portraits that once hung in straight rows. Then somebody slammed the door.",
+           layouts.shaken_wall(), {**FITTING, "Turn BG": "No"}),
+    Design(113, "At the seaside", "seaside", "Place", "Theme", "Portrait",
+           "Holiday photos between the sea and the sand",
+           "Seven photos between the sea and the sand, and a postcard for those at home.",
+           layouts.seaside(), {**FITTING, "BG Image": "Solid", **FIXED, "Borders": "No"}),
+    Design(114, "Autumn walk", "autumn", "Place", "Theme", "Portrait",
+           "Photos among falling leaves",
+           "Seven photos on a page of falling leaves.",
+           layouts.autumn(), {**FITTING, "BG Image": "autumn.jpg", **FIXED, "Borders": "No",
+                              "Shadow Color": "Black"}),
+    Design(115, "Starry night", "starry_night", "Place", "Theme", "Landscape",
+           "Photos under the stars, with yellow frames",
+           "Seven photos under the night sky. Their frames are as yellow as the moon.",
+           layouts.starry_night(), {**FITTING, "BG Image": "starry_night.jpg", **FIXED, "Borders": "No",
+                                    "Frames": "Color", "Frame Color": "Yellow", "Shadows": "Color"}),
+    Design(116, "Best wishes", "best_wishes", "Place", "Theme", "Portrait",
+           "Photos with a greeting",
+           "Seven photos and a line of writing. Change the greeting in the caption box.",
+           layouts.best_wishes(), {**FITTING, "Caption": "Best wishes", "Caption Clear": "Yes",
+                                   "Caption Color": "Red", "Turn BG": "No"}),
+    Design(117, "Sweethearts", "sweethearts", "Place", "Block", "Portrait",
+           "Hearts filled with photos, and small red and orange ones",
+           "Ten hearts, each filled with a photo, and seven small ones in red and orange.",
+           layouts.sweethearts(), {**SHAPES, "Quick Shape": "Yes", "Turn BG": "Yes"}),
+    Design(118, "Flower garden", "flower_garden", "Place", "Block", "Portrait",
+           "A photo in the heart of each flower",
+           "Ten flowers of all colours with a photo in the heart of each.",
+           layouts.flower_garden(), {**SHAPES, "Quick Shape": "Yes", "Turn BG": "Yes"}),
+    Design(119, "Celebration", "celebration", "Place", "Block", "Portrait",
+           "Stars and circles among confetti",
+           "Four stars and three circles filled with photos, among coloured confetti.",
+           layouts.celebration(), {**SHAPES, "Quick Shape": "Yes", "Turn BG": "Yes"}),
+    Design(120, "Trading cards", "trading_cards", "Place", "Frame", "Portrait",
+           "Nine portraits in frames of your own",
+           "Nine portraits, each in a frame of the set that you choose.",
+           layouts.trading_cards(), {**FITTING, **FIXED, "Frames": "None", "Shadows": "No"}),
+    Design(121, "Album page", "album_page", "Place", "Frame", "Portrait",
+           "Four landscape and six portrait photos in frames of your own",
+           "Four landscape and six portrait photos, each in a frame of the set that you choose.",
+           layouts.album_page(), {**FITTING, **FIXED, "Frames": "None", "Shadows": "No"}),
+]

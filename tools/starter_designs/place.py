@@ -1,0 +1,86 @@
+"""Places of a template: the nine fields of a line, and the geometry of a tilted photo.
+
+A photo turns about its own top-left corner, which stays where it is; positive is clockwise as seen.
+"""
+import math
+from dataclasses import dataclass, replace
+
+PORTRAIT = (2000, 3000)
+LANDSCAPE = (3000, 2000)
+
+
+@dataclass(frozen=True)
+class Place:
+    top: int
+    left: int
+    height: int
+    width: int
+    rotation: int = 0
+    frame: int = -1
+    shadow: int = -1
+    spare: int = 0
+    file: str = ""
+
+    def line(self):
+        numbers = (self.top, self.left, self.height, self.width, self.rotation, self.frame, self.shadow, self.spare)
+        return ":".join(str(number) for number in numbers) + ":" + self.file
+
+    def corners(self):
+        """The four corners as (x, y), clockwise from the top left."""
+        c, s = math.cos(math.radians(self.rotation)), math.sin(math.radians(self.rotation))
+        flat = [(0, 0), (self.width, 0), (self.width, self.height), (0, self.height)]
+        return [(self.left + x * c - y * s, self.top + x * s + y * c) for x, y in flat]
+
+
+def box(left, top, width, height, rotation=0):
+    """A photo in the settings of the window, given as people say it: across before down."""
+    return Place(round(top), round(left), round(height), round(width), rotation)
+
+
+def centred(x, y, width, height, rotation):
+    """A tilted photo whose middle is at (x, y)."""
+    c, s = math.cos(math.radians(rotation)), math.sin(math.radians(rotation))
+    left = x - (width / 2 * c - height / 2 * s)
+    top = y - (width / 2 * s + height / 2 * c)
+    return box(left, top, width, height, rotation)
+
+
+def picture(left, top, width, height, file, rotation=0):
+    """A fixed picture without frame and shadow."""
+    return replace(box(left, top, width, height, rotation), frame=0, shadow=0, file=file)
+
+
+def shape(x, y, size, mask, color=0):
+    """A shape around (x, y): its height is 0, its width the size. Colour 0 takes a photo."""
+    return Place(round(y - size / 2), round(x - size / 2), 0, size, 0, 0, -1, color, mask)
+
+
+def framed(left, top, width, height):
+    """A frame of the chosen set and the photo in its opening. The letter behind "@_" says which frame."""
+    if height > width:
+        letter, down, across, inside = "p", 0.04, 0.06, (0.79, 0.89)
+    else:
+        letter, down, across, inside = "l", 0.051, 0.13, (0.75, 0.83)
+    photo = Place(round(top + height * down), round(left + width * across), round(height * inside[0]),
+                  round(width * inside[1]), 0, 0, 0)
+    return [picture(left, top, width, height, "@_" + letter), photo]
+
+
+def grid(top, left, rows, columns, row_gap, column_gap, height, width, both=0, rotate=0, resize=0):
+    """The two lines of one layer of a grid. The three switches count in the style "Matrix" alone."""
+    return [Place(top, left, rows, columns, both, rotate, resize), Place(row_gap, column_gap, height, width)]
+
+
+def rows(size, margin, gap, widths_of_rows):
+    """Photos in rows that all end at the same margin: a list of (height, [share of the width])."""
+    places, top = [], margin
+    for height, shares in widths_of_rows:
+        room = size[0] - 2 * margin - gap * (len(shares) - 1)
+        total, left, used = sum(shares), margin, 0
+        for index, share in enumerate(shares):
+            width = room - used if index == len(shares) - 1 else round(room * share / total)
+            places.append(box(left, top, width, height))
+            left, used = left + width + gap, used + width
+        top += height + gap
+    assert top - gap + margin == size[1], (top - gap + margin, size[1])
+    return places
