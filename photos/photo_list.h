@@ -8,29 +8,41 @@
 /// The working table of photos, filled from a list, a folder or a selection.
 
 /// Reads the list at the tag of `txtPhotos`: at most 1001 lines, the first two characters of each cut off. A
-/// list that isn't there leaves `last_photo` at 0 and entry 0 as it is.
+/// list that isn't there leaves `last_photo` at 0 and entry 0 as it is. Raises 70, 75.
 void get_photos(frmMain & main);
 
 /// Fills the table with the ".jpg" files of a folder, 499 at most, in the file system's order. `last_photo`
-/// is -1 for a folder without any.
+/// is -1 for a folder without any. Raises 70, 76.
 void photos_of_folder(frmMain & main, const std::string & folder);
 
-/// Lets the user choose a folder and fills the table from it. A cancel leaves `last_photo` at 999. Gives the
-/// folder.
+/// Lets the user choose a folder and fills the table from it. A cancel leaves `last_photo` at
+/// `folder_cancelled`. Gives the folder.
 std::string get_photo_folder(frmMain & main);
 
 /// Lets the user choose files and appends them to the list at the tag of `txtPhotos`, which becomes
 /// `last_photos.pls` when it is empty. A cancel sets `photo_choice_cancelled`.
 void get_selected_photos(frmMain & main);
 
-/// Appends photos to the working list as a selection does and raises `selected_count`.
+/// Appends photos to the working list as a selection does, raises `selected_count` and keeps it as text in
+/// the tag of `cmdPhotos`. Raises 61, 70, 75, 76.
 void append_to_list(frmMain & main, const std::vector<std::string> & photos);
+
+/// `piclists/last_photos.pls`, the list that a selection writes.
+std::string last_photos_path(const frmMain & main);
+
+/// True when there is a working list; otherwise the user is told.
+bool check_last_list(frmMain & main);
+
+/// Saves the working list at `target`, every line with its photo's orientation, and ends the selection: the
+/// working list is deleted. A line whose photo can't be loaded is kept as landscape. Tells the user when
+/// there is no working list. Raises 61, 70, 75, 76; the working list then stays.
+void save_last_list(frmMain & main, const std::string & target);
 
 /// Takes one entry out, moving the later ones down. The caller lowers `last_photo`.
 void remove_photo(frmMain & main, int index);
 
 /// Checks every entry, swaps it for its thumbnail and counts the orientations; missing photos are dropped.
-/// Shows its progress in `frmPhotoCnt`, which the caller has shown.
+/// Shows its progress in `frmPhotoCnt`, which the caller has shown. Raises 6 as chk_sample_thumb does.
 void count_photos(frmMain & main);
 
 /// Puts the table in a random order.

@@ -1,0 +1,19 @@
+#include "photos/photo_orientation.h"
+
+orientation counted_orientation(std::optional<picture_size> size)
+{
+    if (!size)
+        return orientation::not_loadable;
+    return size->height > size->width ? orientation::portrait : orientation::landscape;
+}
+
+void add_photo(orientation_counts & counts, orientation shape)
+{
+    if (shape == orientation::portrait) {
+        ++counts.portrait;
+        counts.list += "p:";
+    } else if (shape == orientation::landscape) {
+        ++counts.landscape;
+        counts.list += "l:";
+    }
+}

@@ -1,0 +1,78 @@
+#include "photos/thumbnails.h"
+
+#include "support/paths.h"
+#include "support/platform_error.h"
+
+namespace {
+
+constexpr picture_size portrait_thumbnail{.width = 150, .height = 200};
+constexpr picture_size landscape_thumbnail{.width = 200, .height = 150};
+
+// The proportions are not kept: a small picture only has to tell photos apart.
+bitmap small_picture(const std::string & photo)
+{
+    const bitmap full = load_picture(picture_format::jpeg, photo);
+    const picture_size size = full.height() > full.width() ? portrait_thumbnail : landscape_thumbnail;
+    return rescaled(full, size.width, size.height);
+}
+
+// False where the place can't be written: a closed folder, a full card, a share that is gone.
+template <typename Step>
+bool written(Step step)
+{
+    try {
+        step();
+        return true;
+    } catch (const platform_error &) {
+        return false;
+    }
+}
+
+bool cleared_place(const std::string & thumbnail)
+{
+    const std::string folder = folder_of(thumbnail);
+    return written([&] {
+               delete_file(thumbnail);
+               if (!folder_exists(folder))
+                   make_folder(folder);
+           }) &&
+           folder_writable(folder);
+}
+
+}  // namespace
+
+std::string chk_sample_thumb(frmMain & main, const std::string & photo)
+{
+    if (!file_exists(photo))
+        return {};
+    const std::string thumbnail = thumbnail_path(photo);
+    if (file_exists(thumbnail)) {
+        if (!is_newer(photo, thumbnail))
+            return thumbnail;
+        main.desk.message(photo + " IS NEWER");
+    }
+    if (!cleared_place(thumbnail))
+        return photo;
+    const bitmap small = small_picture(photo);
+    if (!small)
+        return thumbnail;
+    return written([&] { save_jpeg(small, thumbnail); }) ? thumbnail : photo;
+}
+
+void photos_from_thumbnails(frmMain & main)
+{
+    for (int i = 0; i <= main.table.last_photo; ++i)
+        main.table[i] = photo_path(main.table[i]);
+}
+
+void thumbnails_from_photos(frmMain & main)
+{
+    for (int i = 0; i <= main.table.last_photo; ++i) {
+        std::string & entry = main.table[i];
+        if (is_thumbnail(entry))
+            continue;
+        const std::string thumbnail = thumbnail_path(entry);
+        if (file_exists(thumbnail))
+            entry = thumbnail;
+    }
+}
