@@ -95,3 +95,52 @@ void soft_edge_by_paste(bitmap & target, const bitmap & image, int width, int he
               top + height - n + i - 1, alpha);
     }
 }
+
+void cut_corners_by_pixel(bitmap & photo, const bitmap & canvas, int width, int height, int left,
+                          int bottom_row, std::span<const std::uint8_t> table)
+{
+    const auto take = [&](int x, int y) {
+        if (const std::optional<rgb_triple> background = pixel(canvas, left + x, bottom_row + y))
+            set_pixel(photo, x, y, *background);
+    };
+    for (int i = 0; i < static_cast<int>(table.size()); ++i)
+        for (int j = 0; j <= table[static_cast<std::size_t>(i)]; ++j) {
+            take(i, j);
+            take(width - i, j);
+            take(i, height - j);
+            take(width - i, height - j);
+        }
+}
+
+void paste_mask_by_pixel(bitmap & canvas, const bitmap & mask, const mask_painting & painting, int size,
+                         int column, int row)
+{
+    const auto brighter = [](int channel) {
+        return static_cast<std::uint8_t>(channel > 220 ? 254 : channel + 33);
+    };
+    const rgb_triple ground = pixel(mask, 0, 0).value_or(rgb_triple{});
+    for (int i = 0; i < size; ++i)
+        for (int j = 0; j < size; ++j) {
+            const auto [r, g, b] = pixel(mask, i, j).value_or(rgb_triple{});
+            if (r > 200 && b > 200 && g < 80) {
+                set_pixel(canvas, column + i, row + j, {255, 255, 255});
+            } else if (r > 200 && g > 200 && b < 80) {
+                set_pixel(canvas, column + i, row + j, {0, 0, 0});
+            } else if (std::abs(r - ground.red) <= 110 && std::abs(g - ground.green) <= 110 &&
+                       std::abs(b - ground.blue) <= 110) {
+                continue;
+            } else if (!painting.photo) {
+                set_pixel(canvas, column + i, row + j, painting.fill);
+            } else {
+                const rgb_triple seen_there = pixel(painting.photo, i, j).value();
+                if (r <= 40 || g <= 40 || b <= 40)
+                    set_pixel(canvas, column + i, row + j, seen_there);
+                else if (painting.outlined)
+                    set_pixel(canvas, column + i, row + j, {0, 0, 0});
+                else
+                    set_pixel(
+                        canvas, column + i, row + j,
+                        {brighter(seen_there.red), brighter(seen_there.green), brighter(seen_there.blue)});
+            }
+        }
+}

@@ -2,6 +2,9 @@
 
 #include "support/MFreeImage.h"
 
+#include <cstdint>
+#include <span>
+
 /// The drawing of photos once more, one pixel or one library paste at a time: slow, plain, and what the
 /// row-walking code has to agree with. `row` counts from the bottom, `top` from the top.
 
@@ -13,3 +16,17 @@ void draw_shadow_by_paste(bitmap & target, int left, int top, int height, int wi
                           int shadow_size, rgb_triple color);
 
 void soft_edge_by_paste(bitmap & target, const bitmap & image, int width, int height, int top, int left);
+
+void cut_corners_by_pixel(bitmap & photo, const bitmap & canvas, int width, int height, int left,
+                          int bottom_row, std::span<const std::uint8_t> table);
+
+/// How a shape is painted: `photo` where it isn't empty, else `fill`.
+struct mask_painting {
+    rgb_triple fill;
+    const bitmap & photo;
+    bool outlined = false;
+};
+
+/// `column` and `row` are those of the mask's bottom left pixel on the canvas.
+void paste_mask_by_pixel(bitmap & canvas, const bitmap & mask, const mask_painting & painting, int size,
+                         int column, int row);

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <string>
+
+/// Where the mask of a shape lies: a bare name in `images` of the install folder, the user's own
+/// "custom_shape.gif" in `user_images` of the data folder, a name with a folder in it below the data folder.
+/// Empty for a name that is empty or would lead outside.
+std::string mask_path(const std::string & name, const std::string & install_folder,
+                      const std::string & data_folder);
