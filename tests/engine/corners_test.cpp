@@ -109,7 +109,6 @@ TEST(cut_corners, agrees_with_its_slow_twin)
                                     {300, 390},
                                     {450, 410},
                                     {700, 610}}) {
-        const bitmap canvas = graded(760, 700);
         bitmap found = plain(size.width, size.height, photo_color);
         bitmap expected = plain(size.width, size.height, photo_color);
         cut_corners(found, canvas, size.width, size.height, 30, 20);
