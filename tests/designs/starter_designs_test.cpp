@@ -152,6 +152,12 @@ bool whole_number(const std::string & text)
     return text.size() > sign && text.find_first_not_of("0123456789", sign) == std::string::npos;
 }
 
+std::string art(const std::string & kind, const std::string & file)
+{
+    return std::string(SEED_FOLDER "/art/") + kind + "/" + std::filesystem::path(file).stem().string() +
+           ".svg";
+}
+
 }  // namespace
 
 TEST(starter_designs, blank_lines_stand_only_between_the_sections_of_the_catalogue)
@@ -350,6 +356,22 @@ TEST(starter_designs, shapes_are_upright_square_and_never_framed_or_softened)
             EXPECT_EQ(spot.height, 0) << one["Name"];
             EXPECT_EQ(spot.rotation, 0) << one["Name"];
             EXPECT_TRUE(spot.spare >= 0 && spot.spare <= 7) << one["Name"];
+        }
+    }
+}
+
+TEST(starter_designs, every_picture_that_is_named_is_drawn_by_us)
+{
+    for (const design & one : starters()) {
+        if (const std::string ground = one["BG Image"]; ground.ends_with(".jpg")) {
+            EXPECT_TRUE(std::filesystem::exists(art("backgrounds", ground))) << ground;
+        }
+        for (const place & spot : places_of(one)) {
+            if (spot.file.empty() || spot.file.starts_with('@'))
+                continue;
+            EXPECT_EQ(spot.shape(), !spot.file.starts_with("images/")) << spot.file;
+            EXPECT_TRUE(std::filesystem::exists(art(spot.shape() ? "masks" : "pictures", spot.file)))
+                << spot.file;
         }
     }
 }

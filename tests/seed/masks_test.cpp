@@ -1,0 +1,131 @@
+// The rendered shape masks, held against the rules by which a shape is drawn.
+#include "support/MFreeImage.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+enum class part { ground, rim, inside };
+
+/// A level of a mask as the drawing of shapes reads it: near the white of the ground, dark, or between.
+part part_of(int level)
+{
+    if (level >= 255 - 110)
+        return part::ground;
+    return level <= 40 ? part::inside : part::rim;
+}
+
+std::vector<std::string> masks()
+{
+    std::vector<std::string> found;
+    for (const auto & entry : std::filesystem::directory_iterator(BUILT_SEED "/images")) {
+        if (entry.path().extension() == ".gif")
+            found.push_back(entry.path().string());
+    }
+    std::ranges::sort(found);
+    return found;
+}
+
+bool patterned(const std::string & path)
+{
+    const std::string name = std::filesystem::path(path).stem().string();
+    return name == "polka_dots" || name == "stripes" || name == "target";
+}
+
+/// All parts of a mask, row by row.
+std::vector<part> parts_of(const bitmap & mask)
+{
+    std::vector<part> parts;
+    for (int y = 0; y < mask.height(); ++y) {
+        const auto row = mask.row(y);
+        for (std::size_t x = 0; x < row.size(); x += pixel_bytes)
+            parts.push_back(part_of(row[x]));
+    }
+    return parts;
+}
+
+/// True when a pixel of the inside has one of the ground below it or at its left.
+bool touches_ground(const bitmap & mask)
+{
+    const std::vector<part> parts = parts_of(mask);
+    const auto width = static_cast<std::size_t>(mask.width());
+    const auto touch = [](part one, part other) {
+        return (one == part::ground && other == part::inside) ||
+               (one == part::inside && other == part::ground);
+    };
+    for (std::size_t at = width; at < parts.size(); ++at) {
+        if (touch(parts[at], parts[at - width]) || touch(parts[at], parts[at - 1]))
+            return true;
+    }
+    return false;
+}
+
+double share_of_inside(const bitmap & mask)
+{
+    const std::vector<part> parts = parts_of(mask);
+    return static_cast<double>(std::ranges::count(parts, part::inside)) / static_cast<double>(parts.size());
+}
+
+}  // namespace
+
+TEST(masks, are_there_for_every_quick_shape)
+{
+    std::set<std::string> names;
+    for (const std::string & path : masks())
+        names.insert(std::filesystem::path(path).stem().string());
+    for (const char * name :
+         {"circle", "star", "oval", "cloud", "stripes", "target", "polka_dots", "stamp", "heart"})
+        EXPECT_TRUE(names.contains(name)) << name;
+    for (const char digit : {'1', '2', '3', '4', '5', '6'}) {
+        EXPECT_TRUE(names.contains(std::string("leaf_") + digit));
+        EXPECT_TRUE(names.contains(std::string("puzzle_") + digit));
+    }
+}
+
+TEST(masks, are_square_with_a_white_ground_at_the_lower_left)
+{
+    for (const std::string & path : masks()) {
+        const bitmap mask = load_picture(picture_format::gif, path);
+        ASSERT_TRUE(mask) << path;
+        EXPECT_EQ(mask.width(), mask.height()) << path;
+        EXPECT_EQ(pixel(mask, 0, 0), (rgb_triple{255, 255, 255})) << path;
+    }
+}
+
+TEST(masks, hold_no_colour_that_would_be_taken_for_a_key)
+{
+    for (const std::string & path : masks()) {
+        const bitmap mask = load_picture(picture_format::gif, path);
+        const bitmap small = rescaled(mask, 57, 57);
+        for (const bitmap * image : {&mask, &small}) {
+            for (int y = 0; y < image->height(); ++y) {
+                const auto row = image->row(y);
+                for (std::size_t x = 0; x < row.size(); x += pixel_bytes)
+                    ASSERT_TRUE(row[x] == row[x + 1] && row[x] == row[x + 2]) << path;
+            }
+        }
+    }
+}
+
+TEST(masks, leave_a_fair_share_of_the_square_to_the_photo)
+{
+    for (const std::string & path : masks()) {
+        const double share = share_of_inside(load_picture(picture_format::gif, path));
+        EXPECT_GT(share, 0.3) << path;
+        EXPECT_LT(share, 0.95) << path;
+    }
+}
+
+TEST(masks, have_a_grey_rim_all_round_unless_they_are_patterns)
+{
+    for (const std::string & path : masks()) {
+        if (patterned(path))
+            continue;
+        EXPECT_FALSE(touches_ground(load_picture(picture_format::gif, path))) << path;
+    }
+}

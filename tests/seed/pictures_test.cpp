@@ -1,0 +1,71 @@
+// The rendered pictures: there, and of the size that the designs count on.
+#include "support/MFreeImage.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace {
+
+std::string built(const std::string & name)
+{
+    return std::string(BUILT_SEED "/") + name;
+}
+
+/// Width x height as the header of the JPEG says.
+std::string size_of(const std::string & name)
+{
+    const auto size = jpeg_size(built(name));
+    return size ? std::to_string(size->width) + "x" + std::to_string(size->height) : "none";
+}
+
+}  // namespace
+
+TEST(seed_pictures, the_white_sheet_is_large_and_white_all_over)
+{
+    const bitmap white = load_picture(picture_format::jpeg, built("images/white.jpg"));
+    ASSERT_TRUE(white);
+    EXPECT_EQ(white.width(), 3200);
+    EXPECT_EQ(white.height(), 3200);
+    for (int y = 0; y < white.height(); ++y) {
+        const auto row = white.row(y);
+        ASSERT_TRUE(std::ranges::all_of(row, [](std::uint8_t level) { return level == 255; })) << "row " << y;
+    }
+}
+
+TEST(seed_pictures, backgrounds_fill_the_poster_and_have_their_previews)
+{
+    EXPECT_EQ(size_of("images/autumn.jpg"), "2000x3000");
+    EXPECT_EQ(size_of("images/preview/p_autumn.jpg"), "300x450");
+    EXPECT_EQ(size_of("images/starry_night.jpg"), "3000x2000");
+    EXPECT_EQ(size_of("images/preview/p_starry_night.jpg"), "450x300");
+    EXPECT_EQ(size_of("samples/not_yet.jpg"), "300x450");
+}
+
+TEST(seed_pictures, every_fixed_picture_and_mask_of_a_template_is_built)
+{
+    std::ifstream templates(SEED_FOLDER "/design_list");
+    int found = 0;
+    for (std::string line; std::getline(templates, line);) {
+        const std::string file = line.substr(line.rfind(':') + 1);
+        if (line.starts_with('[') || file.size() < 2 || file.starts_with('@'))
+            continue;
+        const std::string name = file.substr(0, file.size() - 1);  // without the CR
+        const bool fixed = name.starts_with("images/");
+        EXPECT_TRUE(std::filesystem::exists(built(fixed ? name : "images/" + name))) << name;
+        ++found;
+    }
+    EXPECT_GT(found, 50);
+}
+
+TEST(seed_pictures, the_folders_that_the_program_expects_are_there)
+{
+    for (const char * name : {"tmp", "designs", "descriptions", "samples", "piclists", "user_images",
+                              "frames", "icons", "images"})
+        EXPECT_TRUE(std::filesystem::is_directory(built(name))) << name;
+    for (const char * name :
+         {"designs.ini", "design_list", "description_list", "quick_scatter.ini", "icons/icons"})
+        EXPECT_TRUE(std::filesystem::is_regular_file(built(name))) << name;
+}

@@ -1,0 +1,120 @@
+// Renders the seed data's drawings. One picture a call, so that the build makes only what has changed.
+//
+//     seed_art mask IN.svg OUT.gif            800 by 800, grey levels
+//     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
+//     seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which is checked
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include <FreeImage.h>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+constexpr int mask_size = 800;
+constexpr int picture_quality = 92;
+
+struct unloader {
+    void operator()(FIBITMAP * image) const { FreeImage_Unload(image); }
+};
+using image_owner = std::unique_ptr<FIBITMAP, unloader>;
+
+QImage rendered(const QString & drawing, int width, int height)
+{
+    QSvgRenderer renderer(drawing);
+    if (!renderer.isValid())
+        throw std::runtime_error(drawing.toStdString() + ": no drawing");
+    QImage page(width, height, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    renderer.render(&painter, QRectF(0, 0, width, height));
+    return page;
+}
+
+image_owner in_colour(const QImage & page)
+{
+    image_owner copy(FreeImage_Allocate(page.width(), page.height(), 24));
+    for (int y = 0; y < page.height(); ++y) {
+        const auto * from = reinterpret_cast<const QRgb *>(page.constScanLine(page.height() - 1 - y));
+        BYTE * to = FreeImage_GetScanLine(copy.get(), y);
+        for (int x = 0; x < page.width(); ++x, to += 3) {
+            to[FI_RGBA_RED] = static_cast<BYTE>(qRed(from[x]));
+            to[FI_RGBA_GREEN] = static_cast<BYTE>(qGreen(from[x]));
+            to[FI_RGBA_BLUE] = static_cast<BYTE>(qBlue(from[x]));
+        }
+    }
+    return copy;
+}
+
+void save(FREE_IMAGE_FORMAT format, const image_owner & image, const char * path, int flags)
+{
+    if (!image || !FreeImage_Save(format, image.get(), path, flags))
+        throw std::runtime_error(std::string(path) + ": can't be written");
+}
+
+void render_mask(const char * drawing, const char * target)
+{
+    const image_owner colour = in_colour(rendered(drawing, mask_size, mask_size));
+    const image_owner grey(FreeImage_ConvertToGreyscale(colour.get()));
+    save(FIF_GIF, grey, target, GIF_DEFAULT);
+}
+
+void render_picture(const char * drawing, const char * target, int width, int height)
+{
+    save(FIF_JPEG, in_colour(rendered(drawing, width, height)), target, picture_quality);
+}
+
+bool is_white(const char * path)
+{
+    const image_owner image(FreeImage_Load(FIF_JPEG, path, 0));
+    if (!image)
+        return false;
+    const std::string white(FreeImage_GetLine(image.get()), '\xff');
+    for (unsigned y = 0; y < FreeImage_GetHeight(image.get()); ++y) {
+        if (std::memcmp(FreeImage_GetScanLine(image.get(), static_cast<int>(y)), white.data(),
+                        white.size()) != 0)
+            return false;
+    }
+    return true;
+}
+
+void render_white(const char * target, int size)
+{
+    QImage page(size, size, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    save(FIF_JPEG, in_colour(page), target, JPEG_QUALITYSUPERB);
+    if (!is_white(target))
+        throw std::runtime_error(std::string(target) + ": isn't white all over");
+}
+
+void render(int count, char ** arguments)
+{
+    const std::string kind = count > 1 ? arguments[1] : "";
+    if (kind == "mask" && count == 4)
+        render_mask(arguments[2], arguments[3]);
+    else if (kind == "picture" && count == 6)
+        render_picture(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    else if (kind == "white" && count == 4)
+        render_white(arguments[2], std::stoi(arguments[3]));
+    else
+        throw std::runtime_error("mask IN OUT, picture IN OUT WIDTH HEIGHT or white OUT SIZE");
+}
+
+}  // namespace
+
+int main(int count, char ** arguments)
+{
+    try {
+        render(count, arguments);
+        return 0;
+    } catch (const std::exception & error) {
+        std::fprintf(stderr, "seed_art: %s\n", error.what());
+        return 1;
+    }
+}
