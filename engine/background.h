@@ -1,0 +1,8 @@
+#pragma once
+
+#include "designs/run_size.h"
+#include "session/frmMain.h"
+
+/// Loads the background picture, if one is in use, and blends it onto the canvas. A picture that can't be
+/// loaded leaves the canvas as it is.
+void lay_background(frmMain & main, run_size size);

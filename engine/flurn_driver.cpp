@@ -1,0 +1,171 @@
+#include "engine/flurn_driver.h"
+
+#include "designs/template_reader.h"
+#include "engine/quick_template.h"
+#include "engine/run_steps.h"
+#include "photos/thumbnails.h"
+#include "session/window_state.h"
+#include "session/windows.h"
+
+#include <array>
+
+namespace {
+
+// What a full-size run takes over for itself and gives back at its end.
+struct borrowed_settings {
+    option_button * display = nullptr;
+    option_button * shape = nullptr;
+    bool in_preview = false;
+    bool matrix_session = false;
+};
+
+option_button * selected_of(const option_set & options)
+{
+    for (option_button * option : options)
+        if (option->selected())
+            return option;
+    return nullptr;
+}
+
+borrowed_settings borrow_settings(frmMain & main)
+{
+    const borrowed_settings before{.display = selected_of(main.display_options),
+                                   .shape = selected_of(main.orientation_options),
+                                   .in_preview = main.in_preview,
+                                   .matrix_session = main.matrix_session};
+    // Nothing that a run sets starts a preview inside it.
+    const updating no_preview(main);
+    main.optSample.select();
+    main.in_preview = false;
+    main.cmdFlurn.enable(false);
+    main.cmdHelp.enable(false);
+    return before;
+}
+
+void give_back(frmMain & main, const borrowed_settings & before)
+{
+    const updating no_preview(main);
+    thumbnails_from_photos(main);
+    if (before.display != nullptr)
+        before.display->select();
+    else
+        main.optSample.select(false);
+    if (before.shape != nullptr)
+        before.shape->select();
+    main.in_preview = before.in_preview;
+    main.matrix_session = before.matrix_session;
+    main.cmdFlurn.enable(true);
+    main.cmdHelp.enable(true);
+}
+
+void set_output_size(frmMain & main)
+{
+    main.collage_width = main.optPortrait.selected() || main.optSquare.selected() ? 2000 : 3000;
+    main.collage_height = main.optPortrait.selected() ? 3000 : 2000;
+}
+
+// A matrix of custom frames can't be read back as a grid.
+void offer_saving(frmMain & main)
+{
+    if (main.quick_active || (main.matrix_session && !main.frames_design))
+        main.mnuSaveDesign.enable(true);
+    main.matrix_session = false;
+}
+
+void clear_quick_flags(frmMain & main)
+{
+    main.quick_active = main.quick_first_pass = false;
+}
+
+bool is_cancelled_at_start(frmMain & main)
+{
+    if (!main.run.cancel_requested)
+        return false;
+    report_cancel(main);
+    return true;
+}
+
+// Releases the canvas, which is half as large again, before the picture is encoded.
+void keep_collage(frmMain & main)
+{
+    run_state & run = main.run;
+    const int margin = run.collage_margin;
+    run.canvas =
+        copied(run.canvas, margin, margin, main.collage_width + margin, main.collage_height + margin);
+    save_jpeg(run.canvas, finished_path(main));
+    main.txtDoing.show(false);
+    run.image_saved = false;
+    main.trace += "FFF  ";
+}
+
+void make_collage(frmMain & main, borrowed_settings & before)
+{
+    const busy pointer(main.desk);
+    begin_run(main);
+    photos_from_thumbnails(main);
+    lay_ground(main, run_size::full);
+    if (is_cancelled_at_start(main)) {
+        clear_quick_flags(main);
+        before.display = &main.optPreview;
+        return;
+    }
+    place_photos(main, run_size::full);
+    if (!main.run.run_active)
+        return;  // cancelled
+    finish_canvas(main);
+    keep_collage(main);
+    main.image_to_show = finished_path(main);
+}
+
+void show_collage(frmMain & main)
+{
+    if (main.run.run_active && main.all != nullptr)
+        main.desk.show_modal(main.all->image);
+}
+
+void take_failure(frmMain & main, borrowed_settings & before)
+{
+    clear_quick_flags(main);
+    before.matrix_session = false;
+    before.shape = &main.optPortrait;
+    main.picSample.show(false);
+}
+
+void full_run(frmMain & main, borrowed_settings & before)
+{
+    set_output_size(main);
+    make_quick_template(main, run_size::full);
+    offer_saving(main);
+    read_template(main, run_size::full);
+    bend_template(main, run_size::full);
+    if (went_through(main, [&] { make_collage(main, before); }))
+        show_collage(main);
+    else
+        take_failure(main, before);
+}
+
+}  // namespace
+
+void make_flurn(frmMain & main)
+{
+    borrowed_settings before = borrow_settings(main);
+    // Whatever ends the run, the window is usable afterwards.
+    try {
+        full_run(main, before);
+    } catch (...) {
+        end_run(main);
+        give_back(main, before);
+        throw;
+    }
+    end_run(main);
+    give_back(main, before);
+}
+
+void report_cancel(frmMain & main)
+{
+    main.run.run_active = false;
+    main.run.cancel_requested = false;
+    main.txtDoing.show(false);
+    main.desk.message("Flurning has been canceled.");
+    set_enable(main, true);
+}

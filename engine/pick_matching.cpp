@@ -1,0 +1,69 @@
+#include "engine/pick_matching.h"
+
+#include "engine/matching.h"
+
+namespace {
+
+match_request request_for(const frmMain & main, int width, int height)
+{
+    return {.width = width,
+            .height = height,
+            .squares_take_any = main.optMatrix.selected(),
+            .evolve = main.chkEvolve.ticked(),
+            .last_photo = main.table.last_photo};
+}
+
+match_cursors cursors_of(const run_state & run)
+{
+    return {.next_portrait = run.next_portrait,
+            .next_landscape = run.next_landscape,
+            .portrait_wraps = run.evolve_portrait_wraps,
+            .landscape_wraps = run.evolve_landscape_wraps};
+}
+
+void keep_cursors(run_state & run, const match_cursors & cursors)
+{
+    run.next_portrait = cursors.next_portrait;
+    run.next_landscape = cursors.next_landscape;
+    run.evolve_portrait_wraps = cursors.portrait_wraps;
+    run.evolve_landscape_wraps = cursors.landscape_wraps;
+}
+
+orientation told_by_header(const std::string & path)
+{
+    const std::optional<picture_size> size = jpeg_size(path);
+    return size ? orientation_of(size->width, size->height) : orientation::not_loadable;
+}
+
+// How the photo lies; it is loaded into `image` only when it will be used.
+orientation looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientation wish, bitmap & image)
+{
+    orientation & known = main.table.photo_orientation.at(static_cast<std::size_t>(index));
+    if (known == orientation::unknown)
+        known = told_by_header(main.table[index]);
+    if (known != wish && !is_wanted_anyhow)
+        return known;
+    image = load_picture(picture_format::jpeg, main.table[index]);
+    if (!image)
+        known = orientation::not_loadable;
+    return known;
+}
+
+}  // namespace
+
+bitmap pick_matching(frmMain & main, int width, int height)
+{
+    const match_request request = request_for(main, width, height);
+    const bool takes_any = is_near_square(request);
+    match_cursors cursors = cursors_of(main.run);
+    bitmap image;
+    const std::optional<int> found = find_match(request, cursors, [&](int index, orientation wish) {
+        return looked_at(main, index, takes_any, wish, image);
+    });
+    keep_cursors(main.run, cursors);
+    if (!found) {
+        main.desk.message("No images match the design");
+        return {};
+    }
+    return image;
+}

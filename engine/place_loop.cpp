@@ -1,0 +1,133 @@
+#include "engine/draw_captioned_photo.h"
+#include "engine/draw_photo.h"
+#include "engine/draw_rotated_photo.h"
+#include "engine/fixed_picture.h"
+#include "engine/flurn_driver.h"
+#include "engine/pick_matching.h"
+#include "engine/placement_loops.h"
+#include "photos/photo_list.h"
+
+#include <utility>
+
+namespace {
+
+// What a location is filled with.
+struct picked_picture {
+    bitmap image;
+    bool found = false;
+    bool moved_on = false;  // the next location takes the next photo
+};
+
+bool is_shape(const location & place)
+{
+    return place.height == 0 || place.width == 0;
+}
+
+bool is_fixed(const location & place)
+{
+    return !place.file.empty() && !is_shape(place);
+}
+
+// A shape that is painted and shows nothing of a photo.
+bool is_painted(const frmMain & main, const location & place)
+{
+    return is_shape(place) && place.spare != 0 && place.rotation == 0 && !main.chkCaption.ticked();
+}
+
+picked_picture picked(bitmap image)
+{
+    const bool found = static_cast<bool>(image);
+    return {.image = std::move(image), .found = found};
+}
+
+picked_picture fixed_picture(const frmMain & main, const std::string & file)
+{
+    const std::optional<std::string> path = fixed_picture_path(main, file);
+    return path ? picked(load_picture(picture_format::jpeg, *path)) : picked_picture{};
+}
+
+picked_picture first_photo(const frmMain & main, int & photo)
+{
+    photo = 1;
+    picked_picture first = picked(load_picture(picture_format::jpeg, main.table[0]));
+    first.moved_on = true;
+    return first;
+}
+
+picked_picture next_photo(frmMain & main, const location & place, int & photo)
+{
+    if (photo > main.table.last_photo) {
+        ask_reshuffle(main);
+        photo = 0;
+    }
+    const std::string & path = main.table[photo++];
+    // A painted shape needs a photo that could be loaded and nothing of its pixels.
+    picked_picture next = is_painted(main, place)
+                              ? picked_picture{.image = {}, .found = jpeg_size(path).has_value()}
+                              : picked(load_picture(picture_format::jpeg, path));
+    next.moved_on = true;
+    return next;
+}
+
+picked_picture matching_photo(frmMain & main, const location & place, int & photo)
+{
+    picked_picture found = picked(pick_matching(main, place.width, place.height));
+    if (found.found)
+        return found;
+    main.run.match_active = false;
+    return main.table.last_photo < 0 ? picked_picture{} : first_photo(main, photo);
+}
+
+picked_picture picture_for(frmMain & main, const location & place, int & photo)
+{
+    if (is_fixed(place))
+        return fixed_picture(main, place.file);
+    main.run.image_number = narrow(main.run.image_number + 1);
+    if (main.run.match_active)
+        return matching_photo(main, place, photo);
+    return main.table.last_photo < 0 ? picked_picture{} : next_photo(main, place, photo);
+}
+
+void draw_upright(frmMain & main, const location & place, const picked_picture & picked_one, int & photo)
+{
+    main.run.shape_color = is_shape(place) ? place.spare : int16{0};
+    draw_photo(main, picked_one.image, place.width, place.height, place.top, place.left);
+    if (main.run.shape_color != 0 && picked_one.moved_on)
+        --photo;
+}
+
+void draw_place(frmMain & main, const location & place, picked_picture picked_one, int & photo)
+{
+    apply_frame_size(main, place.frame);
+    apply_shadow_size(main, place.shadow);
+    if (main.chkCaption.ticked())
+        draw_captioned_photo(main, picked_one.image, place.width, place.height, place.top, place.left,
+                             place.rotation);
+    else if (place.rotation == 0)
+        draw_upright(main, place, picked_one, photo);
+    else
+        draw_rotated_photo(main, std::move(picked_one.image), place.width, place.height, place.top,
+                           place.left, place.rotation, fitting::to_fit);
+}
+
+}  // namespace
+
+void place_loop(frmMain & main)
+{
+    location_table & table = main.design_locations;
+    table.count = narrow(table.count - 1);
+    int photo = 0;
+    for (int i = 0; i <= table.count && !main.run.cancel_requested; ++i) {
+        const location & place = table[i];
+        show_image_number(main);
+        main.run.current_shape = place.file;
+        main.desk.pump();
+        picked_picture next = picture_for(main, place, photo);
+        if (!next.found)
+            break;
+        draw_place(main, place, std::move(next), photo);
+    }
+    main.picSample.show(true);
+    if (main.run.cancel_requested)
+        report_cancel(main);
+}

@@ -1,0 +1,147 @@
+#include "designs/template_reader.h"
+#include "engine/flurn_driver.h"
+#include "engine/quick_template.h"
+#include "engine/run_layout.h"
+#include "engine/run_steps.h"
+#include "session/window_state.h"
+#include "support/paths.h"
+
+namespace {
+
+constexpr int caption_that_counts = 15;  // pixels
+
+void scale_template(frmMain & main)
+{
+    change_locations(
+        main, [](const location & place, location_role role) { return scaled_to_preview(place, role); });
+    if (!is_saved_landscape(main))
+        return;
+    main.landscape_turn = saved_landscape_turn;
+    turn_locations(main);
+}
+
+void set_sample_size(frmMain & main)
+{
+    main.collage_width = 2000;
+    main.collage_height = main.optSquare.selected() ? 2000 : 3000;
+}
+
+// The collage as it is shown: without its bleed, and drawn nearer where a large caption stands.
+bitmap shown_part(const frmMain & main)
+{
+    const int margin = main.run.collage_margin;
+    const int width = main.collage_width, height = main.collage_height;
+    const int caption = main.run.caption_height;
+    if (main.txtCaption.text().empty() || caption <= caption_that_counts)
+        return copied(main.run.canvas, margin, margin, width + margin, height + margin);
+    const bitmap part = copied(main.run.canvas, margin + caption, margin + caption,
+                               nearest(width + margin - 0.3 * caption), margin - caption + height);
+    return rescaled(part, nearest(width + 0.8 * margin), nearest(height + 0.8 * margin));
+}
+
+void save_sample(frmMain & main)
+{
+    const bitmap sample = shown_part(main);
+    main.run.canvas = bitmap{};
+    save_jpeg(sample, finished_path(main));
+    main.trace += "FFF  ";
+}
+
+void make_sample(frmMain & main)
+{
+    const busy pointer(main.desk);
+    set_sample_size(main);
+    read_template(main, run_size::preview);
+    scale_template(main);
+    bend_template(main, run_size::preview);
+    begin_run(main);
+    lay_ground(main, run_size::preview);
+    if (main.run.cancel_requested) {
+        report_cancel(main);
+        return;
+    }
+    place_photos(main, run_size::preview);
+    if (!main.run.run_active)
+        return;  // cancelled
+    finish_canvas(main);
+    save_sample(main);
+    main.trace += " (end sample)";
+}
+
+std::string block_key(const frmMain & main)
+{
+    const double spacing = number_in(main.cmbSpace);
+    if (spacing < 10)
+        return "nb";
+    return spacing < 30 ? "sb" : "lb";
+}
+
+std::string matrix_key(const frmMain & main)
+{
+    std::string name = main.chkRotate.ticked() ? "r" : "o";
+    if (main.chkResize.ticked())
+        name.insert(0, "r");
+    if (main.chkShuffle.ticked())
+        name.insert(0, "s");
+    return name;
+}
+
+// Name of the picture that stands for the selected quick style while no preview is made.
+std::string stored_sample(const frmMain & main)
+{
+    const std::string shape = main.optPortrait.selected() ? "p_" : "l_";
+    if (main.optBlock.selected())
+        return shape + block_key(main) + ".jpg";
+    return shape + (main.optScatter.selected() ? "s" : matrix_key(main)) + ".jpg";
+}
+
+void show_picture(frmMain & main, const std::string & path)
+{
+    if (file_exists(path))
+        main.picSample.load(path);
+    main.picSample.show(true);
+}
+
+void make_new_sample(frmMain & main)
+{
+    set_enable(main, false);
+    set_sample_size(main);
+    make_quick_template(main, run_size::preview);
+    gen_sample(main);
+}
+
+}  // namespace
+
+void gen_sample(frmMain & main)
+{
+    main.in_preview = true;
+    try {
+        if (!went_through(main, [&] { make_sample(main); }))
+            main.in_preview = false;
+    } catch (...) {
+        end_run(main);
+        throw;
+    }
+    end_run(main);
+}
+
+void make_preview(frmMain & main)
+{
+    if (main.design_record.file.empty() && !main.quick_active)
+        return;
+    if (main.optSample.selected()) {
+        if (main.quick_active)
+            show_picture(main, joined(main.install_folder, "images/preview/" + stored_sample(main)));
+        return;
+    }
+    try {
+        const busy pointer(main.desk);
+        if (main.optPreview.selected())
+            make_new_sample(main);
+        show_picture(main, finished_path(main));
+    } catch (...) {
+        set_enable(main, true);
+        throw;
+    }
+    set_enable(main, true);
+}

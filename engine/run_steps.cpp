@@ -1,0 +1,214 @@
+#include "engine/run_steps.h"
+
+#include "designs/location_mixing.h"
+#include "designs/template_reader.h"
+#include "engine/background.h"
+#include "engine/flurn_driver.h"
+#include "engine/ornament_sizes.h"
+#include "engine/placement_loops.h"
+#include "engine/run_layout.h"
+#include "engine/surroundings.h"
+#include "photos/photo_list.h"
+#include "session/window_state.h"
+#include "support/paths.h"
+#include "support/platform_error.h"
+
+namespace {
+
+constexpr int evolve_off = 9;      // of the wrap counters: the rule never sees 0
+constexpr int preview_offset = 8;  // of the layout in its picture control
+constexpr int border_ornaments = 30;
+
+bool shapes_are_mixed(const frmMain & main)
+{
+    return main.optShapes.selected() && main.frmStyle.visible() &&
+           (main.chkMix.ticked() || number_in(main.cmbSpace) < 0);
+}
+
+bool matrix_is_mixed(const frmMain & main)
+{
+    return main.quick_active && main.optMatrix.selected() &&
+           (main.chkRotate.ticked() || main.chkResize.ticked() || main.chkShuffle.ticked());
+}
+
+bool border_is_wanted(const frmMain & main)
+{
+    return !main.optNone.selected() ||
+           (main.quick_border && number_in(main.cmbShadow) + number_in(main.cmbFrame) > border_ornaments);
+}
+
+bool match_is_active(const frmMain & main)
+{
+    if (main.chkMatch.visible() && !main.chkMatch.ticked())
+        return false;
+    return main.design_matches && !(main.optShapes.selected() && main.optShapes.visible());
+}
+
+void reset_matching(frmMain & main)
+{
+    main.run.next_portrait = main.run.next_landscape = 0;
+    main.table.photo_orientation.fill(orientation::unknown);
+}
+
+void set_ornaments(frmMain & main, run_size size)
+{
+    main.run.frame_color = away_from_key(get_rgb_triple(main.picFrameColor.back_color()));
+    main.run.shadow_color = away_from_key(get_rgb_triple(main.picShadowColor.back_color()));
+    const int frame = nearest(number_in(main.cmbFrame));
+    const int shadow = nearest(number_in(main.cmbShadow));
+    const bool full = size == run_size::full;
+    main.run.frame_size = narrow(full ? frame : frame_list_in_preview(frame));
+    main.run.shadow_size = narrow(full ? shadow : shadow_list_in_preview(shadow));
+}
+
+void turn_if_needed(frmMain & main)
+{
+    if (is_turned_afterwards(main))
+        turn_locations(main);
+    if (main.stretch_design)
+        stretch_locations(main);
+}
+
+// Places stand on the canvas, grids in their collage: their loop adds the bleed itself.
+void move_to_canvas(frmMain & main, run_size size)
+{
+    const int shown_at = size == run_size::preview ? preview_offset : 0;
+    const int bleed = layout_of(main) == layout::places ? main.run.collage_margin : 0;
+    change_locations(main, [&](const location & place, location_role role) {
+        return moved(place, role, shown_at + bleed);
+    });
+}
+
+void make_room_for_ornaments(frmMain & main, run_size size)
+{
+    const bool places = layout_of(main) == layout::places;
+    if (main.frames_inside && main.run.frame_size > 0 && places)
+        change_locations(main, [&](const location & place, location_role) {
+            return framed_inside(place, main.run.frame_size);
+        });
+    if (main.chkSoftEdge.ticked() && main.frmOrnaments.visible() && (places || size == run_size::full))
+        change_locations(
+            main, [&](const location & place, location_role role) { return softened(place, role, size); });
+}
+
+// Shuffling would tear the pairs of a grid's rows apart.
+void turn_the_order(frmMain & main)
+{
+    if (!main.random_design || !main.design_rotated || layout_of(main) == layout::grids)
+        return;
+    main.random.reseed();
+    const int turns = whole(main.random.next() * 9 + 1) % 9 * (whole(main.random.next() * 3) + 1);
+    for (int i = 0; i <= turns; ++i)
+        shuffle_locations(main, whole(main.random.next() * 7 + 1) % 7);
+}
+
+void fill_all_layers(frmMain & main)
+{
+    main.run.photo_cursor = 0;
+    fill_loop(main);
+    while (main.design_locations.count >= 3) {
+        drop_layer(main.design_locations);
+        fill_loop(main);
+    }
+}
+
+std::string failure_text(const frmMain & main, const platform_error & error)
+{
+    const std::string text = main.trace + "XX  CAUGHT AN ERROR  " + std::to_string(code(error));
+    return error.path.empty() ? text : text + "\n" + told(error);
+}
+
+}  // namespace
+
+void bend_template(frmMain & main, run_size size)
+{
+    if (shapes_are_mixed(main))
+        mix_locations(main, mixing::forced);
+    main.run.first_cell_height = main.design_locations[0].height;
+    main.run.first_cell_width = main.design_locations[0].width;
+    make_caption_room(main);
+    if (matrix_is_mixed(main))
+        mix_locations(main, mixing::forced);
+    if (border_is_wanted(main))
+        apply_border(main, size);
+}
+
+void begin_run(frmMain & main)
+{
+    main.run.cancel_requested = false;
+    main.cmdCancel.set_caption("Cancel");
+    main.run.run_active = true;
+    set_enable(main, false);
+    main.txtDoing.set_text("Initializing....");
+    main.txtDoing.show(true);
+    main.trace = "MMM  ";
+    main.run.match_active = match_is_active(main);
+    reset_matching(main);
+    if (main.chkRandom.ticked())
+        shuffle_photos(main);
+}
+
+void lay_ground(frmMain & main, run_size size)
+{
+    allocate_canvas(main, size);
+    main.trace += "HHH  ";
+    main.run.collage_scale = main.collage_height / 600.0;
+    lay_background(main, size);
+    main.trace += "CCC  ";
+    set_ornaments(main, size);
+    main.run.image_number = 1;
+    main.desk.pump();
+    main.trace += "AAA  ";
+}
+
+void place_photos(frmMain & main, run_size size)
+{
+    turn_if_needed(main);
+    move_to_canvas(main, size);
+    make_room_for_ornaments(main, size);
+    turn_the_order(main);
+    main.trace += "GGG  ";
+    const int16 wraps = main.chkEvolve.ticked() ? 0 : evolve_off;
+    main.run.evolve_portrait_wraps = main.run.evolve_landscape_wraps = wraps;
+    if (main.work_style == "Place")
+        place_loop(main);
+    else if (layout_of(main) == layout::grids)
+        fill_all_layers(main);
+    main.trace += "BBB  ";
+}
+
+void finish_canvas(frmMain & main)
+{
+    main.txtDoing.set_text("Finishing touches...");
+    main.desk.pump();
+    if (!main.txtCaption.text().empty())
+        add_caption(main);
+    main.trace += "EEE  ";
+}
+
+std::string finished_path(const frmMain & main)
+{
+    return joined(main.data_folder, "tmp/finished.jpg");
+}
+
+bool went_through(frmMain & main, const std::function<void()> & work)
+{
+    try {
+        with_platform_errors(work);
+        return true;
+    } catch (const platform_error & error) {
+        // The memory first: it may be what was missing.
+        main.run.canvas = bitmap{};
+        main.desk.message(failure_text(main, error));
+        return false;
+    }
+}
+
+void end_run(frmMain & main)
+{
+    main.run.canvas = bitmap{};
+    main.run.run_active = false;
+    main.run.cancel_requested = false;
+    main.txtDoing.show(false);
+    set_enable(main, true);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "designs/run_size.h"
+#include "session/frmMain.h"
+
+#include <functional>
+
+/// The steps that a full-size run and a preview share, in their order.
+
+/// Bends the template to the settings: mixed order, caption room, border.
+void bend_template(frmMain & main, run_size size);
+
+/// Marks the run as going on and takes the settings that hold for all of it.
+void begin_run(frmMain & main);
+
+/// Canvas with its background, colours and sizes of the ornaments. Raises 7.
+void lay_ground(frmMain & main, run_size size);
+
+/// Brings the locations to the canvas and draws all of them.
+void place_photos(frmMain & main, run_size size);
+
+/// Lays the caption over the collage.
+void finish_canvas(frmMain & main);
+
+/// `tmp/finished.jpg` of the data folder.
+std::string finished_path(const frmMain & main);
+
+/// Runs `work`; an error of the platform ends it with the one box of a run. True when it went through.
+bool went_through(frmMain & main, const std::function<void()> & work);
+
+/// The state in which no run is going on; the canvas is released.
+void end_run(frmMain & main);
