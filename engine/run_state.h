@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/mask_shelf.h"
 #include "support/MFreeImage.h"
 #include "support/numbers.h"
 
@@ -24,6 +25,7 @@ struct run_state {
     int16 shape_color = 0;                              ///< colour code of the shape being drawn; 0: a photo
     int16 current_width = 0, current_height = 0;        ///< of the location being drawn
     std::string current_shape;                          ///< mask of the location being drawn
+    mask_shelf masks;                                   ///< outlives the run: a preview uses the same again
     int16 first_cell_height = 0, first_cell_width = 0;  ///< in a grid its rows and columns
     int16 caption_height = 0;                           ///< pixels, of the prepared caption
     bool image_saved = false;

@@ -140,3 +140,13 @@ bool folder_writable(const std::string & folder)
 {
     return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
+
+std::optional<file_stamp> stamp_of(const std::string & path)
+{
+    std::error_code failed_time, failed_size;
+    const fs::file_time_type changed = fs::last_write_time(path, failed_time);
+    const std::uintmax_t bytes = fs::file_size(path, failed_size);
+    if (failed_time || failed_size)
+        return std::nullopt;
+    return file_stamp{.changed = changed.time_since_epoch().count(), .bytes = bytes};
+}

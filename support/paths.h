@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,3 +58,13 @@ bool folder_writable(const std::string & folder);
 
 /// True when `path` was last changed after `other`. Both have to exist. Raises 53.
 bool is_newer(const std::string & path, const std::string & other);
+
+/// Tells one state of a file from another.
+struct file_stamp {
+    std::int64_t changed = 0;  ///< when, in the file system's own ticks
+    std::uint64_t bytes = 0;
+    bool operator==(const file_stamp &) const = default;
+};
+
+/// The stamp of a file as it is now, nothing when it isn't there.
+std::optional<file_stamp> stamp_of(const std::string & path);

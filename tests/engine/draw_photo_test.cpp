@@ -153,8 +153,12 @@ TEST_F(draw_photo_test, without_a_canvas_nothing_happens)
 
 TEST_F(draw_photo_test, a_location_without_any_size_draws_no_photo)
 {
-    draw_photo(main, plain(50, 60, photo_color), 0, 0, 4, 7);
-    EXPECT_EQ(picture(), blank(24));
+    make_mask("dot.gif");
+    for (const int16 color : {int16{0}, int16{5}}) {
+        main.run.shape_color = color;
+        draw_photo(main, plain(50, 60, photo_color), 0, 0, 4, 7);
+        EXPECT_EQ(picture(), blank(24));
+    }
 }
 
 TEST_F(draw_photo_test, a_size_beyond_16_bits_is_an_overflow)

@@ -1,5 +1,6 @@
 #include "engine/paste_shape.h"
 
+#include "support/paths.h"
 #include "tests/engine/gif_file.h"
 #include "tests/pictures.h"
 #include "tests/scripted_desktop.h"
@@ -183,4 +184,18 @@ TEST_F(paste_shape_test, the_mask_is_scaled_to_the_size)
     folder.write("program/images/shape.gif", gif_of(large, {{'.', {255, 255, 255}}, {'#', {0, 0, 0}}}));
     EXPECT_EQ(painted(7, {}, 3, 2),
               rows(2) + ".....77.....\n.....77.....\n.....77.....\n.....77.....\n" + rows(8));
+}
+
+TEST_F(paste_shape_test, a_mask_that_was_used_before_paints_the_same_and_a_changed_one_anew)
+{
+    const std::string first = painted(7, {}, 3, 2);
+    main.run.canvas = plain(12, 14, canvas_color);
+    EXPECT_EQ(painted(7, {}, 3, 2), first);
+    folder.write("program/images/shape.gif",
+                 gif_of({"..", ".#"}, {{'.', {255, 255, 255}}, {'#', {0, 0, 0}}}));
+    main.run.canvas = plain(12, 14, canvas_color);
+    EXPECT_NE(painted(7, {}, 3, 2), first);
+    delete_file(folder.at("program/images/shape.gif"));
+    main.run.canvas = plain(12, 14, canvas_color);
+    EXPECT_EQ(painted(7, {}, 3, 2), rows(14));
 }

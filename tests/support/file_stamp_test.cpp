@@ -1,0 +1,23 @@
+#include "support/paths.h"
+#include "tests/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+TEST(stamp_of, is_the_same_for_a_file_left_alone_and_another_when_it_grew)
+{
+    const temporary_folder folder;
+    const std::string path = folder.write("a.gif", "four");
+    const auto before = stamp_of(path);
+    ASSERT_TRUE(before);
+    EXPECT_EQ(stamp_of(path), before);
+    EXPECT_EQ(before->bytes, 4U);
+    folder.write("a.gif", "longer");
+    EXPECT_NE(stamp_of(path), before);
+}
+
+TEST(stamp_of, is_nothing_for_a_missing_file_and_for_a_folder)
+{
+    const temporary_folder folder;
+    EXPECT_FALSE(stamp_of(folder.at("none.gif")));
+    EXPECT_FALSE(stamp_of(folder.path()));
+}
