@@ -2,9 +2,11 @@
 
 #include "support/platform_error.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
+#include <optional>
+#include <system_error>
 
 namespace {
 
@@ -47,32 +49,51 @@ std::size_t digits_at(const std::string & text, std::size_t start)
     return end - start;
 }
 
-// &HFFFF and &O17: 16 bits are signed, as in classic Basic, so &HFFFF is -1; longer ones are 32 bits.
-double radix_number(const std::string & text)
+int radix_of(char letter)
 {
-    const int base = (text[1] == 'H' || text[1] == 'h') ? 16 : 8;
-    const unsigned long long value = std::strtoull(text.c_str() + 2, nullptr, base);
+    switch (letter) {
+        case 'H':
+        case 'h':
+            return 16;
+        case 'O':
+        case 'o':
+            return 8;
+        default:
+            return 0;
+    }
+}
+
+// &HFFFF and &O17: 16 bits are signed, as in classic Basic, so &HFFFF is -1; longer ones are 32 bits.
+std::optional<double> radix_number(std::string_view text)
+{
+    const int radix = text.size() > 2 && text[0] == '&' ? radix_of(text[1]) : 0;
+    if (radix == 0)
+        return std::nullopt;
+    std::uint32_t value = 0;
+    const auto [end, fault] = std::from_chars(text.data() + 2, text.data() + text.size(), value, radix);
+    if (fault == std::errc::result_out_of_range)
+        overflow();
+    if (fault != std::errc())
+        return std::nullopt;
     if (value <= 0xFFFF)
         return static_cast<std::int16_t>(value);
-    if (value > 0xFFFFFFFFULL)
-        overflow();
     return static_cast<std::int32_t>(value);
 }
 
-bool has_radix(const std::string & text)
+// A decimal number, as far as the text begins with one.
+struct decimal {
+    std::string digits;    // sign, digits and point; empty when there is none
+    std::string exponent;  // sign and digits
+};
+
+std::size_t sign_at(const std::string & text, std::size_t start)
 {
-    if (text.size() < 3 || text[0] != '&')
-        return false;
-    const char third = text[2];
-    const bool octal = third >= '0' && third <= '7';
-    const bool hex = is_digit(third) || (third >= 'a' && third <= 'f') || (third >= 'A' && third <= 'F');
-    return ((text[1] == 'H' || text[1] == 'h') && hex) || ((text[1] == 'O' || text[1] == 'o') && octal);
+    return start < text.size() && (text[start] == '-' || text[start] == '+') ? 1 : 0;
 }
 
-// The longest start of `text` that is a decimal number, with a D of the exponent turned into E.
-std::string decimal_start(const std::string & text)
+decimal decimal_start(const std::string & text)
 {
-    std::size_t end = (!text.empty() && (text[0] == '-' || text[0] == '+')) ? 1 : 0;
+    std::size_t end = sign_at(text, 0);
     const std::size_t before = digits_at(text, end);
     end += before;
     std::size_t behind = 0;
@@ -82,16 +103,36 @@ std::string decimal_start(const std::string & text)
     }
     if (before + behind == 0)
         return {};
-    std::string number = text.substr(0, end);
-    if (end >= text.size() || std::string_view("eEdD").find(text[end]) == std::string_view::npos)
-        return number;
-    std::size_t exponent = end + 1;
-    if (exponent < text.size() && (text[exponent] == '-' || text[exponent] == '+'))
-        ++exponent;
-    const std::size_t length = digits_at(text, exponent);
-    if (length > 0)
-        number += "e" + text.substr(end + 1, exponent - end - 1 + length);
+    decimal number{.digits = text.substr(0, end), .exponent = {}};
+    if (end < text.size() && std::string_view("eEdD").find(text[end]) != std::string_view::npos) {
+        const std::size_t sign = sign_at(text, end + 1);
+        const std::size_t length = digits_at(text, end + 1 + sign);
+        if (length > 0)
+            number.exponent = text.substr(end + 1, sign + length);
+    }
     return number;
+}
+
+// Of a number that no double holds: whether it is too near to 0 and not too far from it.
+bool is_tiny(const decimal & number)
+{
+    if (!number.exponent.empty())
+        return number.exponent.front() == '-';
+    return number.digits[number.digits.find_first_of("123456789.")] == '.';
+}
+
+// The nearest double. Without regard to the locale, which may want a comma where files have a point.
+double value_of(const decimal & number)
+{
+    std::string text = number.digits;
+    if (!number.exponent.empty())
+        text += "e" + number.exponent;
+    const char * start = text.data() + (text.front() == '+' ? 1 : 0);
+    double value = 0;
+    const auto [end, fault] = std::from_chars(start, text.data() + text.size(), value);
+    if (fault == std::errc::result_out_of_range && !is_tiny(number))
+        overflow();
+    return value;
 }
 
 }  // namespace
@@ -126,13 +167,10 @@ int16 product16(int left, int right)
 double leading_number(std::string_view text)
 {
     const std::string dense = without_blanks(text);
-    if (has_radix(dense))
-        return radix_number(dense);
-    const std::string number = decimal_start(dense);
-    const double value = number.empty() ? 0.0 : std::strtod(number.c_str(), nullptr);
-    if (!std::isfinite(value))
-        overflow();
-    return value;
+    if (const std::optional<double> number = radix_number(dense))
+        return *number;
+    const decimal number = decimal_start(dense);
+    return number.digits.empty() ? 0 : value_of(number);
 }
 
 std::string formatted(int value, int digits)

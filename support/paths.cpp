@@ -19,6 +19,19 @@ bool is_separator(char sign)
     return sign == '/' || sign == '\\';
 }
 
+// Runs `step` on a folder: what isn't found there is a folder, not a file.
+template <typename Step>
+auto with_folder_errors(Step step)
+{
+    try {
+        return with_platform_errors(step);
+    } catch (platform_error & error) {
+        if (error.number == error_number::file_not_found)
+            throw platform_error(error_number::path_not_found, "The folder does not exist.", error.path);
+        throw;
+    }
+}
+
 }  // namespace
 
 std::string joined(const std::string & folder, std::string_view name)
@@ -88,7 +101,7 @@ bool folder_exists(const std::string & path)
 
 std::vector<std::string> files_in(const std::string & folder)
 {
-    return with_platform_errors([&] {
+    return with_folder_errors([&] {
         std::vector<std::string> names;
         for (const auto & entry : fs::directory_iterator(folder)) {
             std::error_code unreadable;
@@ -101,7 +114,7 @@ std::vector<std::string> files_in(const std::string & folder)
 
 void make_folder(const std::string & path)
 {
-    with_platform_errors([&] { fs::create_directory(path); });
+    with_folder_errors([&] { fs::create_directory(path); });
 }
 
 void delete_file(const std::string & path)
@@ -134,6 +147,11 @@ void copy_folder(const std::string & from, const std::string & to)
 bool is_newer(const std::string & path, const std::string & other)
 {
     return with_platform_errors([&] { return fs::last_write_time(path) > fs::last_write_time(other); });
+}
+
+bool file_readable(const std::string & path)
+{
+    return file_exists(path) && ::faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) == 0;
 }
 
 bool folder_writable(const std::string & folder)

@@ -38,6 +38,9 @@ std::string absolute_path(const std::string & path);
 bool file_exists(const std::string & path);
 bool folder_exists(const std::string & path);
 
+/// True for a file that the user can read.
+bool file_readable(const std::string & path);
+
 /// Names of the plain files in a folder, in the file system's order. Raises path_not_found (76) or 70.
 std::vector<std::string> files_in(const std::string & folder);
 

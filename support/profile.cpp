@@ -46,7 +46,7 @@ void add_key(keys & section, std::string_view line)
 
 profile::profile(const std::string & path)
 {
-    if (!file_exists(path))
+    if (!file_readable(path))
         return;
     line_source lines(path);
     keys * section = nullptr;

@@ -6,11 +6,22 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <optional>
+#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 constexpr std::size_t chunk_size = 1 << 16;
+
+// A file that is to be made can only be missing when its folder is.
+platform_error from_opening(int system_number, const std::string & path, int flags)
+{
+    if (system_number == ENOENT && (flags & O_CREAT) != 0)
+        return {error_number::path_not_found, "The folder does not exist.", path};
+    return from_system(system_number, path);
+}
 
 class descriptor {
 public:
@@ -18,11 +29,15 @@ public:
         : number(::open(path.c_str(), flags | O_CLOEXEC, 0666)), name(path)
     {
         if (number < 0)
-            throw from_system(errno, path);
+            throw from_opening(errno, path, flags);
     }
     descriptor(const descriptor &) = delete;
     descriptor & operator=(const descriptor &) = delete;
-    ~descriptor() { ::close(number); }
+    ~descriptor()
+    {
+        if (number >= 0)
+            ::close(number);
+    }
 
     void write_all(std::string_view bytes) const
     {
@@ -56,6 +71,13 @@ public:
         if (::fsync(number) != 0 && errno != EINVAL && errno != EROFS)
             throw from_system(errno, name);
     }
+    void give_mode(mode_t mode) const { ::fchmod(number, mode); }
+    // Some file systems tell only now that a disk is full.
+    void close()
+    {
+        if (::close(std::exchange(number, -1)) != 0 && errno != EINTR)
+            throw from_system(errno, name);
+    }
 
 private:
     int number;
@@ -64,19 +86,36 @@ private:
 
 enum class durability { flushed, left_to_the_system };
 
-void write_whole(const std::string & path, std::string_view bytes, durability wanted)
+// The rights of the file that is to be replaced, if there is one. Only the folder's rights count for a
+// rename, so a file that its owner has protected is refused here.
+std::optional<mode_t> rights_of(const std::string & path)
 {
-    const descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    struct stat found {};
+    if (::stat(path.c_str(), &found) != 0)
+        return std::nullopt;
+    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
+        throw from_system(errno, path);
+    return found.st_mode & 07777;
+}
+
+void write_whole(const std::string & path, std::string_view bytes, durability wanted,
+                 std::optional<mode_t> rights)
+{
+    descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    if (rights)
+        file.give_mode(*rights);
     file.write_all(bytes);
     if (wanted == durability::flushed)
         file.flush();
+    file.close();
 }
 
 void swap_in(const std::string & path, std::string_view bytes, durability wanted)
 {
+    const std::optional<mode_t> rights = rights_of(path);
     const std::string beside = path + ".part";
     try {
-        write_whole(beside, bytes, wanted);
+        write_whole(beside, bytes, wanted, rights);
         if (std::rename(beside.c_str(), path.c_str()) != 0)
             throw from_system(errno, path);
     } catch (platform_error & error) {
@@ -84,6 +123,16 @@ void swap_in(const std::string & path, std::string_view bytes, durability wanted
         error.path = path;
         throw;
     }
+}
+
+// True for a text whose last line has no end: what is appended would become a part of it.
+bool ends_inside_a_line(const std::string & path)
+{
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    if (!file || file.tellg() <= 0)
+        return false;
+    file.seekg(-1, std::ios::end);
+    return file.get() != '\n';
 }
 
 void flush_folder(const std::string & path)
@@ -122,10 +171,13 @@ std::string line_source::read_line()
 
 line_writer::line_writer(const std::string & path, mode opened) : target(path)
 {
+    const bool continues = opened == mode::append && ends_inside_a_line(path);
     errno = 0;
     file.open(path, std::ios::binary | (opened == mode::append ? std::ios::app : std::ios::trunc));
     if (!file)
-        throw from_system(errno, path);
+        throw from_opening(errno, path, O_CREAT);
+    if (continues)
+        write_line({});
 }
 
 void line_writer::write_line(std::string_view line)

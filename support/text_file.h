@@ -34,7 +34,8 @@ private:
 class line_writer {
 public:
     enum class mode { fresh, append };
-    /// Opens the file, making it when missing. Raises 70, 75, 76.
+    /// Opens the file, making it when missing. What is appended begins a line of its own, even behind a last
+    /// line without an end. Raises 70, 75, 76.
     line_writer(const std::string & path, mode opened);
     line_writer(const line_writer &) = delete;
     line_writer & operator=(const line_writer &) = delete;
@@ -54,8 +55,9 @@ private:
 std::string read_file(const std::string & path);
 
 /// Puts `bytes` at `path` in one step: written beside it, flushed to the disk and renamed over it, so that a
-/// crash at any instant leaves the old or the new file, whole. Raises 61, 70, 75, 76; the old file then
-/// stands as it was and nothing is left beside it.
+/// crash at any instant leaves the old or the new file, whole. The rights of the old file are kept. Raises
+/// 61, 70 (for a write-protected file too), 75, 76; the old file then stands as it was and nothing is left
+/// beside it.
 void replace_file(const std::string & path, std::string_view bytes);
 
 /// The same for what can be made again (previews, thumbnails, generated templates): whole or not there as
