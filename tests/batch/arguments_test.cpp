@@ -1,0 +1,84 @@
+#include "batch/arguments.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string fault_of(const std::vector<std::string> & arguments)
+{
+    try {
+        parse_arguments(arguments);
+        return {};
+    } catch (const bad_arguments & fault) {
+        return fault.what;
+    }
+}
+
+}  // namespace
+
+TEST(batch_arguments, reads_every_option)
+{
+    const batch_arguments read = parse_arguments(
+        {"--photos", "a.jpg",       "b.jpg", "--design",       "Wall",      "--orientation", "square",
+         "--set",    "cmbFrame=20", "--set", "txtCaption=a=b", "--caption", "Summer",        "--size",
+         "750",      "--random",    "7",     "--data",         "d",         "--preview",     "--answer",
+         "yes",      "--out",       "o.jpg"});
+    EXPECT_EQ(read.photos, (std::vector<std::string>{"a.jpg", "b.jpg"}));
+    EXPECT_EQ(read.design, "Wall");
+    EXPECT_EQ(read.orientation, "square");
+    ASSERT_EQ(read.settings.size(), 2U);
+    EXPECT_EQ(read.settings[0], (std::pair<std::string, std::string>{"cmbFrame", "20"}));
+    EXPECT_EQ(read.settings[1], (std::pair<std::string, std::string>{"txtCaption", "a=b"}));
+    EXPECT_EQ(read.caption, "Summer");
+    EXPECT_EQ(read.size, 750);
+    EXPECT_EQ(read.seed, 7U);
+    EXPECT_EQ(read.data_folder, "d");
+    EXPECT_TRUE(read.preview);
+    EXPECT_TRUE(read.answers_yes);
+    EXPECT_EQ(read.out, "o.jpg");
+}
+
+TEST(batch_arguments, an_empty_value_of_a_setting_is_a_value)
+{
+    const auto read =
+        parse_arguments({"--photos", "a", "--design", "W", "--out", "o", "--set", "txtCaption="});
+    EXPECT_EQ(read.settings.front().second, "");
+}
+
+TEST(batch_arguments, questions_are_answered_no_by_default)
+{
+    EXPECT_FALSE(parse_arguments({"--list"}).answers_yes);
+}
+
+TEST(batch_arguments, what_is_missing_or_wrong_is_named)
+{
+    struct row {
+        std::vector<std::string> arguments;
+        std::string fault;
+    };
+    const std::vector<row> rows = {
+        {{}, "--design is missing; --list shows the designs"},
+        {{"--design", "W"}, "--photos is missing"},
+        {{"--design", "W", "--photos", "p"}, "--out is missing"},
+        {{"--photos"}, "--photos needs a value"},
+        {{"--photos", "--list"}, "--photos needs a folder, a list or files"},
+        {{"--colour", "red"}, "\"--colour\" is not known; --help shows what is"},
+        {{"stray"}, "\"stray\" is not known; --help shows what is"},
+        {{"--set", "cmbFrame"}, "--set takes CONTROL=VALUE, not \"cmbFrame\""},
+        {{"--orientation", "round"}, "--orientation is portrait, landscape or square, not \"round\""},
+        {{"--size", "12x"}, "--size takes a whole number from 16 to 12000, not \"12x\""},
+        {{"--size", "99999"}, "--size takes a whole number from 16 to 12000, not \"99999\""},
+        {{"--random", "-1"}, "--random takes a whole number from 0 to 18446744073709551615, not \"-1\""},
+        {{"--answer", "maybe"}, "--answer is yes or no, not \"maybe\""},
+    };
+    for (const row & each : rows)
+        EXPECT_EQ(fault_of(each.arguments), each.fault);
+}
+
+TEST(batch_arguments, the_usage_names_every_option)
+{
+    for (const char * option :
+         {"--photos", "--design", "--orientation", "--set", "--caption", "--size", "--random", "--data",
+          "--preview", "--answer", "--out", "--list", "--dump", "--help", "--version"})
+        EXPECT_NE(usage().find(option), std::string::npos) << option;
+}

@@ -1,0 +1,197 @@
+#include "batch/batch_session.h"
+
+#include "batch/batch_desktop.h"
+#include "support/paths.h"
+#include "support/platform_error.h"
+#include "support/text_file.h"
+#include "tests/pictures.h"
+#include "tests/temporary_folder.h"
+
+#include <map>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The supplied data, a data folder of its own and a folder of small photos of both orientations.
+class batch_program : public testing::Test {
+protected:
+    temporary_folder place;
+    batch_folders folders{.install_folder = STAGED_SEED,
+                          .data = {.use_public_folder = true, .public_folder = place.at("data/home")}};
+
+    std::string photos(int count = 6) const
+    {
+        for (int i = 0; i < count; ++i) {
+            const rgb_triple color{static_cast<std::uint8_t>(40 * i), 120,
+                                   static_cast<std::uint8_t>(250 - 40 * i)};
+            const bool wide = i % 2 == 0;
+            save_jpeg(plain(wide ? 360 : 270, wide ? 270 : 360, color),
+                      place.at("photos/" + std::to_string(i) + ".jpg"));
+        }
+        return joined(place.path(), "photos");
+    }
+    std::string out() const { return joined(place.path(), "out.jpg"); }
+
+    exit_status run(std::vector<std::string> words) const
+    {
+        return run_batch(parse_arguments(words), folders);
+    }
+    std::string printed(const std::vector<std::string> & words) const
+    {
+        testing::internal::CaptureStdout();
+        run(words);
+        return testing::internal::GetCapturedStdout();
+    }
+};
+
+std::vector<std::vector<std::string>> table_of(const std::string & text)
+{
+    std::vector<std::vector<std::string>> rows;
+    for (line_source lines = line_source::of_text(text); !lines.at_end();)
+        rows.push_back(split(lines.read_line(), '\t', 99));
+    return rows;
+}
+
+picture_size size_of(const std::string & path)
+{
+    const auto size = jpeg_size(path);
+    EXPECT_TRUE(size.has_value()) << path;
+    return size.value_or(picture_size{});
+}
+
+}  // namespace
+
+TEST_F(batch_program, lists_the_designs_with_section_name_family_and_count)
+{
+    const auto rows = table_of(printed({"--list"}));
+    ASSERT_GE(rows.size(), 14U);
+    for (const auto & row : rows) {
+        ASSERT_EQ(row.size(), 4U);
+        EXPECT_EQ(row[0].substr(0, 6), "Design");
+        EXPECT_FALSE(row[1].empty());
+    }
+}
+
+TEST_F(batch_program, makes_every_listed_design_as_a_preview)
+{
+    for (const auto & row : table_of(printed({"--list"}))) {
+        const std::string & family = row[2];
+        if (row[3].empty() || (family != "Block" && family != "Scatter" && family != "Theme"))
+            continue;
+        delete_file(out());
+        EXPECT_EQ(
+            run({"--photos", photos(), "--design", row[1], "--preview", "--answer", "no", "--out", out()}),
+            exit_status::made)
+            << row[1];
+        EXPECT_TRUE(file_exists(out())) << row[1];
+    }
+}
+
+TEST_F(batch_program, makes_the_full_size_in_each_orientation)
+{
+    struct shape {
+        const char * orientation;
+        int width, height;
+    };
+    for (const shape each :
+         {shape{"portrait", 2000, 3000}, {"landscape", 3000, 2000}, {"square", 2000, 2000}}) {
+        ASSERT_EQ(run({"--photos", photos(), "--design", "Mosaic wall", "--orientation", each.orientation,
+                       "--out", out()}),
+                  exit_status::made);
+        EXPECT_EQ(size_of(out()).width, each.width) << each.orientation;
+        EXPECT_EQ(size_of(out()).height, each.height) << each.orientation;
+    }
+}
+
+TEST_F(batch_program, the_size_is_that_of_the_long_side)
+{
+    ASSERT_EQ(run({"--photos", photos(), "--design", "Mosaic wall", "--orientation", "landscape", "--size",
+                   "750", "--out", out()}),
+              exit_status::made);
+    EXPECT_EQ(size_of(out()).width, 750);
+    EXPECT_EQ(size_of(out()).height, 500);
+}
+
+TEST_F(batch_program, the_same_seed_gives_the_same_bytes)
+{
+    const std::vector<std::string> words = {"--photos",    photos(),   "--design", "Mosaic wall", "--set",
+                                            "chkRandom=1", "--random", "5",        "--out",       out()};
+    ASSERT_EQ(run(words), exit_status::made);
+    const std::string first = read_file(out());
+    ASSERT_EQ(run(words), exit_status::made);
+    EXPECT_TRUE(first == read_file(out()));
+}
+
+TEST_F(batch_program, a_setting_acts_as_the_user_and_is_dumped)
+{
+    const auto rows = table_of(printed({"--dump", "--photos", photos(), "--design", "Mosaic wall", "--set",
+                                        "cmbFrame=70", "--caption", "Summer"}));
+    std::map<std::string, std::vector<std::string>> controls;
+    for (const auto & row : rows) {
+        ASSERT_EQ(row.size(), 5U);
+        controls[row[0]] = row;
+    }
+    EXPECT_EQ(controls["cmbFrame"][3], "60");  // cut by its handler
+    EXPECT_EQ(controls["txtCaption"][3], "Summer");
+    EXPECT_EQ(controls["frmOutput"][1], "1");
+    EXPECT_EQ(controls["mnuFile"][1], "0");
+}
+
+TEST_F(batch_program, a_photo_list_and_single_files_serve_as_well)
+{
+    const std::string folder = photos();
+    const std::string list =
+        place.write("some.pls", "L " + joined(folder, "0.jpg") + "\r\nP " + joined(folder, "1.jpg") +
+                                    "\r\nL " + joined(folder, "2.jpg"));
+    EXPECT_EQ(run({"--photos", list, "--design", "Mosaic wall", "--preview", "--out", out()}),
+              exit_status::made);
+    delete_file(out());
+    EXPECT_EQ(run({"--photos", joined(folder, "0.jpg"), joined(folder, "1.jpg"), joined(folder, "4.jpg"),
+                   "--design", "Mosaic wall", "--preview", "--out", out()}),
+              exit_status::made);
+}
+
+TEST_F(batch_program, unknown_names_are_bad_arguments)
+{
+    EXPECT_THROW(run({"--photos", photos(), "--design", "No such", "--out", out()}), bad_arguments);
+    EXPECT_THROW(run({"--photos", photos(), "--design", "Mosaic wall", "--set", "chkNone=1", "--out", out()}),
+                 bad_arguments);
+    EXPECT_THROW(
+        run({"--photos", photos(), "--design", "Mosaic wall", "--set", "chkMatch=perhaps", "--out", out()}),
+        bad_arguments);
+}
+
+TEST_F(batch_program, missing_photos_are_named)
+{
+    try {
+        run({"--photos", place.at("nowhere"), "--design", "Mosaic wall", "--out", out()});
+        FAIL();
+    } catch (const platform_error & error) {
+        EXPECT_EQ(error.path, place.at("nowhere"));
+    }
+}
+
+TEST_F(batch_program, a_full_disk_while_saving_is_told_and_leaves_the_old_picture)
+{
+    const std::string folder = photos();
+    run({"--list"});  // the data folder is there before the disk fills up
+    write_file(out(), "an older picture");
+    ASSERT_EQ(run({"--photos", folder, "--design", "Mosaic wall", "--preview", "--out",
+                   joined(place.path(), "p.jpg")}),
+              exit_status::made);
+    testing::internal::CaptureStderr();
+    exit_status status = exit_status::made;
+    {
+        const full_disk disk(200000);  // enough for previews, too small for a full size
+        status = run({"--photos", folder, "--design", "Mosaic wall", "--out", out()});
+    }
+    const std::string complaint = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(status, exit_status::not_made);
+    EXPECT_NE(complaint.find("The disk is full"), std::string::npos) << complaint;
+    EXPECT_EQ(read_file(out()), "an older picture");
+}
+
+TEST(batch_desktop, a_message_takes_one_line)
+{
+    EXPECT_EQ(in_one_line("\r\nWelcome   to\r\n\r\nTessaloom \n"), "Welcome to Tessaloom");
+}
