@@ -1,6 +1,7 @@
 #include "batch/batch_desktop.h"
 #include "batch/batch_session.h"
 #include "desktop/program_folders.h"
+#include "support/paths.h"
 #include "support/platform_error.h"
 
 #include <QGuiApplication>

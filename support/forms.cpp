@@ -8,11 +8,11 @@
 namespace {
 
 template <typename Value>
-bool replaced(Value & held, const Value & wanted)
+bool replaced(Value & held, Value wanted)
 {
     if (held == wanted)
         return false;
-    held = wanted;
+    held = std::move(wanted);
     return true;
 }
 
@@ -59,13 +59,13 @@ void control::enable(bool on)
 
 void control::set_caption(std::string text)
 {
-    if (replaced(shown_caption, text))
+    if (replaced(shown_caption, std::move(text)))
         changed();
 }
 
 void control::set_tool_tip(std::string text)
 {
-    if (replaced(tip, text))
+    if (replaced(tip, std::move(text)))
         changed();
 }
 
@@ -184,7 +184,7 @@ int combo_box::list_index() const
 
 void combo_box::set_text(std::string text)
 {
-    if (!replaced(shown_text, text))
+    if (!replaced(shown_text, std::move(text)))
         return;
     changed();
     fire(on_typed);
@@ -212,7 +212,7 @@ bool combo_box::set_as_user(std::string_view text)
 
 void text_box::set_text(std::string text)
 {
-    if (!replaced(shown_text, text))
+    if (!replaced(shown_text, std::move(text)))
         return;
     changed();
     fire(on_change);
@@ -241,7 +241,7 @@ control * form::find(std::string_view name) const
 
 void form::set_caption(std::string text)
 {
-    if (replaced(title, text))
+    if (replaced(title, std::move(text)))
         fire(on_shown_change);
 }
 
