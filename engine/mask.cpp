@@ -38,10 +38,10 @@ void put(std::uint8_t * bytes, rgb_triple color)
     bytes[2] = color.red;
 }
 
-/// Walks the part of the mask that lies on the canvas; `choose(part, x, y)` gives the colour of a mask's
-/// pixel that is neither ground nor key.
-template <typename Choose>
-void paint(bitmap & canvas, const bitmap & mask, int column, int row, Choose choose)
+/// Walks the part of the mask that lies on the canvas; `colors_of(y)` gives, for a row of the mask, what
+/// gives the colour of a pixel that is neither ground nor key.
+template <typename Colors>
+void paint(bitmap & canvas, const bitmap & mask, int column, int row, Colors colors_of)
 {
     if (!canvas || !mask)
         return;
@@ -51,6 +51,7 @@ void paint(bitmap & canvas, const bitmap & mask, int column, int row, Choose cho
     for (int y = first_y; y < end_y; ++y) {
         const std::uint8_t * from = mask.row(y).data();
         std::uint8_t * to = canvas.row(row + y).data() + static_cast<std::ptrdiff_t>(column) * pixel_bytes;
+        const auto color = colors_of(y);
         for (int x = first_x; x < end_x; ++x) {
             const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(x) * pixel_bytes;
             switch (const mask_part part = part_of_mask(color_at(from + at), ground)) {
@@ -64,7 +65,7 @@ void paint(bitmap & canvas, const bitmap & mask, int column, int row, Choose cho
                     break;
                 case mask_part::inside:
                 case mask_part::border:
-                    put(to + at, choose(part, x, y));
+                    put(to + at, color(part, at));
                     break;
             }
         }
@@ -101,7 +102,8 @@ rgb_triple border_color(rgb_triple photo, shape_border drawn)
 
 void paint_mask(bitmap & canvas, const bitmap & mask, rgb_triple color, int column, int row)
 {
-    paint(canvas, mask, column, row, [color](mask_part, int, int) { return color; });
+    paint(canvas, mask, column, row,
+          [color](int) { return [color](mask_part, std::ptrdiff_t) { return color; }; });
 }
 
 void paint_mask(bitmap & canvas, const bitmap & mask, const bitmap & photo, shape_border drawn, int column,
@@ -109,8 +111,10 @@ void paint_mask(bitmap & canvas, const bitmap & mask, const bitmap & photo, shap
 {
     if (photo.width() < mask.width() || photo.height() < mask.height())
         return;
-    paint(canvas, mask, column, row, [&](mask_part part, int x, int y) {
-        const rgb_triple color = color_at(photo.row(y).data() + static_cast<std::ptrdiff_t>(x) * pixel_bytes);
-        return part == mask_part::inside ? color : border_color(color, drawn);
+    paint(canvas, mask, column, row, [&photo, drawn](int y) {
+        return [from = photo.row(y).data(), drawn](mask_part part, std::ptrdiff_t at) {
+            const rgb_triple color = color_at(from + at);
+            return part == mask_part::inside ? color : border_color(color, drawn);
+        };
     });
 }

@@ -1,0 +1,127 @@
+// Times what is done to a single photo, in the sizes of a poster of 40. Loading and scaling a photo is the
+// measure: all the rest together has to stay small beside it.
+
+#include "engine/corners.h"
+#include "engine/draw_frame.h"
+#include "engine/draw_shadow.h"
+#include "engine/mask.h"
+#include "engine/resize_image.h"
+#include "engine/soft_edge_paste.h"
+#include "tests/scripted_desktop.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int canvas_width = 2860, canvas_height = 3860;
+constexpr int photo_width = 450, photo_height = 320, photo_top = 900, photo_left = 700;
+constexpr int shape_size = 320;
+
+bitmap colored(int width, int height)
+{
+    bitmap image(width, height);
+    fill(image, {90, 140, 60});
+    return image;
+}
+
+/// A white ground with a black square in its middle.
+bitmap square_mask()
+{
+    bitmap mask(shape_size, shape_size);
+    fill(mask, {255, 255, 255});
+    for (int y = shape_size / 8; y < shape_size * 7 / 8; ++y)
+        for (int x = shape_size / 8; x < shape_size * 7 / 8; ++x)
+            set_pixel(mask, x, y, {});
+    return mask;
+}
+
+/// A window with a canvas of full size.
+struct stage {
+    stage() { main.run.canvas = colored(canvas_width, canvas_height); }
+    scripted_desktop desk;
+    frmMain main{desk, listed({})};
+};
+
+void fill_canvas(benchmark::State & state)
+{
+    stage on;
+    for (auto _ : state)
+        fill(on.main.run.canvas, {7, 8, 9});
+}
+BENCHMARK(fill_canvas)->Unit(benchmark::kMicrosecond);
+
+void resize_photo(benchmark::State & state)
+{
+    const bitmap photo = colored(4000, 3000);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(resize_image(photo, photo_width, photo_height));
+}
+BENCHMARK(resize_photo)->Unit(benchmark::kMicrosecond);
+
+void paste_photo(benchmark::State & state)
+{
+    stage on;
+    const bitmap photo = colored(photo_width, photo_height);
+    for (auto _ : state)
+        paste(on.main.run.canvas, photo, photo_left, photo_top, plain_copy);
+}
+BENCHMARK(paste_photo)->Unit(benchmark::kMicrosecond);
+
+void frame(benchmark::State & state)
+{
+    stage on;
+    on.main.run.frame_size = static_cast<int16>(state.range(0));
+    for (auto _ : state) {
+        int left = photo_left, row = canvas_height - photo_top - photo_height;
+        draw_frame(on.main, on.main.run.canvas, left, row, photo_height, photo_width, 0);
+    }
+}
+BENCHMARK(frame)->Arg(1)->Arg(10)->Arg(60)->Unit(benchmark::kMicrosecond);
+
+void shadow(benchmark::State & state)
+{
+    stage on;
+    on.main.run.shadow_size = static_cast<int16>(state.range(0));
+    for (auto _ : state)
+        draw_shadow(on.main, on.main.run.canvas, photo_left, photo_top, photo_height, photo_width, 0);
+}
+BENCHMARK(shadow)->Arg(5)->Arg(10)->Arg(50)->Unit(benchmark::kMicrosecond);
+
+void corners(benchmark::State & state)
+{
+    const int side = static_cast<int>(state.range(0));
+    stage on;
+    bitmap photo = colored(side, side);
+    for (auto _ : state)
+        cut_corners(photo, on.main.run.canvas, side, side, photo_left, photo_top);
+}
+BENCHMARK(corners)->Arg(100)->Arg(320)->Arg(700)->Unit(benchmark::kMicrosecond);
+
+void soft_edges(benchmark::State & state)
+{
+    const int side = static_cast<int>(state.range(0));
+    stage on;
+    const bitmap photo = colored(side, side);
+    for (auto _ : state)
+        soft_edge_paste(on.main.run.canvas, photo, side, side, photo_top, photo_left);
+}
+BENCHMARK(soft_edges)->Arg(100)->Arg(320)->Arg(700)->Unit(benchmark::kMicrosecond);
+
+void shape_of_a_photo(benchmark::State & state)
+{
+    stage on;
+    const bitmap mask = square_mask(), photo = colored(shape_size, shape_size);
+    for (auto _ : state)
+        paint_mask(on.main.run.canvas, mask, photo, shape_border::lightened, photo_left, photo_top);
+}
+BENCHMARK(shape_of_a_photo)->Unit(benchmark::kMicrosecond);
+
+void scaling_of_a_mask(benchmark::State & state)
+{
+    const bitmap mask = resize_image(square_mask(), 600, 600);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(resize_image(mask, shape_size, shape_size));
+}
+BENCHMARK(scaling_of_a_mask)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
