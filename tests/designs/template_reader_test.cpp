@@ -1,7 +1,6 @@
 #include "designs/template_reader.h"
 
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 
@@ -234,6 +233,23 @@ TEST_F(template_test, a_number_beyond_16_bits_is_told)
     read("1:2:300:400:0:-1:-1:0:\r\n40000:2:300:400:0:-1:-1:0:\r\n");
     EXPECT_EQ(desk.next_message(), " XXY YY CAUGHT AN ERROR 6\nA number is out of range.");
     EXPECT_EQ(count(), 1);
+}
+
+TEST_F(template_test, whatever_the_bytes_are_it_ends_with_at_most_one_box)
+{
+    const random_source random = seeded_random(11);
+    const std::string signs = "0123456789:::::::-.eE&H#[]\r\n\n\n \xFF";
+    desk.keeps_messages = true;
+    for (int round = 0; round < 300; ++round) {
+        std::string text;
+        for (int i = whole(random.next() * 200); i >= 0; --i)
+            text += signs[static_cast<std::size_t>(random.next() * static_cast<double>(signs.size()))];
+        desk.messages.clear();
+        read("1:2:300:400:0:-1:-1:0:\r\n" + text);
+        EXPECT_LE(desk.messages.size(), 1u) << text;
+        EXPECT_GE(count(), 1) << text;
+        EXPECT_EQ(at(count()), blank) << text;
+    }
 }
 
 TEST_F(template_test, letters_are_mixed_from_eight_on)

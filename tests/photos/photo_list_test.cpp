@@ -6,6 +6,7 @@
 #include "support/text_file.h"
 #include "tests/pictures.h"
 #include "tests/scripted_desktop.h"
+#include "tests/small_files.h"
 #include "tests/temporary_folder.h"
 
 #include <algorithm>
@@ -147,14 +148,34 @@ TEST_F(photo_list_test, an_empty_table_is_counted_as_empty_whatever_stands_at_0)
 TEST_F(photo_list_test, what_is_no_jpeg_stays_in_the_table_and_counts_as_neither)
 {
     save_bmp(plain(30, 40, {}), folder.at("bmp.jpg"));
-    fill_table({folder.at("bmp.jpg"), folder.write("png.png", "\x89PNG\r\n\x1a\n"),
-                folder.write("empty.jpg", ""), folder.write("text.jpg", "no picture"),
-                photo("a.jpg", 40, 30)});
+    fill_table({folder.at("bmp.jpg"), folder.write("png.png", small_png()),
+                folder.write("png.jpg", small_png()), folder.write("empty.jpg", ""),
+                folder.write("text.jpg", "no picture"), photo("a.jpg", 40, 30)});
     count_photos(main);
-    EXPECT_EQ(main.table.last_photo, 4);
+    EXPECT_EQ(main.table.last_photo, 5);
     EXPECT_EQ(counted(), "1l 0p l:");
+    EXPECT_EQ(main.table[2], joined(folder.path(), "sample_thumbs/png.jpg"));
     count_photos(main);
-    EXPECT_EQ(main.table.last_photo, 4);
+    EXPECT_EQ(main.table.last_photo, 5);
+    EXPECT_EQ(counted(), "1l 0p l:");
+}
+
+TEST_F(photo_list_test, grey_and_cmyk_photos_and_long_strips_count_as_others)
+{
+    fill_table({folder.write("grey.jpg", flat_jpeg(30, 40, {90}, adobe_mark::absent)),
+                folder.write("cmyk.jpg", flat_jpeg(40, 30, {0, 128, 255, 255}, adobe_mark::present)),
+                photo("strip.jpg", 200, 16000)});
+    count_photos(main);
+    EXPECT_EQ(counted(), "1l 2p p:l:p:");
+    const bitmap cyan = load_picture(picture_format::jpeg, main.table[1]);
+    EXPECT_NEAR(seen(cyan, 100, 75).red, 0, 2);
+    EXPECT_NEAR(seen(cyan, 100, 75).blue, 255, 2);
+}
+
+TEST_F(photo_list_test, a_photo_beyond_16_bits_raises_an_overflow)
+{
+    fill_table({folder.write("a.jpg", flat_jpeg(32768, 8, {90}, adobe_mark::absent))});
+    EXPECT_THROW(count_photos(main), platform_error);
 }
 
 TEST_F(photo_list_test, photos_of_a_closed_folder_are_counted_by_themselves)

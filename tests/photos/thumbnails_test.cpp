@@ -5,6 +5,7 @@
 #include "support/text_file.h"
 #include "tests/pictures.h"
 #include "tests/scripted_desktop.h"
+#include "tests/small_files.h"
 #include "tests/temporary_folder.h"
 
 #include <filesystem>
@@ -103,7 +104,7 @@ TEST_F(thumbnails_test, a_photo_that_is_not_a_jpeg_gets_none_but_its_path)
     const std::string thumbnail = joined(folder.path(), "sample_thumbs/a.jpg");
     save_bmp(plain(40, 30, red), folder.at("a.jpg"));
     EXPECT_EQ(chk_sample_thumb(main, folder.at("a.jpg")), thumbnail);
-    for (const char * bytes : {"", "a text, no picture", "\x89PNG\r\n\x1a\n"}) {
+    for (const std::string & bytes : {std::string(), std::string("a text, no picture"), small_png()}) {
         folder.write("a.jpg", bytes);
         EXPECT_EQ(chk_sample_thumb(main, folder.at("a.jpg")), thumbnail);
         EXPECT_FALSE(file_exists(thumbnail));
