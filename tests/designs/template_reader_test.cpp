@@ -240,7 +240,7 @@ TEST_F(template_test, whatever_the_bytes_are_it_ends_with_at_most_one_box)
     const random_source random = seeded_random(11);
     const std::string signs = "0123456789:::::::-.eE&H#[]\r\n\n\n \xFF";
     desk.keeps_messages = true;
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 80; ++round) {
         std::string text;
         for (int i = whole(random.next() * 200); i >= 0; --i)
             text += signs[static_cast<std::size_t>(random.next() * static_cast<double>(signs.size()))];
