@@ -8,8 +8,8 @@
 
 namespace {
 
-/// A turn in the two steps that the library takes: quarters first, then at most 45 degrees to either side. Both are
-/// clockwise.
+/// A turn in the two steps that the library takes: quarters first, then at most 45 degrees to either side.
+/// Both are clockwise.
 struct turn_steps {
     int quarters = 0;
     int rest = 0;  ///< degrees; a small turn to the left counts as 315 to 359
@@ -29,13 +29,13 @@ picture_size after_quarters(picture_size size, int quarters)
     return quarters % 2 == 0 ? size : picture_size{.width = size.height, .height = size.width};
 }
 
-/// The rest of a turn is three shears: rows sideways, columns up and down, rows sideways. The numbers are those of the
-/// library, sums formed in its order, so that every rounding falls alike.
+/// The rest of a turn is three shears: rows sideways, columns up and down, rows sideways. The numbers are
+/// those of the library, sums formed in its order, so that every rounding falls alike.
 struct shear_starts {
     int middle_width = 0;  ///< of the picture after the first shear, and after the second
     picture_size result;
-    double sine = 0, half = 0;                   ///< half: tangent of half the angle
-    double first = 0, second = 0, third = 0;     ///< shift of row 0, column 0, row 0
+    double sine = 0, half = 0;                ///< half: tangent of half the angle
+    double first = 0, second = 0, third = 0;  ///< shift of row 0, column 0, row 0
 };
 
 struct shears {
@@ -76,9 +76,8 @@ shear_starts starts_of(picture_size size, int degrees)
     made.first = first_shift(0, size.height, made.half);
     made.second = made.sine > 0 ? (size.width - 1.0) * made.sine
                                 : -made.sine * (static_cast<double>(size.width) - made.middle_width);
-    made.third = made.sine >= 0
-                     ? (size.width - 1.0) * made.sine * -made.half
-                     : made.half * ((size.width - 1.0) * -made.sine + (1.0 - made.result.height));
+    made.third = made.sine >= 0 ? (size.width - 1.0) * made.sine * -made.half
+                                : made.half * ((size.width - 1.0) * -made.sine + (1.0 - made.result.height));
     return made;
 }
 
@@ -128,8 +127,8 @@ marked_pixel share_of(const share_table & shares, marked_pixel pixel)
 }
 
 /// Puts columns `first` to `last` of a shifted row into `into`. `before` holds the row as it was from column
-/// first - floor(shift) - 1 on. No byte of a difference or sum leaves its place in the word: a share is never larger
-/// than its pixel, and larger pixels leave more behind.
+/// first - floor(shift) - 1 on. No byte of a difference or sum leaves its place in the word: a share is never
+/// larger than its pixel, and larger pixels leave more behind.
 void shear_row(const marked_pixel * before, double shift, marked_pixel * into, int count)
 {
     share_table shares;
@@ -158,40 +157,64 @@ marked_pixel color_at(const std::uint8_t * bytes)
     return bytes[0] | static_cast<marked_pixel>(bytes[1]) << 8 | static_cast<marked_pixel>(bytes[2]) << 16;
 }
 
-/// Columns `first` to `last` of a row of the picture before any turn; zero outside it.
-void read_row(const marked_picture & picture, int row, column_span columns, marked_pixel * into)
+/// A walk over the picture before any turn, along a row or a column.
+struct pixel_walk {
+    int x = 0, y = 0;            ///< where it starts
+    int step_x = 0, step_y = 0;  ///< one of them 1 or -1, the other 0
+    int count = 0;
+};
+
+/// The steps of one coordinate that fall into `low` to `high`, exclusive.
+column_span steps_inside(int start, int step, int count, int low, int high)
 {
-    std::fill_n(into, columns.last - columns.first, 0);
-    const pixel_window here{.left = columns.first, .low = row, .right = columns.last, .high = row + 1};
-    const pixel_window whole{.left = 0, .low = 0, .right = picture.size.width, .high = picture.size.height};
-    const bitmap & part = *picture.part;
-    const pixel_window known = common(common(here, whole), {.left = picture.left,
-                                                            .low = picture.low,
-                                                            .right = picture.left + part.width(),
-                                                            .high = picture.low + part.height()});
-    if (!is_empty(known)) {
-        const std::uint8_t * bytes = part.row(row - picture.low).data();
-        for (int x = known.left; x < known.right; ++x)
-            into[x - columns.first] = color_at(bytes + static_cast<std::ptrdiff_t>(x - picture.left) * pixel_bytes);
-    }
-    const pixel_window marked = common(common(here, whole), picture.marked);
-    for (int x = marked.left; !is_empty(marked) && x < marked.right; ++x)
-        into[x - columns.first] |= mark_at(picture, x, row);
+    if (step == 0)
+        return {.first = 0, .last = low <= start && start < high ? count : 0};
+    const int first = step > 0 ? low - start : start - (high - 1);
+    return {.first = std::max(first, 0), .last = std::min(first + high - low, count)};
 }
 
-/// The same of the picture after its quarter turns.
-void read_turned_row(const marked_picture & picture, int quarters, int row, column_span columns, marked_pixel * into)
+column_span steps_inside(const pixel_walk & walk, const pixel_window & window)
 {
-    const int wide = picture.size.width, high = picture.size.height;
-    if (quarters == 0) {
-        read_row(picture, row, columns, into);
-        return;
+    const column_span across = steps_inside(walk.x, walk.step_x, walk.count, window.left, window.right);
+    const column_span along = steps_inside(walk.y, walk.step_y, walk.count, window.low, window.high);
+    return {.first = std::max(across.first, along.first), .last = std::min(across.last, along.last)};
+}
+
+/// The pixels on the walk; zero outside the picture.
+void read_walk(const marked_picture & picture, const pixel_walk & walk, marked_pixel * into)
+{
+    std::fill_n(into, walk.count, 0);
+    const pixel_window whole{.left = 0, .low = 0, .right = picture.size.width, .high = picture.size.height};
+    const bitmap & part = *picture.part;
+    const pixel_window here{.left = picture.left,
+                            .low = picture.low,
+                            .right = picture.left + part.width(),
+                            .high = picture.low + part.height()};
+    const column_span known = steps_inside(walk, common(whole, here));
+    if (known.first < known.last) {
+        const int x = walk.x + known.first * walk.step_x, y = walk.y + known.first * walk.step_y;
+        const std::uint8_t * bytes = part.row(y - picture.low).data() + (x - picture.left) * pixel_bytes;
+        const std::ptrdiff_t pitch = part.height() > 1 ? part.row(1).data() - part.row(0).data() : 0;
+        const std::ptrdiff_t step = walk.step_x * pixel_bytes + walk.step_y * pitch;
+        for (int i = known.first; i < known.last; ++i)
+            into[i] = color_at(bytes + (i - known.first) * step);
     }
-    for (int x = columns.first; x < columns.last; ++x) {
-        const int from_x = quarters == 1 ? wide - 1 - row : quarters == 2 ? wide - 1 - x : row;
-        const int from_y = quarters == 1 ? x : quarters == 2 ? high - 1 - row : high - 1 - x;
-        read_row(picture, from_y, {.first = from_x, .last = from_x + 1}, into + (x - columns.first));
-    }
+    const column_span marked = steps_inside(walk, common(whole, picture.marked));
+    for (int i = marked.first; i < marked.last; ++i)
+        into[i] |= mark_at(picture, walk.x + i * walk.step_x, walk.y + i * walk.step_y);
+}
+
+/// Columns of a row of the picture after its quarter turns.
+void read_row(const marked_picture & picture, int quarters, int row, column_span columns, marked_pixel * into)
+{
+    const int wide = picture.size.width, high = picture.size.height, first = columns.first;
+    const pixel_walk walks[4] = {{.x = first, .y = row, .step_x = 1},
+                                 {.x = wide - 1 - row, .y = first, .step_y = 1},
+                                 {.x = wide - 1 - first, .y = high - 1 - row, .step_x = -1},
+                                 {.x = row, .y = high - 1 - first, .step_y = -1}};
+    pixel_walk walk = walks[quarters];
+    walk.count = columns.last - first;
+    read_walk(picture, walk, into);
 }
 
 column_span widened(column_span known, int first, int last)
@@ -205,7 +228,8 @@ column_span widened(column_span known, int first, int last)
 column_span before_third(const shears & made, int row, column_span wanted)
 {
     const int shift = floor_of(made.third[static_cast<std::size_t>(row)]);
-    return {.first = std::max(wanted.first - shift - 1, 0), .last = std::min(wanted.last - shift, made.middle_width)};
+    return {.first = std::max(wanted.first - shift - 1, 0),
+            .last = std::min(wanted.last - shift, made.middle_width)};
 }
 
 /// The picture after the first shear, as far as the wanted rows need it.
@@ -220,9 +244,10 @@ struct middle_picture {
     }
 };
 
-/// Notes for each row of the middle picture which of its columns the second shear will read. Neighbouring columns mostly
-/// share their shift, so they are noted in runs.
-void note_needed(const shears & made, int row, column_span columns, int height, std::vector<column_span> & needed)
+/// Notes for each row of the middle picture which of its columns the second shear will read. Neighbouring
+/// columns mostly share their shift, so they are noted in runs.
+void note_needed(const shears & made, int row, column_span columns, int height,
+                 std::vector<column_span> & needed)
 {
     for (int start = columns.first; start < columns.last;) {
         const int shift = floor_of(made.second[static_cast<std::size_t>(start)]);
@@ -272,9 +297,9 @@ void fill_middle(const marked_picture & picture, int quarters, const shears & ma
         const double shift = made.first[static_cast<std::size_t>(row)];
         const int first = columns.first - floor_of(shift) - 1, count = columns.last - columns.first;
         if (count > 0) {
-            read_turned_row(picture, quarters, row, {.first = first, .last = first + count + 1}, before.data());
-            shear_row(before.data(), shift, middle.pixels.data() + (middle.at(row, columns.first) - middle.pixels.data()),
-                      count);
+            read_row(picture, quarters, row, {.first = first, .last = first + count + 1}, before.data());
+            shear_row(before.data(), shift,
+                      middle.pixels.data() + (middle.at(row, columns.first) - middle.pixels.data()), count);
         }
         ++row;
     }
@@ -318,14 +343,15 @@ private:
     std::vector<share_table> shares;
 };
 
-void turn_by_quarters(const marked_picture & picture, int quarters, const row_spans & wanted, const row_taker & take)
+void turn_by_quarters(const marked_picture & picture, int quarters, const row_spans & wanted,
+                      const row_taker & take)
 {
     std::vector<marked_pixel> finished;
     int row = wanted.low;
     for (const column_span & columns : wanted.rows) {
         finished.resize(static_cast<std::size_t>(std::max(columns.last - columns.first, 0)));
         if (!finished.empty()) {
-            read_turned_row(picture, quarters, row, columns, finished.data());
+            read_row(picture, quarters, row, columns, finished.data());
             take(row, columns.first, finished);
         }
         ++row;
@@ -333,7 +359,8 @@ void turn_by_quarters(const marked_picture & picture, int quarters, const row_sp
 }
 
 /// The third shear, fed row by row by the second.
-void finish_rows(const shears & made, const middle_picture & middle, const row_spans & wanted, const row_taker & take)
+void finish_rows(const shears & made, const middle_picture & middle, const row_spans & wanted,
+                 const row_taker & take)
 {
     const column_shear columns_shear(made, middle);
     std::vector<marked_pixel> before, finished;
@@ -416,7 +443,8 @@ row_spans spans_of(const std::vector<picture_point> & corners, double slack, con
             const double side_low = std::min(from.y, to.y), side_high = std::max(from.y, to.y);
             if (side_high < band_low || side_low > band_high)
                 continue;
-            for (double y : {std::clamp(band_low, side_low, side_high), std::clamp(band_high, side_low, side_high)}) {
+            for (double y :
+                 {std::clamp(band_low, side_low, side_high), std::clamp(band_high, side_low, side_high)}) {
                 const double share = side_high > side_low ? (y - from.y) / (to.y - from.y) : 0;
                 const double x = from.x + share * (to.x - from.x);
                 first = std::min({first, x, side_high > side_low ? x : to.x});

@@ -5,9 +5,9 @@
 #include <functional>
 #include <vector>
 
-/// The library's turn of a picture (`rotated` of the binding), worked out for a part of the result alone: a tilted
-/// photo needs a small part of two large turned pictures. Every byte equals the library's. Angles are whole degrees,
-/// positive counter-clockwise as seen; rows count from the **bottom**, as in `bitmap::row`.
+/// The library's turn of a picture (`rotated` of the binding), worked out for a part of the result alone: a
+/// tilted photo needs a small part of two large turned pictures. Every byte equals the library's. Angles are
+/// whole degrees, positive counter-clockwise as seen; rows count from the **bottom**, as in `bitmap::row`.
 
 /// Size of the turned picture.
 picture_size turned_size(picture_size size, int degrees);
@@ -45,17 +45,19 @@ struct row_spans {
 /// All columns of a window.
 row_spans spans_of(const pixel_window & window);
 
-/// The columns that lie in the four-sided figure with these corners, in order round it, or within `slack` pixels of it,
-/// cut at `bounds`.
+/// The columns that lie in the four-sided figure with these corners, in order round it, or within `slack`
+/// pixels of it, cut at `bounds`.
 row_spans spans_of(const std::vector<picture_point> & corners, double slack, const pixel_window & bounds);
 
-/// A large picture of which a part is at hand. Each pixel has a mark beside its colour, which is turned with it.
+/// A large picture of which a part is at hand. Each pixel has a mark beside its colour, which is turned with
+/// it.
 struct marked_picture {
-    picture_size size;                ///< of the whole
-    const bitmap * part = nullptr;    ///< all else is black
-    int left = 0, low = 0;            ///< where the part lies; it may reach beyond the whole
-    pixel_window marked;              ///< pixels with a mark; all else has the mark 0
-    const bitmap * marks = nullptr;   ///< size of `marked`: the largest channel is the mark; none: all are `full_mark`
+    picture_size size;              ///< of the whole
+    const bitmap * part = nullptr;  ///< all else is black
+    int left = 0, low = 0;          ///< where the part lies; it may reach beyond the whole
+    pixel_window marked;            ///< pixels with a mark; all else has the mark 0
+    const bitmap * marks =
+        nullptr;  ///< size of `marked`: the largest channel is the mark; none: all are `full_mark`
 };
 
 /// What white leaves on black when it is pasted with alpha 255.
@@ -67,6 +69,6 @@ using marked_pixel = std::uint32_t;
 /// Takes a finished row: its number, its first column and the pixels from there on.
 using row_taker = std::function<void(int row, int first, std::span<const marked_pixel> pixels)>;
 
-/// Hands over the wanted pixels of the turned picture row by row, from the bottom. Wanted columns outside the turned
-/// picture are an error of the caller.
+/// Hands over the wanted pixels of the turned picture row by row, from the bottom. Wanted columns outside the
+/// turned picture are an error of the caller.
 void turn_rows(const marked_picture & picture, int degrees, const row_spans & wanted, const row_taker & take);

@@ -12,4 +12,4 @@ void draw_rotated_photo(frmMain & main, bitmap image, int width, int height, int
                         fitting fit);
 
 /// A key of `rotate.ini` in `install_folder`; 0 when section or key is missing.
-int GetRotateValue(const frmMain & main, const std::string & section, const std::string & key);
+int GetRotateValue(frmMain & main, const std::string & section, const std::string & key);

@@ -48,7 +48,8 @@ std::string rotation_section(int width, int height, int rotation)
 double reference_factor(int width, int height)
 {
     const bool wide = width > height;
-    return std::max(excess(width, wide ? long_side : short_side), excess(height, wide ? short_side : long_side));
+    return std::max(excess(width, wide ? long_side : short_side),
+                    excess(height, wide ? short_side : long_side));
 }
 
 int preview_divisor(int width, int height)
@@ -88,13 +89,15 @@ tilt_sizes tilt_sizes_of(const rotation_numbers & numbers, int rotation)
 {
     if (numbers.grab_width <= 0 || numbers.grab_height <= 0)
         return {};
-    tilt_sizes sizes{.grabbed = {.width = numbers.grab_width, .height = numbers.grab_height}, .turned = {}, .back = {}};
+    tilt_sizes sizes{
+        .grabbed = {.width = numbers.grab_width, .height = numbers.grab_height}, .turned = {}, .back = {}};
     sizes.turned = turned_size(sizes.grabbed, rotation);
     sizes.back = turned_size(sizes.turned, -rotation);
     return sizes;
 }
 
-picture_point on_canvas(const rotation_numbers & numbers, const tilt_sizes & sizes, int rotation, picture_point point)
+picture_point on_canvas(const rotation_numbers & numbers, const tilt_sizes & sizes, int rotation,
+                        picture_point point)
 {
     const picture_point back =
         turned_point(sizes.turned, -rotation, {.x = point.x, .y = sizes.turned.height - point.y});

@@ -5,8 +5,8 @@
 #include <array>
 #include <string>
 
-/// The numbers by which a tilted photo finds its place. `rotate.ini` gives them for a photo of 450 by 300 pixels, or
-/// 300 by 450; all coordinates here count from the top.
+/// The numbers by which a tilted photo finds its place. `rotate.ini` gives them for a photo of 450 by 300
+/// pixels, or 300 by 450; all coordinates here count from the top.
 
 /// One section of `rotate.ini`, in its keys' order in the file.
 struct rotation_numbers {
@@ -14,7 +14,8 @@ struct rotation_numbers {
     int grab_top = 0, grab_left = 0;      ///< how far above and left of the photo's place it starts
     int paste_top = 0, paste_left = 0;    ///< likewise where the result goes back
     int put_top = 0, put_left = 0;        ///< the photo's place in the turned area
-    int copy_left = 0, copy_right = 0, copy_top = 0, copy_bottom = 0;  ///< what goes back of the area turned back
+    int copy_left = 0, copy_right = 0, copy_top = 0,
+        copy_bottom = 0;  ///< what goes back of the area turned back
     bool operator==(const rotation_numbers &) const = default;
 };
 
@@ -38,8 +39,8 @@ double reference_factor(int width, int height);
 /// By what the numbers are divided in a preview.
 int preview_divisor(int width, int height);
 
-/// The numbers for a photo that is larger by `factor`, then divided by `divisor` (1 at full size), rounded after each
-/// step.
+/// The numbers for a photo that is larger by `factor`, then divided by `divisor` (1 at full size), rounded
+/// after each step.
 rotation_numbers scaled(const rotation_numbers & numbers, double factor, int divisor);
 
 /// Width of the frame beside the photo in the turned area; -1 for none below 10 degrees.
@@ -53,7 +54,8 @@ struct tilted_place {
     bool operator==(const tilted_place &) const = default;
 };
 
-/// The place turned by a quarter about its middle, roughly, when the photo lies across it. Raises overflow (6).
+/// The place turned by a quarter about its middle, roughly, when the photo lies across it. Raises overflow
+/// (6).
 tilted_place evolved(const tilted_place & place, picture_size photo);
 
 /// The sizes that follow from the numbers.
@@ -64,5 +66,7 @@ struct tilt_sizes {
 /// Empty sizes (0 by 0) for an empty area.
 tilt_sizes tilt_sizes_of(const rotation_numbers & numbers, int rotation);
 
-/// Where a point of the turned area comes to lie, as seen from the place of the location's corner on the canvas.
-picture_point on_canvas(const rotation_numbers & numbers, const tilt_sizes & sizes, int rotation, picture_point point);
+/// Where a point of the turned area comes to lie, as seen from the place of the location's corner on the
+/// canvas.
+picture_point on_canvas(const rotation_numbers & numbers, const tilt_sizes & sizes, int rotation,
+                        picture_point point);

@@ -3,6 +3,7 @@
 #include "designs/catalogue_state.h"
 #include "designs/design_record.h"
 #include "designs/location.h"
+#include "engine/rotation_files.h"
 #include "engine/run_state.h"
 #include "photos/photo_table.h"
 #include "support/desktop.h"
@@ -205,6 +206,7 @@ struct frmMain : form {
 
     // The run and the picture it makes.
     run_state run;
+    rotation_files tilting;  ///< for the tilted photos of this and later runs
     int16 collage_width = 2000, collage_height = 3000;
     int16 shake_start = -1, mix_step = -1;
     std::string save_image_path, image_to_show;

@@ -1,4 +1,5 @@
 #include "engine/area_turn.h"
+
 #include "tests/pictures.h"
 
 #include <gtest/gtest.h>
@@ -39,8 +40,9 @@ bitmap noise(int width, int height)
 
 TEST(area_turn, every_byte_of_a_turned_picture_is_the_librarys)
 {
-    for (const picture_size size : {picture_size{61, 40}, picture_size{37, 90}, picture_size{1, 1}, picture_size{50, 50}})
-        for (int degrees = -180; degrees <= 180; ++degrees) {
+    for (const picture_size size :
+         {picture_size{61, 40}, picture_size{37, 50}, picture_size{1, 1}})
+        for (int degrees = -180; degrees <= 180; degrees += degrees % 45 == 0 ? 1 : 2) {
             const bitmap image = noise(size.width, size.height);
             EXPECT_TRUE(same(turned_whole(image, degrees), rotated(image, degrees)))
                 << size.width << " by " << size.height << " turned by " << degrees;

@@ -37,7 +37,9 @@ rotation_numbers read_section(const profile & table, lying photo, int rotation)
 int make(const std::string & path)
 {
     std::vector<std::string> lines{
-        "; Where tilted photos go, for a photo of 450 by 300 pixels (L) or 300 by 450 (P). Made by rotate_table.", ""};
+        "; Where tilted photos go, for a photo of 450 by 300 pixels (L) or 300 by 450 (P). Made by "
+        "rotate_table.",
+        ""};
     for (lying photo : both_ways)
         for (int rotation : table_rotations()) {
             const std::vector<std::string> section =
@@ -55,7 +57,8 @@ int check(const std::string & path)
     int wrong = 0;
     for (const auto & [photo, rotation] : {std::pair{lying::landscape, 5}, {lying::portrait, -45}})
         wrong += read_section(table, photo, rotation) == searched_numbers(photo, rotation) ? 0 : 1;
-    std::cout << (wrong == 0 ? "The sections looked at are as found.\n" : "A section differs from what is found.\n");
+    std::cout << (wrong == 0 ? "The sections looked at are as found.\n"
+                             : "A section differs from what is found.\n");
     return wrong == 0 ? 0 : 1;
 }
 

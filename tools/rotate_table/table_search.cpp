@@ -8,8 +8,8 @@ namespace {
 
 constexpr int long_side = 450, short_side = 300;  // of the photo that the numbers are made for
 
-// What has to fit round its upper left corner: frames and shadows. A preview decides it, where the numbers are divided
-// by up to 5 and a cell may be three times as long as it is high.
+// What has to fit round its upper left corner: frames and shadows. A preview decides it, where the numbers
+// are divided by up to 5 and a cell may be three times as long as it is high.
 constexpr double reach_before = 65, reach_along = 630, reach_across = 460;
 
 constexpr int play = 6;          // pixels between what has to fit and the edge of the area
@@ -69,13 +69,14 @@ void copy_from(rotation_numbers & numbers, int left, int top)
 }
 
 /// The numbers with the photo at that place and the copy that puts its corner right.
-rotation_numbers completed(rotation_numbers numbers, const tilt_sizes & sizes, int rotation, int put_left, int put_top)
+rotation_numbers completed(rotation_numbers numbers, const tilt_sizes & sizes, int rotation, int put_left,
+                           int put_top)
 {
     numbers.put_left = put_left;
     numbers.put_top = put_top;
     copy_from(numbers, 0, 0);
-    const picture_point corner = on_canvas(numbers, sizes, rotation,
-                                           {.x = static_cast<double>(put_left), .y = static_cast<double>(put_top)});
+    const picture_point corner = on_canvas(
+        numbers, sizes, rotation, {.x = static_cast<double>(put_left), .y = static_cast<double>(put_top)});
     copy_from(numbers, static_cast<int>(std::lround(corner.x)), static_cast<int>(std::lround(corner.y)));
     return numbers;
 }
@@ -118,13 +119,17 @@ struct rated_numbers {
 
 double quick_fault(const rotation_numbers & numbers, int rotation)
 {
-    const double corner = squared(corner_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
-    const double ground = squared(ground_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
+    const double corner =
+        squared(corner_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
+    const double ground =
+        squared(ground_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
     return squared(corner_error(numbers, rotation, {})) + 6 * corner + ground;
 }
 
-/// The sum over all scalings, or, once that is reached, something from `limit` up. Large errors count for much more: none should come near three pixels, and half should stay within one.
-double full_fault(const rotation_numbers & numbers, int rotation, const std::vector<scaling> & scalings, double limit)
+/// The sum over all scalings, or, once that is reached, something from `limit` up. Large errors count for
+/// much more: none should come near three pixels, and half should stay within one.
+double full_fault(const rotation_numbers & numbers, int rotation, const std::vector<scaling> & scalings,
+                  double limit)
 {
     double fault = 0;
     for (const scaling & used : scalings) {
@@ -149,7 +154,8 @@ std::vector<rated_numbers> promising(lying photo, int rotation)
         const rotation_numbers grabbed = area(reach, more[0], more[1], more[2], more[3]);
         const tilt_sizes sizes = tilt_sizes_of(grabbed, rotation);
         const picture_point place = put_place(grabbed, sizes, rotation);
-        const int put_left = static_cast<int>(std::floor(place.x)), put_top = static_cast<int>(std::floor(place.y));
+        const int put_left = static_cast<int>(std::floor(place.x)),
+                  put_top = static_cast<int>(std::floor(place.y));
         for (int side = 0; side < 4; ++side) {
             const rotation_numbers numbers =
                 completed(grabbed, sizes, rotation, put_left + side % 2, put_top + side / 2);
@@ -157,7 +163,9 @@ std::vector<rated_numbers> promising(lying photo, int rotation)
                 found.push_back({.fault = quick_fault(numbers, rotation), .numbers = numbers});
         }
     }
-    const auto better = [](const rated_numbers & one, const rated_numbers & other) { return one.fault < other.fault; };
+    const auto better = [](const rated_numbers & one, const rated_numbers & other) {
+        return one.fault < other.fault;
+    };
     std::ranges::stable_sort(found, better);
     found.resize(std::min(found.size(), finalists));
     return found;
@@ -195,7 +203,8 @@ picture_point ground_error(const rotation_numbers & numbers, int rotation, const
 bool holds_all(const rotation_numbers & numbers, lying photo, int rotation)
 {
     return std::ranges::all_of(usual_scalings(), [&](const scaling & used) {
-        return holds_scaled(scaled(numbers, used.factor, used.divisor), photo, rotation, used.factor / used.divisor);
+        return holds_scaled(scaled(numbers, used.factor, used.divisor), photo, rotation,
+                            used.factor / used.divisor);
     });
 }
 

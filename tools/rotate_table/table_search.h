@@ -4,9 +4,9 @@
 
 #include <vector>
 
-/// Finds the numbers of `rotate.ini`: the bounds of the turned photo give the area, the library's own turn gives the
-/// places in it, and a search over slightly larger areas finds those whose whole numbers err least when they are
-/// scaled.
+/// Finds the numbers of `rotate.ini`: the bounds of the turned photo give the area, the library's own turn
+/// gives the places in it, and a search over slightly larger areas finds those whose whole numbers err least
+/// when they are scaled.
 
 /// The side that is longer in the photo that the numbers are made for.
 enum class lying { landscape, portrait };
@@ -27,7 +27,8 @@ picture_point corner_error(const rotation_numbers & numbers, int rotation, const
 /// How far the background comes back beside its place.
 picture_point ground_error(const rotation_numbers & numbers, int rotation, const scaling & used);
 
-/// True when photo, frame and shadow fit into the turned area and into what is copied back, for every scaling.
+/// True when photo, frame and shadow fit into the turned area and into what is copied back, for every
+/// scaling.
 bool holds_all(const rotation_numbers & numbers, lying photo, int rotation);
 
 /// The best numbers; the same every time.

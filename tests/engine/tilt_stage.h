@@ -1,0 +1,24 @@
+#pragma once
+
+#include "session/frmMain.h"
+#include "tests/scripted_desktop.h"
+#include "tests/temporary_folder.h"
+
+#include <string>
+
+/// A session with the supplied rotation table and a white sheet, ready to draw tilted photos on
+/// `main.run.canvas`.
+struct tilt_stage {
+    tilt_stage();
+    /// Frame and shadow of the photo as the loops would settle them: `cmbFrame` holds the frame of the full
+    /// size.
+    void wear(int frame, int shadow);
+
+    scripted_desktop desk;
+    frmMain main;
+};
+
+/// The folder that all stages take as `install_folder`.
+const temporary_folder & tilt_folder();
+
+inline constexpr int white_side = 1500;  ///< of its white sheet
