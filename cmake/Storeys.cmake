@@ -1,7 +1,8 @@
 # One static library a storey. A room says in its CMakeLists.txt which of its files stand on which storey:
 #     storey(cores matching cell_geometry)
-# names engine/matching.{h,cpp} and engine/cell_geometry.{h,cpp}; a missing .cpp or .h is fine. tools/check_floors
-# reads the same lines, so the linker and the include check can't disagree.
+# names engine/matching.{h,cpp} and engine/cell_geometry.{h,cpp}; a missing .cpp or .h is fine. A name with its ending
+# is that one file: a window's header is a record, its handlers are frmX.cpp. tools/check_floors reads the same lines,
+# so the linker and the include check can't disagree.
 
 set(storeys ground records cores procedures handlers)
 foreach(name IN LISTS storeys)
@@ -12,14 +13,14 @@ endforeach()
 
 function(storey name)
     foreach(stem IN LISTS ARGN)
-        set(base ${CMAKE_CURRENT_SOURCE_DIR}/${stem})
+        string(REGEX REPLACE "\\.(h|cpp)$" "" base ${CMAKE_CURRENT_SOURCE_DIR}/${stem})
         if(NOT EXISTS ${base}.h AND NOT EXISTS ${base}.cpp)
             message(FATAL_ERROR "${base}: neither .h nor .cpp is there")
         endif()
-        if(EXISTS ${base}.cpp)
+        if(EXISTS ${base}.cpp AND NOT stem MATCHES "\\.h$")
             target_sources(${name} PRIVATE ${base}.cpp)
         endif()
-        if(EXISTS ${base}.h)
+        if(EXISTS ${base}.h AND NOT stem MATCHES "\\.cpp$")
             target_sources(${name} PUBLIC FILE_SET house_headers TYPE HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR}
                                    FILES ${base}.h)
         endif()

@@ -22,6 +22,20 @@ void fill_lists(frmMain & main)
                               "Leaves", "Ovals", "Polka Dots", "Targets", "Stripes"});
 }
 
+// Where the groups stand that share one place, or that the program moves. The load step and the orientations
+// take it from here.
+void place_groups(frmMain & main)
+{
+    main.frmShake.move({16, 488, 320, 64});
+    main.chkMatch.move({24, 96, 120, 20});
+    main.chkEvolve.move({24, 144, 120, 20});
+    main.frmBorder.move({352, 488, 320, 64});
+    main.chkOutline.move({352, 560, 160, 20});
+    main.frmAlign.move({222, 488, 200, 64});
+    main.frmDisplay.move({688, 552, 308, 40});
+    main.picSample.move({688, 60, 308, 457});
+}
+
 }  // namespace
 
 frmMain::frmMain(desktop & shown_on, random_source chance, windows * all_windows)
@@ -29,6 +43,7 @@ frmMain::frmMain(desktop & shown_on, random_source chance, windows * all_windows
 {
     set_caption("F l u r n s");
     fill_lists(*this);
+    place_groups(*this);
     cmbSpace.set_text("20");
     cmbFrame.set_text("10");
     cmbShadow.set_text("10");
@@ -41,6 +56,7 @@ frmMain::frmMain(desktop & shown_on, random_source chance, windows * all_windows
     optAlignCenter.select();
     picFrameColor.tag = "True";
     picFrameColor.set_back_color(0xFFFFFF);
+    txtCaption.set_font({.name = "Sans Serif", .size = 16});
     lblPhotos.tag = "0";
     design_locations.clear();
     scratch_locations.clear();

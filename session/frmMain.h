@@ -23,6 +23,9 @@ struct enable_memory {
     bool shadow_fixed = false;   ///< `cmbShadow` was enabled when the run began
 };
 
+/// The three orientations of a poster.
+enum class poster_shape { portrait, landscape, square };
+
 /// The one window of the session. Its controls are the settings of the collage: the engine reads them at the
 /// moment it needs them, and there is no second copy. What controls can't hold travels in the public fields
 /// below them.
@@ -177,6 +180,7 @@ struct frmMain : form {
 
     // Folders, without a separator at their end.
     std::string data_folder, install_folder;
+    std::string pictures_folder;             ///< the user's own, set by the program
     std::string image_folder, photo_folder;  ///< where the choosers last were
 
     // The design and its template.
@@ -220,6 +224,9 @@ struct frmMain : form {
     bool skip_preview_click = false;
     bool quick_active = false, quick_first_pass = false;
     bool quick_spacing_changed = false, quick_border = false;
+    double shape_row_bias = 0, shape_column_bias = 0;  ///< added by the row and column buttons
+    double shape_rows = 0, shape_columns = 0;          ///< the counts shown beside them
+    poster_shape shape_in_force = poster_shape::portrait;
     bool bg_from_design = false;
     bool bg_portrait = true;
     std::uint32_t bg_color = 0, caption_color = 0;

@@ -1,0 +1,19 @@
+#include "session/connect_all.h"
+
+#include "quick/quick_controls.h"
+#include "session/handlers.h"
+
+void connect_all(windows & all)
+{
+    connect_load(all.main);
+    connect_ornaments(all.main);
+    connect_background(all.main);
+    connect_caption(all.main);
+    connect_shake(all.main);
+    connect_output(all.main);
+    connect_menus(all.main);
+    connect_buttons(all.main);
+    connect_quick_controls(all.main);
+    connect_frmImage(all);
+    connect_frmPhotoCnt(all);
+}

@@ -1,0 +1,54 @@
+#include "quick/quick_controls.h"
+#include "session/handlers.h"
+#include "session/window_state.h"
+
+// The caption of the collage.
+
+namespace {
+
+void txtCaption_change(frmMain & main)
+{
+    const std::string & clear = main.design_record.caption_clear;
+    if (clear.empty() || clear == "Yes") {
+        if (main.txtCaption.text().empty()) {
+            main.chkClear.enable(false);
+            main.chkClear.tick(false);
+        } else if (!main.matrix_session) {
+            main.chkClear.enable(true);
+        }
+    }
+    refresh_after_change(main);
+}
+
+void take_size(frmMain & main)
+{
+    main.txtCaption.tag = main.cmbSize.text();
+    show_caption_font(main);
+    font_style font = main.txtCaption.font();
+    font.size = leading_number(main.txtCaption.tag) / 10 + 8;
+    main.txtCaption.set_font(font);
+    refresh_after_change(main);
+}
+
+void cmbSize_typed(frmMain & main)
+{
+    const double value = number_in(main.cmbSize);
+    if (value < 1)
+        main.cmbSize.set_text("40");
+    else if (value > 400)
+        main.cmbSize.set_text("260");
+    else
+        take_size(main);
+}
+
+}  // namespace
+
+void connect_caption(frmMain & main)
+{
+    main.txtCaption.on_change = [&main] { txtCaption_change(main); };
+    main.cmbSize.on_typed = [&main] { cmbSize_typed(main); };
+    main.cmbSize.on_click = [&main] { take_size(main); };
+    main.chkClear.on_change = [&main] { refresh_after_change(main); };
+    main.optTop.on_click = main.optBottom.on_click = [&main] { refresh_after_change(main); };
+    main.cmdFont.enable(false);  // its dialog isn't offered yet
+}

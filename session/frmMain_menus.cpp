@@ -1,0 +1,58 @@
+#include "session/handlers.h"
+#include "support/show_help.h"
+
+// The menu bar, and the ways out of the program.
+
+namespace {
+
+// Their dialogs aren't offered yet; a divider is never to be chosen.
+void disable_unanswered(frmMain & main)
+{
+    for (menu_entry * each :
+         {&main.mnuQuick, &main.mnuDesigned, &main.mnuMatrix, &main.mnuLettering, &main.mnuPuzzle,
+          &main.mnuSeparator, &main.mnuImport, &main.mnuEditDesigns, &main.mnuSaveDesign, &main.mnuSaveLast,
+          &main.mnuNewList, &main.mnuEditSelections, &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon,
+          &main.mnuHelpAbout})
+        each->enable(false);
+}
+
+void cleanup_memory(frmMain & main)
+{
+    main.trace = " ZZ " + main.trace;
+    if (main.all != nullptr)
+        for (form * each : main.all->others())
+            each->unload();
+    if (main.quit_requested)
+        main.unload();
+}
+
+void mnuQuit_click(frmMain & main)
+{
+    main.trace = " QUIT " + main.trace;
+    main.quit_requested = true;
+    cleanup_memory(main);
+}
+
+// The first close only backs out of the work.
+bool may_close(frmMain & main)
+{
+    main.trace = " XX " + main.trace;
+    if (!main.menus_shown) {
+        main.cmdCancel.click();
+        return false;
+    }
+    cleanup_memory(main);
+    return true;
+}
+
+}  // namespace
+
+void connect_menus(frmMain & main)
+{
+    disable_unanswered(main);
+    main.mnuQuit.on_click = [&main] { mnuQuit_click(main); };
+    main.on_query_unload = [&main] { return may_close(main); };
+    main.mnuHelpTopics.on_click = [&main] { show_help(main, "help_main.htm"); };
+    main.mnuStarted.on_click = [&main] { main.desk.open_document(documentation_address("/tutorials.htm")); };
+    main.mnuFAQ.on_click = [&main] { main.desk.open_document(documentation_address("/faq.htm")); };
+}

@@ -1,0 +1,45 @@
+#include "photos/photo_list.h"
+#include "quick/quick_controls.h"
+#include "session/handlers.h"
+
+// The photos of the collage, their order, and how many there are.
+
+namespace {
+
+void chkRandom_change(frmMain & main)
+{
+    if (main.chkRandom.ticked())
+        shuffle_photos(main);
+    refresh_preview(main);
+}
+
+void cmdShuffle_click(frmMain & main)
+{
+    shuffle_photos(main);
+    refresh_preview(main);
+}
+
+// The caption says what the click does.
+void cmdMore_click(frmMain & main)
+{
+    main.cmdMore.tag = main.cmdMore.caption() == "Fewer photos" ? "fewer" : "";
+    refresh_preview(main);
+}
+
+void cmbBlanks_change(frmMain & main)
+{
+    if (main.cmbBlanks.visible())
+        refresh_preview(main);
+}
+
+}  // namespace
+
+void connect_output(frmMain & main)
+{
+    main.chkMatch.on_change = [&main] { refresh_preview(main); };
+    main.chkRandom.on_change = [&main] { chkRandom_change(main); };
+    main.cmdShuffle.on_click = [&main] { cmdShuffle_click(main); };
+    main.cmdMore.on_click = [&main] { cmdMore_click(main); };
+    main.cmbBlanks.on_typed = main.cmbBlanks.on_click = [&main] { cmbBlanks_change(main); };
+    main.cmdPhotos.enable(false);  // its dialog isn't offered yet
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "session/frmMain.h"
+
+#include <string>
+#include <string_view>
+
+/// Opens a help page, given by its file name: the one installed beside the program, else the one of the
+/// documentation site.
+void show_help(const frmMain & main, const std::string & topic);
+
+/// Address of a page of the documentation site; `path` begins with "/".
+std::string documentation_address(std::string_view path);
