@@ -95,7 +95,6 @@ void prepare_data_folder(frmMain & main, const folder_choice & choice)
     if (choice.use_public_folder) {
         main.data_folder = choice.public_folder;
         prepare_public_folder(main);
-        supply_package_folders(main);
     } else {
         check_base_folders(main);
         check_install_marker(main);

@@ -52,6 +52,7 @@ void install_frame_sets(frmMain & main);
 void first_run_notice(frmMain & main);
 
 /// Copies the letter and puzzle pictures when they are missing and the data folder isn't the program's own.
+/// Done after prepare_data_folder.
 void supply_package_folders(frmMain & main);
 
 /// Deletes the matrix work file and disables saving.

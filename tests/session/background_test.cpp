@@ -1,0 +1,143 @@
+#include "support/MFreeImage.h"
+#include "tests/pictures.h"
+#include "tests/session/opened_session.h"
+
+namespace {
+
+std::string picture_of(const opened_session & session, int width, int height)
+{
+    const std::string path = session.folder.at("photos/back.jpg");
+    save_jpeg(plain(width, height, {1, 2, 3}), path);
+    return path;
+}
+
+}  // namespace
+
+TEST(optBGimage, asks_for_a_picture_and_draws_once)
+{
+    opened_session session;
+    session.finish();
+    session.main.optSolid.select();
+    session.main.cmdFlurn.enable(false);
+    const std::string path = picture_of(session, 8, 4);
+    session.desk.will_choose_file(path);
+    EXPECT_EQ(session.previews_of([&] { session.main.optBGimage.select(); }), 1);
+    expect_states(session.main, "txtBGimage^ cmdBGimage^ frmBlend^ optBGimage1 optSolid0 cmdFlurn+");
+    EXPECT_EQ(session.main.txtBGimage.text(), path);
+    EXPECT_EQ(session.main.image_folder, folder_of(path));
+    EXPECT_FALSE(session.main.bg_portrait);
+}
+
+TEST(optBGimage, does_not_ask_when_there_is_a_picture)
+{
+    opened_session session;
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.optBGimage.select();
+    EXPECT_EQ(session.main.txtBGimage.text(), "/a.jpg");
+}
+
+TEST(optBGimage, stays_selected_after_a_cancel)
+{
+    opened_session session;
+    session.desk.will_choose_file(std::nullopt);
+    session.main.optBGimage.select();
+    expect_states(session.main, "optBGimage1");
+    EXPECT_EQ(session.main.txtBGimage.text(), "");
+}
+
+TEST(optBGimage, shows_no_picture_controls_for_the_picture_of_a_design)
+{
+    opened_session session;
+    session.main.load();
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.bg_from_design = true;
+    session.main.optBGimage.select();
+    expect_states(session.main, "txtBGimage_ cmdBGimage_ frmBlend_");
+}
+
+TEST(cmdBGimage, tells_portrait_pictures_from_landscape_ones)
+{
+    struct row {
+        int width, height;
+        bool portrait;
+    };
+    for (const row & each : {row{4, 8, true}, row{8, 4, false}, row{5, 5, true}}) {
+        opened_session session;
+        session.main.bg_portrait = !each.portrait;
+        session.desk.will_choose_file(picture_of(session, each.width, each.height));
+        session.main.cmdBGimage.click();
+        EXPECT_EQ(session.main.bg_portrait, each.portrait) << each.width << " by " << each.height;
+    }
+}
+
+TEST(optSolid, hides_the_picture_controls_and_notes_the_colour)
+{
+    opened_session session;
+    session.finish();
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.optBGimage.select();
+    session.main.picBGcolor.set_back_color(0x123456);
+    session.main.cmdFlurn.enable(false);
+    EXPECT_EQ(session.previews_of([&] { session.main.optSolid.select(); }), 1);
+    expect_states(session.main, "txtBGimage_ cmdBGimage_ frmBlend_ cmdFlurn+");
+    EXPECT_EQ(session.main.bg_color, 0x123456u);
+}
+
+TEST(txtBGimage, emptied_by_the_user_selects_the_plain_background)
+{
+    opened_session session;
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.optBGimage.select();
+    session.main.txtBGimage.set_text("");
+    expect_states(session.main, "optSolid1 optBGimage0");
+    EXPECT_TRUE(session.main.skip_preview_click);
+}
+
+TEST(txtBGimage, emptied_by_the_window_leaves_the_options)
+{
+    opened_session session;
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.optBGimage.select();
+    const updating quiet(session.main);
+    session.main.txtBGimage.set_text("");
+    expect_states(session.main, "optBGimage1");
+    EXPECT_FALSE(session.main.skip_preview_click);
+}
+
+TEST(txtBGimage, each_change_is_drawn_unless_the_user_is_typing)
+{
+    opened_session session;
+    session.finish();
+    session.main.cmdFlurn.enable(false);
+    EXPECT_EQ(session.previews_of([&] { session.main.txtBGimage.set_text("/a.jpg"); }), 1);
+    expect_states(session.main, "cmdFlurn+");
+    fire(session.main.txtBGimage.on_enter);
+    expect_states(session.main, "optPreview0");
+    EXPECT_EQ(session.previews_of([&] { session.main.txtBGimage.set_text("/ab.jpg"); }), 0);
+}
+
+TEST(background_color, is_chosen_by_button_and_swatch)
+{
+    opened_session session;
+    session.finish();
+    session.desk.will_choose_color(0x010203);
+    EXPECT_EQ(session.previews_of([&] { session.main.picBGcolor.click(); }), 1);
+    EXPECT_EQ(session.main.picBGcolor.back_color(), 0x010203u);
+    session.desk.will_choose_color(std::nullopt);
+    EXPECT_EQ(session.previews_of([&] { session.main.cmdBGcolor.click(); }), 0);
+    EXPECT_EQ(session.main.picBGcolor.back_color(), 0x010203u);
+}
+
+TEST(after_changes, of_blend_outline_and_border_are_drawn_once_each)
+{
+    opened_session session;
+    session.finish();
+    frmMain & main = session.main;
+    EXPECT_EQ(session.previews_of([&] { main.cmbBlend.choose(3); }), 1);
+    EXPECT_EQ(session.previews_of([&] { main.cmbBlend.set_text("35"); }), 1);
+    EXPECT_EQ(session.previews_of([&] { main.chkOutline.tick(true); }), 1);
+    for (option_button * each : {&main.optTiny, &main.optSmall, &main.optMedium, &main.optLarge,
+                                 &main.optHuge, &main.optNone})
+        EXPECT_EQ(session.previews_of([&] { each->select(); }), 1) << each->name();
+    EXPECT_EQ(main.chkOutline.tag, "");
+}
