@@ -46,6 +46,7 @@ frmMain::frmMain(desktop & shown_on, random_source chance, windows * all_windows
     place_groups(*this);
     cmbSpace.set_text("20");
     cmbFrame.set_text("10");
+    last_frame_size = cmbFrame.text();
     cmbShadow.set_text("10");
     cmbSize.set_text("60");
     cmbShapes.set_text("Squares");

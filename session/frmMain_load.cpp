@@ -104,7 +104,7 @@ void load_main(frmMain & main)
     set_output_message();
     main.cmbFrame.set_text("10");
     main.cmbShadow.set_text("10");
-    main.last_frame_size = "10";
+    main.last_frame_size = main.cmbFrame.text();
     reset_photos(main);
     offer_custom_shape(main);
     main.frmAlign.show(false);

@@ -136,8 +136,8 @@ TEST(after_changes, of_blend_outline_and_border_are_drawn_once_each)
     EXPECT_EQ(session.previews_of([&] { main.cmbBlend.choose(3); }), 1);
     EXPECT_EQ(session.previews_of([&] { main.cmbBlend.set_text("35"); }), 1);
     EXPECT_EQ(session.previews_of([&] { main.chkOutline.tick(true); }), 1);
-    for (option_button * each : {&main.optTiny, &main.optSmall, &main.optMedium, &main.optLarge,
-                                 &main.optHuge, &main.optNone})
+    for (option_button * each :
+         {&main.optTiny, &main.optSmall, &main.optMedium, &main.optLarge, &main.optHuge, &main.optNone})
         EXPECT_EQ(session.previews_of([&] { each->select(); }), 1) << each->name();
     EXPECT_EQ(main.chkOutline.tag, "");
 }

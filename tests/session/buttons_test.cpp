@@ -91,15 +91,17 @@ TEST(help, tutorials_and_questions_are_on_the_site)
 TEST(menus, offer_what_has_an_answer)
 {
     opened_session session;
-    expect_states(session.main, "mnuFile+ mnuQuit+ mnuHelp+ mnuHelpTopics+ mnuStarted+ mnuFAQ+ mnuDesign+ "
-                                "mnuPictures+ mnuFrames+ mnuSeparator-");
+    expect_states(session.main,
+                  "mnuFile+ mnuQuit+ mnuHelp+ mnuHelpTopics+ mnuStarted+ mnuFAQ+ mnuDesign+ "
+                  "mnuPictures+ mnuFrames+ mnuSeparator-");
     const std::set<control *> containers{&session.main.mnuFile, &session.main.mnuDesign,
                                          &session.main.mnuPictures, &session.main.mnuFrames,
                                          &session.main.mnuHelp};
     for (control * each : session.main.controls()) {
         const auto * const entry = dynamic_cast<menu_entry *>(each);
-        if (entry != nullptr && !containers.contains(each))
+        if (entry != nullptr && !containers.contains(each)) {
             EXPECT_EQ(entry->enabled(), static_cast<bool>(entry->on_click)) << entry->name();
+        }
     }
 }
 
@@ -108,7 +110,8 @@ TEST(buttons, that_are_enabled_do_something)
     opened_session session;
     for (control * each : session.main.controls()) {
         const auto * const pressed = dynamic_cast<button *>(each);
-        if (pressed != nullptr && pressed->enabled())
+        if (pressed != nullptr && pressed->enabled()) {
             EXPECT_TRUE(pressed->on_click) << pressed->name();
+        }
     }
 }

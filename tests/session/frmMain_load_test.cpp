@@ -12,9 +12,10 @@ TEST(load_main, sets_the_start_state)
     main.picBGcolor.set_back_color(9);
     main.lblPhotos.tag = "2";
     main.load();
-    expect_states(main, "frmAlign_ frmSquares_ chkOutline_ txtBGimage_ cmdBGimage_ frmBlend_ cmdFlurn- "
-                        "mnuSaveDesign- frmOutput_ frmOrnaments_ frmBackground_ frmCaption_ frmButtons_ "
-                        "frmBorder_ picSample_ frmDisplay_ frmOrientation_ frmStyle_ frmShake_ frmSpace_");
+    expect_states(main,
+                  "frmAlign_ frmSquares_ chkOutline_ txtBGimage_ cmdBGimage_ frmBlend_ cmdFlurn- "
+                  "mnuSaveDesign- frmOutput_ frmOrnaments_ frmBackground_ frmCaption_ frmButtons_ "
+                  "frmBorder_ picSample_ frmDisplay_ frmOrientation_ frmStyle_ frmShake_ frmSpace_");
     EXPECT_FALSE(main.quick_active || main.frames_design || main.matrix_session || main.bg_from_design);
     EXPECT_TRUE(main.borders_free);
     EXPECT_EQ(main.caption_color, 0u);

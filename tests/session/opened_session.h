@@ -14,9 +14,7 @@
 struct opened_session {
     opened_session()
     {
-        for (const char * name : {"install/images", "data/tmp", "data/designs", "data/piclists",
-                                  "data/user_images", "data/frames"})
-            make_folders(name);
+        folder.at("data/tmp/x");
         main.install_folder = folder.at("install");
         main.data_folder = folder.at("data");
         connect_all(all);
@@ -51,9 +49,6 @@ struct opened_session {
     scripted_desktop desk;
     windows all{desk, random_source{.next = [this] { return ++draws, 0.5; }, .reseed = [] {}}};
     frmMain & main = all.main;
-
-private:
-    void make_folders(const std::string & name) { folder.at(name + "/x"); }
 };
 
 /// Checks controls by words such as "cmbFrame-": + enabled, - disabled, ^ visible, _ hidden, 1 ticked or

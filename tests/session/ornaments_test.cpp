@@ -80,9 +80,9 @@ TEST(cmbFrame, cuts_what_is_typed_into_range)
     struct row {
         const char *typed, *shown;
     };
-    for (const row & each : {row{"70", "60"}, row{"60", "60"}, row{"60.5", "60"}, row{"0.5", "0"},
-                             row{"-3", "0"}, row{"", "0"}, row{"abc", "0"}, row{"1", "1"}, row{"17", "17"},
-                             row{"0", "0"}, row{"00", "0"}}) {
+    for (const row & each :
+         {row{"70", "60"}, row{"60", "60"}, row{"60.5", "60"}, row{"0.5", "0"}, row{"-3", "0"}, row{"", "0"},
+          row{"abc", "0"}, row{"1", "1"}, row{"17", "17"}, row{"0", "0"}, row{"00", "0"}}) {
         opened_session session;
         session.main.cmbFrame.set_text(each.typed);
         EXPECT_EQ(session.main.cmbFrame.text(), each.shown) << each.typed;
@@ -130,7 +130,8 @@ TEST(cmbShadow, cuts_what_is_typed_into_range)
     struct row {
         const char *typed, *shown;
     };
-    for (const row & each : {row{"70", "50"}, row{"50", "50"}, row{"0.9", "0"}, row{"", "0"}, row{"3", "3"}}) {
+    for (const row & each :
+         {row{"70", "50"}, row{"50", "50"}, row{"0.9", "0"}, row{"", "0"}, row{"3", "3"}}) {
         opened_session session;
         session.main.cmbShadow.set_text(each.typed);
         EXPECT_EQ(session.main.cmbShadow.text(), each.shown) << each.typed;

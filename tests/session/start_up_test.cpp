@@ -62,7 +62,8 @@ struct fresh_program {
 };
 
 const std::string welcome =
-    "\r\nWelcome to Tessaloom\r\n\r\n\r\nThis appears to be the first time you have used this application and "
+    "\r\nWelcome to Tessaloom\r\n\r\n\r\nThis appears to be the first time you have used this application "
+    "and "
     "we\r\nneed to do a final configuration.\r\n\r\nClick the OK and give us a few seconds to get things "
     "ready.";
 
@@ -115,8 +116,8 @@ TEST(start_up, a_first_start_welcomes_once_and_brings_everything_into_being)
     program.start();
     EXPECT_EQ(program.desk.next_message(), welcome);
     EXPECT_EQ(program.desk.titles.front(), "T e s s a l o o m   C o n f i g u r a t i o n");
-    for (const char * name : {"tmp", "designs", "descriptions", "samples", "piclists", "user_images",
-                              "frames", "icons"})
+    for (const char * name :
+         {"tmp", "designs", "descriptions", "samples", "piclists", "user_images", "frames", "icons"})
         EXPECT_TRUE(folder_exists(joined(program.data, name))) << name;
     EXPECT_EQ(program.text("designs.ini"), "[Design001]\r\nName=supplied\r\n");
     EXPECT_EQ(program.text("icons/icons"), "list");
@@ -205,8 +206,7 @@ TEST(start_up, replaces_the_four_named_files_of_a_frame_set_and_no_others)
     fresh_program program;
     for (const char * file : {"captions", "design.ini", "lframe00.jpg", "pframe00.jpg", "pframe01.jpg"})
         for (const char * set : {"basketball", "cardinals", "colts", "rams", "soccer", "mine"})
-            program.folder.write(
-                std::string("home/share/tessaloom4/frames/") + set + "/" + file, "old");
+            program.folder.write(std::string("home/share/tessaloom4/frames/") + set + "/" + file, "old");
     program.start();
     EXPECT_EQ(program.text("frames/colts/captions"), "new");
     for (const char * set : {"basketball", "cardinals", "colts", "rams", "soccer"}) {

@@ -20,9 +20,10 @@ TEST(show_work_controls, shows_the_quick_groups_only_while_a_quick_style_is_acti
     show_work_controls(session.main, false);
     session.main.cmdFlurn.set_caption("Save");
     show_work_controls(session.main, true);
-    expect_states(session.main, "frmOutput^ frmOrnaments^ frmBackground^ frmCaption^ frmButtons^ frmBorder^ "
-                                "picSample^ frmDisplay^ frmOrientation_ frmStyle_ frmShake_ frmSpace_ "
-                                "frmAlign_ frmSquares_ chkOutline_");
+    expect_states(session.main,
+                  "frmOutput^ frmOrnaments^ frmBackground^ frmCaption^ frmButtons^ frmBorder^ "
+                  "picSample^ frmDisplay^ frmOrientation_ frmStyle_ frmShake_ frmSpace_ "
+                  "frmAlign_ frmSquares_ chkOutline_");
     EXPECT_EQ(session.main.cmdFlurn.caption(), "Flurn");
     session.main.quick_active = true;
     show_work_controls(session.main, true);
@@ -36,13 +37,15 @@ TEST(show_menus, shows_and_hides_all_eleven)
 {
     opened_session session;
     show_menus(session.main, false);
-    expect_states(session.main, "mnuFile_ mnuQuick_ mnuDesigned_ mnuMatrix_ mnuLettering_ mnuPuzzle_ "
-                                "mnuSeparator_ mnuDesign_ mnuPictures_ mnuFrames_ mnuHelp_ mnuQuit^");
+    expect_states(session.main,
+                  "mnuFile_ mnuQuick_ mnuDesigned_ mnuMatrix_ mnuLettering_ mnuPuzzle_ "
+                  "mnuSeparator_ mnuDesign_ mnuPictures_ mnuFrames_ mnuHelp_ mnuQuit^");
     EXPECT_FALSE(session.main.menus_shown);
     EXPECT_EQ(session.main.caption(), "F i n i s h i n g   t o u c h e s");
     show_menus(session.main, true);
-    expect_states(session.main, "mnuFile^ mnuQuick^ mnuDesigned^ mnuMatrix^ mnuLettering^ mnuPuzzle^ "
-                                "mnuSeparator^ mnuDesign^ mnuPictures^ mnuFrames^ mnuHelp^");
+    expect_states(session.main,
+                  "mnuFile^ mnuQuick^ mnuDesigned^ mnuMatrix^ mnuLettering^ mnuPuzzle^ "
+                  "mnuSeparator^ mnuDesign^ mnuPictures^ mnuFrames^ mnuHelp^");
     EXPECT_TRUE(session.main.menus_shown);
     EXPECT_EQ(session.main.caption(), "F l u r n s");
 }
@@ -62,11 +65,11 @@ TEST(enable_all, frees_every_control_that_a_design_may_limit)
     opened_session session;
     session.main.cmdFont.on_click = [] {};
     const char * const names[] = {
-        "optTop",      "optBottom",     "txtCaption",     "lblFontSize",    "cmbSize",    "cmdFont",
-        "lblShadow",   "cmbShadow",     "cmdShadowColor", "picShadowColor", "lblFrame",   "cmbFrame",
-        "lblFont",     "cmdFrameColor", "picFrameColor",  "optBGimage",     "optSolid",   "cmdBGcolor",
-        "cmbBlend",    "lblBlend",      "chkCaption",     "chkSoftEdge",    "chkRounded", "cmdBGimage",
-        "picBGcolor",  "txtBGimage"};
+        "optTop",     "optBottom",     "txtCaption",     "lblFontSize",    "cmbSize",    "cmdFont",
+        "lblShadow",  "cmbShadow",     "cmdShadowColor", "picShadowColor", "lblFrame",   "cmbFrame",
+        "lblFont",    "cmdFrameColor", "picFrameColor",  "optBGimage",     "optSolid",   "cmdBGcolor",
+        "cmbBlend",   "lblBlend",      "chkCaption",     "chkSoftEdge",    "chkRounded", "cmdBGimage",
+        "picBGcolor", "txtBGimage"};
     for (const char * name : names)
         session.main.find(name)->enable(false);
     for (picture * each :
@@ -113,8 +116,9 @@ TEST(set_enable, closes_the_window_for_a_run_and_opens_it_as_it_was)
     set_enable(session.main, false);
     expect_states(session.main, nine_disabled);
     set_enable(session.main, true);
-    expect_states(session.main, "frmOutput+ frmStyle+ frmOrientation+ frmShake- frmBackground+ frmOrnaments+ "
-                                "frmBorder- frmCaption+ frmDisplay+ cmdFlurn+ cmdHelp+");
+    expect_states(session.main,
+                  "frmOutput+ frmStyle+ frmOrientation+ frmShake- frmBackground+ frmOrnaments+ "
+                  "frmBorder- frmCaption+ frmDisplay+ cmdFlurn+ cmdHelp+");
 }
 
 TEST(set_enable, the_same_value_twice_changes_nothing)

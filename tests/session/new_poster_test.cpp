@@ -1,0 +1,479 @@
+#include "session/new_poster.h"
+
+#include "support/platform_error.h"
+#include "tests/session/opened_session.h"
+
+namespace {
+
+// One design record, changed in one or a few keys, and the states that it has to bring about.
+struct record_row {
+    const char * name;
+    void (*change)(frmMain &);
+    const char * states;
+};
+
+class new_poster_applies : public testing::TestWithParam<record_row> {};
+
+std::string row_name(const testing::TestParamInfo<record_row> & info)
+{
+    return info.param.name;
+}
+
+constexpr const char * borders_enabled = "optNone+ optTiny+ optSmall+ optMedium+ optLarge+ optHuge+";
+constexpr const char * borders_disabled =
+    "optNone- optTiny- optSmall- optMedium- optLarge- optHuge- optNone1";
+
+}  // namespace
+
+TEST_P(new_poster_applies, what_the_record_says)
+{
+    opened_session session;
+    GetParam().change(session.main);
+    new_poster(session.main);
+    expect_states(session.main, GetParam().states);
+    EXPECT_EQ(session.previews(), 0);
+    EXPECT_FALSE(session.main.updating_controls);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    stage, new_poster_applies,
+    testing::Values(
+        record_row{"enters_the_finishing_stage", [](frmMain &) {},
+                   "mnuFile_ mnuDesigned_ frmOutput^ frmOrnaments^ frmBackground^ frmCaption^ frmButtons^ "
+                   "frmBorder^ picSample^ frmDisplay^ frmStyle_ cmdHelp+ mnuSaveDesign- chkRandom^ "
+                   "cmdShuffle^ txtBGimage_ chkRounded+ chkCaption+ chkSoftEdge+"},
+        record_row{"shows_what_was_hidden",
+                   [](frmMain & main) {
+                       main.chkRandom.show(false);
+                       main.cmdShuffle.show(false);
+                       main.cmdHelp.enable(false);
+                       main.mnuSaveDesign.enable(true);
+                   },
+                   "chkRandom^ cmdShuffle^ cmdHelp+ mnuSaveDesign-"},
+        record_row{"block_keeps_the_spacing_open",
+                   [](frmMain & main) {
+                       main.quick_active = true;
+                       main.optBlock.on_click = nullptr;
+                       main.optBlock.select();
+                       main.design_record.match = "No";
+                   },
+                   "frmSpace^ frmShake_"}),
+    row_name);
+
+INSTANTIATE_TEST_SUITE_P(
+    matching, new_poster_applies,
+    testing::Values(
+        record_row{"yes",
+                   [](frmMain & main) {
+                       main.cmbSpace.show(false);
+                       main.quick_active = true;
+                   },
+                   "chkMatch^ chkMatch1 frmShake_ cmbSpace^"},
+        record_row{"empty", [](frmMain & main) { main.design_record.match = ""; }, "chkMatch^ chkMatch1"},
+        record_row{"no", [](frmMain & main) { main.design_record.match = "No"; }, "chkMatch_ chkMatch0"},
+        record_row{"both_matrix",
+                   [](frmMain & main) {
+                       main.matrix_both = true;
+                       main.design_record.match = "No";
+                       main.chkCaption.tick(true);
+                   },
+                   "chkMatch1 chkMatch- chkCaption0 chkCaption-"}),
+    row_name);
+
+INSTANTIATE_TEST_SUITE_P(frames_of_a_set, new_poster_applies,
+                         testing::Values(record_row{"untick_all_three",
+                                                    [](frmMain & main) {
+                                                        main.design_record.file = "__frames";
+                                                        main.chkSoftEdge.tick(true);
+                                                    },
+                                                    "chkSoftEdge0 chkCaption0 chkRounded0 frmOrnaments^"},
+                                         record_row{"a_matrix_of_frames_too",
+                                                    [](frmMain & main) {
+                                                        main.frames_design = true;
+                                                        main.chkRounded.tick(true);
+                                                    },
+                                                    "chkRounded0"}),
+                         row_name);
+
+INSTANTIATE_TEST_SUITE_P(
+    borders, new_poster_applies,
+    testing::Values(record_row{"a_grid_has_none",
+                               [](frmMain & main) {
+                                   main.design_record.style = "Matrix";
+                                   main.optHuge.select();
+                               },
+                               borders_disabled},
+                    record_row{"free_again",
+                               [](frmMain & main) {
+                                   for (option_button * each : main.border_options)
+                                       each->enable(false);
+                               },
+                               borders_enabled},
+                    record_row{"not_free_are_left_alone",
+                               [](frmMain & main) {
+                                   main.borders_free = false;
+                                   main.optHuge.enable(false);
+                               },
+                               "optHuge- optTiny+"},
+                    record_row{"no", [](frmMain & main) { main.design_record.borders = "No"; },
+                               "frmBorder- frmBorder_"},
+                    record_row{"any_other_value", [](frmMain & main) { main.design_record.borders = "Yes"; },
+                               "frmBorder+ frmBorder^"}),
+    row_name);
+
+INSTANTIATE_TEST_SUITE_P(
+    background, new_poster_applies,
+    testing::Values(record_row{"either", [](frmMain &) {}, "optSolid1 optBGimage0 optBGimage+ optSolid+"},
+                    record_row{"empty", [](frmMain & main) { main.design_record.bg_image = ""; },
+                               "optSolid1 optBGimage0 optBGimage+ optSolid+ cmdBGcolor+"},
+                    record_row{"solid", [](frmMain & main) { main.design_record.bg_image = "Solid"; },
+                               "optSolid1 optSolid+ optBGimage0 optBGimage- cmdBGcolor+ picBGcolor^"},
+                    record_row{"none", [](frmMain & main) { main.design_record.bg_image = "None"; },
+                               "optSolid1 optSolid- optBGimage0 optBGimage- cmdBGcolor- cmdBGimage- "
+                               "picBGcolor_ frmBlend_"},
+                    record_row{"a_picture", [](frmMain & main) { main.design_record.bg_image = "sea.jpg"; },
+                               "optSolid0 optBGimage0 optSolid- optBGimage- txtBGimage_ cmbBlend- lblBlend- "
+                               "cmdBGcolor- cmdBGimage- picBGcolor- picBGcolor_"}),
+    row_name);
+
+INSTANTIATE_TEST_SUITE_P(
+    caption, new_poster_applies,
+    testing::Values(record_row{"none", [](frmMain & main) { main.design_record.caption = "None"; },
+                               "optTop- optBottom- txtCaption- lblFontSize- cmbSize- cmdFont- lblFont-"},
+                    record_row{"top",
+                               [](frmMain & main) {
+                                   main.optBottom.select();
+                                   main.design_record.caption = "Top";
+                               },
+                               "optTop1 optTop+ optBottom-"},
+                    record_row{"bottom", [](frmMain & main) { main.design_record.caption = "Bottom"; },
+                               "optBottom1 optBottom+ optTop-"},
+                    record_row{"a_text_leaves_the_places",
+                               [](frmMain & main) { main.design_record.caption = "Us"; },
+                               "optTop1 optTop+ optBottom+ txtCaption+ chkClear-"},
+                    record_row{"cleared",
+                               [](frmMain & main) {
+                                   main.design_record.caption = "Us";
+                                   main.design_record.caption_clear = "Yes";
+                                   main.chkClear.enable(false);
+                               },
+                               "chkClear+"},
+                    record_row{"cleared_without_a_text",
+                               [](frmMain & main) {
+                                   main.design_record.caption_clear = "Yes";
+                                   main.chkClear.tick(true);
+                               },
+                               "chkClear- chkClear0"},
+                    record_row{"not_cleared",
+                               [](frmMain & main) {
+                                   main.txtCaption.set_text("Us");
+                                   main.chkClear.tick(true);
+                                   main.design_record.caption_clear = "Same";
+                               },
+                               "chkClear- chkClear0"},
+                    record_row{"a_quick_style_may_clear",
+                               [](frmMain & main) {
+                                   main.txtCaption.set_text("Us");
+                                   main.chkClear.enable(false);
+                                   main.quick_active = true;
+                               },
+                               "chkClear+"}),
+    row_name);
+
+INSTANTIATE_TEST_SUITE_P(
+    frame, new_poster_applies,
+    testing::Values(
+        record_row{"yes", [](frmMain &) {},
+                   "lblFrame+ cmbFrame+ cmdFrameColor+ picFrameColor+ picFrameColor^"},
+        record_row{"empty", [](frmMain & main) { main.design_record.frames = ""; },
+                   "cmbFrame+ frmOrnaments^"},
+        record_row{"no", [](frmMain & main) { main.design_record.frames = "No"; },
+                   "lblFrame- cmbFrame- cmdFrameColor- picFrameColor- picFrameColor_"},
+        record_row{"colour_only", [](frmMain & main) { main.design_record.frames = "Color"; },
+                   "lblFrame- cmbFrame- cmdFrameColor+ picFrameColor+ picFrameColor^"},
+        record_row{"adjust", [](frmMain & main) { main.design_record.frames = "Adjust"; }, "cmbFrame+"},
+        record_row{"none", [](frmMain & main) { main.design_record.frames = "None"; }, "frmOrnaments_"},
+        record_row{"a_size", [](frmMain & main) { main.design_record.frames = "15"; },
+                   "lblFrame- cmbFrame- chkCaption- chkSoftEdge- chkRounded- picFrameColor- cmdFrameColor+"},
+        record_row{"a_fixed_colour", [](frmMain & main) { main.design_record.frame_color = "Red"; },
+                   "cmdFrameColor- picFrameColor- cmbFrame+"},
+        record_row{"hidden_for_letters", [](frmMain & main) { main.lblDesign.set_caption("Lettering"); },
+                   "frmOrnaments_"},
+        record_row{"hidden_for_puzzles", [](frmMain & main) { main.lblDesign.set_caption("Puzzle"); },
+                   "frmOrnaments_"}),
+    row_name);
+
+INSTANTIATE_TEST_SUITE_P(
+    shadow, new_poster_applies,
+    testing::Values(
+        record_row{"yes", [](frmMain &) {}, "lblShadow+ cmbShadow+ cmdShadowColor+ picShadowColor^"},
+        record_row{"empty", [](frmMain & main) { main.design_record.shadows = ""; }, "cmbShadow+"},
+        record_row{"no", [](frmMain & main) { main.design_record.shadows = "No"; },
+                   "lblShadow- cmbShadow- cmdShadowColor- picShadowColor- picShadowColor_"},
+        record_row{"colour_only", [](frmMain & main) { main.design_record.shadows = "Color"; },
+                   "lblShadow- cmbShadow- cmdShadowColor+ picShadowColor+ picShadowColor^"},
+        record_row{"a_size", [](frmMain & main) { main.design_record.shadows = "15"; },
+                   "lblShadow- cmbShadow- chkCaption- chkSoftEdge- chkRounded- picShadowColor- "
+                   "picShadowColor_"},
+        record_row{"a_fixed_colour", [](frmMain & main) { main.design_record.shadow_color = "Green"; },
+                   "cmdShadowColor- picShadowColor- cmbShadow+"}),
+    row_name);
+
+INSTANTIATE_TEST_SUITE_P(
+    photo_style, new_poster_applies,
+    testing::Values(
+        record_row{"a_block_has_no_cards",
+                   [](frmMain & main) {
+                       main.chkCaption.tick(true);
+                       main.design_record.design = "Block";
+                   },
+                   "chkCaption- chkCaption0 chkRounded+"},
+        record_row{"no_soft_edges", [](frmMain & main) { main.design_record.soft_edge = "No"; },
+                   "chkSoftEdge- chkRounded- chkCaption+"},
+        record_row{"soft_edges",
+                   [](frmMain & main) {
+                       main.chkCaption.tick(true);
+                       main.design_record.soft_edge = "Yes";
+                   },
+                   "chkSoftEdge1 chkSoftEdge+ chkRounded0 chkCaption0 chkCaption- lblFrame- lblShadow- "
+                   "cmbShadow- cmbFrame- cmdShadowColor- cmdFrameColor- picShadowColor- picShadowColor_ "
+                   "picFrameColor- picFrameColor_ frmHideOrnaments_"},
+        record_row{"no_cards", [](frmMain & main) { main.design_record.block = "No"; },
+                   "chkCaption- chkSoftEdge+"},
+        record_row{"cards",
+                   [](frmMain & main) {
+                       main.chkSoftEdge.tick(true);
+                       main.design_record.block = "Yes";
+                       main.design_record.frames = "No";
+                       main.cmdFrameColor.show(false);
+                   },
+                   "chkCaption1 chkCaption+ chkSoftEdge0 chkSoftEdge- chkRounded0 chkRounded- lblFrame- "
+                   "lblShadow- cmbShadow- cmbFrame- cmdShadowColor- picShadowColor- picShadowColor_ "
+                   "picFrameColor+ picFrameColor^ cmdFrameColor+ cmdFrameColor^"},
+        record_row{"a_scatter_may_evolve",
+                   [](frmMain & main) {
+                       main.chkEvolve.show(false);
+                       main.chkEvolve.tick(true);
+                       main.design_record.design = "Scatter";
+                   },
+                   "chkEvolve^ chkEvolve1 chkRounded-"},
+        record_row{"others_may_not",
+                   [](frmMain & main) {
+                       main.chkEvolve.tick(true);
+                       main.design_record.design = "Block";
+                   },
+                   "chkEvolve_ chkEvolve0 chkRounded+"},
+        record_row{"no_round_corners_in_a_frame_design",
+                   [](frmMain & main) { main.design_record.design = "Frame"; }, "chkRounded-"},
+        record_row{"no_round_corners_in_a_theme", [](frmMain & main) { main.design_record.design = "Theme"; },
+                   "chkRounded-"},
+        record_row{"no_round_corners_in_a_turned_matrix", [](frmMain & main) { main.matrix_rotate = true; },
+                   "chkRounded-"}),
+    row_name);
+
+TEST(new_poster, begins_a_new_collage)
+{
+    opened_session session;
+    frmMain & main = session.main;
+    main.run.cancel_requested = main.run.match_active = main.frames_inside = true;
+    main.table.reshuffle_choice = photo_table::reshuffle::yes;
+    main.cmbSize.set_text("80");
+    main.borders_free = false;
+    new_poster(main);
+    EXPECT_FALSE(main.run.cancel_requested || main.run.match_active || main.frames_inside);
+    EXPECT_EQ(main.table.reshuffle_choice, photo_table::reshuffle::not_asked);
+    EXPECT_EQ(main.cmbSize.text(), "80");
+    EXPECT_EQ(main.cmbBlend.text(), "70");
+    EXPECT_TRUE(main.borders_free);
+    EXPECT_TRUE(main.design_matches);
+    EXPECT_EQ(main.caption(), "F i n i s h i n g   t o u c h e s");
+    EXPECT_EQ(main.picFrameColor.tag, "True");
+}
+
+TEST(new_poster, asks_again_for_a_picture_that_was_never_given)
+{
+    opened_session session;
+    session.desk.will_choose_file(std::nullopt);
+    session.main.optBGimage.select();
+    session.desk.will_choose_file("/sea.jpg");
+    new_poster(session.main);
+    EXPECT_EQ(session.main.txtBGimage.text(), "/sea.jpg");
+    expect_states(session.main, "optSolid1 optBGimage0");
+}
+
+TEST(new_poster, colours_the_caption_so_that_it_can_be_read)
+{
+    struct row {
+        std::uint32_t background, chosen, text;
+    };
+    for (const row & each :
+         {row{0, 0, 16777215}, row{0xFFFFFF, 0, 0}, row{1, 0, 0}, row{0, 0x1234, 0x1234}}) {
+        opened_session session;
+        session.main.picBGcolor.set_back_color(each.background);
+        session.main.caption_color = each.chosen;
+        new_poster(session.main);
+        EXPECT_EQ(session.main.txtCaption.back_color(), each.background);
+        EXPECT_EQ(session.main.txtCaption.fore_color(), each.text);
+    }
+}
+
+TEST(new_poster, any_caption_colour_means_red)
+{
+    opened_session session;
+    session.main.design_record.caption_color = "Blue";
+    new_poster(session.main);
+    EXPECT_EQ(session.main.txtCaption.fore_color(), 255u);
+}
+
+TEST(new_poster, puts_the_caption_into_its_box_whatever_it_says)
+{
+    for (const char * caption : {"None", "Top", "Bottom", "Our summer"}) {
+        opened_session session;
+        session.main.design_record.caption = caption;
+        new_poster(session.main);
+        EXPECT_EQ(session.main.txtCaption.text(), caption);
+    }
+}
+
+TEST(new_poster, a_record_without_a_caption_leaves_the_users_own)
+{
+    opened_session session;
+    session.main.txtCaption.set_text("mine");
+    new_poster(session.main);
+    EXPECT_EQ(session.main.txtCaption.text(), "mine");
+}
+
+TEST(new_poster, turns_a_template_of_the_other_orientation)
+{
+    struct row {
+        const char * background;
+        bool tall;
+        int turn;
+    };
+    for (const row & each :
+         {row{"Landscape", true, -90}, row{"Landscape", false, 0}, row{"Portrait", true, 0},
+          row{"Portrait", false, 90}, row{"Both", true, 0}, row{"", false, 0}}) {
+        opened_session session;
+        session.main.landscape_turn = 45;
+        session.main.poster_tall = each.tall;
+        session.main.design_record.background = each.background;
+        new_poster(session.main);
+        EXPECT_EQ(session.main.landscape_turn, each.turn) << each.background << each.tall;
+    }
+}
+
+TEST(new_poster, takes_the_picture_of_a_design_from_the_program_or_from_the_user)
+{
+    opened_session session;
+    session.main.set_back_color(0x2B2826);
+    session.main.design_record.bg_image = "themes/sea.jpg";
+    new_poster(session.main);
+    EXPECT_EQ(session.main.txtBGimage.text(), joined(session.main.install_folder, "images/themes/sea.jpg"));
+    EXPECT_TRUE(session.main.bg_from_design);
+    EXPECT_EQ(session.main.cmbBlend.text(), "100");
+    EXPECT_EQ(session.main.picBGcolor.back_color(), 0x2B2826u);
+    session.main.design_record.bg_image = "user_images\\mine.jpg";
+    new_poster(session.main);
+    EXPECT_EQ(session.main.txtBGimage.text(), joined(session.main.data_folder, "user_images/mine.jpg"));
+}
+
+TEST(new_poster, the_design_after_one_with_a_picture_has_a_black_swatch_again)
+{
+    opened_session session;
+    session.main.set_back_color(0x2B2826);
+    session.main.design_record.bg_image = "sea.jpg";
+    new_poster(session.main);
+    session.main.design_record.bg_image = "Either";
+    new_poster(session.main);
+    EXPECT_FALSE(session.main.bg_from_design);
+    EXPECT_EQ(session.main.picBGcolor.back_color(), 0u);
+    expect_states(session.main, "optSolid1 optSolid+ optBGimage+ picBGcolor^ picBGcolor+ cmbBlend+");
+}
+
+TEST(new_poster, a_frame_size_of_the_design_is_cut_into_range)
+{
+    opened_session session;
+    session.main.design_record.frames = "75";
+    new_poster(session.main);
+    EXPECT_EQ(session.main.cmbFrame.text(), "60");
+}
+
+TEST(new_poster, a_shadow_size_takes_the_number_of_the_frame)
+{
+    opened_session session;
+    session.main.design_record.frames = "10";
+    session.main.design_record.shadows = "15";
+    session.main.cmbShadow.set_text("30");
+    new_poster(session.main);
+    EXPECT_EQ(session.main.cmbShadow.text(), "10");
+    session.main.design_record.frames = "Yes";
+    new_poster(session.main);
+    EXPECT_EQ(session.main.cmbShadow.text(), "0");
+}
+
+TEST(new_poster, settles_whether_a_frame_may_be_chosen_and_its_colour)
+{
+    opened_session session;
+    session.main.design_record.frames = "No";
+    session.main.design_record.frame_color = "Cyan";
+    session.main.design_record.shadow_color = "Red";
+    session.main.picShadowColor.set_back_color(7);
+    new_poster(session.main);
+    EXPECT_EQ(session.main.picFrameColor.tag, "False");
+    EXPECT_EQ(session.main.picFrameColor.back_color(), 16776960u);
+    EXPECT_EQ(session.main.picShadowColor.back_color(), 0u);
+}
+
+TEST(new_poster, adjust_moves_the_frames_inside)
+{
+    opened_session session;
+    session.main.design_record.frames = "Adjust";
+    new_poster(session.main);
+    EXPECT_TRUE(session.main.frames_inside);
+}
+
+TEST(new_poster, takes_the_photo_list_of_the_frame_set)
+{
+    struct row {
+        const char * list;
+        const char * file;
+    };
+    for (const row & each : {row{"team", "team.pls"}, row{"None", nullptr}, row{"", nullptr}}) {
+        opened_session session;
+        session.folder.write("data/frames/club/design.ini",
+                             std::string("[Frame Design]\r\nPicture List=") + each.list + "\r\n");
+        session.main.frame_set_name = "club";
+        session.main.txtPhotos.tag = "before";
+        new_poster(session.main);
+        EXPECT_EQ(session.main.use_list_of_frame, each.file != nullptr);
+        EXPECT_EQ(session.main.txtPhotos.tag,
+                  each.file == nullptr
+                      ? "before"
+                      : joined(session.main.data_folder, "piclists/" + std::string(each.file)));
+    }
+}
+
+TEST(new_poster, a_step_that_fails_leaves_the_window_listening)
+{
+    opened_session session;
+    session.main.frame_set_name = "without its file";
+    EXPECT_THROW(new_poster(session.main), platform_error);
+    EXPECT_FALSE(session.main.updating_controls);
+}
+
+TEST(new_poster, twice_in_a_row_gives_the_same_window)
+{
+    opened_session session;
+    session.main.design_record = {.style = "Place", .frames = "18", .shadows = "No"};
+    const auto states = [&] {
+        std::string text;
+        for (const control * each : session.main.controls())
+            text += each->name() + each->value() + (each->visible() ? '^' : '_') +
+                    (each->enabled() ? '+' : '-') + '\n';
+        return text;
+    };
+    new_poster(session.main);
+    const std::string first = states();
+    new_poster(session.main);
+    EXPECT_EQ(states(), first);
+}
