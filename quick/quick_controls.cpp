@@ -1,40 +1,21 @@
 #include "quick/quick_controls.h"
 
 #include "engine/flurn_driver.h"
-#include "session/window_state.h"
 #include "support/numbers.h"
-#include "support/paths.h"
 
 namespace {
 
-// A preview being made: the triggers are void meanwhile, the window is shut and the pointer busy.
+// While a preview is being made the triggers are void.
 class redrawing {
 public:
-    explicit redrawing(frmMain & window) : main(window), pointer(window.desk)
-    {
-        main.preview_blocked = true;
-        set_enable(main, false);
-    }
+    explicit redrawing(frmMain & window) : main(window) { main.preview_blocked = true; }
     redrawing(const redrawing &) = delete;
     redrawing & operator=(const redrawing &) = delete;
-    ~redrawing()
-    {
-        set_enable(main, true);
-        main.preview_blocked = false;
-    }
+    ~redrawing() { main.preview_blocked = false; }
 
 private:
     frmMain & main;
-    busy pointer;
 };
-
-// Where a quick style writes its template before it is drawn; a chosen design comes with its own.
-void make_sample(frmMain & main)
-{
-    main.collage_width = 2000;
-    main.collage_height = 3000;
-    gen_sample(main);
-}
 
 void show_each(std::initializer_list<control *> controls, bool show)
 {
@@ -316,12 +297,8 @@ void redraw_sample(frmMain & main)
     // In the choosing stage no design is in force, and with the preview off the picture goes stale.
     if (main.menus_shown || !main.optPreview.selected())
         return;
-    {
-        const redrawing shut(main);
-        make_sample(main);
-        main.picSample.load(joined(joined(main.data_folder, "tmp"), "finished.jpg"));
-    }
-    main.picSample.show(true);
+    const redrawing quiet(main);
+    make_preview(main);
 }
 
 void show_rows_cols(frmMain & main)

@@ -8,14 +8,12 @@ namespace {
 struct quick_session : opened_session {
     quick_session()
     {
-        main.quick_active = true;
+        folder.write("data/designs.ini",
+                     "[Design001]\r\nName=Match\r\nFile=__match\r\n"
+                     "[Design002]\r\nName=Quick matrix\r\n");
         main.load();
         main.quick_active = true;
         finish();
-        main.optShapes.on_click = nullptr;
-        main.optShapes.select();
-        main.optShapes.select(false);
-        connect_quick_controls(main);
     }
 };
 

@@ -26,6 +26,8 @@ struct opened_session {
         desk.keeps_messages = true;
         show_menus(main, false);
         show_work_controls(main, true);
+        main.design_record.file = "__missing";
+        folder.write("data/tmp/finished.jpg", "the picture of an earlier preview");
         const updating quiet(main);
         main.optPreview.select();
     }

@@ -15,6 +15,9 @@ struct chosen_design : opened_session {
         main.table[0] = photo;
         main.table.last_photo = 0;
         set_photo_source_kind(main, photo_source::folder);
+        main.design_record.file = "__lettering";
+        main.design_record.style = "Place";
+        folder.write("data/designs/__lettering", "300:200:1500:1500:0:0:0:0:\r\n");
     }
 };
 
@@ -29,6 +32,8 @@ TEST(start_designed, counts_the_photos_in_their_window_and_draws_one_preview)
     EXPECT_EQ(session.desk.busy_depth, 0);
     EXPECT_EQ(session.main.table.landscape_count, 1);
     EXPECT_EQ(session.previews(), 1);
+    EXPECT_TRUE(session.desk.messages.empty());
+    EXPECT_TRUE(load_picture(picture_format::jpeg, session.main.picSample.file()));
     expect_states(session.main, "optPreview1 picSample^ mnuFile_ frmOutput^");
     EXPECT_FALSE(session.main.updating_controls);
 }
