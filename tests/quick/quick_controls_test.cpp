@@ -44,6 +44,21 @@ TEST(redraw_sample, shows_the_picture_that_was_made_and_leaves_the_window_open)
     EXPECT_EQ(session.desk.busy_depth, 0);
 }
 
+TEST(redraw_sample, does_not_start_another_one_from_inside)
+{
+    opened_session session;
+    session.finish();
+    bool tried = false;
+    session.main.picSample.on_shown_change = [&] {
+        if (!tried) {
+            tried = true;
+            refresh_preview(session.main);
+        }
+    };
+    EXPECT_EQ(session.previews_of([&] { redraw_sample(session.main); }), 1);
+    EXPECT_TRUE(tried);
+}
+
 TEST(redraw_sample, draws_nothing_in_the_choosing_stage)
 {
     opened_session session;

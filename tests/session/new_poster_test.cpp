@@ -290,6 +290,16 @@ TEST(new_poster, begins_a_new_collage)
     EXPECT_EQ(main.picFrameColor.tag, "True");
 }
 
+TEST(new_poster, leaves_the_preview_to_its_caller)
+{
+    opened_session session;
+    session.finish();
+    session.main.chkSoftEdge.tick(true);
+    session.main.design_record = {
+        .style = "Matrix", .bg_image = "sea.jpg", .caption = "Bottom", .block = "Yes"};
+    EXPECT_EQ(session.previews_of([&] { new_poster(session.main); }), 0);
+}
+
 TEST(new_poster, asks_again_for_a_picture_that_was_never_given)
 {
     opened_session session;
