@@ -1,5 +1,7 @@
 #include "engine/draw_captioned_photo.h"
 
+#include "engine/draw_rotated_photo.h"
+#include "tests/engine/tilt_stage.h"
 #include "tests/pictures.h"
 #include "tests/scripted_desktop.h"
 
@@ -76,4 +78,26 @@ TEST_F(draw_captioned_photo_test, a_card_that_leaves_the_canvas_or_has_no_size_i
     draw_captioned_photo(main, plain(30, 30, photo_color), 14, 0, 3, 5, 0);
     draw_captioned_photo(main, plain(30, 30, photo_color), 0, 20, 3, 5, 0);
     EXPECT_EQ(picture(), "");
+}
+
+TEST_F(draw_captioned_photo_test, a_tilted_card_without_numbers_for_its_rotation_draws_nothing)
+{
+    draw_captioned_photo(main, plain(30, 30, photo_color), 14, 20, 3, 5, 10);
+    EXPECT_EQ(picture(), "");
+}
+
+TEST(draw_captioned_photo, a_tilted_card_is_drawn_as_a_photo_of_its_size_would_be)
+{
+    tilt_stage by_card, by_photo;
+    for (frmMain * main : {&by_card.main, &by_photo.main}) {
+        main->run.canvas = plain(900, 800, canvas_color);
+        main->run.frame_color = card_color;
+    }
+    // 190 / 19 is 10: a photo of 240 by 170 on a card of 300 by 190.
+    bitmap card = plain(300, 190, card_color);
+    paste(card, plain(240, 170, photo_color), 10, 10, plain_copy);
+    draw_captioned_photo(by_card.main, plain(50, 50, photo_color), 300, 190, 250, 300, 10);
+    draw_rotated_photo(by_photo.main, copied(card, 0, 0, 300, 190), 300, 190, 250, 300, 10, fitting::fitted);
+    EXPECT_TRUE(same(by_card.main.run.canvas, by_photo.main.run.canvas));
+    EXPECT_FALSE(same(by_card.main.run.canvas, plain(900, 800, canvas_color)));
 }
