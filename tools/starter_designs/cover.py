@@ -11,8 +11,8 @@ RASTER = 50
 
 
 class Scatter:
-    def __init__(self, size, photo, angles, seed, upright, hang):
-        self.size, self.photo, self.hang, self.upright = size, photo, hang, upright
+    def __init__(self, size, photo, angles, seed, hang):
+        self.size, self.photo, self.hang = size, photo, hang
         self.chance = random.Random(seed)
         self.columns, self.lines = size[0] // RASTER, size[1] // RASTER
         self.counts = [0] * (self.columns * self.lines)
@@ -30,7 +30,7 @@ class Scatter:
         self.chance.shuffle(dealt)
         spots = [((i % across + 0.5) / across * self.size[0], (i // across + 0.5) / down * self.size[1])
                  for i in range(count)]
-        return [[x, y, not self.upright and index % 2 == 0, dealt[index]] for index, (x, y) in enumerate(spots)]
+        return [[x, y, index % 2 == 0, dealt[index]] for index, (x, y) in enumerate(spots)]
 
     def place(self, item):
         x, y, wide, angle = item
@@ -77,7 +77,7 @@ class Scatter:
             index = self.chance.randrange(len(self.items))
             old = self.items[index]
             new = [old[0] + self.chance.uniform(-reach, reach), old[1] + self.chance.uniform(-reach, reach), *old[2:]]
-            if not self.upright and self.chance.random() < 0.1:
+            if self.chance.random() < 0.1:
                 new[2] = not new[2]
             self.add(self.spans[index], -1)
             span = self.span(new)
@@ -115,9 +115,8 @@ class Scatter:
         return [self.place(self.items[index]) for index in best]
 
 
-def scattered(size, photo, angles, seed, upright=False, hang=110, rounds=6000):
-    """`photo` is (long side, short side); `upright` has all photos stand; `hang` is how far a corner may leave the
-    page, in pixels."""
-    scatter = Scatter(size, photo, angles, seed, upright, hang)
+def scattered(size, photo, angles, seed, hang=110, rounds=6000):
+    """`photo` is (long side, short side); `hang` is how far a corner may leave the page, in pixels."""
+    scatter = Scatter(size, photo, angles, seed, hang)
     scatter.improve(rounds)
     return scatter.in_drawing_order()

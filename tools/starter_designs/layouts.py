@@ -31,8 +31,11 @@ def picnic():
 
 
 def polaroids():
-    tilts = [-15, -10, -10, -5, -5, -5, 0, 0, 5, 5, 5, 10, 10, 15, -10, 10]
-    return scattered(PORTRAIT, (655, 525), tilts, seed=5, upright=True, hang=60)
+    """Three by four cards, each a little off its place."""
+    tilts = [-5, 10, -10, 5, -5, 10, -10, 5, 5, 10, -10, -5]
+    across, down = [0, -20, 15, 25, 20, -10, -25, -5, 15, 25, 5, -20], [15, -25, 20, -10, 25, -15, 10]
+    return [centred(345 + 655 * (i % 3) + across[i], 392 + 738 * (i // 3) + down[i % 7], 520, 640, tilts[i])
+            for i in range(12)]
 
 
 def contact_sheet():
@@ -44,8 +47,9 @@ def contact_sheet_wide():
 
 
 def three_bands():
-    small = dict(rows=2, columns=4, row_gap=40, column_gap=40, height=300, width=440)
-    return (grid(60, 60, **small) + grid(760, 60, 1, 2, 40, 40, 1480, 920) + grid(2300, 60, **small))
+    """All cells stand upright: one layer of another kind would have to pass over photos that the next layer wants."""
+    band = dict(rows=1, columns=4, row_gap=40, column_gap=40, height=620, width=440)
+    return grid(60, 60, **band) + grid(740, 60, 1, 2, 40, 40, 1520, 920) + grid(2320, 60, **band)
 
 
 def shaken_wall():
@@ -115,9 +119,9 @@ def celebration():
 
 
 def white_mats():
-    return [box(190, 200, 720, 480), centred(1460, 470, 460, 690, 5), centred(430, 1150, 460, 690, -5),
-            box(880, 1000, 480, 720), centred(1640, 1240, 400, 600, -5), box(180, 1720, 740, 493),
-            centred(1420, 2040, 760, 507, 5), centred(480, 2580, 480, 560, 5), box(980, 2420, 800, 420)]
+    return [box(170, 190, 780, 520), centred(1480, 500, 460, 690, 5), centred(420, 1250, 440, 660, -5),
+            box(790, 990, 440, 660), centred(1620, 1240, 400, 600, -5), box(160, 1780, 740, 493),
+            centred(1460, 2060, 740, 493, 5), centred(410, 2635, 380, 500, 5), box(880, 2455, 930, 410)]
 
 
 def daydream():
