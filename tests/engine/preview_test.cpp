@@ -1,0 +1,233 @@
+#include "engine/flurn_driver.h"
+#include "engine/run_layout.h"
+#include "support/paths.h"
+#include "support/text_file.h"
+#include "tests/engine/collage_fixture.h"
+#include "tests/pictures.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct two_halves : collage_fixture {
+    two_halves()
+    {
+        use_template({"0:0:3000:1000:0:0:0:0:", "0:1000:3000:1000:0:0:0:0:"});
+        add_photo(red);
+        add_photo(green);
+        use_thumbnails();
+    }
+    bitmap sample()
+    {
+        gen_sample(main);
+        return finished();
+    }
+};
+
+std::string size_of(const bitmap & image)
+{
+    return std::to_string(image.width()) + " by " + std::to_string(image.height());
+}
+
+}  // namespace
+
+TEST(gen_sample, is_a_sixth_of_the_poster_with_the_layout_at_a_seventh)
+{
+    two_halves run;
+    const bitmap sample = run.sample();
+    EXPECT_EQ(size_of(sample), "333 by 500");
+    EXPECT_EQ(letter_at(sample, 5, 100), '.');
+    EXPECT_EQ(letter_at(sample, 11, 11), 'r');
+    EXPECT_EQ(letter_at(sample, 147, 430), 'r');
+    EXPECT_EQ(letter_at(sample, 155, 430), 'g');
+    EXPECT_EQ(letter_at(sample, 290, 200), 'g');
+    EXPECT_EQ(letter_at(sample, 298, 200), '.');
+    EXPECT_EQ(letter_at(sample, 100, 441), '.');
+    EXPECT_TRUE(run.main.in_preview);
+    EXPECT_FALSE(run.main.run.canvas);
+    EXPECT_TRUE(run.main.enabling.last);
+    EXPECT_TRUE(run.main.trace.ends_with(" (end sample)"));
+    EXPECT_EQ(run.desk.busy_depth, 0);
+}
+
+TEST(gen_sample, works_on_thumbnails)
+{
+    two_halves run;
+    run.picture("photos/sample_thumbs/0.jpg", blue, 150, 200);
+    EXPECT_EQ(letter_at(run.sample(), 50, 100), 'b');
+}
+
+TEST(gen_sample, a_landscape_or_square_output_has_its_own_size)
+{
+    two_halves landscape, square;
+    landscape.main.optLandscape.select();
+    square.main.optSquare.select();
+    EXPECT_EQ(size_of(landscape.sample()), "500 by 333");
+    EXPECT_EQ(size_of(square.sample()), "333 by 333");
+}
+
+TEST(gen_sample, turns_an_upright_design_for_a_landscape_output)
+{
+    two_halves run;
+    run.main.optLandscape.select();
+    run.main.design_record.background = "Portrait";
+    const bitmap sample = run.sample();
+    EXPECT_EQ(letter_at(sample, 100, 80), 'r');
+    EXPECT_EQ(letter_at(sample, 400, 80), 'r');
+    EXPECT_EQ(letter_at(sample, 100, 220), 'g');
+}
+
+TEST(gen_sample, turns_a_saved_landscape_design_once)
+{
+    two_halves run;
+    run.main.optLandscape.select();
+    run.main.design_record.background = "Portrait";
+    run.main.design_record.design = "Saved";
+    const bitmap sample = run.sample();
+    EXPECT_EQ(run.main.landscape_turn, saved_landscape_turn);
+    EXPECT_EQ(letter_at(sample, 400, 80), 'r');
+    EXPECT_EQ(letter_at(sample, 400, 220), 'g');
+}
+
+TEST(gen_sample, layers_of_a_grid_are_scaled_alike)
+{
+    collage_fixture run;
+    run.main.design_record.style = "Fill";
+    run.use_template({"0:0:1:2:0:-1:-1:0:", "70:70:660:660:0:0:0:0:", "1400:700:1:1:0:-1:-1:0:",
+                      "70:70:660:660:0:0:0:0:"});
+    for (const rgb_triple color : {red, green, blue})
+        run.add_photo(color);
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    gen_sample(run.main);
+    const bitmap sample = run.finished();
+    EXPECT_EQ(letter_at(sample, 11, 11), 'r');
+    EXPECT_EQ(letter_at(sample, 104, 104), 'r');
+    EXPECT_EQ(letter_at(sample, 113, 60), '.');
+    EXPECT_EQ(letter_at(sample, 122, 60), 'g');
+    EXPECT_EQ(letter_at(sample, 112, 212), 'b');
+    EXPECT_EQ(letter_at(sample, 204, 304), 'b');
+}
+
+TEST(gen_sample, a_border_is_fifteen_hundredths_of_the_offset_and_the_factor)
+{
+    two_halves run;
+    run.main.optHuge.select();
+    const bitmap sample = run.sample();
+    // 8 and 45 from the left; 286 x 0.7 wide
+    EXPECT_EQ(letter_at(sample, 50, 200), '.');
+    EXPECT_EQ(letter_at(sample, 57, 200), 'r');
+    EXPECT_EQ(letter_at(sample, 248, 200), 'g');
+    EXPECT_EQ(letter_at(sample, 258, 200), '.');
+}
+
+TEST(gen_sample, a_large_caption_draws_the_picture_nearer)
+{
+    two_halves small, large;
+    for (two_halves * run : {&small, &large})
+        run->main.txtCaption.set_text("Sea");
+    small.main.txtCaption.tag = "66";  // 11 points, 15 pixels
+    large.main.txtCaption.tag = "90";  // 15 points, 20 pixels
+    EXPECT_EQ(size_of(small.sample()), "333 by 500");
+    EXPECT_EQ(small.main.run.caption_height, 15);
+    EXPECT_EQ(size_of(large.sample()), "343 by 510");
+    EXPECT_EQ(large.main.run.caption_height, 20);
+}
+
+TEST(gen_sample, an_error_shows_its_box_and_ends_the_preview)
+{
+    two_halves run;
+    run.use_template({"0:0:21000:1000:60:0:0:0:"});
+    run.main.optLandscape.select();
+    run.main.design_record.background = "Portrait";
+    run.main.picSample.show(true);
+    run.main.quick_active = true;
+    gen_sample(run.main);
+    EXPECT_EQ(run.desk.next_message(), "MMM  HHH  CCC  AAA  XX  CAUGHT AN ERROR  6");
+    EXPECT_FALSE(run.main.in_preview);
+    EXPECT_TRUE(run.main.optLandscape.selected());
+    EXPECT_TRUE(run.main.quick_active);
+    EXPECT_TRUE(run.main.picSample.visible());
+    EXPECT_TRUE(run.main.enabling.last);
+    EXPECT_FALSE(run.main.run.run_active);
+    EXPECT_EQ(run.desk.busy_depth, 0);
+}
+
+TEST(gen_sample, a_cancel_keeps_the_old_picture)
+{
+    two_halves run;
+    run.sample();
+    const std::string before = read_file(joined(run.main.data_folder, "tmp/finished.jpg"));
+    run.main.picBGcolor.set_back_color(0);
+    run.desk.on_pump(2, [&] { run.main.run.cancel_requested = true; });
+    gen_sample(run.main);
+    EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
+    EXPECT_EQ(read_file(joined(run.main.data_folder, "tmp/finished.jpg")), before);
+    EXPECT_FALSE(run.main.run.run_active);
+}
+
+TEST(gen_sample, two_previews_with_the_same_settings_are_the_same)
+{
+    two_halves run;
+    const bitmap first = run.sample();
+    EXPECT_TRUE(same(first, run.sample()));
+}
+
+TEST(make_preview, shows_the_new_picture)
+{
+    two_halves run;
+    run.main.optPreview.select();
+    run.main.picSample.show(false);
+    make_preview(run.main);
+    EXPECT_EQ(run.main.picSample.file(), joined(run.main.data_folder, "tmp/finished.jpg"));
+    EXPECT_EQ(run.main.picSample.load_count(), 1);
+    EXPECT_TRUE(run.main.picSample.visible());
+    EXPECT_TRUE(run.main.enabling.last);
+    EXPECT_EQ(run.desk.busy_depth, 0);
+    make_preview(run.main);
+    EXPECT_EQ(run.main.picSample.load_count(), 2);
+}
+
+TEST(make_preview, does_nothing_without_a_design_or_with_the_preview_off)
+{
+    two_halves run;
+    run.main.optSample.select();
+    make_preview(run.main);
+    run.main.optPreview.select();
+    run.main.design_record = {};
+    make_preview(run.main);
+    EXPECT_EQ(run.main.picSample.load_count(), 0);
+    EXPECT_EQ(run.desk.pumps, 0);
+}
+
+TEST(make_preview, shows_the_stored_sample_of_a_quick_style_while_it_is_off)
+{
+    collage_fixture run;
+    run.main.quick_active = true;
+    run.main.optSample.select();
+    for (const char * name : {"p_nb", "p_sb", "p_lb", "l_sb", "p_s", "p_o", "p_r", "l_ro", "p_so", "p_srr"})
+        run.picture("install/images/preview/" + std::string(name) + ".jpg", red, 4, 4);
+    const auto shown = [&] {
+        make_preview(run.main);
+        return name_of(run.main.picSample.file());
+    };
+    run.main.optBlock.select();
+    run.main.cmbSpace.set_text("9");
+    EXPECT_EQ(shown(), "p_nb.jpg");
+    run.main.cmbSpace.set_text("10");
+    EXPECT_EQ(shown(), "p_sb.jpg");
+    run.main.cmbSpace.set_text("30");
+    EXPECT_EQ(shown(), "p_lb.jpg");
+    run.main.cmbSpace.set_text("20");
+    run.main.optLandscape.select();
+    EXPECT_EQ(shown(), "l_sb.jpg");
+    run.main.optPortrait.select();
+    run.main.optScatter.select();
+    EXPECT_EQ(shown(), "p_s.jpg");
+    run.main.optMatrix.select();
+    EXPECT_EQ(shown(), "p_o.jpg");
+    run.main.chkShuffle.tick(true);
+    EXPECT_EQ(shown(), "p_so.jpg");
+    run.main.chkRotate.tick(true);
+    run.main.chkResize.tick(true);
+    EXPECT_EQ(shown(), "p_srr.jpg");
+}

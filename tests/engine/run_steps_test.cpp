@@ -1,0 +1,358 @@
+#include "engine/run_steps.h"
+
+#include "engine/background.h"
+#include "engine/flurn_driver.h"
+#include "engine/quick_template.h"
+#include "engine/run_layout.h"
+#include "support/text_file.h"
+#include "tests/engine/collage_fixture.h"
+#include "tests/pictures.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+location measures(int16 top, int16 left, int16 height, int16 width)
+{
+    return {.top = top, .left = left, .height = height, .width = width};
+}
+
+// One location and no photos, so that the loop leaves the locations as they were brought to the canvas.
+struct bare_run : collage_fixture {
+    bare_run()
+    {
+        use_canvas(100, 100);
+        main.run.collage_margin = 430;
+        add_location(measures(100, 200, 300, 400));
+    }
+    location placed(run_size size)
+    {
+        main.in_preview = size == run_size::preview;
+        place_photos(main, size);
+        return main.design_locations[0];
+    }
+};
+
+bitmap background_of(collage_fixture & run, int width, int height, run_size size)
+{
+    run.use_canvas(width, height);
+    lay_background(run.main, size);
+    return std::move(run.main.run.canvas);
+}
+
+}  // namespace
+
+TEST(place_photos, adds_the_bleed)
+{
+    EXPECT_EQ(bare_run().placed(run_size::full), measures(530, 630, 300, 400));
+    EXPECT_EQ(bare_run().placed(run_size::preview), measures(538, 638, 300, 400));
+}
+
+TEST(place_photos, a_grid_gets_its_bleed_in_its_loop)
+{
+    bare_run full, preview;
+    full.main.work_style = preview.main.work_style = "Fill";
+    EXPECT_EQ(full.placed(run_size::full), measures(100, 200, 300, 400));
+    EXPECT_EQ(preview.placed(run_size::preview), measures(108, 208, 300, 400));
+}
+
+TEST(place_photos, frames_inside_take_their_width_off_the_locations)
+{
+    bare_run full, preview, no_frame, grid;
+    for (bare_run * run : {&full, &preview, &no_frame, &grid}) {
+        run->main.frames_inside = true;
+        run->main.run.frame_size = 10;
+    }
+    no_frame.main.run.frame_size = 0;
+    grid.main.work_style = "Fill";
+    EXPECT_EQ(full.placed(run_size::full), measures(540, 640, 280, 380));
+    EXPECT_EQ(no_frame.placed(run_size::full), measures(530, 630, 300, 400));
+    EXPECT_EQ(grid.placed(run_size::full), measures(100, 200, 300, 400));
+}
+
+TEST(place_photos, soft_edges_let_the_locations_grow)
+{
+    bare_run full, preview, hidden;
+    for (bare_run * run : {&full, &preview, &hidden})
+        run->main.chkSoftEdge.tick(true);
+    hidden.main.frmOrnaments.show(false);
+    EXPECT_EQ(full.placed(run_size::full), measures(510, 610, 340, 440));
+    EXPECT_EQ(preview.placed(run_size::preview), measures(535, 635, 306, 406));
+    EXPECT_EQ(hidden.placed(run_size::full), measures(530, 630, 300, 400));
+}
+
+TEST(place_photos, soft_edges_let_a_grid_grow_at_full_size_alone)
+{
+    bare_run full, preview;
+    for (bare_run * run : {&full, &preview}) {
+        run->main.chkSoftEdge.tick(true);
+        run->main.work_style = "Fill";
+    }
+    EXPECT_EQ(full.placed(run_size::full), measures(80, 180, 300, 400));
+    EXPECT_EQ(preview.placed(run_size::preview), measures(108, 208, 300, 400));
+}
+
+TEST(place_photos, evolve_counts_from_0_and_stays_out_of_the_way_otherwise)
+{
+    bare_run run;
+    run.placed(run_size::full);
+    EXPECT_EQ(run.main.run.evolve_portrait_wraps, 9);
+    EXPECT_EQ(run.main.run.evolve_landscape_wraps, 9);
+    run.main.chkEvolve.tick(true);
+    run.placed(run_size::full);
+    EXPECT_EQ(run.main.run.evolve_portrait_wraps, 0);
+    EXPECT_EQ(run.main.run.evolve_landscape_wraps, 0);
+}
+
+TEST(place_photos, the_order_changes_only_for_plain_designs_that_were_asked_to)
+{
+    const auto first_top = [](bool random_design, bool rotated, std::initializer_list<double> chance) {
+        bare_run run;
+        run.main.random = listed(chance);
+        run.main.random_design = random_design;
+        run.main.design_rotated = rotated;
+        for (int16 i = 1; i < 12; ++i)
+            run.add_location(measures(narrow(100 + i), 0, 1, 1));
+        place_photos(run.main, run_size::full);
+        return run.main.design_locations[0].top - 430;
+    };
+    EXPECT_EQ(first_top(true, false, {}), 100);
+    EXPECT_EQ(first_top(false, true, {}), 100);
+    // Two shuffles of their own step and start each.
+    EXPECT_NE(first_top(true, true, {0.0, 0.0, 0.3, 0.4, 0.3, 0.7}), 100);
+}
+
+TEST(place_photos, a_stretched_design_is_stretched_before_the_bleed_comes)
+{
+    bare_run run;
+    run.main.stretch_design = run.main.poster_tall = true;
+    EXPECT_EQ(run.placed(run_size::full), measures(430 + 93, 430 + 210, 280, 420));
+}
+
+TEST(run_layout, tells_grids_from_places)
+{
+    collage_fixture run;
+    const auto of = [&](const char * style) {
+        run.main.work_style = style;
+        return layout_of(run.main);
+    };
+    EXPECT_EQ(of("Place"), layout::places);
+    EXPECT_EQ(of("Fill"), layout::grids);
+    EXPECT_EQ(of("Matrix"), layout::grids);
+}
+
+TEST(run_layout, saved_grids_are_never_turned)
+{
+    collage_fixture run;
+    run.main.optLandscape.select();
+    run.main.design_record.design = "Saved";
+    run.main.work_style = "Fill";
+    EXPECT_FALSE(is_saved_landscape(run.main));
+    run.main.work_style = "Place";
+    EXPECT_TRUE(is_saved_landscape(run.main));
+    run.main.design_record.design = "";
+    run.main.design_record.file = "saved612";
+    EXPECT_TRUE(is_saved_landscape(run.main));
+    run.main.optPortrait.select();
+    EXPECT_FALSE(is_saved_landscape(run.main));
+}
+
+TEST(bend_template, notes_the_first_cell)
+{
+    bare_run run;
+    bend_template(run.main, run_size::full);
+    EXPECT_EQ(run.main.run.first_cell_height, 300);
+    EXPECT_EQ(run.main.run.first_cell_width, 400);
+}
+
+TEST(bend_template, mixes_shapes_that_overlap_or_are_to_be_mixed)
+{
+    const auto mixed = [](const auto & settings) {
+        bare_run run;
+        run.main.optShapes.select();
+        run.main.random = listed({0.5});
+        for (int16 i = 1; i < 12; ++i)
+            run.add_location(measures(i, 0, 1, 1));
+        settings(run.main);
+        bend_template(run.main, run_size::full);
+        return run.main.mix_step != -1;
+    };
+    EXPECT_FALSE(mixed([](frmMain &) {}));
+    EXPECT_TRUE(mixed([](frmMain & main) { main.chkMix.tick(true); }));
+    EXPECT_TRUE(mixed([](frmMain & main) { main.cmbSpace.set_text("-10"); }));
+    EXPECT_FALSE(mixed([](frmMain & main) {
+        main.chkMix.tick(true);
+        main.frmStyle.show(false);
+    }));
+    EXPECT_FALSE(mixed([](frmMain & main) {
+        main.chkMix.tick(true);
+        main.optBlock.select();
+    }));
+}
+
+TEST(bend_template, mixes_a_shaken_quick_matrix)
+{
+    const auto mixed = [](const auto & settings) {
+        bare_run run;
+        run.main.quick_active = true;
+        run.main.optMatrix.select();
+        run.main.random = listed({0.5});
+        for (int16 i = 1; i < 12; ++i)
+            run.add_location(measures(i, 0, 1, 1));
+        settings(run.main);
+        bend_template(run.main, run_size::full);
+        return run.main.mix_step != -1;
+    };
+    EXPECT_FALSE(mixed([](frmMain &) {}));
+    EXPECT_TRUE(mixed([](frmMain & main) { main.chkRotate.tick(true); }));
+    EXPECT_TRUE(mixed([](frmMain & main) { main.chkResize.tick(true); }));
+    EXPECT_TRUE(mixed([](frmMain & main) { main.chkShuffle.tick(true); }));
+    EXPECT_FALSE(mixed([](frmMain & main) {
+        main.chkRotate.tick(true);
+        main.quick_active = false;
+    }));
+}
+
+TEST(make_quick_template, reads_the_record_of_the_style_and_points_it_at_the_quick_file)
+{
+    collage_fixture run;
+    run.home.write("data/designs.ini",
+                   "[Design001]\r\nName=Match\r\nFile=__match\r\nStyle=Place\r\n"
+                   "[Design002]\r\nName=Quick matrix\r\nFile=__quick\r\nDesign=Block\r\n");
+    run.main.quick_active = true;
+    run.main.optBlock.select();
+    make_quick_template(run.main, run_size::full);
+    EXPECT_EQ(run.main.design_record.name, "Match");
+    EXPECT_EQ(run.main.design_record.file, "__quick");
+    run.main.optMatrix.select();
+    make_quick_template(run.main, run_size::full);
+    EXPECT_EQ(run.main.design_record.name, "Quick matrix");
+    EXPECT_EQ(run.main.collage_height, 3000);
+}
+
+TEST(make_quick_template, says_when_a_record_is_missing_and_goes_on)
+{
+    collage_fixture run;
+    run.home.write("data/designs.ini", "[Design001]\r\nName=Other\r\n");
+    run.main.quick_active = true;
+    run.main.optScatter.select();
+    make_quick_template(run.main, run_size::full);
+    EXPECT_EQ(run.desk.next_message(), "should not happen 2 ?");
+    run.main.optMatrix.select();
+    make_quick_template(run.main, run_size::full);
+    EXPECT_EQ(run.desk.next_message(), "WHY CHECK FOR THIS??\r\nShould not happen: 101 ");
+    make_quick_template(run.main, run_size::preview);
+    EXPECT_EQ(run.desk.next_message(), "Should not happen: 101 \r\nWHY CHECK FOR THIS??");
+}
+
+TEST(make_quick_template, leaves_a_chosen_design_alone)
+{
+    collage_fixture run;
+    make_quick_template(run.main, run_size::full);
+    EXPECT_EQ(run.main.design_record.file, "test");
+}
+
+TEST(lay_background, blends_the_users_picture)
+{
+    collage_fixture run;
+    run.main.optBGimage.select();
+    run.main.txtBGimage.set_text(run.picture("sea.jpg", blue, 90, 60));
+    run.main.cmbBlend.set_text("4");
+    EXPECT_EQ(letter_at(background_of(run, 60, 90, run_size::full), 30, 45), '.');
+    run.main.cmbBlend.set_text("96");
+    EXPECT_EQ(sampled(background_of(run, 60, 90, run_size::full), 5, 25), "bbb\nbbb\nbbb\nbbb\n");
+    run.main.cmbBlend.set_text("50");
+    const rgb_triple half = seen(background_of(run, 60, 90, run_size::full), 30, 45);
+    EXPECT_NEAR(half.red, (30 + 128) / 2, 4);
+    EXPECT_NEAR(half.blue, (220 + 128) / 2, 4);
+}
+
+TEST(lay_background, covers_the_collage_and_not_its_bleed)
+{
+    collage_fixture run;
+    run.main.optBGimage.select();
+    run.main.cmbBlend.set_text("100");
+    run.main.txtBGimage.set_text(run.picture("sea.jpg", blue, 90, 60));
+    run.use_canvas(60, 90);
+    run.main.run.canvas = plain(80, 110, grey);
+    run.main.run.collage_margin = 10;
+    lay_background(run.main, run_size::full);
+    EXPECT_EQ(letter_at(run.main.run.canvas, 9, 50), '.');
+    EXPECT_EQ(letter_at(run.main.run.canvas, 10, 10), 'b');
+    EXPECT_EQ(letter_at(run.main.run.canvas, 69, 99), 'b');
+    EXPECT_EQ(letter_at(run.main.run.canvas, 70, 50), '.');
+}
+
+TEST(lay_background, cuts_a_picture_for_a_square_poster)
+{
+    collage_fixture run;
+    const std::string path = run.home.at("two.jpg");
+    bitmap picture = plain(120, 40, red);
+    paste(picture, plain(40, 40, blue), 40, 0, plain_copy);
+    save_jpeg(picture, path);
+    run.main.optBGimage.select();
+    run.main.optSquare.select();
+    run.main.cmbBlend.set_text("100");
+    run.main.txtBGimage.set_text(path);
+    EXPECT_EQ(sampled(background_of(run, 80, 80, run_size::full), 10, 20), "bbbb\nbbbb\nbbbb\nbbbb\n");
+}
+
+TEST(lay_background, without_a_picture_the_ground_stays)
+{
+    collage_fixture run;
+    run.main.cmbBlend.set_text("100");
+    run.main.txtBGimage.set_text(run.picture("sea.jpg", blue, 90, 60));
+    EXPECT_EQ(letter_at(background_of(run, 60, 90, run_size::full), 30, 45), '.')
+        << "a plain ground is selected";
+    run.main.optBGimage.select();
+    run.main.txtBGimage.set_text(run.home.at("gone.jpg"));
+    EXPECT_EQ(letter_at(background_of(run, 60, 90, run_size::full), 30, 45), '.');
+    run.main.txtBGimage.set_text("");
+    EXPECT_EQ(letter_at(background_of(run, 60, 90, run_size::full), 30, 45), '.');
+}
+
+TEST(lay_background, a_design_brings_a_small_picture_for_previews_and_a_large_one)
+{
+    collage_fixture run;
+    run.picture("install/images/preview/sea/p_waves.jpg", green, 60, 90);
+    run.main.design_record.bg_image = "sea/waves.jpg";
+    run.main.txtBGimage.set_text(run.picture("install/images/sea/waves.jpg", blue, 60, 90));
+    run.main.bg_from_design = true;
+    run.main.cmbBlend.set_text("100");
+    EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'g');
+    EXPECT_EQ(letter_at(background_of(run, 60, 90, run_size::full), 30, 45), 'b');
+}
+
+TEST(lay_background, a_design_picture_without_a_small_one_serves_itself)
+{
+    collage_fixture run;
+    run.main.design_record.bg_image = "sea/waves.jpg";
+    run.main.txtBGimage.set_text(run.picture("install/images/sea/waves.jpg", blue, 60, 90));
+    run.main.bg_from_design = true;
+    run.main.cmbBlend.set_text("100");
+    EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'b');
+}
+
+TEST(lay_background, the_users_own_design_picture_lies_with_the_data)
+{
+    collage_fixture run;
+    run.picture("data/user_images/waves.jpg", green, 60, 90);
+    run.main.design_record.bg_image = "user_images/waves.jpg";
+    run.main.bg_from_design = true;
+    run.main.cmbBlend.set_text("100");
+    EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'g');
+}
+
+TEST(went_through, words_every_platform_error_once)
+{
+    collage_fixture run;
+    run.main.trace = "MMM  ";
+    EXPECT_TRUE(went_through(run.main, [] {}));
+    EXPECT_FALSE(went_through(run.main, [] { throw std::bad_alloc(); }));
+    EXPECT_EQ(run.desk.next_message(), "MMM  XX  CAUGHT AN ERROR  7");
+    EXPECT_FALSE(went_through(run.main, [] { read_file("/nowhere/at/all"); }));
+    EXPECT_EQ(run.desk.next_message(),
+              "MMM  XX  CAUGHT AN ERROR  53\nThe file or folder does not exist.\n/nowhere/at/all");
+    EXPECT_THROW(went_through(run.main, [] { throw std::logic_error("a fault of our own"); }),
+                 std::logic_error);
+}
