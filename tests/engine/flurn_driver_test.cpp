@@ -8,6 +8,7 @@
 #include "tests/pictures.h"
 
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -24,6 +25,20 @@ struct four_photos : collage_fixture {
             add_photo(color);
     }
 };
+
+// Looks at a run that has got ready, and cancels it there.
+void look_at_start(collage_fixture & run, const std::function<void()> & look)
+{
+    bool looked = false;
+    run.desk.on_pump(1, [&] {
+        looked = true;
+        look();
+        run.main.run.cancel_requested = true;
+    });
+    make_flurn(run.main);
+    EXPECT_TRUE(looked);
+    EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
+}
 
 void expect_usable(const frmMain & main)
 {
@@ -112,8 +127,7 @@ TEST(make_flurn, works_on_the_photos_and_gives_the_thumbnails_back)
     run.use_thumbnails();
     const std::string thumbnail = run.main.table[0];
     ASSERT_TRUE(is_thumbnail(thumbnail));
-    run.desk.on_pump(1, [&] { EXPECT_EQ(run.main.table[0], photo_path(thumbnail)); });
-    run.full_run();
+    look_at_start(run, [&] { EXPECT_EQ(run.main.table[0], photo_path(thumbnail)); });
     EXPECT_EQ(run.main.table[0], thumbnail);
 }
 
@@ -126,15 +140,6 @@ TEST(make_flurn, a_landscape_poster_of_an_upright_design_is_turned)
     EXPECT_EQ(shown.width(), 3000);
     EXPECT_EQ(shown.height(), 2000);
     EXPECT_EQ(sampled(shown, 250, 500), "bbbrrr\nbbbrrr\nyyyggg\nyyyggg\n");
-}
-
-TEST(make_flurn, a_design_saved_from_a_lying_poster_is_turned_whatever_its_background)
-{
-    four_photos run;
-    run.main.optLandscape.select();
-    run.main.design_record.background = "Landscape";
-    run.main.design_record.design = "Saved";
-    EXPECT_EQ(sampled(run.full_run(), 250, 500), "bbbrrr\nbbbrrr\nyyyggg\nyyyggg\n");
 }
 
 TEST(make_flurn, a_design_drawn_for_a_lying_poster_stays)
@@ -171,15 +176,17 @@ TEST(make_flurn, a_border_shows_the_ground_evenly)
 
 TEST(make_flurn, large_frames_and_shadows_make_a_little_room_where_the_quick_styles_ask_for_it)
 {
-    four_photos run;
-    run.main.cmbFrame.set_text("20");
-    run.main.cmbShadow.set_text("11");
-    run.main.quick_border = true;
-    const bitmap shown = run.full_run();
-    EXPECT_EQ(letter_at(shown, 39, 700), '.');
-    EXPECT_EQ(letter_at(shown, 40, 700), 'r');
-    run.main.cmbShadow.set_text("10");
-    EXPECT_EQ(letter_at(run.full_run(), 20, 700), 'r');
+    const auto left_with = [](const char * shadow, bool quick_border) {
+        four_photos run;
+        run.main.cmbFrame.set_text("20");
+        run.main.cmbShadow.set_text(shadow);
+        run.main.quick_border = quick_border;
+        look_at_start(run, [] {});
+        return run.main.design_locations[0].left;
+    };
+    EXPECT_EQ(left_with("11", true), 40);
+    EXPECT_EQ(left_with("10", true), 0);
+    EXPECT_EQ(left_with("11", false), 0);
 }
 
 TEST(make_flurn, a_grid_fills_the_poster)
@@ -203,7 +210,7 @@ TEST(make_flurn, a_photo_that_vanished_ends_the_collage_with_what_it_has)
 {
     four_photos run;
     std::filesystem::remove(run.main.table[2]);
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\n??\n..\n");
+    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\n..\n..\n");
     expect_usable(run.main);
 }
 
@@ -223,8 +230,7 @@ TEST(make_flurn, matching_is_the_designs_and_the_users_choice)
         run.main.chkMatch.tick(true);
         settings(run.main);
         bool active = false;
-        run.desk.on_pump(1, [&] { active = run.main.run.match_active; });
-        run.full_run();
+        look_at_start(run, [&] { active = run.main.run.match_active; });
         return active;
     };
     EXPECT_TRUE(matched([](frmMain &) {}));
@@ -277,7 +283,7 @@ TEST(make_flurn, a_cancel_in_a_grid_lets_it_run_to_its_end)
     run.use_template({"0:0:2:2:0:-1:-1:0:", "0:0:1500:1000:0:0:0:0:"});
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     run.desk.on_pump(3, [&] { run.main.run.cancel_requested = true; });
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\n??\nby\n");
+    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\nby\nby\n");
     expect_usable(run.main);
 }
 
@@ -328,7 +334,7 @@ TEST(make_flurn, a_full_disk_is_told_with_its_file_and_leaves_the_old_picture)
                            path);
     EXPECT_EQ(read_file(path), "old");
     expect_usable(run.main);
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\n??\nby\n") << "the next run goes through";
+    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\nby\nby\n") << "the next run goes through";
 }
 
 TEST(make_flurn, a_missing_work_folder_is_told_with_its_file)
@@ -364,7 +370,7 @@ TEST(make_flurn, saving_is_offered_for_quick_styles_and_matrices_that_can_be_rea
         run.home.write("data/designs/__quick", text_of(quarters));
         run.main.mnuSaveDesign.enable(false);
         settings(run.main);
-        run.full_run();
+        look_at_start(run, [] {});
         return run.main.mnuSaveDesign.enabled();
     };
     EXPECT_FALSE(offered([](frmMain &) {}));
@@ -377,8 +383,7 @@ TEST(make_flurn, a_matrix_of_this_session_is_remembered)
 {
     four_photos run;
     run.main.matrix_session = true;
-    run.desk.on_pump(1, [&] { EXPECT_FALSE(run.main.matrix_session); });
-    run.full_run();
+    look_at_start(run, [&] { EXPECT_FALSE(run.main.matrix_session); });
     EXPECT_TRUE(run.main.matrix_session);
 }
 
@@ -392,7 +397,7 @@ TEST(make_flurn, dark_colours_keep_away_from_the_key)
     four_photos run;
     run.main.picFrameColor.set_back_color(0);
     run.main.picShadowColor.set_back_color(0x0A0B0C);
-    run.full_run();
+    look_at_start(run, [] {});
     EXPECT_EQ(run.main.run.frame_color, (rgb_triple{.blue = 7}));
     EXPECT_EQ(run.main.run.shadow_color, (rgb_triple{.red = 12, .green = 11, .blue = 10}));
 }

@@ -129,6 +129,34 @@ TEST(place_photos, a_stretched_design_is_stretched_before_the_bleed_comes)
     EXPECT_EQ(run.placed(run_size::full), measures(430 + 93, 430 + 210, 280, 420));
 }
 
+TEST(run_layout, what_is_turned_after_it_was_bent)
+{
+    const auto is_turned = [](const auto & settings) {
+        collage_fixture run;
+        settings(run.main);
+        return is_turned_afterwards(run.main);
+    };
+    EXPECT_FALSE(is_turned([](frmMain &) {}));
+    EXPECT_TRUE(is_turned([](frmMain & main) { main.landscape_turn = -90; }));
+    const auto upright_on_landscape = [](frmMain & main) {
+        main.optLandscape.select();
+        main.design_record.background = "Portrait";
+    };
+    EXPECT_TRUE(is_turned(upright_on_landscape));
+    const auto saved_landscape = [](frmMain & main) {
+        main.optLandscape.select();
+        main.design_record.background = "Landscape";
+        main.design_record.design = "Saved";
+        main.work_style = "Place";
+    };
+    EXPECT_TRUE(is_turned(saved_landscape));
+    EXPECT_FALSE(is_turned([&](frmMain & main) {
+        saved_landscape(main);
+        main.in_preview = true;
+        main.landscape_turn = saved_landscape_turn;
+    })) << "a preview has turned it already";
+}
+
 TEST(run_layout, tells_grids_from_places)
 {
     collage_fixture run;
