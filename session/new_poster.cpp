@@ -1,10 +1,7 @@
 #include "session/new_poster.h"
 
 #include "frames/frame_field.h"
-#include "photos/photo_list.h"
-#include "session/start_up.h"
 #include "session/window_state.h"
-#include "session/windows.h"
 #include "support/paths.h"
 
 namespace {
@@ -324,34 +321,6 @@ void show_what_remains(frmMain & main)
         main.chkRounded.enable(false);
 }
 
-// The counting with its small window and the busy pointer.
-void count_with_progress(frmMain & main)
-{
-    const busy pointer(main.desk);
-    if (main.all != nullptr)
-        main.desk.show(main.all->photo_count);
-    try {
-        count_photos(main);
-    } catch (...) {
-        if (main.all != nullptr)
-            main.desk.hide(main.all->photo_count);
-        throw;
-    }
-    if (main.all != nullptr)
-        main.desk.hide(main.all->photo_count);
-}
-
-void apply_design_to_photos(frmMain & main)
-{
-    count_with_progress(main);
-    main.lblOutput.set_caption("");
-    main.chkRounded.tick(false);
-    main.cmdMore.show(false);
-    main.optBlock.select(false);
-    new_poster(main);
-    main.picSample.show(false);
-}
-
 }  // namespace
 
 void new_poster(frmMain & main)
@@ -376,24 +345,4 @@ void new_poster(frmMain & main)
     }
     take_list_of_frame_set(main);
     show_what_remains(main);
-}
-
-void start_designed(frmMain & main)
-{
-    {
-        const updating quiet(main);
-        start_enable_true(main);
-        clear_matrix_design(main);
-        main.random_design = true;
-        main.chkMatch.enable(true);
-        main.picSample.show(false);
-        main.quick_active = false;
-        main.optSample.show(true);
-        if (photo_source_kind(main) != photo_source::none && !main.photo_choice_cancelled)
-            apply_design_to_photos(main);
-        if (main.design_record.quick_shape == "Yes" || main.design_record.design == "Saved")
-            main.frmOrnaments.show(false);
-        main.optPreview.select(false);  // still on from another collage, its click would not come
-    }
-    main.optPreview.select();
 }

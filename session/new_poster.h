@@ -6,5 +6,6 @@
 void new_poster(frmMain & main);
 
 /// The second half of " Designed flurn": a design and its photos are chosen, the photos are in the table.
-/// Counts them, applies the record and selects the preview.
+/// Counts them, in their own window, applies the record and selects the preview. Without photos the window
+/// stays in the choosing stage.
 void start_designed(frmMain & main);

@@ -296,7 +296,7 @@ TEST(new_poster, leaves_the_preview_to_its_caller)
     session.finish();
     session.main.chkSoftEdge.tick(true);
     session.main.design_record = {
-        .style = "Matrix", .bg_image = "sea.jpg", .caption = "Bottom", .block = "Yes"};
+        .file = "__missing", .style = "Matrix", .bg_image = "sea.jpg", .caption = "Bottom", .block = "Yes"};
     EXPECT_EQ(session.previews_of([&] { new_poster(session.main); }), 0);
 }
 
