@@ -67,32 +67,51 @@ double length(const picture_point & error)
     return std::hypot(error.x, error.y);
 }
 
-void measure_section(const rotation_numbers & numbers, lying photo, int rotation, std::vector<double> & all)
+struct spread {
+    double middle = 0, largest = 0;
+};
+
+spread spread_of(std::vector<double> lengths)
 {
-    std::vector<double> corners, ground;
+    std::ranges::sort(lengths);
+    return {.middle = lengths[lengths.size() / 2], .largest = lengths.back()};
+}
+
+/// Lengths of the errors in one kind of run.
+struct measured_errors {
+    std::vector<double> full, preview, ground;
+};
+
+void measure_section(const rotation_numbers & numbers, lying photo, int rotation, measured_errors & all)
+{
+    measured_errors here;
     for (const scaling & used : usual_scalings()) {
-        const auto times = static_cast<std::size_t>(used.weight);
-        corners.insert(corners.end(), times, length(corner_error(numbers, rotation, used)));
-        ground.insert(ground.end(), times, length(ground_error(numbers, rotation, used)));
+        (used.divisor == 1 ? here.full : here.preview)
+            .push_back(length(corner_error(numbers, rotation, used)));
+        here.ground.push_back(length(ground_error(numbers, rotation, used)));
     }
-    std::ranges::sort(corners);
-    std::ranges::sort(ground);
-    std::printf("%-5s corner median %.2f largest %.2f   ground median %.2f largest %.2f   %s\n",
-                section_of(photo, rotation).c_str(), corners[corners.size() / 2], corners.back(),
-                ground[ground.size() / 2], ground.back(),
+    const spread full = spread_of(here.full), preview = spread_of(here.preview),
+                 ground = spread_of(here.ground);
+    std::printf("%-5s full %.2f to %.2f   preview %.2f to %.2f   ground %.2f to %.2f   %s\n",
+                section_of(photo, rotation).c_str(), full.middle, full.largest, preview.middle,
+                preview.largest, ground.middle, ground.largest,
                 holds_all(numbers, photo, rotation) ? "holds all" : "TOO SMALL");
-    all.insert(all.end(), corners.begin(), corners.end());
+    all.full.insert(all.full.end(), here.full.begin(), here.full.end());
+    all.preview.insert(all.preview.end(), here.preview.begin(), here.preview.end());
 }
 
 int measure(const std::string & path)
 {
     const profile table(path);
-    std::vector<double> all;
+    measured_errors all;
+    std::cout << "Errors in pixels, median to largest: of the photo's corner, and of the background that "
+                 "comes back.\n";
     for (lying photo : both_ways)
         for (int rotation : table_rotations())
             measure_section(read_section(table, photo, rotation), photo, rotation, all);
-    std::ranges::sort(all);
-    std::printf("all   corner median %.2f largest %.2f\n", all[all.size() / 2], all.back());
+    const spread full = spread_of(all.full), preview = spread_of(all.preview);
+    std::printf("all   full %.2f to %.2f   preview %.2f to %.2f\n", full.middle, full.largest, preview.middle,
+                preview.largest);
     return 0;
 }
 

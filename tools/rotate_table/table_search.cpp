@@ -13,8 +13,8 @@ constexpr int long_side = 450, short_side = 300;  // of the photo that the numbe
 constexpr double reach_before = 65, reach_along = 630, reach_across = 460;
 
 constexpr int play = 6;          // pixels between what has to fit and the edge of the area
-constexpr int sizes_tried = 10;  // further pixels that each side of the area may have
-constexpr std::size_t finalists = 500;
+constexpr int sizes_tried = 12;  // further pixels that each side of the area may have
+constexpr std::size_t finalists = 3000;
 constexpr double far_scale = 64;  // shows the error that grows with the photo
 
 struct bounds {
@@ -117,13 +117,17 @@ struct rated_numbers {
     rotation_numbers numbers;
 };
 
+/// A first judgement of an area: the photo as it is, in the four previews, and how both errors grow.
 double quick_fault(const rotation_numbers & numbers, int rotation)
 {
     const double corner =
         squared(corner_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
     const double ground =
         squared(ground_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
-    return squared(corner_error(numbers, rotation, {})) + 6 * corner + ground;
+    double fault = 6 * corner + ground;
+    for (int divisor = 1; divisor <= 5; ++divisor)
+        fault += squared(corner_error(numbers, rotation, {.divisor = divisor}));
+    return fault;
 }
 
 /// The sum over all scalings, or, once that is reached, something from `limit` up. Large errors count for
@@ -177,7 +181,7 @@ std::vector<scaling> usual_scalings()
 {
     std::vector<scaling> found{{.factor = 1, .weight = 12}};
     for (int divisor = 2; divisor <= 5; ++divisor)
-        found.push_back({.factor = 1, .divisor = divisor, .weight = 8});
+        found.push_back({.factor = 1, .divisor = divisor, .weight = 20});
     for (int side = 310; side <= 1020; side += 10)
         found.push_back({.factor = side / static_cast<double>(short_side)});
     for (int side = 460; side <= 1020; side += 10)
