@@ -12,8 +12,7 @@
 namespace {
 
 constexpr int opaque = 255;  // weight of the photo in the turned area
-constexpr int margin =
-    8;  // pixels round the sheet that are turned along, so that no edge of them reaches its mask
+constexpr int margin = 8;    // pixels round the sheet that are turned too: no edge may reach its mask
 constexpr double slack = 3;  // pixels by which three shears can smear a mask
 
 /// One tilted photo on its way to the canvas.

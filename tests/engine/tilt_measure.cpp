@@ -23,7 +23,7 @@ constexpr int reach = 5;  // pixels looked at on either side of an edge
 /// the photo.
 int room_of(const tilted_cell & cell)
 {
-    return cell.size == run_size::preview ? 40 : cell.frame * 5 / 2 + cell.shadow + 20;
+    return cell.size == run_size::preview ? 40 : cell.frame * 3 + cell.shadow + 20;
 }
 
 picture_point turned_by(const picture_point & vector, int clockwise)

@@ -124,7 +124,7 @@ double quick_fault(const rotation_numbers & numbers, int rotation)
         squared(corner_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
     const double ground =
         squared(ground_error(numbers, rotation, {.factor = far_scale})) / (far_scale * far_scale);
-    double fault = 6 * corner + ground;
+    double fault = 6 * corner + 4 * ground;
     for (int divisor = 1; divisor <= 5; ++divisor)
         fault += squared(corner_error(numbers, rotation, {.divisor = divisor}));
     return fault;
@@ -141,7 +141,8 @@ double full_fault(const rotation_numbers & numbers, int rotation, const std::vec
             break;
         const double corner = squared(corner_error(numbers, rotation, used));
         const double ground = squared(ground_error(numbers, rotation, used));
-        fault += used.weight * (corner + 0.3 * corner * corner * corner + 0.1 * ground);
+        fault +=
+            used.weight * (corner + 0.3 * corner * corner * corner + 0.1 * ground + 0.02 * ground * ground);
     }
     return fault;
 }
