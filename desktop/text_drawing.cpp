@@ -2,33 +2,16 @@
 
 #include "desktop/qt_text.h"
 
-#include <QFont>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
-constexpr double dots_per_inch = 96, points_per_inch = 72;
 constexpr int widest_text = 32000;  // a bitmap's side has 16 bits
-
-QFont font_of(const font_style & style)
-{
-    QFont font;
-    if (!style.name.empty())
-        font.setFamily(shown(style.name));
-    font.setPixelSize(
-        std::max(1, static_cast<int>(std::lround(style.size * dots_per_inch / points_per_inch))));
-    font.setBold(style.bold);
-    font.setItalic(style.italic);
-    font.setUnderline(style.underline);
-    font.setStrikeOut(style.strikethrough);
-    return font;
-}
 
 QColor color_of(rgb_triple color)
 {
@@ -59,7 +42,7 @@ bitmap drawn_text(const text_request & request)
     const QString text = shown(request.text);
     if (text.isEmpty())
         return {};
-    const QFont font = font_of(request.font);
+    const QFont font = pixel_font(request.font);
     const QFontMetrics metrics(font);
     const int width = std::min(widest_text, metrics.horizontalAdvance(text) + request.extra_width);
     QImage painted(std::max(1, width), metrics.height(), QImage::Format_RGB32);

@@ -1,4 +1,63 @@
-int main()
+#include "desktop/guarded.h"
+#include "desktop/looks.h"
+#include "desktop/program_folders.h"
+#include "desktop/qt_desktop.h"
+#include "session/connect_all.h"
+#include "session/start_up.h"
+#include "support/paths.h"
+#include "support/platform_error.h"
+
+#include <QApplication>
+
+namespace {
+
+// Widgets go before the forms they show.
+class shown_windows {
+public:
+    explicit shown_windows(qt_desktop & used) : desk(used) {}
+    shown_windows(const shown_windows &) = delete;
+    shown_windows & operator=(const shown_windows &) = delete;
+    ~shown_windows() { desk.forget_windows(); }
+
+private:
+    qt_desktop & desk;
+};
+
+void start(windows & all)
 {
-    return 0;
+    all.main.install_folder = program_folder();
+    prepare_data_folder(all.main, data_folder_choice());
+    supply_package_folders(all.main);
+    connect_all(all);
+    all.main.picSplash.load(joined(all.main.install_folder, "images/splash.png"));
+    all.main.desk.show(all.main);
+}
+
+int run(qt_desktop & desk)
+{
+    windows all(desk, clock_random());
+    const shown_windows until_here(desk);
+    try {
+        with_platform_errors([&all] { start(all); });
+    } catch (const end_of_program & end) {
+        return end.status;
+    } catch (const platform_error & error) {
+        desk.message(run_time_error(code(error), told(error)), {});
+        return 1;
+    }
+    return all.main.loaded() ? QApplication::exec() : 0;
+}
+
+}  // namespace
+
+int main(int, char ** words)
+{
+    int only_the_name = 1;  // the program reads no command line, nor lets the toolkit read one
+    QApplication application(only_the_name, words);
+    QApplication::setApplicationName(QStringLiteral("tessaloom"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Tessaloom"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    apply_looks(application);
+    qt_desktop desk;
+    return run(desk);
 }

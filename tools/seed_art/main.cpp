@@ -2,6 +2,7 @@
 //
 //     seed_art mask IN.svg OUT.gif            800 by 800, grey levels
 //     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
+//     seed_art png IN.svg OUT.png W H         a PNG of that size, clear where nothing is drawn
 //     seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which is checked
 #include <QImage>
 #include <QPainter>
@@ -24,13 +25,13 @@ struct unloader {
 };
 using image_owner = std::unique_ptr<FIBITMAP, unloader>;
 
-QImage rendered(const QString & drawing, int width, int height)
+QImage rendered(const QString & drawing, int width, int height, Qt::GlobalColor ground = Qt::white)
 {
     QSvgRenderer renderer(drawing);
     if (!renderer.isValid())
         throw std::runtime_error(drawing.toStdString() + ": no drawing");
-    QImage page(width, height, QImage::Format_RGB32);
-    page.fill(Qt::white);
+    QImage page(width, height, ground == Qt::white ? QImage::Format_RGB32 : QImage::Format_ARGB32);
+    page.fill(ground);
     QPainter painter(&page);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     renderer.render(&painter, QRectF(0, 0, width, height));
@@ -70,6 +71,12 @@ void render_picture(const char * drawing, const char * target, int width, int he
     save(FIF_JPEG, in_colour(rendered(drawing, width, height)), target, picture_quality);
 }
 
+void render_png(const char * drawing, const char * target, int width, int height)
+{
+    if (!rendered(drawing, width, height, Qt::transparent).save(target))
+        throw std::runtime_error(std::string(target) + ": can't be written");
+}
+
 bool is_white(const char * path)
 {
     const image_owner image(FreeImage_Load(FIF_JPEG, path, 0));
@@ -100,10 +107,12 @@ void render(int count, char ** arguments)
         render_mask(arguments[2], arguments[3]);
     else if (kind == "picture" && count == 6)
         render_picture(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    else if (kind == "png" && count == 6)
+        render_png(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "white" && count == 4)
         render_white(arguments[2], std::stoi(arguments[3]));
     else
-        throw std::runtime_error("mask IN OUT, picture IN OUT WIDTH HEIGHT or white OUT SIZE");
+        throw std::runtime_error("mask IN OUT, picture or png IN OUT WIDTH HEIGHT, or white OUT SIZE");
 }
 
 }  // namespace

@@ -1,0 +1,244 @@
+#include "desktop/binder.h"
+
+#include "desktop/captions.h"
+#include "desktop/control_display.h"
+#include "desktop/control_input.h"
+#include "desktop/focus_keeper.h"
+#include "desktop/qt_text.h"
+
+#include <QCloseEvent>
+#include <QHash>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPointer>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr int units_of_a_pixel = 15;
+
+class binding : public QObject {
+public:
+    binding(form & its_form, QWidget & its_window, window_hooks its_hooks);
+    bool eventFilter(QObject * watched, QEvent * event) override;
+
+private:
+    void bind_control(control & held);
+    void show_control(control & held, QObject & widget);
+    void show_widget(control & held, QWidget & widget);
+    void show_window();
+    void show_menu_bar();
+    void act(const std::function<void()> & step);
+    bool is_covered(const QWidget & widget) const;
+    bool key_pressed(const QKeyEvent & event);
+    bool option_key(QRadioButton & option, int pressed);
+
+    form & bound;
+    QWidget & window;
+    window_hooks hooks;
+    focus_keeper focus;
+    QHash<QString, QWidget *> behind;  // what each covering control hides
+    QHash<QObject *, text_box *> boxes;
+    int actions = 0;  // of the user, one inside the other
+};
+
+binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
+    : QObject(&its_window),
+      bound(its_form),
+      window(its_window),
+      hooks(std::move(its_hooks)),
+      focus(its_window)
+{
+    window.installEventFilter(this);
+    window.installEventFilter(&focus);  // sees keys first: one that waits for its text box asks for no help
+    for (control * held : bound.controls())
+        bind_control(*held);
+    bound.on_shown_change = [guard = QPointer(this)] {
+        if (guard)
+            guard->show_window();
+    };
+    show_window();
+}
+
+void binding::bind_control(control & held)
+{
+    QObject * const found = widget_of(held, window);
+    if (!found)
+        return;
+    if (auto * const widget = qobject_cast<QWidget *>(found)) {
+        widget->installEventFilter(this);
+        const QString cover = widget->property("coveredBy").toString();
+        if (!cover.isEmpty())
+            behind.insert(cover, widget);
+    } else {
+        found->setObjectName(QString::fromStdString(held.name()));
+    }
+    if (auto * const text = dynamic_cast<text_box *>(&held))
+        boxes.insert(found, text);
+    listen(held, *found, *this, [this, &held, found](const std::function<void()> & step) {
+        act(step);
+        show_control(held, *found);
+    });
+    held.on_shown_change = [guard = QPointer(this), &held, found] {
+        if (guard)
+            guard->show_control(held, *found);
+    };
+    show_control(held, *found);
+}
+
+void binding::show_control(control & held, QObject & widget)
+{
+    if (auto * const seen = qobject_cast<QWidget *>(&widget)) {
+        show_widget(held, *seen);
+        return;
+    }
+    display(held, widget);
+    show_menu_bar();
+}
+
+void binding::show_widget(control & held, QWidget & widget)
+{
+    const bool visible = held.visible() && !is_covered(widget);
+    if (!held.enabled() || !visible)
+        focus.before_loss(widget);
+    display(held, widget);
+    widget.setVisible(visible);
+    if (QWidget * const hidden = behind.value(widget.objectName()))
+        if (control * const covered = bound.find(hidden->objectName().toStdString()))
+            show_widget(*covered, *hidden);
+    if (held.enabled() && visible)
+        focus.after_return();
+}
+
+bool binding::is_covered(const QWidget & widget) const
+{
+    const control * const cover = bound.find(widget.property("coveredBy").toString().toStdString());
+    return cover && cover->visible();
+}
+
+void binding::show_window()
+{
+    window.setWindowTitle(shown(bound.caption()));
+    if (window.property("stage").toBool()) {
+        QPalette colors = window.palette();
+        colors.setColor(QPalette::Window, shown_color(bound.back_color()));
+        window.setPalette(colors);
+    }
+    if (bound.width() > 0 && bound.height() > 0)
+        window.setFixedSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel);
+    if (!bound.loaded())
+        fire(hooks.unloaded);
+}
+
+// A bar without an entry would still take its room.
+void binding::show_menu_bar()
+{
+    auto * const main = qobject_cast<QMainWindow *>(&window);
+    if (!main)
+        return;
+    const QList<QAction *> entries = main->menuBar()->actions();
+    main->menuBar()->setVisible(std::any_of(entries.begin(), entries.end(),
+                                            [](const QAction * entry) { return entry->isVisible(); }));
+}
+
+void binding::act(const std::function<void()> & step)
+{
+    ++actions;
+    guarded(hooks.report, step);
+    if (--actions == 0)
+        focus.action_over();
+}
+
+bool binding::eventFilter(QObject * watched, QEvent * event)
+{
+    if (watched == &window && event->type() == QEvent::Close) {
+        event->ignore();
+        act([this] { bound.request_close(); });
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        const auto & pressed = static_cast<const QKeyEvent &>(*event);
+        auto * const option = qobject_cast<QRadioButton *>(watched);
+        return watched == &window ? key_pressed(pressed) : option && option_key(*option, pressed.key());
+    }
+    if (event->type() == QEvent::FocusIn && boxes.contains(watched)) {
+        const Qt::FocusReason reason = static_cast<const QFocusEvent *>(event)->reason();
+        if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+            reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
+            act([box = boxes.value(watched)] { fire(box->on_enter); });
+    }
+    return false;
+}
+
+// Keys arrive here when no widget of the window took them; a text field takes its "?".
+bool binding::key_pressed(const QKeyEvent & event)
+{
+    const bool is_dialog = !qobject_cast<QMainWindow *>(&window);
+    if (event.key() == Qt::Key_Escape && is_dialog) {
+        act([this] { bound.request_close(); });
+        return true;
+    }
+    std::optional<key> asked;
+    if (event.key() == Qt::Key_F1)
+        asked = key::f1;
+    if (event.key() == Qt::Key_Question || event.key() == Qt::Key_Help)
+        asked = key::help;
+    if (!asked || !bound.on_key)
+        return false;
+    act([this, asked] { bound.on_key(*asked); });
+    return true;
+}
+
+// With exclusion left to the session the toolkit's arrow keys would only wander.
+bool binding::option_key(QRadioButton & option, int pressed)
+{
+    const bool forward = pressed == Qt::Key_Down || pressed == Qt::Key_Right;
+    const bool backward = pressed == Qt::Key_Up || pressed == Qt::Key_Left;
+    if (!forward && !backward)
+        return false;
+    auto options = option.parentWidget()->findChildren<QRadioButton *>(Qt::FindDirectChildrenOnly);
+    options.removeIf([&](const QRadioButton * other) { return !other->isEnabled() || !other->isVisible(); });
+    const qsizetype count = options.size();
+    QRadioButton * const next = options[(options.indexOf(&option) + (forward ? 1 : count - 1)) % count];
+    next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    next->click();
+    return true;
+}
+
+// Names of the toolkit's own widgets begin with "qt_".
+bool is_helper(const QWidget & widget)
+{
+    const QString & name = widget.objectName();
+    return name.isEmpty() || name.startsWith(QLatin1String("qt_")) || name.endsWith(QLatin1String("_area"));
+}
+
+bool is_shown(control & held, const QWidget & window)
+{
+    QObject * const found = widget_of(held, window);
+    return found && visit_pair(held, *found, [](auto &, auto &) {});
+}
+
+}  // namespace
+
+void bind(form & its_form, QWidget & window, window_hooks hooks)
+{
+    new binding(its_form, window, std::move(hooks));  // owned by the window
+}
+
+std::vector<std::string> binding_faults(const form & its_form, const QWidget & window)
+{
+    std::vector<std::string> faults;
+    for (control * held : its_form.controls())
+        if (!is_shown(*held, window))
+            faults.push_back(its_form.name() + ": no widget for " + held->name());
+    for (const QWidget * widget : window.findChildren<QWidget *>())
+        if (!is_helper(*widget) && !its_form.find(widget->objectName().toStdString()))
+            faults.push_back(its_form.name() + ": no control for " + widget->objectName().toStdString());
+    for (const QAction * action : window.findChildren<QAction *>())
+        if (!action->objectName().isEmpty() && !its_form.find(action->objectName().toStdString()))
+            faults.push_back(its_form.name() + ": no control for " + action->objectName().toStdString());
+    return faults;
+}

@@ -1,0 +1,158 @@
+#include "desktop/control_display.h"
+
+#include "desktop/captions.h"
+#include "desktop/qt_text.h"
+
+#include <QGroupBox>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace {
+
+QString letters_of(const QObject & widget)
+{
+    const auto * const action = qobject_cast<const QAction *>(&widget);
+    if (action && action->menu())
+        return action->menu()->property("mnemonic").toString();
+    return widget.property("mnemonic").toString();
+}
+
+QString marked_caption(const control & held, const QObject & widget)
+{
+    return with_mnemonic(shown(held.caption()), letters_of(widget));
+}
+
+// A colour of 0 on 0 is one that nobody chose.
+void display_colors(const control & held, QWidget & widget, QPalette::ColorRole back,
+                    QPalette::ColorRole fore)
+{
+    if (held.back_color() == held.fore_color())
+        return;
+    QPalette colors = widget.palette();
+    colors.setColor(back, shown_color(held.back_color()));
+    colors.setColor(fore, shown_color(held.fore_color()));
+    widget.setPalette(colors);
+}
+
+void display_content(const button & held, QPushButton & widget)
+{
+    widget.setText(marked_caption(held, widget));
+}
+
+void display_content(const check_box & held, QCheckBox & widget)
+{
+    widget.setText(marked_caption(held, widget));
+    widget.setChecked(held.ticked());
+}
+
+void display_content(const option_button & held, QRadioButton & widget)
+{
+    widget.setText(marked_caption(held, widget));
+    widget.setAutoExclusive(false);
+    widget.setChecked(held.selected());
+}
+
+void display_items(const combo_box & held, QComboBox & widget)
+{
+    QStringList wanted, there;
+    for (const std::string & item : held.items())
+        wanted.append(shown(item));
+    for (int i = 0; i < widget.count(); ++i)
+        there.append(widget.itemText(i));
+    if (wanted == there)
+        return;
+    widget.clear();
+    widget.addItems(wanted);
+}
+
+// Position and text are kept in step, both: a text whose position is not the current one would be taken for a
+// choice when the focus leaves the box.
+void display_content(const combo_box & held, QComboBox & widget)
+{
+    display_items(held, widget);
+    const int cursor = widget.lineEdit() ? widget.lineEdit()->cursorPosition() : 0;
+    const QString text = shown(held.text());
+    if (widget.currentIndex() != held.list_index())
+        widget.setCurrentIndex(held.list_index());
+    if (widget.currentText() != text)
+        widget.setEditText(text);
+    if (widget.lineEdit() && widget.hasFocus())
+        widget.lineEdit()->setCursorPosition(cursor);
+}
+
+void display_content(const text_box & held, QLineEdit & widget)
+{
+    const QString text = shown(held.text());
+    if (widget.text() != text)
+        widget.setText(text);
+    if (!widget.hasFocus())
+        widget.setCursorPosition(0);  // a long text shows its beginning
+    display_colors(held, widget, QPalette::Base, QPalette::Text);
+    if (held.font() == font_style{})
+        return;
+    QFont font = pixel_font(held.font());
+    const QVariant largest = widget.property("largest");
+    if (largest.isValid())
+        font.setPixelSize(std::min(font.pixelSize(), largest.toInt()));
+    widget.setFont(font);
+}
+
+void display_content(const label & held, QLabel & widget)
+{
+    const QString text = shown(held.caption()).remove(QLatin1Char('\r'));
+    widget.setTextFormat(Qt::PlainText);
+    widget.setText(widget.buddy() ? with_mnemonic_in_any_text(text, letters_of(widget)) : text);
+    display_colors(held, widget, QPalette::Window, QPalette::WindowText);
+}
+
+void display_content(const picture & held, picture_view & widget)
+{
+    const bool usable = static_cast<bool>(held.on_click);
+    widget.setFocusPolicy(usable ? Qt::StrongFocus : Qt::NoFocus);
+    widget.setCursor(usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    widget.set_back_color(shown_color(held.back_color()));
+    if (widget.property("shown_load").toInt() == held.load_count())
+        return;
+    widget.setProperty("shown_load", held.load_count());
+    widget.show_file(held.file());
+}
+
+void display_content(const menu_entry & held, QAction & widget)
+{
+    widget.setText(marked_caption(held, widget));
+    widget.setEnabled(held.enabled() && !widget.property("divider").toBool());
+    widget.setVisible(held.visible());
+}
+
+void display_content(const group & held, QWidget & widget)
+{
+    if (auto * const box = qobject_cast<QGroupBox *>(&widget)) {
+        box->setTitle(shown(held.caption()));
+        box->setAccessibleName(unspaced(box->title()));
+    }
+}
+
+void display_place(const control & held, QWidget & widget)
+{
+    const box & at = held.place();
+    if (at == box{} || !widget.property("placed").toBool())
+        return;
+    const QSize own = widget.sizeHint();
+    widget.setGeometry(at.left, at.top, at.width ? at.width : own.width(),
+                       at.height ? at.height : own.height());
+}
+
+}  // namespace
+
+void display(control & held, QObject & shown_on)
+{
+    visit_pair(held, shown_on, [](auto & known, auto & widget) { display_content(known, widget); });
+    auto * const widget = qobject_cast<QWidget *>(&shown_on);
+    if (!widget)
+        return;
+    widget->setEnabled(held.enabled());
+    if (!held.tool_tip().empty())
+        widget->setToolTip(shown(held.tool_tip()));
+    display_place(held, *widget);
+}

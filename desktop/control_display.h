@@ -1,0 +1,14 @@
+#pragma once
+
+#include "desktop/control_pairs.h"
+
+/// From control to widget. The Designer file may say more about a widget than a control knows, by properties
+/// of these names:
+///   mnemonic   letters of which the first that stands in the caption becomes the shortcut
+///   placed     true: the widget stands where the control's `place` says
+///   coveredBy  the name of a control behind which this one disappears
+///   divider    true: an entry of the menu bar that can't be chosen
+///   largest    pixels: the greatest height of letters that its box has room for
+
+/// Brings the widget to the state of its control; fires none of the signals that a user's action fires.
+void display(control & held, QObject & widget);

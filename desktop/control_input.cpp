@@ -1,0 +1,72 @@
+#include "desktop/control_input.h"
+
+#include "desktop/qt_text.h"
+
+namespace {
+
+struct listener {
+    QObject & owner;
+    const user_action & act;
+
+    void operator()(button & held, QPushButton & widget) const
+    {
+        connect_click(widget, [&held] { held.click(); });
+    }
+
+    void operator()(check_box & held, QCheckBox & widget) const
+    {
+        connect_click(widget, [&held, &widget] { held.tick(widget.isChecked()); });
+    }
+
+    // A click on the selected option would deselect it in the widget; the session knows no such thing.
+    void operator()(option_button & held, QRadioButton & widget) const
+    {
+        connect_click(widget, [&held] { held.select(); });
+    }
+
+    void operator()(picture & held, picture_view & widget) const
+    {
+        connect_click(widget, [&held] { held.click(); });
+    }
+
+    void operator()(menu_entry & held, QAction & widget) const
+    {
+        QObject::connect(&widget, &QAction::triggered, &owner,
+                         [run = act, &held] { run([&held] { held.click(); }); });
+    }
+
+    // A box that loses the focus tells of the entry that its text stands for, as if it had been chosen: that
+    // text is the control's already, and choosing it again means nothing.
+    void operator()(combo_box & held, QComboBox & widget) const
+    {
+        QObject::connect(&widget, &QComboBox::activated, &owner,
+                         [run = act, &held](int index) { run([&held, index] { held.choose(index); }); });
+        if (widget.lineEdit())
+            QObject::connect(
+                widget.lineEdit(), &QLineEdit::textEdited, &owner,
+                [run = act, &held](const QString & text) { run([&] { held.set_text(bytes_of(text)); }); });
+    }
+
+    void operator()(text_box & held, QLineEdit & widget) const
+    {
+        QObject::connect(&widget, &QLineEdit::textEdited, &owner, [run = act, &held](const QString & text) {
+            run([&] { held.set_text(bytes_of(text)); });
+        });
+    }
+
+    void operator()(label &, QLabel &) const {}
+    void operator()(group &, QWidget &) const {}
+
+    template <typename Step>
+    void connect_click(QAbstractButton & widget, Step step) const
+    {
+        QObject::connect(&widget, &QAbstractButton::clicked, &owner, [run = act, step] { run(step); });
+    }
+};
+
+}  // namespace
+
+void listen(control & held, QObject & widget, QObject & owner, const user_action & act)
+{
+    visit_pair(held, widget, listener{owner, act});
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// The toolkit's own style with boxes and circles that stand out from dark panels: a light outline, and the
+/// accent when ticked or selected.
+class indicator_style : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    indicator_style();
+    void drawPrimitive(PrimitiveElement element, const QStyleOption * option, QPainter * painter,
+                       const QWidget * widget) const override;
+};

@@ -1,0 +1,300 @@
+#include "desktop/qt_desktop.h"
+
+#include "desktop/binder.h"
+#include "desktop/captions.h"
+#include "desktop/file_filter.h"
+#include "desktop/printing.h"
+#include "desktop/program_folders.h"
+#include "desktop/qt_text.h"
+#include "desktop/text_drawing.h"
+#include "desktop/windows_made.h"
+#include "support/paths.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QFile>
+#include <QMessageBox>
+#include <QPrinterInfo>
+#include <QScreen>
+#include <QUrl>
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+// Boxes and choosers belong to the window that the user is in.
+QWidget * owner_window()
+{
+    if (QWidget * const modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget * const active = QApplication::activeWindow())
+        return active;
+    for (QWidget * widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->isWindow())
+            return widget;
+    return nullptr;
+}
+
+QString toolkit_path(const std::string & path)
+{
+    return QFile::decodeName(QByteArray::fromStdString(path));
+}
+
+std::string path_bytes(const QString & path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+void prepare_box(QMessageBox & box, const std::string & title, const std::string & text)
+{
+    box.setWindowTitle(title.empty() ? QApplication::applicationDisplayName() : shown(title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(shown(text).remove(QLatin1Char('\r')));
+}
+
+// A window that the Designer file doesn't size fills most of the screen.
+void size_to_screen(QWidget & window)
+{
+    if (!window.property("fillsScreen").toBool())
+        return;
+    const QRect room = window.screen()->availableGeometry();
+    const QSize size = room.size() * 9 / 10;
+    window.setGeometry(QRect(room.center() - QPoint(size.width() / 2, size.height() / 2), size));
+}
+
+// A question that comes up in the midst of work is answered with an arrow, not with an hourglass.
+class arrow_pointer {
+public:
+    arrow_pointer()
+    {
+        if (is_needed)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    arrow_pointer(const arrow_pointer &) = delete;
+    arrow_pointer & operator=(const arrow_pointer &) = delete;
+    ~arrow_pointer()
+    {
+        if (is_needed)
+            QApplication::restoreOverrideCursor();
+    }
+
+private:
+    bool is_needed = QApplication::overrideCursor() != nullptr;
+};
+
+}  // namespace
+
+qt_desktop::~qt_desktop()
+{
+    forget_windows();
+}
+
+void qt_desktop::message(const std::string & text, const std::string & title)
+{
+    const arrow_pointer usable;
+    QMessageBox box(owner_window());
+    prepare_box(box, title, text);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+answer qt_desktop::ask(const question & asked)
+{
+    const arrow_pointer usable;
+    QMessageBox box(owner_window());
+    prepare_box(box, asked.title, asked.text);
+    box.setIcon(QMessageBox::Question);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    if (asked.offered == answers::yes_no_cancel)
+        box.addButton(QMessageBox::Cancel);
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return answer::yes;
+        case QMessageBox::No:
+            return answer::no;
+        default:
+            return answer::cancel;
+    }
+}
+
+QWidget & qt_desktop::made(form & window)
+{
+    if (QWidget * const there = window_of(window))
+        return *there;
+    std::unique_ptr<QWidget> widget = make_window(window.name(), owner_window());
+    if (!widget)
+        throw std::logic_error("no Designer file for " + window.name());
+    bind(window, *widget,
+         {.report = [this](const std::string & text) { message(text, {}); },
+          .unloaded = [this, &window] { taken_down(window); }});
+    size_to_screen(*widget);
+    windows[&window].widget = widget.get();
+    return *widget.release();
+}
+
+void qt_desktop::show(form & window)
+{
+    window.load();
+    if (window.loaded())
+        made(window).show();
+}
+
+void qt_desktop::hide(form & window)
+{
+    window.unload();
+}
+
+void qt_desktop::show_modal(form & window)
+{
+    window.load();
+    if (!window.loaded())
+        return;
+    const arrow_pointer usable;
+    QWidget & widget = made(window);
+    QEventLoop loop;
+    windows[&window].modal_loop = &loop;
+    widget.setWindowModality(Qt::ApplicationModal);
+    widget.show();
+    loop.exec();
+    window.unload();  // still loaded when the whole program has been ended meanwhile
+}
+
+// The window may be in the midst of the event that took it down, so it goes later.
+void qt_desktop::taken_down(const form & window)
+{
+    const auto found = windows.find(&window);
+    if (found == windows.end())
+        return;
+    if (found->second.modal_loop)
+        found->second.modal_loop->quit();
+    if (QWidget * const widget = found->second.widget) {
+        widget->hide();
+        widget->deleteLater();
+    }
+    windows.erase(found);
+    if (windows.empty())
+        QCoreApplication::quit();
+}
+
+void qt_desktop::pump()
+{
+    QCoreApplication::processEvents();
+}
+
+void qt_desktop::busy_pointer(bool on)
+{
+    busy_depth = std::max(0, busy_depth + (on ? 1 : -1));
+    if (on && busy_depth == 1)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (!on && busy_depth == 0)
+        QApplication::restoreOverrideCursor();
+}
+
+QString qt_desktop::folder_to_open(const std::string & wanted) const
+{
+    for (const std::string & folder : {wanted, last_folder})
+        if (!folder.empty() && folder_exists(folder))
+            return toolkit_path(folder);
+    return toolkit_path(pictures_folder());
+}
+
+std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_request & asked)
+{
+    chooser.setWindowTitle(shown(asked.title));
+    chooser.setDirectory(folder_to_open(asked.folder));
+    if (!asked.filter.empty())
+        chooser.setNameFilters(toolkit_filter(asked.filter).split(QStringLiteral(";;")));
+    const arrow_pointer usable;
+    if (chooser.exec() != QDialog::Accepted)
+        return {};
+    last_folder = path_bytes(chooser.directory().absolutePath());
+    std::vector<std::string> paths;
+    for (const QString & path : chooser.selectedFiles())
+        paths.push_back(with_platform_separators(path_bytes(path)));
+    return paths;
+}
+
+std::optional<std::string> qt_desktop::choose_folder(const std::string & title)
+{
+    QFileDialog chooser(owner_window());
+    chooser.setFileMode(QFileDialog::Directory);
+    chooser.setOption(QFileDialog::ShowDirsOnly);
+    file_request asked;
+    asked.title = title;
+    const std::vector<std::string> paths = chosen(chooser, asked);
+    return paths.empty() ? std::nullopt : std::optional(paths.front());
+}
+
+std::vector<std::string> qt_desktop::choose_files(const file_request & asked)
+{
+    QFileDialog chooser(owner_window());
+    chooser.setFileMode(QFileDialog::ExistingFiles);
+    return chosen(chooser, asked);
+}
+
+std::optional<std::string> qt_desktop::choose_file(const file_request & asked)
+{
+    QFileDialog chooser(owner_window());
+    chooser.setFileMode(QFileDialog::ExistingFile);
+    const std::vector<std::string> paths = chosen(chooser, asked);
+    return paths.empty() ? std::nullopt : std::optional(paths.front());
+}
+
+// Overwriting is the session's question.
+std::optional<std::string> qt_desktop::choose_save(const file_request & asked)
+{
+    QFileDialog chooser(owner_window());
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    chooser.setOption(QFileDialog::DontConfirmOverwrite);
+    chooser.setDefaultSuffix(shown(asked.extension));
+    const std::vector<std::string> paths = chosen(chooser, asked);
+    return paths.empty() ? std::nullopt : std::optional(paths.front());
+}
+
+std::optional<std::uint32_t> qt_desktop::choose_color(std::uint32_t initial)
+{
+    const QColor color = QColorDialog::getColor(shown_color(initial), owner_window());
+    return color.isValid() ? std::optional(control_color(color)) : std::nullopt;
+}
+
+bool qt_desktop::open_document(const std::string & target)
+{
+    const bool is_file = file_exists(target) || folder_exists(target);
+    return QDesktopServices::openUrl(is_file ? QUrl::fromLocalFile(toolkit_path(target))
+                                             : QUrl(shown(target)));
+}
+
+bool qt_desktop::print(const bitmap & image, page orientation)
+{
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull())
+        return false;
+    QPrinter printer(info, QPrinter::HighResolution);
+    return print_on(printer, image, orientation);
+}
+
+std::vector<std::string> qt_desktop::font_names()
+{
+    return installed_fonts();
+}
+
+bitmap qt_desktop::draw_text(const text_request & request)
+{
+    return drawn_text(request);
+}
+
+void qt_desktop::forget_windows()
+{
+    for (auto & [window, entry] : windows)
+        delete entry.widget;
+    windows.clear();
+}
+
+QWidget * qt_desktop::window_of(const form & its_form) const
+{
+    const auto found = windows.find(&its_form);
+    return found == windows.end() ? nullptr : found->second.widget.data();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "support/desktop.h"
+
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QPointer>
+
+#include <map>
+
+/// The platform with windows. Needs a running QApplication. When the last window has gone, the application's
+/// event loop ends. A window lives from the load of its form to its unload.
+class qt_desktop : public desktop {
+public:
+    ~qt_desktop() override;
+
+    void message(const std::string & text, const std::string & title) override;
+    answer ask(const question & asked) override;
+    void show(form & window) override;
+    void hide(form & window) override;
+    void show_modal(form & window) override;
+    void pump() override;
+    void busy_pointer(bool on) override;
+    std::optional<std::string> choose_folder(const std::string & title) override;
+    std::vector<std::string> choose_files(const file_request & asked) override;
+    std::optional<std::string> choose_file(const file_request & asked) override;
+    std::optional<std::string> choose_save(const file_request & asked) override;
+    std::optional<std::uint32_t> choose_color(std::uint32_t initial) override;
+    bool open_document(const std::string & target) override;
+    bool print(const bitmap & image, page orientation) override;
+    std::vector<std::string> font_names() override;
+    bitmap draw_text(const text_request & request) override;
+
+    /// Deletes all windows; the forms may go after that.
+    void forget_windows();
+    /// The window of a form that has been shown, nullptr before.
+    QWidget * window_of(const form & its_form) const;
+
+private:
+    struct shown_window {
+        QPointer<QWidget> widget;
+        QEventLoop * modal_loop = nullptr;  ///< runs while the window is shown modally
+    };
+    QWidget & made(form & window);
+    void taken_down(const form & window);
+    QString folder_to_open(const std::string & wanted) const;
+    std::vector<std::string> chosen(QFileDialog & chooser, const file_request & asked);
+
+    std::map<const form *, shown_window> windows;
+    std::string last_folder;
+    int busy_depth = 0;
+};

@@ -1,0 +1,42 @@
+#include "desktop/windows_made.h"
+
+#include "ui_frmImage.h"
+#include "ui_frmMain.h"
+#include "ui_frmPhotoCnt.h"
+
+#include <QDialog>
+#include <QMainWindow>
+
+#include <array>
+#include <string_view>
+
+namespace {
+
+template <typename Window, typename Looks>
+std::unique_ptr<QWidget> made(QWidget * parent)
+{
+    auto window = std::make_unique<Window>(parent);
+    Looks().setupUi(window.get());
+    return window;
+}
+
+struct maker {
+    std::string_view form_name;
+    std::unique_ptr<QWidget> (*make)(QWidget * parent);
+};
+
+constexpr std::array makers{
+    maker{"frmMain", made<QMainWindow, Ui::frmMain>},
+    maker{"frmPhotoCnt", made<QDialog, Ui::frmPhotoCnt>},
+    maker{"frmImage", made<QDialog, Ui::frmImage>},
+};
+
+}  // namespace
+
+std::unique_ptr<QWidget> make_window(const std::string & form_name, QWidget * parent)
+{
+    for (const maker & known : makers)
+        if (known.form_name == form_name)
+            return known.make(parent);
+    return nullptr;
+}

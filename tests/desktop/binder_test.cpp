@@ -1,0 +1,430 @@
+#include "bound_form.h"
+#include "support/platform_error.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <utility>
+
+namespace {
+
+// ---- from user to control
+
+TEST(binder, a_click_reaches_the_button)
+{
+    bound_form shown;
+    int clicks = 0;
+    shown.held.cmdGo.on_click = [&] { ++clicks; };
+    QTest::mouseClick(shown.go, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(binder, a_click_ticks_the_box_and_fires_its_handler_once)
+{
+    bound_form shown;
+    int changes = 0;
+    shown.held.chkKeep.on_change = [&] { ++changes; };
+    QTest::mouseClick(shown.keep, Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_TRUE(shown.held.chkKeep.ticked());
+    EXPECT_EQ(changes, 1);
+}
+
+TEST(binder, a_box_that_its_handler_unticks_is_shown_unticked)
+{
+    bound_form shown;
+    shown.held.chkKeep.on_change = [&] { shown.held.chkKeep.tick(false); };
+    QTest::mouseClick(shown.keep, Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_FALSE(shown.keep->isChecked());
+}
+
+TEST(binder, selecting_an_option_deselects_the_other_in_form_and_window)
+{
+    bound_form shown;
+    QTest::mouseClick(shown.left, Qt::LeftButton, {}, QPoint(8, 12));
+    QTest::mouseClick(shown.right, Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_FALSE(shown.held.optLeft.selected());
+    EXPECT_TRUE(shown.held.optRight.selected());
+    EXPECT_FALSE(shown.left->isChecked());
+    EXPECT_TRUE(shown.right->isChecked());
+}
+
+TEST(binder, a_click_on_the_selected_option_changes_nothing)
+{
+    bound_form shown;
+    shown.held.optLeft.select();
+    int clicks = 0;
+    shown.held.optLeft.on_click = [&] { ++clicks; };
+    QTest::mouseClick(shown.left, Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_TRUE(shown.left->isChecked());
+    EXPECT_TRUE(shown.held.optLeft.selected());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST(binder, arrow_keys_select_the_next_option_and_go_round)
+{
+    bound_form shown;
+    shown.held.optLeft.select();
+    shown.left->setFocus();
+    QTest::keyClick(shown.left, Qt::Key_Down);
+    EXPECT_TRUE(shown.held.optRight.selected());
+    EXPECT_TRUE(shown.right->hasFocus());
+    QTest::keyClick(shown.right, Qt::Key_Right);
+    EXPECT_TRUE(shown.held.optLeft.selected());
+}
+
+TEST(binder, typing_reaches_the_text_box_letter_by_letter)
+{
+    bound_form shown;
+    std::vector<std::string> texts;
+    shown.held.txtName.on_change = [&] { texts.push_back(shown.held.txtName.text()); };
+    QTest::keyClicks(shown.name, "abc");
+    EXPECT_EQ(texts, (std::vector<std::string>{"a", "ab", "abc"}));
+}
+
+TEST(binder, text_travels_as_utf8_both_ways)
+{
+    bound_form shown;
+    shown.held.txtName.set_text("K\xC3\xBCste");
+    EXPECT_EQ(shown.name->text(), QStringLiteral("K\u00FCste"));
+    shown.name->setCursorPosition(5);
+    QTest::keyClick(shown.name, Qt::Key_Backspace);
+    EXPECT_EQ(shown.held.txtName.text(), "K\xC3\xBCst");
+}
+
+TEST(binder, choosing_an_entry_fires_the_click_handler_and_typing_the_typing_handler)
+{
+    bound_form shown;
+    int clicks = 0, typings = 0;
+    shown.held.cmbSize.on_click = [&] { ++clicks; };
+    shown.held.cmbSize.on_typed = [&] { ++typings; };
+    shown.size->setFocus();
+    QTest::keyClick(shown.size, Qt::Key_Down);
+    EXPECT_EQ(shown.held.cmbSize.text(), "20");
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(typings, 0);
+    QTest::keyClicks(shown.size->lineEdit(), "5");
+    EXPECT_EQ(shown.held.cmbSize.text(), "205");
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(typings, 1);
+}
+
+TEST(binder, leaving_a_list_whose_text_was_set_or_typed_is_no_choice)
+{
+    bound_form shown;
+    int clicks = 0;
+    shown.held.cmbSize.on_click = [&] { ++clicks; };
+    shown.held.cmbSize.set_text("20");
+    shown.size->setFocus();
+    shown.name->setFocus();
+    shown.size->setFocus();
+    shown.size->lineEdit()->selectAll();
+    QTest::keyClicks(shown.size->lineEdit(), "30");
+    QTest::keyClick(shown.size->lineEdit(), Qt::Key_Return);
+    shown.name->setFocus();
+    EXPECT_EQ(shown.held.cmbSize.text(), "30");
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST(binder, typing_inside_a_list_keeps_the_cursor_where_it_was)
+{
+    bound_form shown;
+    shown.held.cmbSize.set_text("300");
+    shown.size->setFocus();
+    shown.size->lineEdit()->setCursorPosition(1);
+    QTest::keyClick(shown.size->lineEdit(), Qt::Key_Delete);
+    EXPECT_EQ(shown.held.cmbSize.text(), "30");
+    EXPECT_EQ(shown.size->lineEdit()->cursorPosition(), 1);
+}
+
+TEST(binder, a_list_whose_handler_cuts_the_value_shows_the_cut_value)
+{
+    bound_form shown;
+    shown.held.cmbSize.on_typed = [&] { shown.held.cmbSize.set_text("30"); };
+    shown.size->setFocus();
+    QTest::keyClicks(shown.size->lineEdit(), "0");
+    EXPECT_EQ(shown.size->currentText(), "30");
+}
+
+TEST(binder, a_picture_is_clicked_where_the_mouse_is_released_over_it_and_by_keys)
+{
+    bound_form shown;
+    int clicks = 0;
+    shown.held.picColor.on_click = [&] { ++clicks; };
+    QTest::mousePress(shown.color, Qt::LeftButton);
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseRelease(shown.color, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+    QTest::mousePress(shown.color, Qt::LeftButton);
+    QTest::mouseRelease(shown.color, Qt::LeftButton, {}, QPoint(-20, -20));
+    EXPECT_EQ(clicks, 1);
+    QTest::keyClick(shown.color, Qt::Key_Space);
+    QTest::keyClick(shown.color, Qt::Key_Return);
+    EXPECT_EQ(clicks, 3);
+}
+
+TEST(binder, coming_into_a_box_fires_its_enter_handler_and_code_that_puts_the_focus_there_does_not)
+{
+    bound_form shown;
+    int entries = 0;
+    shown.held.txtOther.on_enter = [&] { ++entries; };
+    shown.other->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(entries, 0);
+    shown.name->setFocus();
+    QTest::keyClick(shown.name, Qt::Key_Tab);
+    EXPECT_EQ(entries, 1);
+}
+
+// ---- from control to window
+
+TEST(binder, what_the_session_sets_is_shown_and_fires_no_handler_again)
+{
+    bound_form shown;
+    int changes = 0;
+    shown.held.chkKeep.on_change = [&] { ++changes; };
+    shown.held.chkKeep.tick(true);
+    shown.held.txtName.set_text("north");
+    shown.held.lblName.set_caption("A & B");
+    shown.held.cmbSize.set_text("77");
+    shown.held.cmdGo.set_caption("Stop");
+    EXPECT_TRUE(shown.keep->isChecked());
+    EXPECT_EQ(shown.name->text(), "north");
+    EXPECT_EQ(shown.name_label->text(), "A & B");
+    EXPECT_EQ(shown.size->currentText(), "77");
+    EXPECT_EQ(shown.size->currentIndex(), -1);
+    EXPECT_EQ(shown.go->text(), "Stop");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST(binder, the_session_can_deselect_all_options)
+{
+    bound_form shown;
+    shown.held.optLeft.select();
+    EXPECT_TRUE(shown.left->isChecked());
+    shown.held.optLeft.select(false);
+    EXPECT_FALSE(shown.left->isChecked());
+    EXPECT_FALSE(shown.right->isChecked());
+}
+
+TEST(binder, visible_and_enabled_are_the_control_s_own)
+{
+    bound_form shown;
+    shown.held.cmdGo.show(false);
+    shown.held.chkKeep.enable(false);
+    EXPECT_TRUE(shown.go->isHidden());
+    EXPECT_FALSE(shown.keep->isEnabled());
+    shown.held.cmdGo.show(true);
+    EXPECT_FALSE(shown.go->isHidden());
+}
+
+TEST(binder, a_list_takes_new_items_and_keeps_its_text)
+{
+    bound_form shown;
+    shown.held.cmbSize.set_text("20");
+    shown.held.cmbSize.add_item("40");
+    EXPECT_EQ(shown.size->count(), 4);
+    EXPECT_EQ(shown.size->currentText(), "20");
+    EXPECT_EQ(shown.size->currentIndex(), 1);
+}
+
+TEST(binder, a_spaced_title_is_read_out_as_words)
+{
+    bound_form shown;
+    EXPECT_EQ(shown.all->title(), "   A l l   ");
+    EXPECT_EQ(shown.all->accessibleName(), "All");
+}
+
+TEST(binder, colours_and_tool_tips_are_shown)
+{
+    bound_form shown;
+    shown.held.picColor.set_back_color(0x0000FF);
+    shown.held.txtName.set_fore_color(0xFFFFFF);
+    shown.held.txtName.set_tool_tip("Your name");
+    EXPECT_EQ(shown.color->back_color(), QColor(255, 0, 0));
+    EXPECT_EQ(shown.name->palette().color(QPalette::Text), QColor(255, 255, 255));
+    EXPECT_EQ(shown.name->palette().color(QPalette::Base), QColor(0, 0, 0));
+    EXPECT_EQ(shown.name->toolTip(), "Your name");
+}
+
+TEST(binder, a_font_is_shown_at_96_dots_an_inch_and_no_larger_than_its_box_allows)
+{
+    bound_form shown;
+    shown.name->setProperty("largest", 30);
+    shown.held.txtName.set_font({.name = "DejaVu Sans", .size = 15, .bold = true});
+    EXPECT_EQ(shown.name->font().pixelSize(), 20);
+    EXPECT_TRUE(shown.name->font().bold());
+    shown.held.txtName.set_font({.name = "DejaVu Sans", .size = 60});
+    EXPECT_EQ(shown.name->font().pixelSize(), 30);
+}
+
+TEST(binder, a_placed_widget_follows_its_control)
+{
+    bound_form shown;
+    shown.color->setProperty("placed", true);
+    shown.held.picColor.move({20, 30, 40, 50});
+    EXPECT_EQ(shown.color->geometry(), QRect(20, 30, 40, 50));
+    shown.held.picColor.move({25, 35});
+    EXPECT_EQ(shown.color->geometry(), QRect(QPoint(25, 35), shown.color->sizeHint()));
+}
+
+TEST(binder, a_covered_widget_shows_only_while_its_cover_is_away)
+{
+    one_of_each second;
+    QDialog window;
+    QCheckBox cover(&window);
+    QPushButton covered(&window);
+    cover.setObjectName("chkKeep");
+    covered.setObjectName("cmdGo");
+    covered.setProperty("coveredBy", "chkKeep");
+    bind(second, window, {});
+    EXPECT_TRUE(covered.isHidden());
+    second.chkKeep.show(false);
+    EXPECT_FALSE(covered.isHidden());
+    second.cmdGo.show(false);
+    EXPECT_TRUE(covered.isHidden());
+}
+
+// ---- the window
+
+TEST(binder, closing_asks_the_form_which_may_refuse)
+{
+    bound_form shown;
+    bool may_close = false;
+    shown.held.on_query_unload = [&] { return may_close; };
+    shown.window.close();
+    EXPECT_TRUE(shown.held.loaded());
+    EXPECT_TRUE(shown.window.isVisible());
+    EXPECT_EQ(shown.unloads, 0);
+    may_close = true;
+    QTest::keyClick(&shown.window, Qt::Key_Escape);
+    EXPECT_FALSE(shown.held.loaded());
+    EXPECT_EQ(shown.unloads, 1);
+}
+
+TEST(binder, the_size_is_a_fifteenth_of_a_pixel_and_fixed)
+{
+    bound_form shown;
+    shown.held.resize(15600, 10125);
+    EXPECT_EQ(shown.window.minimumSize(), QSize(1040, 675));
+    EXPECT_EQ(shown.window.maximumSize(), QSize(1040, 675));
+    shown.held.set_caption("F l u r n s");
+    EXPECT_EQ(shown.window.windowTitle(), "F l u r n s");
+}
+
+TEST(binder, help_keys_reach_the_form_but_a_question_mark_in_a_text_is_text)
+{
+    bound_form shown;
+    std::vector<key> keys;
+    shown.held.on_key = [&](key pressed) { keys.push_back(pressed); };
+    shown.name->setFocus();
+    QTest::keyClick(shown.name, Qt::Key_F1);
+    QTest::keyClick(shown.name, Qt::Key_Question, Qt::ShiftModifier);
+    EXPECT_EQ(keys, (std::vector<key>{key::f1}));
+    shown.keep->setFocus();
+    QTest::keyClick(shown.keep, Qt::Key_Question, Qt::ShiftModifier);
+    QTest::keyClick(shown.keep, Qt::Key_Help);
+    EXPECT_EQ(keys, (std::vector<key>{key::f1, key::help, key::help}));
+}
+
+// ---- failures
+
+TEST(binder, an_error_is_shown_once_with_its_number_and_the_window_stays_usable)
+{
+    bound_form shown;
+    int clicks = 0;
+    shown.held.cmdGo.on_click = [&] {
+        if (++clicks == 1)
+            throw platform_error(error_number::file_not_found, "File not found", "a.jpg");
+    };
+    QTest::mouseClick(shown.go, Qt::LeftButton);
+    ASSERT_EQ(shown.errors.size(), 1u);
+    EXPECT_EQ(shown.errors[0].substr(0, 27), "Run-time error '53':\r\n\r\nFil");
+    EXPECT_NE(shown.errors[0].find("a.jpg"), std::string::npos);
+    QTest::mouseClick(shown.go, Qt::LeftButton);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(shown.errors.size(), 1u);
+}
+
+TEST(binder, what_libraries_throw_comes_as_the_platform_s_errors_and_our_own_bugs_as_51)
+{
+    bound_form shown;
+    shown.held.cmdGo.on_click = [] { throw std::bad_alloc(); };
+    QTest::mouseClick(shown.go, Qt::LeftButton);
+    shown.held.cmdGo.on_click = [] { throw std::logic_error("never"); };
+    QTest::mouseClick(shown.go, Qt::LeftButton);
+    ASSERT_EQ(shown.errors.size(), 2u);
+    EXPECT_TRUE(shown.errors[0].starts_with("Run-time error '7':"));
+    EXPECT_EQ(shown.errors[1], "Run-time error '51':\r\n\r\nnever");
+}
+
+TEST(binder, a_box_whose_handler_failed_still_agrees_with_its_control)
+{
+    bound_form shown;
+    shown.held.txtName.on_change = [&] { throw platform_error(error_number::overflow, "Overflow"); };
+    QTest::keyClicks(shown.name, "a");
+    EXPECT_EQ(shown.errors.size(), 1u);
+    EXPECT_EQ(shown.name->text().toStdString(), shown.held.txtName.text());
+}
+
+TEST(binder, a_form_outlives_its_window)
+{
+    one_of_each held;
+    {
+        QDialog window;
+        QCheckBox keep(&window);
+        keep.setObjectName("chkKeep");
+        bind(held, window, {});
+    }
+    held.chkKeep.tick(true);
+    held.set_caption("alone");
+    EXPECT_TRUE(held.chkKeep.ticked());
+}
+
+// ---- the focus during a run
+
+TEST(binder, the_focus_comes_back_after_a_run_and_what_was_typed_meanwhile_follows)
+{
+    bound_form shown;
+    shown.name->setFocus();
+    bool first = true;
+    shown.held.txtName.on_change = [&] {
+        if (!std::exchange(first, false))
+            return;
+        shown.held.txtName.enable(false);
+        EXPECT_EQ(shown.window.focusWidget(), nullptr);
+        QTest::keyClicks(&shown.window, "bc");  // a fast typist, seen by an event pump
+        shown.held.txtName.enable(true);
+    };
+    QTest::keyClicks(shown.name, "a");
+    QApplication::processEvents();
+    EXPECT_TRUE(shown.name->hasFocus());
+    EXPECT_EQ(shown.held.txtName.text(), "abc");
+}
+
+TEST(binder, keys_for_a_box_that_stays_away_are_dropped)
+{
+    bound_form shown;
+    shown.name->setFocus();
+    shown.held.txtName.on_change = [&] {
+        shown.held.txtName.enable(false);
+        QTest::keyClicks(&shown.window, "bc");
+    };
+    QTest::keyClicks(shown.name, "a");
+    shown.held.txtName.enable(true);
+    QApplication::processEvents();
+    EXPECT_EQ(shown.held.txtName.text(), "a");
+}
+
+TEST(binder, the_focus_never_lands_on_another_button_by_itself)
+{
+    bound_form shown;
+    shown.keep->setFocus();
+    shown.held.chkKeep.enable(false);
+    EXPECT_FALSE(shown.go->hasFocus());
+    EXPECT_EQ(shown.window.focusWidget(), nullptr);
+    shown.held.chkKeep.enable(true);
+    EXPECT_TRUE(shown.keep->hasFocus());
+}
+
+}  // namespace

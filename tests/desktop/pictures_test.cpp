@@ -1,0 +1,153 @@
+#include "../pictures.h"
+
+#include "../temporary_folder.h"
+#include "desktop/captions.h"
+#include "desktop/file_filter.h"
+#include "desktop/picture_view.h"
+#include "desktop/printing.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QColor red(255, 0, 0), green(0, 255, 0), black(0, 0, 0);
+
+std::string colored_file(const temporary_folder & folder, const char * name, QSize size, const QColor & color)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    image.setPixelColor(0, 0, black);
+    image.save(QString::fromStdString(folder.at(name)));
+    return folder.at(name);
+}
+
+// The view as it is seen, one pixel a point whatever the screen's density.
+QImage seen_view(picture_view & view)
+{
+    QImage image(view.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    view.render(&image);
+    return image;
+}
+
+TEST(picture_view, shows_the_file_unscaled_from_the_top_left_and_cut_at_its_edge)
+{
+    const temporary_folder folder;
+    picture_view view;
+    view.resize(30, 20);
+    view.set_back_color(green);
+    view.show_file(colored_file(folder, "large.png", {50, 12}, red));
+    const QImage seen = seen_view(view);
+    EXPECT_EQ(seen.pixelColor(0, 0), black);
+    EXPECT_EQ(seen.pixelColor(1, 0), red);
+    EXPECT_EQ(seen.pixelColor(29, 11), red);
+    EXPECT_EQ(seen.pixelColor(29, 12), green);
+}
+
+TEST(picture_view, reads_a_file_again_that_has_changed_under_its_name)
+{
+    const temporary_folder folder;
+    picture_view view;
+    view.resize(10, 10);
+    view.show_file(colored_file(folder, "a.png", {10, 10}, red));
+    view.show_file(colored_file(folder, "a.png", {10, 10}, green));
+    EXPECT_EQ(seen_view(view).pixelColor(5, 5), green);
+}
+
+TEST(picture_view, without_a_picture_shows_its_back_colour)
+{
+    const temporary_folder folder;
+    picture_view view;
+    view.resize(10, 10);
+    view.set_back_color(green);
+    view.show_file(folder.write("no picture.jpg", "text"));
+    EXPECT_EQ(seen_view(view).pixelColor(5, 5), green);
+    view.show_file(folder.at("missing.jpg"));
+    EXPECT_EQ(seen_view(view).pixelColor(5, 5), green);
+    view.show_file("");
+    EXPECT_EQ(seen_view(view).pixelColor(5, 5), green);
+}
+
+TEST(picture_view, a_path_may_be_any_bytes)
+{
+    const temporary_folder folder;
+    const std::string plain_path = colored_file(folder, "plain.png", {10, 10}, red);
+    const std::string path = folder.at("caf\xE9.png");
+    ASSERT_EQ(std::rename(plain_path.c_str(), path.c_str()), 0);
+    picture_view view;
+    view.resize(10, 10);
+    view.show_file(path);
+    EXPECT_EQ(seen_view(view).pixelColor(5, 5), red);
+}
+
+TEST(picture_view, scaled_to_its_width_it_asks_for_the_height_that_keeps_the_proportions)
+{
+    const temporary_folder folder;
+    picture_view view;
+    view.set_scaled(true);
+    view.show_file(colored_file(folder, "wide.png", {40, 20}, red));
+    EXPECT_EQ(view.heightForWidth(100), 50);
+}
+
+TEST(printing, a_picture_stands_whole_and_centred_on_the_page)
+{
+    EXPECT_EQ(fitted({2000, 3000}, {0, 0, 800, 900}), QRect(100, 0, 600, 900));
+    EXPECT_EQ(fitted({3000, 2000}, {0, 0, 900, 800}), QRect(0, 100, 900, 600));
+    EXPECT_EQ(fitted({10, 10}, {50, 50, 100, 100}), QRect(50, 50, 100, 100));
+}
+
+TEST(printing, prints_one_page_in_the_orientation_of_the_collage)
+{
+    const temporary_folder folder;
+    QPrinter printer(QPrinter::ScreenResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(folder.at("page.pdf")));
+    EXPECT_TRUE(print_on(printer, plain(30, 20, {255, 0, 0}), page::landscape));
+    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
+    QFile file(QString::fromStdString(folder.at("page.pdf")));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("/Count 1"));
+}
+
+TEST(printing, a_printer_that_refuses_and_an_empty_picture_print_nothing)
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName("/nowhere/at all/page.pdf");
+    EXPECT_FALSE(print_on(printer, plain(30, 20, {255, 0, 0}), page::portrait));
+    EXPECT_FALSE(print_on(printer, bitmap(), page::portrait));
+}
+
+TEST(captions, a_spaced_title_is_read_as_words_and_others_as_they_are)
+{
+    EXPECT_EQ(unspaced("   F r a m e   S t y l e   "), "Frame Style");
+    EXPECT_EQ(unspaced("  Shake the Design  "), "Shake the Design");
+    EXPECT_EQ(unspaced(""), "");
+}
+
+TEST(captions, the_first_letter_found_is_marked_and_a_caption_s_own_mark_stays)
+{
+    EXPECT_EQ(with_mnemonic("Caption top", "T"), "Cap&tion top");
+    EXPECT_EQ(with_mnemonic("Right", "PR"), "&Right");
+    EXPECT_EQ(with_mnemonic(" &Quick flurn", "F"), " &Quick flurn");
+    EXPECT_EQ(with_mnemonic("Top", "XZ"), "Top");
+    EXPECT_EQ(with_mnemonic_in_any_text("A & B", "B"), "A && B");
+}
+
+TEST(captions, colours_have_red_in_the_low_byte)
+{
+    EXPECT_EQ(shown_color(0x010203), QColor(3, 2, 1));
+    EXPECT_EQ(control_color(QColor(3, 2, 1)), 0x010203u);
+}
+
+TEST(file_filter, pairs_become_the_toolkit_s_filters)
+{
+    EXPECT_EQ(toolkit_filter("Image files |*.jpg"), "Image files (*.jpg *.JPG)");
+    EXPECT_EQ(toolkit_filter("Image files (*.jpg)|*.jpg;*.gif|All files|*"),
+              "Image files (*.jpg *.JPG *.gif *.GIF);;All files (*)");
+    EXPECT_EQ(toolkit_filter(""), "");
+}
+
+}  // namespace

@@ -1,0 +1,207 @@
+#include "desktop/qt_desktop.h"
+
+#include "../temporary_folder.h"
+#include "session/windows.h"
+#include "support/platform_error.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Plays the user in the next box or window that waits for one.
+template <typename Box>
+void when_asked(std::function<void(Box &)> play)
+{
+    QTimer::singleShot(0, [play] {
+        auto * const box = qobject_cast<Box *>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr) << "no box waits";
+        play(*box);
+    });
+}
+
+TEST(qt_desktop, a_message_shows_its_text_as_it_stands)
+{
+    qt_desktop desk;
+    QString text, title;
+    when_asked<QMessageBox>([&](QMessageBox & box) {
+        text = box.text();
+        title = box.windowTitle();
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.buttons().size(), 1);
+        box.buttons().front()->click();
+    });
+    desk.message("A <b>bold</b> name & more\r\n\r\nEnd", "T e s s");
+    EXPECT_EQ(text, "A <b>bold</b> name & more\n\nEnd");
+    EXPECT_EQ(title, "T e s s");
+}
+
+TEST(qt_desktop, a_question_gives_the_button_that_was_pressed)
+{
+    qt_desktop desk;
+    const auto answered = [&](answers offered, QMessageBox::StandardButton pressed) {
+        when_asked<QMessageBox>([&](QMessageBox & box) { box.button(pressed)->click(); });
+        return desk.ask({.title = "t", .text = "?", .offered = offered});
+    };
+    EXPECT_EQ(answered(answers::yes_no, QMessageBox::Yes), answer::yes);
+    EXPECT_EQ(answered(answers::yes_no, QMessageBox::No), answer::no);
+    EXPECT_EQ(answered(answers::yes_no_cancel, QMessageBox::Cancel), answer::cancel);
+}
+
+TEST(qt_desktop, escape_answers_a_question_with_its_mildest_button)
+{
+    qt_desktop desk;
+    when_asked<QMessageBox>([](QMessageBox & box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(desk.ask({.title = "", .text = "?", .offered = answers::yes_no}), answer::no);
+    when_asked<QMessageBox>([](QMessageBox & box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(desk.ask({.title = "", .text = "?", .offered = answers::yes_no_cancel}), answer::cancel);
+}
+
+TEST(qt_desktop, a_modal_window_loads_its_form_and_returns_when_it_has_been_unloaded)
+{
+    qt_desktop desk;
+    frmImage image;
+    int loads = 0;
+    image.on_load = [&] { ++loads; };
+    image.cmdClose.on_click = [&] { image.unload(); };
+    for (int round = 1; round <= 2; ++round) {
+        when_asked<QDialog>([&](QDialog & window) {
+            EXPECT_EQ(desk.window_of(image), &window);
+            QTest::mouseClick(window.findChild<QPushButton *>("cmdClose"), Qt::LeftButton);
+        });
+        desk.show_modal(image);
+        EXPECT_FALSE(image.loaded());
+        EXPECT_EQ(desk.window_of(image), nullptr);
+        EXPECT_EQ(loads, round);
+    }
+}
+
+TEST(qt_desktop, a_form_that_unloads_itself_while_loading_is_never_shown)
+{
+    qt_desktop desk;
+    frmImage image;
+    image.on_load = [&] { image.unload(); };
+    desk.show_modal(image);
+    desk.show(image);
+    EXPECT_EQ(desk.window_of(image), nullptr);
+}
+
+TEST(qt_desktop, an_error_in_a_modal_window_is_shown_over_it_and_leaves_it_open)
+{
+    qt_desktop desk;
+    frmImage image;
+    image.cmdSave.on_click = [&] { throw platform_error(error_number::disk_full, "Disk full"); };
+    QString told;
+    bool was_open = false;
+    when_asked<QDialog>([&](QDialog & window) {
+        when_asked<QMessageBox>([&](QMessageBox & box) {
+            told = box.text();
+            box.buttons().front()->click();
+        });
+        QTest::mouseClick(window.findChild<QPushButton *>("cmdSave"), Qt::LeftButton);
+        was_open = image.loaded();
+        window.close();
+    });
+    desk.show_modal(image);
+    EXPECT_TRUE(told.startsWith("Run-time error '61':\n\n"));
+    EXPECT_TRUE(was_open);
+}
+
+TEST(qt_desktop, an_error_of_the_load_handler_goes_to_the_caller_and_leaves_the_form_unloaded)
+{
+    qt_desktop desk;
+    frmImage image;
+    image.on_load = [] { throw platform_error(error_number::file_not_found, "File not found"); };
+    EXPECT_THROW(desk.show_modal(image), platform_error);
+    EXPECT_FALSE(image.loaded());
+}
+
+TEST(qt_desktop, a_window_shown_without_waiting_goes_when_it_is_hidden)
+{
+    qt_desktop desk;
+    frmPhotoCnt count;
+    desk.show(count);
+    count.lblAnnounce.set_caption("12 photos");
+    desk.pump();
+    QWidget * const window = desk.window_of(count);
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->findChild<QLabel *>("lblAnnounce")->text(), "12 photos");
+    desk.hide(count);
+    EXPECT_FALSE(count.loaded());
+    EXPECT_EQ(desk.window_of(count), nullptr);
+}
+
+TEST(qt_desktop, the_program_ends_with_its_last_window)
+{
+    qt_desktop desk;
+    frmPhotoCnt count;
+    frmImage image;
+    desk.show(count);
+    desk.show(image);
+    QTimer::singleShot(0, [&] {
+        count.unload();
+        QTimer::singleShot(0, [&] { image.unload(); });
+    });
+    QApplication::exec();
+    EXPECT_FALSE(count.loaded());
+    EXPECT_FALSE(image.loaded());
+}
+
+TEST(qt_desktop, the_busy_pointer_nests_and_a_box_shows_an_arrow)
+{
+    qt_desktop desk;
+    desk.busy_pointer(true);
+    {
+        const busy inner(desk);
+    }
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    when_asked<QMessageBox>([](QMessageBox & box) {
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        box.buttons().front()->click();
+    });
+    desk.message("now", "");
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    desk.busy_pointer(false);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    desk.busy_pointer(false);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(qt_desktop, the_save_chooser_adds_the_ending_and_asks_nothing_about_a_file_that_is_there)
+{
+    qt_desktop desk;
+    const temporary_folder folder;
+    folder.write("beach.jpg", "x");
+    file_request asked;
+    asked.title = "Save Image file";
+    asked.filter = "Image files |*.jpg";
+    asked.folder = folder.path();
+    asked.extension = ".jpg";
+    when_asked<QFileDialog>([&](QFileDialog & chooser) {
+        EXPECT_EQ(chooser.windowTitle(), "Save Image file");
+        EXPECT_EQ(chooser.nameFilters(), QStringList{"Image files (*.jpg *.JPG)"});
+        chooser.findChild<QLineEdit *>("fileNameEdit")->setText("beach");
+        QTest::keyClick(chooser.findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
+    });
+    EXPECT_EQ(desk.choose_save(asked), folder.at("beach.jpg"));
+    when_asked<QFileDialog>([&](QFileDialog & chooser) {
+        EXPECT_EQ(chooser.directory().absolutePath().toStdString(), folder.path())
+            << "the last folder is remembered";
+        chooser.reject();
+    });
+    asked.folder.clear();
+    EXPECT_EQ(desk.choose_save(asked), std::nullopt);
+}
+
+}  // namespace
