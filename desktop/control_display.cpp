@@ -84,10 +84,10 @@ void display_content(const combo_box & held, QComboBox & widget)
 void display_content(const text_box & held, QLineEdit & widget)
 {
     const QString text = shown(held.text());
-    if (widget.text() != text)
+    if (widget.text() != text) {
         widget.setText(text);
-    if (!widget.hasFocus())
         widget.setCursorPosition(0);  // a long text shows its beginning
+    }
     display_colors(held, widget, QPalette::Base, QPalette::Text);
     if (held.font() == font_style{})
         return;

@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr int button_air = 10;  // beside the text
+
 QColor fill_of(const QStyleOption & option)
 {
     if (!(option.state & QStyle::State_On))
@@ -46,6 +48,13 @@ void draw_circle(const QStyleOption & option, QPainter & painter)
 }  // namespace
 
 indicator_style::indicator_style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+QSize indicator_style::sizeFromContents(ContentsType type, const QStyleOption * option, const QSize & content,
+                                        const QWidget * widget) const
+{
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, content, widget);
+    return type == CT_PushButton ? usual.expandedTo({content.width() + 2 * button_air, 0}) : usual;
+}
 
 void indicator_style::drawPrimitive(PrimitiveElement element, const QStyleOption * option, QPainter * painter,
                                     const QWidget * widget) const

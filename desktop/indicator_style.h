@@ -9,6 +9,8 @@ class indicator_style : public QProxyStyle {
 
 public:
     indicator_style();
+    QSize sizeFromContents(ContentsType type, const QStyleOption * option, const QSize & content,
+                           const QWidget * widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption * option, QPainter * painter,
                        const QWidget * widget) const override;
 };

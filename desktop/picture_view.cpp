@@ -19,7 +19,10 @@ QByteArray file_content(const std::string & path)
 
 }  // namespace
 
-picture_view::picture_view(QWidget * parent) : QAbstractButton(parent) {}
+picture_view::picture_view(QWidget * parent) : QAbstractButton(parent)
+{
+    setFocusPolicy(Qt::NoFocus);
+}
 
 void picture_view::set_scaled(bool fits)
 {

@@ -14,6 +14,7 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFile>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QScreen>
@@ -25,19 +26,6 @@
 
 namespace {
 
-// Boxes and choosers belong to the window that the user is in.
-QWidget * owner_window()
-{
-    if (QWidget * const modal = QApplication::activeModalWidget())
-        return modal;
-    if (QWidget * const active = QApplication::activeWindow())
-        return active;
-    for (QWidget * widget : QApplication::topLevelWidgets())
-        if (widget->isVisible() && widget->isWindow())
-            return widget;
-    return nullptr;
-}
-
 QString toolkit_path(const std::string & path)
 {
     return QFile::decodeName(QByteArray::fromStdString(path));
@@ -46,6 +34,17 @@ QString toolkit_path(const std::string & path)
 std::string path_bytes(const QString & path)
 {
     return QFile::encodeName(path).toStdString();
+}
+
+// A form whose load handler failed isn't open.
+void load(form & window)
+{
+    try {
+        window.load();
+    } catch (...) {
+        window.unload();
+        throw;
+    }
 }
 
 void prepare_box(QMessageBox & box, const std::string & title, const std::string & text)
@@ -95,7 +94,7 @@ qt_desktop::~qt_desktop()
 void qt_desktop::message(const std::string & text, const std::string & title)
 {
     const arrow_pointer usable;
-    QMessageBox box(owner_window());
+    QMessageBox box(owner());
     prepare_box(box, title, text);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
@@ -104,7 +103,7 @@ void qt_desktop::message(const std::string & text, const std::string & title)
 answer qt_desktop::ask(const question & asked)
 {
     const arrow_pointer usable;
-    QMessageBox box(owner_window());
+    QMessageBox box(owner());
     prepare_box(box, asked.title, asked.text);
     box.setIcon(QMessageBox::Question);
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -120,11 +119,24 @@ answer qt_desktop::ask(const question & asked)
     }
 }
 
+// Boxes, choosers and windows belong to the dialog that waits, else to the main window. A dialog on its way
+// out owns nothing more, and one that doesn't wait owns nothing: what it owned would go with it.
+QWidget * qt_desktop::owner() const
+{
+    QWidget * const waiting = QApplication::activeModalWidget();
+    if (waiting && waiting->isVisible())
+        return waiting;
+    for (const auto & [its_form, entry] : windows)
+        if (qobject_cast<QMainWindow *>(entry.widget))
+            return entry.widget;
+    return nullptr;
+}
+
 QWidget & qt_desktop::made(form & window)
 {
     if (QWidget * const there = window_of(window))
         return *there;
-    std::unique_ptr<QWidget> widget = make_window(window.name(), owner_window());
+    std::unique_ptr<QWidget> widget = make_window(window.name(), owner());
     if (!widget)
         throw std::logic_error("no Designer file for " + window.name());
     bind(window, *widget,
@@ -137,7 +149,7 @@ QWidget & qt_desktop::made(form & window)
 
 void qt_desktop::show(form & window)
 {
-    window.load();
+    load(window);
     if (window.loaded())
         made(window).show();
 }
@@ -149,7 +161,7 @@ void qt_desktop::hide(form & window)
 
 void qt_desktop::show_modal(form & window)
 {
-    window.load();
+    load(window);
     if (!window.loaded())
         return;
     const arrow_pointer usable;
@@ -175,7 +187,7 @@ void qt_desktop::taken_down(const form & window)
         widget->deleteLater();
     }
     windows.erase(found);
-    if (windows.empty())
+    if (is_running && windows.empty())
         QCoreApplication::quit();
 }
 
@@ -219,7 +231,7 @@ std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_re
 
 std::optional<std::string> qt_desktop::choose_folder(const std::string & title)
 {
-    QFileDialog chooser(owner_window());
+    QFileDialog chooser(owner());
     chooser.setFileMode(QFileDialog::Directory);
     chooser.setOption(QFileDialog::ShowDirsOnly);
     file_request asked;
@@ -230,14 +242,14 @@ std::optional<std::string> qt_desktop::choose_folder(const std::string & title)
 
 std::vector<std::string> qt_desktop::choose_files(const file_request & asked)
 {
-    QFileDialog chooser(owner_window());
+    QFileDialog chooser(owner());
     chooser.setFileMode(QFileDialog::ExistingFiles);
     return chosen(chooser, asked);
 }
 
 std::optional<std::string> qt_desktop::choose_file(const file_request & asked)
 {
-    QFileDialog chooser(owner_window());
+    QFileDialog chooser(owner());
     chooser.setFileMode(QFileDialog::ExistingFile);
     const std::vector<std::string> paths = chosen(chooser, asked);
     return paths.empty() ? std::nullopt : std::optional(paths.front());
@@ -246,7 +258,7 @@ std::optional<std::string> qt_desktop::choose_file(const file_request & asked)
 // Overwriting is the session's question.
 std::optional<std::string> qt_desktop::choose_save(const file_request & asked)
 {
-    QFileDialog chooser(owner_window());
+    QFileDialog chooser(owner());
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     chooser.setOption(QFileDialog::DontConfirmOverwrite);
     chooser.setDefaultSuffix(shown(asked.extension));
@@ -256,7 +268,7 @@ std::optional<std::string> qt_desktop::choose_save(const file_request & asked)
 
 std::optional<std::uint32_t> qt_desktop::choose_color(std::uint32_t initial)
 {
-    const QColor color = QColorDialog::getColor(shown_color(initial), owner_window());
+    const QColor color = QColorDialog::getColor(shown_color(initial), owner());
     return color.isValid() ? std::optional(control_color(color)) : std::nullopt;
 }
 
@@ -284,6 +296,16 @@ std::vector<std::string> qt_desktop::font_names()
 bitmap qt_desktop::draw_text(const text_request & request)
 {
     return drawn_text(request);
+}
+
+int qt_desktop::run()
+{
+    if (windows.empty())
+        return 0;
+    is_running = true;
+    const int status = QApplication::exec();
+    is_running = false;
+    return status;
 }
 
 void qt_desktop::forget_windows()

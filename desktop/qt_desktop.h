@@ -8,8 +8,8 @@
 
 #include <map>
 
-/// The platform with windows. Needs a running QApplication. When the last window has gone, the application's
-/// event loop ends. A window lives from the load of its form to its unload.
+/// The platform with windows. Needs a QApplication. A window lives from the load of its form to its
+/// unload.
 class qt_desktop : public desktop {
 public:
     ~qt_desktop() override;
@@ -31,6 +31,8 @@ public:
     std::vector<std::string> font_names() override;
     bitmap draw_text(const text_request & request) override;
 
+    /// Runs the application until the last window has gone, and gives its status.
+    int run();
     /// Deletes all windows; the forms may go after that.
     void forget_windows();
     /// The window of a form that has been shown, nullptr before.
@@ -41,6 +43,7 @@ private:
         QPointer<QWidget> widget;
         QEventLoop * modal_loop = nullptr;  ///< runs while the window is shown modally
     };
+    QWidget * owner() const;
     QWidget & made(form & window);
     void taken_down(const form & window);
     QString folder_to_open(const std::string & wanted) const;
@@ -49,4 +52,5 @@ private:
     std::map<const form *, shown_window> windows;
     std::string last_folder;
     int busy_depth = 0;
+    bool is_running = false;
 };

@@ -45,7 +45,7 @@ int run(qt_desktop & desk)
         desk.message(run_time_error(code(error), told(error)), {});
         return 1;
     }
-    return all.main.loaded() ? QApplication::exec() : 0;
+    return desk.run();
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStyle>
 
 #include <cmath>
@@ -62,26 +63,41 @@ QSize needed(const QWidget & widget)
         return {box->fontMetrics().horizontalAdvance(box->title()) + 20, box->minimumSizeHint().height()};
     if (qobject_cast<const QLineEdit *>(&widget))
         return {0, widget.fontMetrics().height() + 2};
+    if (const auto * const button = qobject_cast<const QPushButton *>(&widget))
+        return {button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + 10,
+                button->fontMetrics().height() + 4};
     if (qobject_cast<const QAbstractButton *>(&widget) || qobject_cast<const QLabel *>(&widget))
         return widget.sizeHint();
     return {0, widget.minimumSizeHint().height()};
 }
 
+// One window for all: its making takes longer than the looking.
 struct layout_test : testing::TestWithParam<std::tuple<look, shape>> {
-    layout_test()
+    struct shown_main {
+        shown_main()
+        {
+            bind(main, *window, {});
+            main.load();
+            window->show();
+        }
+        scripted_desktop desk;
+        frmMain main{desk, listed({})};
+        std::unique_ptr<QWidget> window = make_window("frmMain");
+    };
+    static void SetUpTestSuite() { kept = std::make_unique<shown_main>(); }
+    static void TearDownTestSuite() { kept.reset(); }
+    layout_test() : window(kept->window.get())
     {
-        bind(main, *window, {});
-        main.load();
-        window->show();
-        bring_to(main, std::get<0>(GetParam()), std::get<1>(GetParam()));
+        bring_to(kept->main, std::get<0>(GetParam()), std::get<1>(GetParam()));
         QApplication::processEvents();
-        seen = seen_widgets(main, *window);
+        seen = seen_widgets(kept->main, *window);
     }
-    scripted_desktop desk;
-    frmMain main{desk, listed({})};
-    std::unique_ptr<QWidget> window = make_window("frmMain");
+    static std::unique_ptr<shown_main> kept;
+    QWidget * window;
     std::vector<QWidget *> seen;
 };
+
+std::unique_ptr<layout_test::shown_main> layout_test::kept;
 
 TEST_P(layout_test, no_two_widgets_overlap)
 {
@@ -113,7 +129,7 @@ TEST_P(layout_test, no_text_is_cut)
 TEST_P(layout_test, the_tab_key_follows_the_eye)
 {
     const QWidget * before = nullptr;
-    for (QWidget * one = window->nextInFocusChain(); one != window.get(); one = one->nextInFocusChain()) {
+    for (QWidget * one = window->nextInFocusChain(); one != window; one = one->nextInFocusChain()) {
         if (!one->isVisible() || !(one->focusPolicy() & Qt::TabFocus) ||
             std::find(seen.begin(), seen.end(), one) == seen.end())
             continue;

@@ -152,9 +152,28 @@ TEST(qt_desktop, the_program_ends_with_its_last_window)
         count.unload();
         QTimer::singleShot(0, [&] { image.unload(); });
     });
-    QApplication::exec();
+    EXPECT_EQ(desk.run(), 0);
     EXPECT_FALSE(count.loaded());
     EXPECT_FALSE(image.loaded());
+}
+
+TEST(qt_desktop, end_of_program_in_a_handler_ends_it_with_its_status)
+{
+    qt_desktop desk;
+    frmImage image;
+    image.cmdSave.on_click = [] { throw end_of_program{.status = 3}; };
+    desk.show(image);
+    QTimer::singleShot(0, [&] {
+        QTest::mouseClick(desk.window_of(image)->findChild<QPushButton *>("cmdSave"), Qt::LeftButton);
+    });
+    EXPECT_EQ(desk.run(), 3);
+    EXPECT_TRUE(image.loaded());
+}
+
+TEST(qt_desktop, without_a_window_there_is_nothing_to_run)
+{
+    qt_desktop desk;
+    EXPECT_EQ(desk.run(), 0);
 }
 
 TEST(qt_desktop, the_busy_pointer_nests_and_a_box_shows_an_arrow)
