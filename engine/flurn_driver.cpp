@@ -1,6 +1,5 @@
 #include "engine/flurn_driver.h"
 
-#include "designs/template_reader.h"
 #include "engine/quick_template.h"
 #include "engine/run_steps.h"
 #include "photos/thumbnails.h"
@@ -136,7 +135,7 @@ void full_run(frmMain & main, borrowed_settings & before)
     set_output_size(main);
     make_quick_template(main, run_size::full);
     offer_saving(main);
-    read_template(main, run_size::full);
+    read_new_template(main, run_size::full);
     bend_template(main, run_size::full);
     if (went_through(main, [&] { make_collage(main, before); }))
         show_collage(main);

@@ -26,14 +26,21 @@ void set_sample_size(frmMain & main)
     main.collage_height = main.optSquare.selected() ? 2000 : 3000;
 }
 
-// The collage as it is shown: without its bleed, and drawn nearer where a large caption stands.
+// Drawing nearer takes a caption's height off the top: a caption that stands there would be cut.
+bool is_drawn_nearer(const frmMain & main)
+{
+    return !main.txtCaption.text().empty() && main.optBottom.selected() &&
+           main.run.caption_height > caption_that_counts;
+}
+
+// The collage as it is shown: without its bleed, and drawn nearer above a large caption.
 bitmap shown_part(const frmMain & main)
 {
     const int margin = main.run.collage_margin;
     const int width = main.collage_width, height = main.collage_height;
-    const int caption = main.run.caption_height;
-    if (main.txtCaption.text().empty() || caption <= caption_that_counts)
+    if (!is_drawn_nearer(main))
         return copied(main.run.canvas, margin, margin, width + margin, height + margin);
+    const int caption = main.run.caption_height;
     const bitmap part = copied(main.run.canvas, margin + caption, margin + caption,
                                nearest(width + margin - 0.3 * caption), margin - caption + height);
     return rescaled(part, nearest(width + 0.8 * margin), nearest(height + 0.8 * margin));
@@ -41,9 +48,8 @@ bitmap shown_part(const frmMain & main)
 
 void save_sample(frmMain & main)
 {
-    const bitmap sample = shown_part(main);
-    main.run.canvas = bitmap{};
-    save_jpeg(sample, finished_path(main));
+    main.run.canvas = shown_part(main);
+    save_jpeg(main.run.canvas, finished_path(main));
     main.trace += "FFF  ";
 }
 
@@ -51,7 +57,7 @@ void make_sample(frmMain & main)
 {
     const busy pointer(main.desk);
     set_sample_size(main);
-    read_template(main, run_size::preview);
+    read_new_template(main, run_size::preview);
     scale_template(main);
     bend_template(main, run_size::preview);
     begin_run(main);

@@ -120,6 +120,12 @@ std::string failure_text(const frmMain & main, const platform_error & error)
 
 }  // namespace
 
+void read_new_template(frmMain & main, run_size size)
+{
+    main.design_locations.clear();
+    read_template(main, size);
+}
+
 void bend_template(frmMain & main, run_size size)
 {
     if (shapes_are_mixed(main))

@@ -7,6 +7,10 @@
 
 /// The steps that a full-size run and a preview share, in their order.
 
+/// Reads the template of the design. One that can't be read leaves no locations, least of all those of the
+/// run before.
+void read_new_template(frmMain & main, run_size size);
+
 /// Bends the template to the settings: mixed order, caption room, border.
 void bend_template(frmMain & main, run_size size);
 

@@ -120,17 +120,49 @@ TEST(gen_sample, a_border_is_fifteen_hundredths_of_the_offset_and_the_factor)
     EXPECT_EQ(letter_at(sample, 258, 200), '.');
 }
 
-TEST(gen_sample, a_large_caption_draws_the_picture_nearer)
+TEST(gen_sample, a_large_caption_at_the_bottom_draws_the_picture_nearer)
 {
     two_halves small, large;
-    for (two_halves * run : {&small, &large})
+    for (two_halves * run : {&small, &large}) {
         run->main.txtCaption.set_text("Sea");
+        run->main.optBottom.select();
+    }
     small.main.txtCaption.tag = "66";  // 11 points, 15 pixels
     large.main.txtCaption.tag = "90";  // 15 points, 20 pixels
     EXPECT_EQ(size_of(small.sample()), "333 by 500");
     EXPECT_EQ(small.main.run.caption_height, 15);
-    EXPECT_EQ(size_of(large.sample()), "343 by 510");
+    const bitmap sample = large.sample();
+    EXPECT_EQ(size_of(sample), "343 by 510");
     EXPECT_EQ(large.main.run.caption_height, 20);
+    // 20 to 327 and 20 to 480 of the collage: the halves meet at 151, the layout ends at 437.
+    EXPECT_EQ(letter_at(sample, 143, 100), 'r');
+    EXPECT_EQ(letter_at(sample, 149, 100), 'g');
+    EXPECT_EQ(letter_at(sample, 20, 460), 'r');
+    EXPECT_EQ(letter_at(sample, 20, 466), '.');
+}
+
+TEST(gen_sample, a_large_caption_at_the_top_stays_whole)
+{
+    two_halves run;
+    run.main.txtCaption.set_text("I");
+    run.main.txtCaption.tag = "180";  // 30 points: 78 by 40, the letter 24 by 32, 4 rows from its top
+    run.main.txtCaption.set_fore_color(0);
+    const bitmap sample = run.sample();
+    ASSERT_EQ(size_of(sample), "333 by 500");
+    // In the middle and 10 to the right, 10 from the top.
+    EXPECT_EQ(letter_at(sample, 138 + 12, 14 + 2), 'k');
+    EXPECT_EQ(letter_at(sample, 138 + 12, 14 + 29), 'k');
+    EXPECT_NE(letter_at(sample, 138 + 12, 14 - 4), 'k');
+    EXPECT_NE(letter_at(sample, 138 + 12, 14 + 35), 'k');
+}
+
+TEST(gen_sample, a_template_that_is_gone_draws_nothing_of_the_run_before)
+{
+    two_halves run;
+    run.sample();
+    run.main.design_record.file = "gone";
+    EXPECT_EQ(letter_at(run.sample(), 50, 100), '.');
+    EXPECT_NE(run.desk.next_message().find("CAUGHT AN ERROR 53"), std::string::npos);
 }
 
 TEST(gen_sample, an_error_shows_its_box_and_ends_the_preview)
