@@ -13,8 +13,8 @@ constexpr int long_side = 450, short_side = 300;  // of the photo that the numbe
 constexpr double reach_before = 65, reach_along = 630, reach_across = 460;
 
 constexpr int play = 6;          // pixels between what has to fit and the edge of the area
-constexpr int sizes_tried = 12;  // further pixels that each side of the area may have
-constexpr std::size_t finalists = 3000;
+constexpr int sizes_tried = 15;  // further pixels that each side of the area may have
+constexpr std::size_t finalists = 6000;
 constexpr double far_scale = 64;  // shows the error that grows with the photo
 
 struct bounds {
@@ -142,7 +142,7 @@ double full_fault(const rotation_numbers & numbers, int rotation, const std::vec
         const double corner = squared(corner_error(numbers, rotation, used));
         const double ground = squared(ground_error(numbers, rotation, used));
         fault +=
-            used.weight * (corner + 0.3 * corner * corner * corner + 0.1 * ground + 0.02 * ground * ground);
+            used.weight * (corner + 0.6 * corner * corner * corner + 0.1 * ground + 0.02 * ground * ground);
     }
     return fault;
 }
@@ -182,7 +182,7 @@ std::vector<scaling> usual_scalings()
 {
     std::vector<scaling> found{{.factor = 1, .weight = 12}};
     for (int divisor = 2; divisor <= 5; ++divisor)
-        found.push_back({.factor = 1, .divisor = divisor, .weight = 20});
+        found.push_back({.factor = 1, .divisor = divisor, .weight = 30});
     for (int side = 310; side <= 1020; side += 10)
         found.push_back({.factor = side / static_cast<double>(short_side)});
     for (int side = 460; side <= 1020; side += 10)
