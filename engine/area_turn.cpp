@@ -238,6 +238,12 @@ struct middle_picture {
     std::vector<column_span> rows;
     std::vector<marked_pixel> pixels;
 
+    /// The columns that are there; beside them every row would read outside the picture, where all is zero.
+    column_span known(column_span columns) const
+    {
+        return {.first = std::max(columns.first, left), .last = std::min(columns.last, left + width)};
+    }
+
     const marked_pixel * at(int row, int column) const
     {
         return pixels.data() + static_cast<std::ptrdiff_t>(row - low) * width + (column - left);
@@ -370,10 +376,10 @@ void finish_rows(const shears & made, const middle_picture & middle, const row_s
         if (count > 0) {
             const double shift = made.third[static_cast<std::size_t>(row)];
             const int start = columns.first - floor_of(shift) - 1;
-            const column_span read = before_third(made, row, columns);
+            const column_span read = middle.known(before_third(made, row, columns));
             before.assign(static_cast<std::size_t>(count) + 1, 0);
             finished.resize(static_cast<std::size_t>(count));
-            if (read.first < read.last && middle.width > 0)
+            if (read.first < read.last)
                 columns_shear.put_row(row, read, before.data() + (read.first - start));
             shear_row(before.data(), shift, finished.data(), count);
             take(row, columns.first, finished);
