@@ -16,7 +16,7 @@ namespace {
 class batch_program : public testing::Test {
 protected:
     temporary_folder place;
-    batch_folders folders{.install_folder = STAGED_SEED,
+    batch_folders folders{.install_folder = BUILT_SEED,
                           .data = {.use_public_folder = true, .public_folder = place.at("data/home")}};
 
     std::string photos(int count = 6) const
