@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cassert>
 #include <cmath>
 #include <numbers>
 
@@ -140,68 +139,6 @@ void shear_row(const marked_pixel * before, double shift, marked_pixel * into, i
         into[i] = kept - share + handed_on;
         handed_on = share;
     }
-}
-
-marked_pixel mark_at(const marked_picture & picture, int x, int y)
-{
-    if (picture.marks == nullptr)
-        return static_cast<marked_pixel>(full_mark) << 24;
-    const rgb_triple color =
-        pixel(*picture.marks, x - picture.marked.left, y - picture.marked.low).value_or(rgb_triple{});
-    const int level = std::max({color.red, color.green, color.blue});
-    return static_cast<marked_pixel>(level * 255 / 256) << 24;
-}
-
-marked_pixel color_at(const std::uint8_t * bytes)
-{
-    return bytes[0] | static_cast<marked_pixel>(bytes[1]) << 8 | static_cast<marked_pixel>(bytes[2]) << 16;
-}
-
-/// A walk over the picture before any turn, along a row or a column.
-struct pixel_walk {
-    int x = 0, y = 0;            ///< where it starts
-    int step_x = 0, step_y = 0;  ///< one of them 1 or -1, the other 0
-    int count = 0;
-};
-
-/// The steps of one coordinate that fall into `low` to `high`, exclusive.
-column_span steps_inside(int start, int step, int count, int low, int high)
-{
-    if (step == 0)
-        return {.first = 0, .last = low <= start && start < high ? count : 0};
-    const int first = step > 0 ? low - start : start - (high - 1);
-    return {.first = std::max(first, 0), .last = std::min(first + high - low, count)};
-}
-
-column_span steps_inside(const pixel_walk & walk, const pixel_window & window)
-{
-    const column_span across = steps_inside(walk.x, walk.step_x, walk.count, window.left, window.right);
-    const column_span along = steps_inside(walk.y, walk.step_y, walk.count, window.low, window.high);
-    return {.first = std::max(across.first, along.first), .last = std::min(across.last, along.last)};
-}
-
-/// The pixels on the walk; zero outside the picture.
-void read_walk(const marked_picture & picture, const pixel_walk & walk, marked_pixel * into)
-{
-    std::fill_n(into, walk.count, 0);
-    const pixel_window whole{.left = 0, .low = 0, .right = picture.size.width, .high = picture.size.height};
-    const bitmap & part = *picture.part;
-    const pixel_window here{.left = picture.left,
-                            .low = picture.low,
-                            .right = picture.left + part.width(),
-                            .high = picture.low + part.height()};
-    const column_span known = steps_inside(walk, common(whole, here));
-    if (known.first < known.last) {
-        const int x = walk.x + known.first * walk.step_x, y = walk.y + known.first * walk.step_y;
-        const std::uint8_t * bytes = part.row(y - picture.low).data() + (x - picture.left) * pixel_bytes;
-        const std::ptrdiff_t pitch = part.height() > 1 ? part.row(1).data() - part.row(0).data() : 0;
-        const std::ptrdiff_t step = walk.step_x * pixel_bytes + walk.step_y * pitch;
-        for (int i = known.first; i < known.last; ++i)
-            into[i] = color_at(bytes + (i - known.first) * step);
-    }
-    const column_span marked = steps_inside(walk, common(whole, picture.marked));
-    for (int i = marked.first; i < marked.last; ++i)
-        into[i] |= mark_at(picture, walk.x + i * walk.step_x, walk.y + i * walk.step_y);
 }
 
 /// Columns of a row of the picture after its quarter turns.
@@ -412,55 +349,6 @@ picture_point turned_point(picture_size size, int degrees, picture_point point)
     point.y += made.second - (point.x - 0.5) * made.sine;
     point.x += made.third + (point.y - 0.5) * made.half;
     return point;
-}
-
-bool is_empty(const pixel_window & window)
-{
-    return window.left >= window.right || window.low >= window.high;
-}
-
-pixel_window common(const pixel_window & one, const pixel_window & other)
-{
-    return {.left = std::max(one.left, other.left),
-            .low = std::max(one.low, other.low),
-            .right = std::min(one.right, other.right),
-            .high = std::min(one.high, other.high)};
-}
-
-row_spans spans_of(const pixel_window & window)
-{
-    return {.low = window.low,
-            .rows = std::vector<column_span>(static_cast<std::size_t>(std::max(window.high - window.low, 0)),
-                                             {.first = window.left, .last = window.right})};
-}
-
-row_spans spans_of(const std::vector<picture_point> & corners, double slack, const pixel_window & bounds)
-{
-    const auto lower = [](const picture_point & one, const picture_point & other) { return one.y < other.y; };
-    const auto [lowest, highest] = std::ranges::minmax_element(corners, lower);
-    row_spans spans{.low = std::max(floor_of(lowest->y - slack), bounds.low), .rows = {}};
-    const int high = std::min(floor_of(highest->y + slack) + 1, bounds.high);
-    for (int row = spans.low; row < high; ++row) {
-        double first = bounds.right, last = bounds.left;
-        // The part of each side that lies in the band of this row.
-        for (std::size_t i = 0; i < corners.size(); ++i) {
-            const picture_point &from = corners[i], &to = corners[(i + 1) % corners.size()];
-            const double band_low = row - slack, band_high = row + 1 + slack;
-            const double side_low = std::min(from.y, to.y), side_high = std::max(from.y, to.y);
-            if (side_high < band_low || side_low > band_high)
-                continue;
-            for (double y :
-                 {std::clamp(band_low, side_low, side_high), std::clamp(band_high, side_low, side_high)}) {
-                const double share = side_high > side_low ? (y - from.y) / (to.y - from.y) : 0;
-                const double x = from.x + share * (to.x - from.x);
-                first = std::min({first, x, side_high > side_low ? x : to.x});
-                last = std::max({last, x, side_high > side_low ? x : to.x});
-            }
-        }
-        spans.rows.push_back({.first = std::max(floor_of(first - slack), bounds.left),
-                              .last = std::min(floor_of(last + slack) + 1, bounds.right)});
-    }
-    return spans;
 }
 
 void turn_rows(const marked_picture & picture, int degrees, const row_spans & wanted, const row_taker & take)
