@@ -37,6 +37,9 @@ int complain(exit_status status, const std::string & text)
 
 int main(int count, char ** words)
 {
+    // What the toolkit has to say of its surroundings is of no use here: standard error holds the session's
+    // messages.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     // Fonts and text need the toolkit, a display doesn't have to be there.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -82,7 +82,7 @@ std::string GetNextDesign(frmMain & main)
 {
     const profile designs(catalogue_path(main));
     for (int number = first_saved; number < end_of_saved; ++number) {
-        const std::string section = "Design" + formatted(number, 3);
+        std::string section = "Design" + formatted(number, 3);
         if (!designs.value(section, "Name").empty())
             continue;
         main.next_design_number = narrow(number);

@@ -62,8 +62,8 @@ std::optional<std::string> design_section(std::string_view line)
 
 void read_design_line(design_record & record, std::string line)
 {
-    std::string value = split_key_value(line);
+    const std::string value = split_key_value(line);
     for (const design_key & key : keys)
         if (line == key.text)
-            record.*key.value = std::move(value);
+            record.*key.value = value;
 }

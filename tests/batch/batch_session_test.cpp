@@ -7,8 +7,8 @@
 #include "tests/pictures.h"
 #include "tests/temporary_folder.h"
 
-#include <map>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
