@@ -59,6 +59,8 @@ void give_back(frmMain & main, const borrowed_settings & before)
 
 void set_output_size(frmMain & main)
 {
+    main.square_background = main.optSquare.selected();
+    main.run_landscape = main.optLandscape.selected();
     main.collage_width = main.optPortrait.selected() || main.optSquare.selected() ? 2000 : 3000;
     main.collage_height = main.optPortrait.selected() ? 3000 : 2000;
 }

@@ -7,6 +7,7 @@
 #include "tests/pictures.h"
 
 #include <cstdlib>
+#include <gtest/gtest.h>
 
 collage_fixture::collage_fixture() : all(desk, seeded_random(7)), main(all.main)
 {
@@ -81,6 +82,45 @@ bitmap collage_fixture::full_run()
 bitmap collage_fixture::finished() const
 {
     return load_picture(picture_format::jpeg, joined(main.data_folder, "tmp/finished.jpg"));
+}
+
+std::vector<std::string> quarters()
+{
+    return {"0:0:1500:1000:0:0:0:0:", "0:1000:1500:1000:0:0:0:0:", "1500:0:1500:1000:0:0:0:0:",
+            "1500:1000:1500:1000:0:0:0:0:"};
+}
+
+four_photos::four_photos()
+{
+    use_template(quarters());
+    for (const rgb_triple color : {red, green, blue, yellow})
+        add_photo(color);
+}
+
+void look_at_start(collage_fixture & run, const std::function<void()> & look)
+{
+    bool looked = false;
+    run.desk.on_pump(1, [&] {
+        looked = true;
+        look();
+        run.main.run.cancel_requested = true;
+    });
+    make_flurn(run.main);
+    EXPECT_TRUE(looked);
+    EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
+}
+
+void expect_usable(const frmMain & main)
+{
+    EXPECT_FALSE(main.run.run_active);
+    EXPECT_FALSE(main.run.cancel_requested);
+    EXPECT_FALSE(main.run.canvas);
+    EXPECT_FALSE(main.txtDoing.visible());
+    EXPECT_TRUE(main.enabling.last);
+    EXPECT_TRUE(main.frmOutput.enabled());
+    EXPECT_TRUE(main.cmdFlurn.enabled());
+    EXPECT_TRUE(main.cmdHelp.enabled());
+    EXPECT_FALSE(main.updating_controls);
 }
 
 char letter_of(rgb_triple color)

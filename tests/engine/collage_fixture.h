@@ -4,6 +4,7 @@
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,20 @@ struct collage_fixture {
     /// `tmp/finished.jpg`.
     bitmap finished() const;
 };
+
+/// The lines of a template of four upright quarters of the poster, without frames and shadows.
+std::vector<std::string> quarters();
+
+/// The quarters with a photo for each: red and green above, blue and yellow below.
+struct four_photos : collage_fixture {
+    four_photos();
+};
+
+/// Looks at a run that has got ready, and cancels it there.
+void look_at_start(collage_fixture & run, const std::function<void()> & look);
+
+/// Checks that no run is going on and that the window is open.
+void expect_usable(const frmMain & main);
 
 /// The letter of a colour: r, g, b, y, "." for grey, "k" for black, "w" for white, "?" for any other.
 char letter_of(rgb_triple color);

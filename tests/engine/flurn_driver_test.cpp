@@ -2,58 +2,11 @@
 
 #include "photos/thumbnails.h"
 #include "support/paths.h"
-#include "support/platform_error.h"
 #include "support/text_file.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 
-#include <filesystem>
-#include <functional>
 #include <gtest/gtest.h>
-
-namespace {
-
-// Four upright quarters of the poster, without frames and shadows.
-const std::vector<std::string> quarters{"0:0:1500:1000:0:0:0:0:", "0:1000:1500:1000:0:0:0:0:",
-                                        "1500:0:1500:1000:0:0:0:0:", "1500:1000:1500:1000:0:0:0:0:"};
-
-struct four_photos : collage_fixture {
-    four_photos()
-    {
-        use_template(quarters);
-        for (const rgb_triple color : {red, green, blue, yellow})
-            add_photo(color);
-    }
-};
-
-// Looks at a run that has got ready, and cancels it there.
-void look_at_start(collage_fixture & run, const std::function<void()> & look)
-{
-    bool looked = false;
-    run.desk.on_pump(1, [&] {
-        looked = true;
-        look();
-        run.main.run.cancel_requested = true;
-    });
-    make_flurn(run.main);
-    EXPECT_TRUE(looked);
-    EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
-}
-
-void expect_usable(const frmMain & main)
-{
-    EXPECT_FALSE(main.run.run_active);
-    EXPECT_FALSE(main.run.cancel_requested);
-    EXPECT_FALSE(main.run.canvas);
-    EXPECT_FALSE(main.txtDoing.visible());
-    EXPECT_TRUE(main.enabling.last);
-    EXPECT_TRUE(main.frmOutput.enabled());
-    EXPECT_TRUE(main.cmdFlurn.enabled());
-    EXPECT_TRUE(main.cmdHelp.enabled());
-    EXPECT_FALSE(main.updating_controls);
-}
-
-}  // namespace
 
 TEST(make_flurn, lays_the_photos_out_on_a_poster_without_the_bleed)
 {
@@ -198,22 +151,6 @@ TEST(make_flurn, a_grid_fills_the_poster)
     EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\nyr\nby\n") << "a third column lies in the bleed";
 }
 
-TEST(make_flurn, a_missing_template_leaves_the_plain_ground)
-{
-    collage_fixture run;
-    run.main.design_record.system = "Yes";
-    run.home.write("install/design_list", "[other]\r\n");
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "..\n..\n..\n");
-}
-
-TEST(make_flurn, a_photo_that_vanished_ends_the_collage_with_what_it_has)
-{
-    four_photos run;
-    std::filesystem::remove(run.main.table[2]);
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\n..\n..\n");
-    expect_usable(run.main);
-}
-
 TEST(make_flurn, a_random_order_is_drawn_before_the_photos_are_placed)
 {
     four_photos run;
@@ -243,111 +180,6 @@ TEST(make_flurn, matching_is_the_designs_and_the_users_choice)
     EXPECT_FALSE(matched([](frmMain & main) { main.design_matches = false; }));
 }
 
-TEST(make_flurn, a_cancel_while_it_gets_ready_ends_it)
-{
-    four_photos run;
-    run.use_thumbnails();
-    run.main.quick_active = true;
-    run.home.write("data/designs.ini", "[Design001]\r\nName=Match\r\nStyle=Place\r\n");
-    run.home.write("data/designs/__quick", text_of(quarters));
-    run.desk.on_pump(1, [&] { run.main.run.cancel_requested = true; });
-    make_flurn(run.main);
-    EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
-    EXPECT_FALSE(run.main.quick_active);
-    EXPECT_TRUE(run.main.optPreview.selected());
-    EXPECT_TRUE(is_thumbnail(run.main.table[0]));
-    EXPECT_FALSE(file_exists(joined(run.main.data_folder, "tmp/finished.jpg")));
-    EXPECT_EQ(run.desk.busy_depth, 0);
-    expect_usable(run.main);
-}
-
-TEST(make_flurn, a_cancel_between_two_photos_ends_it_without_a_picture)
-{
-    four_photos run;
-    run.main.optPreview.select();
-    run.desk.on_pump(3, [&] {
-        run.main.optPreview.select(false);
-        run.main.run.cancel_requested = true;
-    });
-    make_flurn(run.main);
-    EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
-    EXPECT_TRUE(run.main.optPreview.selected());
-    EXPECT_FALSE(file_exists(joined(run.main.data_folder, "tmp/finished.jpg")));
-    expect_usable(run.main);
-}
-
-TEST(make_flurn, a_cancel_in_a_grid_lets_it_run_to_its_end)
-{
-    four_photos run;
-    run.main.design_record.style = "Fill";
-    run.use_template({"0:0:2:2:0:-1:-1:0:", "0:0:1500:1000:0:0:0:0:"});
-    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
-    run.desk.on_pump(3, [&] { run.main.run.cancel_requested = true; });
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\nby\nby\n");
-    expect_usable(run.main);
-}
-
-TEST(make_flurn, an_error_in_the_run_shows_how_far_it_came_and_its_number)
-{
-    four_photos run;
-    run.use_thumbnails();
-    run.use_template({"0:0:3000:1000:60:0:0:0:"});
-    run.main.optLandscape.select();
-    run.main.design_record.background = "Portrait";
-    run.main.optPreview.select();
-    run.main.quick_active = false;
-    run.main.matrix_session = true;
-    make_flurn(run.main);
-    EXPECT_EQ(run.desk.next_message(), "MMM  HHH  CCC  AAA  XX  CAUGHT AN ERROR  6");
-    EXPECT_FALSE(run.main.matrix_session);
-    EXPECT_FALSE(run.main.quick_active);
-    EXPECT_TRUE(run.main.optPortrait.selected());
-    EXPECT_TRUE(run.main.optPreview.selected());
-    EXPECT_FALSE(run.main.picSample.visible());
-    EXPECT_TRUE(is_thumbnail(run.main.table[0]));
-    EXPECT_EQ(run.desk.busy_depth, 0);
-    expect_usable(run.main);
-}
-
-TEST(make_flurn, an_error_before_the_run_began_leaves_the_window_usable)
-{
-    four_photos run;
-    run.use_template({"0:0:300:100:182:0:0:0:"});
-    run.main.design_mirrored = true;
-    run.main.optPreview.select();
-    EXPECT_THROW(make_flurn(run.main), platform_error);
-    EXPECT_TRUE(run.main.optPreview.selected());
-    expect_usable(run.main);
-}
-
-TEST(make_flurn, a_full_disk_is_told_with_its_file_and_leaves_the_old_picture)
-{
-    four_photos run;
-    const std::string path = run.home.write("data/tmp/finished.jpg", "old");
-    {
-        const full_disk limit(1000);
-        make_flurn(run.main);
-    }
-    const std::string message = run.desk.next_message();
-    EXPECT_EQ(message, run.main.trace +
-                           "XX  CAUGHT AN ERROR  61\nThe disk is full. Make room on it and try again.\n" +
-                           path);
-    EXPECT_EQ(read_file(path), "old");
-    expect_usable(run.main);
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\nby\nby\n") << "the next run goes through";
-}
-
-TEST(make_flurn, a_missing_work_folder_is_told_with_its_file)
-{
-    four_photos run;
-    std::filesystem::remove_all(joined(run.main.data_folder, "tmp"));
-    make_flurn(run.main);
-    const std::string message = run.desk.next_message();
-    EXPECT_NE(message.find("XX  CAUGHT AN ERROR  "), std::string::npos);
-    EXPECT_NE(message.find("finished.jpg"), std::string::npos);
-    expect_usable(run.main);
-}
-
 TEST(make_flurn, the_caption_is_printed_over_the_collage)
 {
     four_photos run;
@@ -367,7 +199,7 @@ TEST(make_flurn, saving_is_offered_for_quick_styles_and_matrices_that_can_be_rea
     const auto offered = [](const auto & settings) {
         four_photos run;
         run.home.write("data/designs.ini", "[Design001]\r\nName=Match\r\nStyle=Place\r\n");
-        run.home.write("data/designs/__quick", text_of(quarters));
+        run.home.write("data/designs/__quick", text_of(quarters()));
         run.main.mnuSaveDesign.enable(false);
         settings(run.main);
         look_at_start(run, [] {});
@@ -387,6 +219,19 @@ TEST(make_flurn, a_matrix_of_this_session_is_remembered)
     EXPECT_TRUE(run.main.matrix_session);
 }
 
+TEST(make_flurn, the_shape_of_the_last_run_is_kept_for_saving)
+{
+    four_photos run;
+    run.main.optLandscape.select();
+    look_at_start(run, [] {});
+    EXPECT_TRUE(run.main.run_landscape);
+    EXPECT_FALSE(run.main.square_background);
+    run.main.optSquare.select();
+    look_at_start(run, [] {});
+    EXPECT_FALSE(run.main.run_landscape);
+    EXPECT_TRUE(run.main.square_background);
+}
+
 TEST(make_flurn, dark_colours_keep_away_from_the_key)
 {
     EXPECT_EQ(away_from_key({}), (rgb_triple{.blue = 7}));
@@ -400,51 +245,4 @@ TEST(make_flurn, dark_colours_keep_away_from_the_key)
     look_at_start(run, [] {});
     EXPECT_EQ(run.main.run.frame_color, (rgb_triple{.blue = 7}));
     EXPECT_EQ(run.main.run.shadow_color, (rgb_triple{.red = 12, .green = 11, .blue = 10}));
-}
-
-TEST(allocate_canvas, is_the_collage_and_its_bleed_on_each_side)
-{
-    collage_fixture run;
-    run.main.run.collage_margin = 70;
-    allocate_canvas(run.main, run_size::full);
-    EXPECT_EQ(run.main.run.canvas.width(), 2860);
-    EXPECT_EQ(run.main.run.canvas.height(), 3860);
-    EXPECT_EQ(letter_at(run.main.run.canvas, 0, 0), '.');
-    EXPECT_EQ(letter_at(run.main.run.canvas, 2859, 3859), '.');
-}
-
-TEST(allocate_canvas, a_preview_is_a_sixth)
-{
-    collage_fixture run;
-    run.main.run.collage_margin = 70;
-    run.main.optLandscape.select();
-    allocate_canvas(run.main, run_size::preview);
-    EXPECT_EQ(run.main.collage_width, 500);
-    EXPECT_EQ(run.main.collage_height, 333);
-    EXPECT_EQ(run.main.run.collage_margin, 12);
-    EXPECT_EQ(run.main.run.canvas.width(), 524);
-}
-
-TEST(allocate_canvas, stays_black_for_a_picture_that_covers_it)
-{
-    collage_fixture run;
-    run.main.bg_color = 0x808080;
-    run.main.optBGimage.select();
-    run.main.cmbBlend.set_text("100");
-    allocate_canvas(run.main, run_size::preview);
-    EXPECT_EQ(letter_at(run.main.run.canvas, 0, 0), 'k');
-    run.main.collage_width = 2000;
-    run.main.collage_height = 3000;
-    run.main.cmbBlend.set_text("99");
-    allocate_canvas(run.main, run_size::preview);
-    EXPECT_EQ(letter_at(run.main.run.canvas, 0, 0), '.') << "the session's colour";
-}
-
-TEST(report_cancel, tells_and_opens_the_window)
-{
-    collage_fixture run;
-    run.main.run.run_active = run.main.run.cancel_requested = true;
-    report_cancel(run.main);
-    EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
-    expect_usable(run.main);
 }
