@@ -56,6 +56,14 @@ QSize indicator_style::sizeFromContents(ContentsType type, const QStyleOption * 
     return type == CT_PushButton ? usual.expandedTo({content.width() + 2 * button_air, 0}) : usual;
 }
 
+int indicator_style::styleHint(StyleHint hint, const QStyleOption * option, const QWidget * widget,
+                               QStyleHintReturn * result) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, result);
+}
+
 void indicator_style::drawPrimitive(PrimitiveElement element, const QStyleOption * option, QPainter * painter,
                                     const QWidget * widget) const
 {

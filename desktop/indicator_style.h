@@ -11,6 +11,8 @@ public:
     indicator_style();
     QSize sizeFromContents(ContentsType type, const QStyleOption * option, const QSize & content,
                            const QWidget * widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption * option, const QWidget * widget,
+                  QStyleHintReturn * result) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption * option, QPainter * painter,
                        const QWidget * widget) const override;
 };

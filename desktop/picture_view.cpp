@@ -17,6 +17,22 @@ QByteArray file_content(const std::string & path)
         {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()});
 }
 
+// "splash@2x.png" beside "splash.png" is the same picture for screens of double density.
+std::string dense_twin(const std::string & path)
+{
+    const std::size_t dot = path.rfind('.');
+    return dot == std::string::npos ? std::string() : path.substr(0, dot) + "@2x" + path.substr(dot);
+}
+
+QImage picture_of(const std::string & path, double density)
+{
+    QImage dense = density > 1 ? QImage::fromData(file_content(dense_twin(path))) : QImage();
+    if (dense.isNull())
+        return QImage::fromData(file_content(path));
+    dense.setDevicePixelRatio(2);
+    return dense;
+}
+
 }  // namespace
 
 picture_view::picture_view(QWidget * parent) : QAbstractButton(parent)
@@ -35,7 +51,7 @@ void picture_view::set_scaled(bool fits)
 
 void picture_view::show_file(const std::string & path)
 {
-    picture = path.empty() ? QImage() : QImage::fromData(file_content(path));
+    picture = path.empty() ? QImage() : picture_of(path, devicePixelRatioF());
     updateGeometry();
     update();
 }
@@ -50,7 +66,7 @@ void picture_view::set_back_color(const QColor & color)
 
 QSize picture_view::sizeHint() const
 {
-    return picture.isNull() ? QSize(28, 22) : picture.size();
+    return picture.isNull() ? QSize(28, 22) : picture.deviceIndependentSize().toSize();
 }
 
 int picture_view::heightForWidth(int width) const

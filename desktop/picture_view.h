@@ -21,6 +21,7 @@ public:
     void set_scaled(bool fits);
     /// Reads the file again even if it is the one shown; an empty path, a missing file and one that is no
     /// picture show the back colour alone.
+    /// On a screen of double density, "name@2x.ext" beside the file stands in for it.
     void show_file(const std::string & path);
     void set_back_color(const QColor & color);
     const QColor & back_color() const { return back; }

@@ -49,7 +49,7 @@ void load(form & window)
 
 void prepare_box(QMessageBox & box, const std::string & title, const std::string & text)
 {
-    box.setWindowTitle(title.empty() ? QApplication::applicationDisplayName() : shown(title));
+    box.setWindowTitle(title.empty() ? QStringLiteral("Tessaloom") : shown(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(shown(text).remove(QLatin1Char('\r')));
 }

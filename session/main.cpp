@@ -55,7 +55,6 @@ int main(int, char ** words)
     int only_the_name = 1;  // the program reads no command line, nor lets the toolkit read one
     QApplication application(only_the_name, words);
     QApplication::setApplicationName(QStringLiteral("tessaloom"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Tessaloom"));
     QApplication::setQuitOnLastWindowClosed(false);
     apply_looks(application);
     qt_desktop desk;

@@ -82,6 +82,18 @@ TEST(picture_view, a_path_may_be_any_bytes)
     EXPECT_EQ(seen_view(view).pixelColor(5, 5), red);
 }
 
+TEST(picture_view, a_twin_of_double_density_stands_in_for_the_file_on_such_a_screen_alone)
+{
+    const temporary_folder folder;
+    const std::string path = colored_file(folder, "a.png", {10, 10}, red);
+    colored_file(folder, "a@2x.png", {20, 20}, green);
+    picture_view view;
+    view.resize(10, 10);
+    view.show_file(path);
+    EXPECT_EQ(view.sizeHint(), QSize(10, 10));
+    EXPECT_EQ(seen_view(view).pixelColor(5, 5), view.devicePixelRatioF() > 1 ? green : red);
+}
+
 TEST(picture_view, scaled_to_its_width_it_asks_for_the_height_that_keeps_the_proportions)
 {
     const temporary_folder folder;
