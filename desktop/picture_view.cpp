@@ -38,6 +38,8 @@ QImage picture_of(const std::string & path, double density)
 picture_view::picture_view(QWidget * parent) : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Preferred,
+                  QSizePolicy::Preferred);  // a button would keep to its picture's size
 }
 
 void picture_view::set_scaled(bool fits)
@@ -77,7 +79,7 @@ int picture_view::heightForWidth(int width) const
 void picture_view::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    if (back.isValid())
+    if (picture.isNull() && back.isValid())
         painter.fillRect(rect(), isEnabled() ? back : QColor::fromHsv(0, 0, back.value() / 2 + 32));
     if (!picture.isNull() && fits_width) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);

@@ -1,0 +1,160 @@
+#include "../temporary_folder.h"
+#include "designs/catalogue.h"
+#include "desktop/picture_view.h"
+#include "desktop/qt_desktop.h"
+#include "photos/photo_list.h"
+#include "session/connect_all.h"
+#include "session/new_poster.h"
+#include "session/start_up.h"
+#include "support/colors.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Plays the user in the next box or window that waits, however many events a run lets through before.
+template <typename Box>
+void when_asked(std::function<void(Box &)> play, int patience = 2000)
+{
+    QTimer::singleShot(0, [play, patience] {
+        if (auto * const box = qobject_cast<Box *>(QApplication::activeModalWidget()))
+            play(*box);
+        else if (patience > 0)
+            when_asked<Box>(play, patience - 1);
+        else
+            ADD_FAILURE() << "no box waits";
+    });
+}
+
+// Screens for looking at, where somebody wants them.
+void keep_screen(QWidget & window, const char * name)
+{
+    const QString folder = qEnvironmentVariable("TESSALOOM_SCREENS");
+    if (!folder.isEmpty())
+        window.grab().save(folder + QLatin1Char('/') + QLatin1String(name));
+}
+
+// The whole program in its window, on the data as it is staged and the sample photos.
+struct session_test : testing::Test {
+    session_test()
+    {
+        std::filesystem::copy(BUILT_SEED, folder.path(), std::filesystem::copy_options::recursive);
+        std::filesystem::copy(SAMPLE_PHOTOS, folder.at("photos"));
+        all.main.install_folder = folder.path();
+        when_asked<QMessageBox>([this](QMessageBox & box) {
+            welcome = box.windowTitle();
+            keep_screen(box, "welcome.png");
+            box.buttons().front()->click();
+        });
+        prepare_data_folder(all.main, {});
+        connect_all(all);
+        all.main.picSplash.load(folder.at("images/splash.png"));
+        desk.show(all.main);
+        QApplication::processEvents();
+    }
+    ~session_test() override { desk.forget_windows(); }
+
+    QWidget & window() { return *desk.window_of(all.main); }
+    template <typename Widget>
+    Widget * found(const char * name)
+    {
+        return window().findChild<Widget *>(QLatin1String(name));
+    }
+
+    void start(const std::string & design)
+    {
+        frmMain & main = all.main;
+        main.picSplash.show(false);
+        main.set_back_color(about_background);
+        ASSERT_TRUE(find_design(main, design));
+        close_catalogue(main);
+        main.lblDesign.tag = design;
+        main.lblDesign.set_caption(main.design_record.name);
+        {
+            const updating guard(main);
+            main.optPortrait.select(false);
+            main.optPortrait.select();
+            main.poster_tall = true;
+        }
+        photos_of_folder(main, folder.at("photos"));
+        set_photo_source_kind(main, photo_source::folder);
+        main.lblPhotos.set_caption("Folder:");
+        main.txtPhotos.set_text("photos");
+        main.txtPhotos.tag = folder.at("photos");
+        start_designed(main);
+        window().activateWindow();
+        QApplication::processEvents();
+    }
+
+    temporary_folder folder;
+    qt_desktop desk;
+    windows all{desk, seeded_random(7)};
+    QString welcome;
+};
+
+TEST_F(session_test, opens_on_the_black_stage_after_its_welcome)
+{
+    EXPECT_EQ(welcome, "T e s s a l o o m   C o n f i g u r a t i o n");
+    EXPECT_EQ(window().windowTitle(), "F l u r n s");
+    EXPECT_EQ(window().size(), QSize(1040, 675));
+    EXPECT_FALSE(found<picture_view>("picSplash")->image().isNull());
+    EXPECT_EQ(window().palette().color(QPalette::Window), QColor(0, 0, 0));
+    EXPECT_TRUE(window().findChild<QMenuBar *>()->isVisible());
+    EXPECT_FALSE(found<QWidget>("frmOutput")->isVisible());
+    keep_screen(window(), "choosing.png");
+}
+
+TEST_F(session_test, a_design_is_finished_by_hand_and_made_full_size)
+{
+    start("Autumn walk");
+    EXPECT_EQ(window().windowTitle(), "F i n i s h i n g   t o u c h e s");
+    EXPECT_FALSE(window().findChild<QMenuBar *>()->isVisible());
+    EXPECT_FALSE(found<picture_view>("picSample")->image().isNull());
+    const int loads = all.main.picSample.load_count();
+    QTest::mouseClick(found<QCheckBox>("chkSoftEdge"), Qt::LeftButton, {}, QPoint(8, 8));
+    EXPECT_GT(all.main.picSample.load_count(), loads);
+
+    auto * const caption = found<QLineEdit>("txtCaption");
+    caption->setFocus();
+    QTest::keyClicks(caption, "Autumn");
+    EXPECT_EQ(all.main.txtCaption.text(), "Autumn");
+    EXPECT_TRUE(caption->hasFocus()) << "each letter made a preview, and the focus came back each time";
+    keep_screen(window(), "finishing.png");
+
+    QImage seen;
+    when_asked<QDialog>([&](QDialog & shown) {
+        const auto * const picture = shown.findChild<picture_view *>("picDisplay");
+        seen = picture->image();
+        EXPECT_LE(picture->width(), shown.width());
+        EXPECT_EQ(picture->height(), picture->width() * 3 / 2);
+        keep_screen(shown, "finished.png");
+        QTest::mouseClick(shown.findChild<QPushButton *>("cmdClose"), Qt::LeftButton);
+    });
+    QTest::mouseClick(found<QPushButton>("cmdFlurn"), Qt::LeftButton);
+    EXPECT_EQ(seen.size(), QSize(2000, 3000));
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(session_test, the_first_close_only_backs_out_of_the_work)
+{
+    start("Autumn walk");
+    window().close();
+    EXPECT_TRUE(all.main.loaded());
+    EXPECT_TRUE(all.main.menus_shown);
+    EXPECT_TRUE(window().isVisible());
+    window().close();
+    EXPECT_FALSE(all.main.loaded());
+}
+
+}  // namespace
