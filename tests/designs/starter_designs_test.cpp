@@ -416,7 +416,7 @@ TEST(starter_designs, together_they_reach_every_road_of_the_engine)
     EXPECT_EQ(layers, (std::set<std::size_t>{1, 3}));
     EXPECT_GE(scatters, 2);
     EXPECT_EQ(values["Style"], (std::set<std::string>{"Place", "Fill", "Matrix"}));
-    EXPECT_EQ(values["Design"], (std::set<std::string>{"Block", "Scatter", "Theme", "Frame"}));
+    EXPECT_EQ(values["Design"], (std::set<std::string>{"Block", "Scatter", "Theme"}));
     EXPECT_EQ(values["Background"], (std::set<std::string>{"Portrait", "Landscape"}));
     for (const char * size : {"Adjust", "45", "Color", "None"})
         EXPECT_TRUE(values["Frames"].contains(size)) << size;

@@ -1,7 +1,6 @@
 #include "tests/engine/tilt_measure.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <gtest/gtest.h>
 
 namespace {
@@ -105,34 +104,4 @@ TEST(rotation_geometry, previewed_photos_lie_as_near_in_the_previews_own_pixels)
                 ++turn;
             }
     EXPECT_LE(median(errors), 1);
-}
-
-/// Too long for every day: all angles with many sizes, as a table.
-TEST(rotation_geometry, DISABLED_wide_sweep)
-{
-    constexpr int lengths[] = {150, 300, 540, 900};
-    tilt_stage stage;
-    std::vector<double> all;
-    std::size_t turn = 0;
-    for (int rotation : all_rotations()) {
-        std::vector<double> full, preview;
-        for (int width : lengths)
-            for (int height : lengths) {
-                tilted_cell cell{.width = width, .height = height, .rotation = rotation};
-                cell.frame = frames[turn % 9];
-                cell.shadow = shadows[turn % 5];
-                ++turn;
-                measure(stage, cell, full);
-                cell.width = width / 7;
-                cell.height = height / 7;
-                cell.size = run_size::preview;
-                measure(stage, cell, preview);
-            }
-        std::printf("%4d full median %.2f largest %.2f   preview median %.2f largest %.2f\n", rotation,
-                    median(full), std::ranges::max(full), median(preview), std::ranges::max(preview));
-        all.insert(all.end(), full.begin(), full.end());
-        all.insert(all.end(), preview.begin(), preview.end());
-    }
-    std::printf("all  median %.2f largest %.2f of %zu corners\n", median(all), std::ranges::max(all),
-                all.size());
 }

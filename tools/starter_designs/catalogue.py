@@ -134,12 +134,4 @@ STARTERS = [
            "Stars and circles among confetti",
            "Four stars and three circles filled with photos, among coloured confetti.",
            layouts.celebration(), {**SHAPES, "Quick Shape": "Yes", "Turn BG": "Yes"}),
-    Design(120, "Trading cards", "trading_cards", "Place", "Frame", "Portrait",
-           "Nine portraits in frames of your own",
-           "Nine portraits, each in a frame of the set that you choose.",
-           layouts.trading_cards(), {**FITTING, **FIXED, "Frames": "None", "Shadows": "No"}),
-    Design(121, "Album page", "album_page", "Place", "Frame", "Portrait",
-           "Four landscape and six portrait photos in frames of your own",
-           "Four landscape and six portrait photos, each in a frame of the set that you choose.",
-           layouts.album_page(), {**FITTING, **FIXED, "Frames": "None", "Shadows": "No"}),
 ]

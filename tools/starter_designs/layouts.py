@@ -3,7 +3,7 @@ from dataclasses import replace
 
 from starter_designs.cover import scattered
 from starter_designs.mosaic import mosaic
-from starter_designs.place import (LANDSCAPE, PORTRAIT, box, centred, framed, grid, picture, rows, shape)
+from starter_designs.place import (LANDSCAPE, PORTRAIT, box, centred, grid, picture, rows, shape)
 
 ALL_TILTS = [tilt for tilt in range(-35, 40, 5) if tilt]
 
@@ -136,15 +136,3 @@ def best_wishes():
     """Room for one line of writing above and below."""
     return [box(120, 300, 860, 610), box(1020, 300, 860, 610), box(120, 950, 560, 860), box(720, 950, 560, 860),
             box(1320, 950, 560, 860), box(120, 1850, 1160, 850), box(1320, 1850, 560, 850)]
-
-
-def trading_cards():
-    return [place for row in range(3) for column in range(3)
-            for place in framed(50 + 650 * column, 75 + 975 * row, 600, 900)]
-
-
-def album_page():
-    wide = [(60, 60), (1010, 60), (60, 2333), (1010, 2333)]
-    tall = [(60 + 640 * column, top) for top in (730, 1540) for column in range(3)]
-    return ([place for x, y in wide for place in framed(x, y, 910, 607)]
-            + [place for x, y in tall for place in framed(x + 40, y, 500, 750)])

@@ -55,17 +55,6 @@ def shape(x, y, size, mask, color=0):
     return Place(round(y - size / 2), round(x - size / 2), 0, size, 0, 0, -1, color, mask)
 
 
-def framed(left, top, width, height):
-    """A frame of the chosen set and the photo in its opening. The letter behind "@_" says which frame."""
-    if height > width:
-        letter, down, across, inside = "p", 0.04, 0.06, (0.79, 0.89)
-    else:
-        letter, down, across, inside = "l", 0.051, 0.13, (0.75, 0.83)
-    photo = Place(round(top + height * down), round(left + width * across), round(height * inside[0]),
-                  round(width * inside[1]), 0, 0, 0)
-    return [picture(left, top, width, height, "@_" + letter), photo]
-
-
 def grid(top, left, rows, columns, row_gap, column_gap, height, width, both=0, rotate=0, resize=0):
     """The two lines of one layer of a grid. The three switches count in the style "Matrix" alone."""
     return [Place(top, left, rows, columns, both, rotate, resize), Place(row_gap, column_gap, height, width)]
