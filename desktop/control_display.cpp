@@ -81,6 +81,17 @@ void display_content(const combo_box & held, QComboBox & widget)
         widget.lineEdit()->setCursorPosition(cursor);
 }
 
+void display_font(const text_box & held, QWidget & widget)
+{
+    if (held.font() == font_style{})
+        return;
+    QFont font = pixel_font(held.font());
+    const QVariant largest = widget.property("largest");
+    if (largest.isValid())
+        font.setPixelSize(std::min(font.pixelSize(), largest.toInt()));
+    widget.setFont(font);
+}
+
 void display_content(const text_box & held, QLineEdit & widget)
 {
     const QString text = shown(held.text());
@@ -89,13 +100,46 @@ void display_content(const text_box & held, QLineEdit & widget)
         widget.setCursorPosition(0);  // a long text shows its beginning
     }
     display_colors(held, widget, QPalette::Base, QPalette::Text);
-    if (held.font() == font_style{})
-        return;
-    QFont font = pixel_font(held.font());
-    const QVariant largest = widget.property("largest");
-    if (largest.isValid())
-        font.setPixelSize(std::min(font.pixelSize(), largest.toInt()));
-    widget.setFont(font);
+    display_font(held, widget);
+}
+
+void display_content(const text_box & held, QPlainTextEdit & widget)
+{
+    const QString text = shown(held.text()).remove(QLatin1Char('\r'));
+    const QSignalBlocker quiet(widget);
+    if (widget.toPlainText() != text)
+        widget.setPlainText(text);
+    display_colors(held, widget, QPalette::Base, QPalette::Text);
+    display_font(held, widget);
+}
+
+bool has_items(const QListWidget & widget, const QStringList & wanted)
+{
+    bool same = widget.count() == wanted.size();
+    for (int i = 0; same && i < widget.count(); ++i)
+        same = widget.item(i)->text() == wanted[i];
+    return same;
+}
+
+void display_content(const list_box & held, QListWidget & widget)
+{
+    QStringList wanted;
+    for (const std::string & item : held.items())
+        wanted.append(shown(item));
+    const QSignalBlocker quiet(widget);
+    if (!has_items(widget, wanted)) {
+        widget.clear();
+        widget.addItems(wanted);
+    }
+    if (selected_row(widget) != held.list_index())
+        widget.setCurrentRow(held.list_index());
+}
+
+void display_content(const slider & held, QSlider & widget)
+{
+    const QSignalBlocker quiet(widget);
+    widget.setRange(held.minimum(), held.maximum());
+    widget.setValue(held.position());
 }
 
 void display_content(const label & held, QLabel & widget)

@@ -54,6 +54,33 @@ struct listener {
         });
     }
 
+    // The next three have no signal for the user alone: who shows the control blocks theirs meanwhile.
+
+    void operator()(text_box & held, QPlainTextEdit & widget) const
+    {
+        QObject::connect(&widget, &QPlainTextEdit::textChanged, &owner, [run = act, &held, &widget] {
+            run([&] { held.set_text(bytes_of(widget.toPlainText())); });
+        });
+    }
+
+    // A list that gets the focus makes its first entry the current one, which is no choice yet.
+    void operator()(list_box & held, QListWidget & widget) const
+    {
+        QObject::connect(&widget, &QListWidget::itemSelectionChanged, &owner,
+                         [run = act, &held, &widget] { run([&] { held.select(selected_row(widget)); }); });
+        QObject::connect(&widget, &QListWidget::itemDoubleClicked, &owner,
+                         [run = act, &held, &widget](const QListWidgetItem * entry) {
+                             run([&held, row = widget.row(entry)] { held.double_click(row); });
+                         });
+    }
+
+    void operator()(slider & held, QSlider & widget) const
+    {
+        QObject::connect(&widget, &QSlider::valueChanged, &owner, [run = act, &held](int value) {
+            run([&held, value] { held.set_position(value); });
+        });
+    }
+
     void operator()(label &, QLabel &) const {}
     void operator()(group &, QWidget &) const {}
 

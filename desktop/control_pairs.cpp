@@ -11,3 +11,9 @@ QObject * widget_of(const control & held, const QWidget & window)
         return action;
     return window.findChild<QWidget *>(name);
 }
+
+int selected_row(const QListWidget & list)
+{
+    const QList<QListWidgetItem *> selected = list.selectedItems();
+    return selected.isEmpty() ? -1 : list.row(selected.front());
+}

@@ -8,14 +8,20 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 
 /// Which widget shows which control: the widget, or the action of a menu, with the control's name.
 
 /// What shows the control in that window; nullptr when nothing has its name. A menu with entries is found by
 /// the name of the menu.
 QObject * widget_of(const control & held, const QWidget & window);
+
+/// The row of the selected entry, -1 when there is none.
+int selected_row(const QListWidget & list);
 
 template <typename Control, typename Widget, typename Visit>
 bool visit_as(control & held, QObject & widget, const Visit & visit)
@@ -38,7 +44,9 @@ bool visit_pair(control & held, QObject & widget, const Visit & visit)
            visit_as<option_button, QRadioButton>(held, widget, visit) ||
            visit_as<combo_box, QComboBox>(held, widget, visit) ||
            visit_as<text_box, QLineEdit>(held, widget, visit) ||
-           visit_as<label, QLabel>(held, widget, visit) ||
+           visit_as<text_box, QPlainTextEdit>(held, widget, visit) ||
+           visit_as<list_box, QListWidget>(held, widget, visit) ||
+           visit_as<slider, QSlider>(held, widget, visit) || visit_as<label, QLabel>(held, widget, visit) ||
            visit_as<picture, picture_view>(held, widget, visit) ||
            visit_as<menu_entry, QAction>(held, widget, visit) ||
            visit_as<group, QWidget>(held, widget, visit);

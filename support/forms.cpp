@@ -16,6 +16,12 @@ bool replaced(Value & held, Value wanted)
     return true;
 }
 
+void check_entry(const control & list, int index, std::size_t count)
+{
+    if (index < 0 || static_cast<std::size_t>(index) >= count)
+        throw platform_error(error_number::subscript, "The list has no such entry: " + list.name());
+}
+
 // Ticks and selections from outside are "1" and "0", or the words; anything else is refused.
 std::optional<bool> read_switch(std::string_view text)
 {
@@ -192,8 +198,7 @@ void combo_box::set_text(std::string text)
 
 void combo_box::choose(int index)
 {
-    if (index < 0 || index >= static_cast<int>(entries.size()))
-        throw platform_error(error_number::subscript, "The list has no such entry: " + name());
+    check_entry(*this, index, entries.size());
     if (!replaced(shown_text, entries[index]))
         return;
     changed();
@@ -227,6 +232,84 @@ void text_box::set_font(const font_style & font)
 bool text_box::set_as_user(std::string_view text)
 {
     set_text(std::string(text));
+    return true;
+}
+
+void list_box::set_items(std::vector<std::string> texts)
+{
+    entries = std::move(texts);
+    chosen = -1;
+    changed();
+}
+
+void list_box::add_item(std::string text)
+{
+    entries.push_back(std::move(text));
+    changed();
+}
+
+void list_box::remove_item(int index)
+{
+    check_entry(*this, index, entries.size());
+    entries.erase(entries.begin() + index);
+    if (index == chosen)
+        chosen = -1;
+    else if (index < chosen)
+        --chosen;
+    changed();
+}
+
+std::string list_box::text() const
+{
+    return chosen < 0 ? std::string() : entries[static_cast<std::size_t>(chosen)];
+}
+
+void list_box::select(int index)
+{
+    if (index != -1)
+        check_entry(*this, index, entries.size());
+    if (!replaced(chosen, index))
+        return;
+    changed();
+    if (chosen != -1)
+        fire(on_click);
+}
+
+bool list_box::select_text(std::string_view text)
+{
+    const auto found = std::find(entries.begin(), entries.end(), text);
+    if (found == entries.end())
+        return false;
+    select(static_cast<int>(found - entries.begin()));
+    return true;
+}
+
+void list_box::double_click(int index)
+{
+    check_entry(*this, index, entries.size());
+    select(index);
+    fire(on_double_click);
+}
+
+void slider::set_range(int minimum, int maximum)
+{
+    const bool is_new = replaced(least, minimum) | replaced(most, std::max(minimum, maximum));
+    if (is_new)
+        changed();
+    set_position(held);
+}
+
+void slider::set_position(int wanted)
+{
+    if (!replaced(held, std::clamp(wanted, least, most)))
+        return;
+    changed();
+    fire(on_change);
+}
+
+bool slider::set_as_user(std::string_view text)
+{
+    set_position(nearest(leading_number(text)));
     return true;
 }
 

@@ -186,6 +186,7 @@ struct font_style {
     bool operator==(const font_style &) const = default;
 };
 
+/// One line or several, as the window shows it.
 class text_box : public control {
 public:
     using control::control;
@@ -201,6 +202,55 @@ public:
 private:
     std::string shown_text;
     font_style shown_font;
+};
+
+/// A plain list; at most one entry is selected.
+class list_box : public control {
+public:
+    using control::control;
+    const std::vector<std::string> & items() const { return entries; }
+    /// Takes other entries, of which none is selected.
+    void set_items(std::vector<std::string> texts);
+    void add_item(std::string text);
+    /// An entry that goes while it is selected leaves none selected. Raises subscript (9).
+    void remove_item(int index);
+    /// Position of the selected entry, -1 when there is none.
+    int list_index() const { return chosen; }
+    /// The selected entry, empty when there is none.
+    std::string text() const;
+    /// Selects an entry and fires the click handler; -1 deselects, and fires nothing. Raises subscript (9).
+    void select(int index);
+    /// Selects the first entry of that text. False when there is none.
+    bool select_text(std::string_view text);
+    /// Selects an entry and fires the handler of the double click. Raises subscript (9).
+    void double_click(int index);
+    std::function<void()> on_click;
+    std::function<void()> on_double_click;
+    std::string value() const override { return text(); }
+    bool set_as_user(std::string_view text) override { return select_text(text); }
+
+private:
+    std::vector<std::string> entries;
+    int chosen = -1;
+};
+
+/// A handle on a scale of whole numbers.
+class slider : public control {
+public:
+    using control::control;
+    int minimum() const { return least; }
+    int maximum() const { return most; }
+    int position() const { return held; }
+    /// Cuts the position into the new range.
+    void set_range(int minimum, int maximum);
+    /// Takes a number, cut into the range.
+    void set_position(int wanted);
+    std::function<void()> on_change;
+    std::string value() const override { return std::to_string(held); }
+    bool set_as_user(std::string_view text) override;
+
+private:
+    int least = 0, most = 100, held = 0;
 };
 
 /// Key codes that a window's own key handler is asked for.

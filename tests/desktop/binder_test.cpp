@@ -176,7 +176,96 @@ TEST(binder, coming_into_a_box_fires_its_enter_handler_and_code_that_puts_the_fo
     EXPECT_EQ(entries, 1);
 }
 
+TEST(binder, an_entry_is_chosen_by_mouse_and_by_keys)
+{
+    bound_form shown;
+    shown.held.lstNames.set_items({"Ada", "Ben", "Cleo"});
+    std::string fired;
+    shown.held.lstNames.on_click = [&] { fired += shown.held.lstNames.text() + " "; };
+    shown.held.lstNames.on_double_click = [&] { fired += "twice "; };
+    const auto place = [&](int row) { return shown.names->visualItemRect(shown.names->item(row)).center(); };
+    QTest::mouseClick(shown.names->viewport(), Qt::LeftButton, {}, place(1));
+    QTest::keyClick(shown.names, Qt::Key_Down);
+    QTest::keyClick(shown.names, Qt::Key_Home);
+    EXPECT_EQ(fired, "Ben Cleo Ada ");
+    QTest::mouseClick(shown.names->viewport(), Qt::LeftButton, {}, place(2));
+    QTest::mouseDClick(shown.names->viewport(), Qt::LeftButton, {}, place(2));
+    EXPECT_EQ(fired, "Ben Cleo Ada Cleo twice ");
+}
+
+TEST(binder, coming_into_a_list_chooses_nothing)
+{
+    bound_form shown;
+    shown.held.lstNames.set_items({"Ada", "Ben"});
+    int clicks = 0;
+    shown.held.lstNames.on_click = [&] { ++clicks; };
+    shown.name->setFocus();
+    shown.names->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(shown.held.lstNames.list_index(), -1);
+}
+
+TEST(binder, a_list_that_its_click_handler_fills_anew_shows_the_new_entries)
+{
+    bound_form shown;
+    shown.held.lstNames.set_items({"Ada", "Ben"});
+    shown.held.lstNames.on_click = [&] { shown.held.lstNames.set_items({"Cleo"}); };
+    const QPoint second = shown.names->visualItemRect(shown.names->item(1)).center();
+    QTest::mouseClick(shown.names->viewport(), Qt::LeftButton, {}, second);
+    ASSERT_EQ(shown.names->count(), 1);
+    EXPECT_EQ(shown.names->item(0)->text(), "Cleo");
+    EXPECT_TRUE(shown.errors.empty());
+}
+
+TEST(binder, a_slider_moves_by_keys_and_shows_where_it_was_cut)
+{
+    bound_form shown;
+    shown.held.ScrSize.set_range(1, 400);
+    shown.held.ScrSize.set_position(60);
+    int changes = 0;
+    shown.held.ScrSize.on_change = [&] { ++changes; };
+    shown.scale->setFocus();
+    QTest::keyClick(shown.scale, Qt::Key_Right);
+    EXPECT_EQ(shown.held.ScrSize.position(), 61);
+    QTest::keyClick(shown.scale, Qt::Key_End);
+    EXPECT_EQ(shown.held.ScrSize.position(), 400);
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(binder, a_box_of_several_lines_takes_what_is_typed)
+{
+    bound_form shown;
+    shown.note->setFocus();
+    QTest::keyClicks(shown.note, "one");
+    QTest::keyClick(shown.note, Qt::Key_Return);
+    QTest::keyClicks(shown.note, "two");
+    EXPECT_EQ(shown.held.txtNote.text(), "one\ntwo");
+}
+
 // ---- from control to window
+
+TEST(binder, what_the_session_sets_in_a_list_a_slider_or_a_large_box_is_shown_and_fires_no_handler_again)
+{
+    bound_form shown;
+    int fired = 0;
+    shown.held.lstNames.on_click = shown.held.ScrSize.on_change =
+        shown.held.txtNote.on_change = [&] { ++fired; };
+    shown.held.lstNames.set_items({"Ada", "Ben"});
+    shown.held.lstNames.select(1);
+    shown.held.ScrSize.set_range(10, 90);
+    shown.held.txtNote.set_text("one\r\n\r\ntwo");
+    EXPECT_EQ(shown.names->count(), 2);
+    EXPECT_EQ(shown.names->currentRow(), 1);
+    EXPECT_TRUE(shown.names->item(1)->isSelected());
+    EXPECT_EQ(shown.scale->minimum(), 10);
+    EXPECT_EQ(shown.scale->maximum(), 90);
+    EXPECT_EQ(shown.scale->value(), 10);
+    EXPECT_EQ(shown.note->toPlainText(), "one\n\ntwo");
+    EXPECT_EQ(fired, 3);
+    shown.held.lstNames.select(-1);
+    EXPECT_TRUE(shown.names->selectedItems().isEmpty());
+    EXPECT_EQ(fired, 3);
+}
 
 TEST(binder, what_the_session_sets_is_shown_and_fires_no_handler_again)
 {

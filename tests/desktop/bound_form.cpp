@@ -13,7 +13,7 @@ Widget * bound_form::made(const char * called, int row)
 
 bound_form::bound_form()
 {
-    window.resize(300, 400);
+    window.resize(300, 500);
     all = made<QGroupBox>("frmAll", 0);
     name_label = made<QLabel>("lblName", 1);
     name = made<QLineEdit>("txtName", 2);
@@ -25,6 +25,11 @@ bound_form::bound_form()
     size = made<QComboBox>("cmbSize", 8);
     size->setEditable(true);
     color = made<picture_view>("picColor", 9);
+    names = made<QListWidget>("lstNames", 10);
+    names->resize(150, 110);
+    scale = made<QSlider>("ScrSize", 14);
+    scale->setOrientation(Qt::Horizontal);
+    note = made<QPlainTextEdit>("txtNote", 15);
     held.picColor.on_click = [] {};
     held.load();
     bind(held, window,

@@ -9,13 +9,16 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 
 #include <string>
 #include <vector>
 
-/// A form with one control of each kind, two options and two boxes.
+/// A form with one control of each kind, two options, two boxes of a line and one of several.
 struct one_of_each : form {
     one_of_each() : form("one_of_each")
     {
@@ -33,6 +36,9 @@ struct one_of_each : form {
     option_button optRight{*this, "optRight", options, "Right"};
     combo_box cmbSize{*this, "cmbSize"};
     picture picColor{*this, "picColor"};
+    list_box lstNames{*this, "lstNames"};
+    slider ScrSize{*this, "ScrSize"};
+    text_box txtNote{*this, "txtNote"};
 };
 
 /// Its window, shown and bound; errors are collected.
@@ -48,6 +54,9 @@ struct bound_form {
     QRadioButton *left, *right;
     QComboBox * size;
     picture_view * color;
+    QListWidget * names;
+    QSlider * scale;
+    QPlainTextEdit * note;
     std::vector<std::string> errors;
     int unloads = 0;
 

@@ -18,6 +18,8 @@ struct sample_form : form {
     button cmdOk{*this, "cmdOk"};
     label lblNote{*this, "lblNote"};
     picture picColor{*this, "picColor"};
+    list_box lstNames{*this, "lstNames"};
+    slider ScrSize{*this, "ScrSize"};
 };
 
 }  // namespace
@@ -140,7 +142,7 @@ TEST(forms, a_control_is_found_by_its_name)
     sample_form window;
     EXPECT_EQ(window.find("cmdOk"), &window.cmdOk);
     EXPECT_EQ(window.find("cmdok"), nullptr);
-    EXPECT_EQ(window.controls().size(), 9u);
+    EXPECT_EQ(window.controls().size(), 11u);
 }
 
 TEST(forms, a_user_sets_controls_by_text_and_fires_their_handlers)
@@ -208,4 +210,80 @@ TEST(forms, resizing_a_window_fires_its_handler_once)
     window.resize(1000, 1000);
     EXPECT_EQ(fired, 2);
     EXPECT_EQ(window.width(), 15600);
+}
+
+TEST(list_box, selecting_an_entry_fires_the_click_handler_once_and_deselecting_fires_nothing)
+{
+    sample_form window;
+    window.lstNames.set_items({"Ada", "Ben"});
+    std::string fired;
+    window.lstNames.on_click = [&] { fired += window.lstNames.text() + " "; };
+    window.lstNames.select(1);
+    window.lstNames.select(1);
+    window.lstNames.select(-1);
+    EXPECT_EQ(window.lstNames.text(), "");
+    EXPECT_TRUE(window.lstNames.set_as_user("Ada"));
+    EXPECT_FALSE(window.lstNames.set_as_user("Cleo"));
+    EXPECT_EQ(fired, "Ben Ada ");
+    EXPECT_EQ(window.lstNames.list_index(), 0);
+    EXPECT_EQ(window.lstNames.value(), "Ada");
+}
+
+TEST(list_box, a_double_click_selects_first)
+{
+    sample_form window;
+    window.lstNames.set_items({"Ada", "Ben"});
+    std::string fired;
+    window.lstNames.on_click = [&] { fired += "click "; };
+    window.lstNames.on_double_click = [&] { fired += "double " + window.lstNames.text(); };
+    window.lstNames.double_click(1);
+    EXPECT_EQ(fired, "click double Ben");
+}
+
+TEST(list_box, other_entries_leave_none_selected)
+{
+    sample_form window;
+    window.lstNames.set_items({"Ada", "Ben"});
+    window.lstNames.select(1);
+    window.lstNames.set_items({"Ada", "Ben"});
+    EXPECT_EQ(window.lstNames.list_index(), -1);
+}
+
+TEST(list_box, the_selection_stays_with_its_entry_when_another_goes)
+{
+    sample_form window;
+    window.lstNames.set_items({"Ada", "Ben"});
+    window.lstNames.add_item("Cleo");
+    window.lstNames.select(2);
+    window.lstNames.remove_item(0);
+    EXPECT_EQ(window.lstNames.text(), "Cleo");
+    window.lstNames.remove_item(1);
+    EXPECT_EQ(window.lstNames.list_index(), -1);
+    EXPECT_EQ(window.lstNames.items(), std::vector<std::string>{"Ben"});
+}
+
+TEST(list_box, an_entry_that_is_not_there_raises_9)
+{
+    sample_form window;
+    window.lstNames.set_items({"Ada"});
+    EXPECT_THROW(window.lstNames.select(1), platform_error);
+    EXPECT_THROW(window.lstNames.select(-2), platform_error);
+    EXPECT_THROW(window.lstNames.double_click(-1), platform_error);
+    EXPECT_THROW(window.lstNames.remove_item(1), platform_error);
+}
+
+TEST(slider, keeps_its_position_in_its_range)
+{
+    sample_form window;
+    int fired = 0;
+    window.ScrSize.on_change = [&] { ++fired; };
+    window.ScrSize.set_range(8, 72);
+    EXPECT_EQ(window.ScrSize.position(), 8);
+    EXPECT_EQ(fired, 1);
+    window.ScrSize.set_position(100);
+    window.ScrSize.set_position(72);
+    EXPECT_EQ(window.ScrSize.position(), 72);
+    EXPECT_EQ(fired, 2);
+    EXPECT_TRUE(window.ScrSize.set_as_user("12"));
+    EXPECT_EQ(window.ScrSize.value(), "12");
 }
