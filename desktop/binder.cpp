@@ -30,6 +30,7 @@ private:
     void show_control(control & held, QObject & widget);
     void show_widget(control & held, QWidget & widget);
     void show_window();
+    void hide_or_show();
     void show_menu_bar();
     void act(const std::function<void()> & step);
     bool is_covered(const QWidget & widget) const;
@@ -42,7 +43,9 @@ private:
     focus_keeper focus;
     QHash<QString, QWidget *> behind;  // what each covering control hides
     QHash<QObject *, text_box *> boxes;
-    int actions = 0;  // of the user, one inside the other
+    QHash<QObject *, label *> labels;
+    bool is_hidden = false;  // by its form
+    int actions = 0;         // of the user, one inside the other
 };
 
 binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
@@ -78,6 +81,8 @@ void binding::bind_control(control & held)
     }
     if (auto * const text = dynamic_cast<text_box *>(&held))
         boxes.insert(found, text);
+    if (auto * const text = dynamic_cast<label *>(&held))
+        labels.insert(found, text);
     listen(held, *found, *this, [this, &held, found](const std::function<void()> & step) {
         act(step);
         show_control(held, *found);
@@ -131,6 +136,14 @@ void binding::show_window()
         window.setFixedSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel);
     if (!bound.loaded())
         fire(hooks.unloaded);
+    else if (is_hidden == bound.visible())
+        hide_or_show();
+}
+
+void binding::hide_or_show()
+{
+    is_hidden = !bound.visible();
+    window.setVisible(bound.visible());
 }
 
 // A bar without an entry would still take its room.
@@ -170,6 +183,9 @@ bool binding::eventFilter(QObject * watched, QEvent * event)
             reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
             act([box = boxes.value(watched)] { fire(box->on_enter); });
     }
+    if (event->type() == QEvent::MouseButtonRelease && labels.contains(watched) &&
+        labels.value(watched)->on_click)
+        act([text = labels.value(watched)] { text->click(); });
     return false;
 }
 

@@ -3,6 +3,9 @@
 #include "ui_frmImage.h"
 #include "ui_frmMain.h"
 #include "ui_frmPhotoCnt.h"
+#include "ui_frmPhotoList.h"
+#include "ui_frmPictureName.h"
+#include "ui_frmSelectPhotos.h"
 
 #include <QDialog>
 #include <QMainWindow>
@@ -28,6 +31,9 @@ struct maker {
 constexpr std::array makers{
     maker{"frmMain", made<QMainWindow, Ui::frmMain>},
     maker{"frmPhotoCnt", made<QDialog, Ui::frmPhotoCnt>},
+    maker{"frmSelectPhotos", made<QDialog, Ui::frmSelectPhotos>},
+    maker{"frmPhotoList", made<QDialog, Ui::frmPhotoList>},
+    maker{"frmPictureName", made<QDialog, Ui::frmPictureName>},
     maker{"frmImage", made<QDialog, Ui::frmImage>},
 };
 

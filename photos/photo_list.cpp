@@ -124,12 +124,19 @@ void append_to_list(frmMain & main, const std::vector<std::string> & photos)
     if (list.empty())
         list = last_photos_path(main);
     const int16 selected = narrow(main.selected_count + static_cast<long>(photos.size()));
-    line_writer lines(list, line_writer::mode::append);
-    for (const std::string & photo : photos)
-        lines.write_line(list_line(orientation::unknown, photo));
-    lines.close();
+    append_photos(list, photos);
     main.selected_count = selected;
     main.cmdPhotos.tag = std::to_string(main.selected_count);
+}
+
+void append_photos(const std::string & list, const std::vector<std::string> & photos)
+{
+    std::string text = file_exists(list) ? read_file(list) : std::string();
+    if (!text.empty() && !text.ends_with('\n'))
+        text += "\r\n";
+    for (const std::string & photo : photos)
+        text += list_line(orientation::unknown, photo) + "\r\n";
+    replace_file(list, text);
 }
 
 std::string last_photos_path(const frmMain & main)

@@ -27,6 +27,10 @@ void get_selected_photos(frmMain & main);
 /// the tag of `cmdPhotos`. Raises 61, 70, 75, 76.
 void append_to_list(frmMain & main, const std::vector<std::string> & photos);
 
+/// Adds a line for each photo at the end of a list, which is made when it is missing. All lines or none:
+/// raises 61, 70, 75, 76.
+void append_photos(const std::string & list, const std::vector<std::string> & photos);
+
 /// `piclists/last_photos.pls`, the list that a selection writes.
 std::string last_photos_path(const frmMain & main);
 

@@ -16,4 +16,8 @@ void connect_all(windows & all)
     connect_quick_controls(all.main);
     connect_frmImage(all);
     connect_frmPhotoCnt(all);
+    connect_frmSelectPhotos(all);
+    connect_frmPhotoList(all);
+    connect_frmPictureName(all);
+    connect_photo_menus(all);
 }

@@ -206,7 +206,9 @@ struct frmMain : form {
 
     // The photos.
     photo_table table;
-    int16 selected_count = 0;
+    int16 selected_count = 0;           ///< photos written to the working list so far
+    std::string working_list_path;      ///< the list that a selection is gathered in
+    bool photo_list_edit_mode = false;  ///< saved lists are managed, not chosen from
     bool photo_choice_cancelled = false;
 
     // The run and the picture it makes.

@@ -10,9 +10,8 @@ void disable_unanswered(frmMain & main)
 {
     for (menu_entry * each :
          {&main.mnuQuick, &main.mnuDesigned, &main.mnuMatrix, &main.mnuLettering, &main.mnuPuzzle,
-          &main.mnuSeparator, &main.mnuImport, &main.mnuEditDesigns, &main.mnuSaveDesign, &main.mnuSaveLast,
-          &main.mnuNewList, &main.mnuEditSelections, &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon,
-          &main.mnuHelpAbout})
+          &main.mnuSeparator, &main.mnuImport, &main.mnuEditDesigns, &main.mnuSaveDesign,
+          &main.mnuEditSelections, &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon, &main.mnuHelpAbout})
         each->enable(false);
 }
 

@@ -1,6 +1,8 @@
+#include "photos/chosen_photos.h"
 #include "photos/photo_list.h"
 #include "quick/quick_controls.h"
 #include "session/handlers.h"
+#include "session/windows.h"
 
 // The photos of the collage, their order, and how many there are.
 
@@ -32,6 +34,19 @@ void cmbBlanks_change(frmMain & main)
         refresh_preview(main);
 }
 
+// A choice that isn't made leaves collage and photos as they are.
+void cmdPhotos_click(frmMain & main)
+{
+    main.photo_choice_cancelled = false;
+    main.desk.show_modal(main.all->select_photos);
+    if (main.photo_choice_cancelled || photo_source_kind(main) == photo_source::none)
+        return;
+    take_chosen_photos(main);
+    main.cmdMore.tag.clear();
+    main.shape_row_bias = main.shape_column_bias = 0;
+    refresh_preview(main);
+}
+
 }  // namespace
 
 void connect_output(frmMain & main)
@@ -41,5 +56,5 @@ void connect_output(frmMain & main)
     main.cmdShuffle.on_click = [&main] { cmdShuffle_click(main); };
     main.cmdMore.on_click = [&main] { cmdMore_click(main); };
     main.cmbBlanks.on_typed = main.cmbBlanks.on_click = [&main] { cmbBlanks_change(main); };
-    main.cmdPhotos.enable(false);  // its dialog isn't offered yet
+    main.cmdPhotos.on_click = [&main] { cmdPhotos_click(main); };
 }

@@ -15,6 +15,10 @@ void connect_menus(frmMain & main);
 void connect_buttons(frmMain & main);
 void connect_frmImage(windows & all);
 void connect_frmPhotoCnt(windows & all);
+void connect_frmSelectPhotos(windows & all);
+void connect_frmPhotoList(windows & all);
+void connect_frmPictureName(windows & all);
+void connect_photo_menus(windows & all);
 
 /// The load step of the main window: its start state.
 void load_main(frmMain & main);

@@ -1,31 +1,9 @@
-#include "photos/photo_list.h"
+#include "photos/chosen_photos.h"
 #include "session/new_poster.h"
 #include "session/start_up.h"
 #include "session/window_state.h"
-#include "session/windows.h"
 
 namespace {
-
-// A window that is up while it lives.
-class shown {
-public:
-    shown(desktop & shown_on, form & opened) : desk(shown_on), window(opened) { desk.show(window); }
-    shown(const shown &) = delete;
-    shown & operator=(const shown &) = delete;
-    ~shown() { desk.hide(window); }
-
-private:
-    desktop & desk;
-    form & window;
-};
-
-// The counting with its small window and the busy pointer.
-void count_with_progress(frmMain & main)
-{
-    const busy pointer(main.desk);
-    const shown progress(main.desk, main.all->photo_count);
-    count_photos(main);
-}
 
 void apply_design_to_photos(frmMain & main)
 {

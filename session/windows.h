@@ -2,6 +2,9 @@
 
 #include "engine/frmImage.h"
 #include "photos/frmPhotoCnt.h"
+#include "photos/frmPhotoList.h"
+#include "photos/frmPictureName.h"
+#include "photos/frmSelectPhotos.h"
 #include "session/frmMain.h"
 
 #include <vector>
@@ -11,8 +14,14 @@ struct windows {
     windows(desktop & shown_on, const random_source & chance) : main(shown_on, chance, this) {}
     frmMain main;
     frmPhotoCnt photo_count;
+    frmSelectPhotos select_photos;
+    frmPhotoList photo_list;
+    frmPictureName picture_name;
     frmImage image;
 
     /// Every window but the main one, in the order above.
-    std::vector<form *> others() { return {&photo_count, &image}; }
+    std::vector<form *> others()
+    {
+        return {&photo_count, &select_photos, &photo_list, &picture_name, &image};
+    }
 };

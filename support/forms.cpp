@@ -104,6 +104,11 @@ bool button::set_as_user(std::string_view)
     return true;
 }
 
+void label::click()
+{
+    fire(on_click);
+}
+
 void menu_entry::click()
 {
     fire(on_click);
@@ -334,6 +339,12 @@ void form::set_back_color(std::uint32_t color)
         fire(on_shown_change);
 }
 
+void form::show(bool on)
+{
+    if (replaced(is_visible, on))
+        fire(on_shown_change);
+}
+
 void form::resize(int width, int height)
 {
     if (outer_width == width && outer_height == height)
@@ -348,7 +359,7 @@ void form::load()
 {
     if (is_loaded)
         return;
-    is_loaded = true;
+    is_loaded = is_visible = true;
     fire(on_load);
 }
 

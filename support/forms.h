@@ -82,6 +82,8 @@ public:
 class label : public control {
 public:
     using control::control;
+    std::function<void()> on_click;
+    void click();
 };
 
 class button : public control {
@@ -272,6 +274,9 @@ public:
     void set_caption(std::string text);
     std::uint32_t back_color() const { return back; }
     void set_back_color(std::uint32_t color);
+    /// A window that is loaded may hide for a while; its load shows it again.
+    bool visible() const { return is_visible; }
+    void show(bool on);
     /// Outer size in 1/15 pixel at 100%.
     int width() const { return outer_width; }
     int height() const { return outer_height; }
@@ -302,7 +307,7 @@ private:
     std::vector<control *> members;
     std::uint32_t back = 0;
     int outer_width = 0, outer_height = 0;
-    bool is_loaded = false;
+    bool is_loaded = false, is_visible = true;
 };
 
 /// Runs the handler if there is one.

@@ -1,0 +1,42 @@
+#include "photos/chosen_photos.h"
+
+#include "photos/photo_list.h"
+#include "session/windows.h"
+
+namespace {
+
+// A window that is up while it lives.
+class shown {
+public:
+    shown(desktop & shown_on, form & opened) : desk(shown_on), window(opened) { desk.show(window); }
+    shown(const shown &) = delete;
+    shown & operator=(const shown &) = delete;
+    ~shown() { desk.hide(window); }
+
+private:
+    desktop & desk;
+    form & window;
+};
+
+}  // namespace
+
+void count_with_progress(frmMain & main)
+{
+    const busy pointer(main.desk);
+    const shown progress(main.desk, main.all->photo_count);
+    count_photos(main);
+}
+
+void take_chosen_photos(frmMain & main)
+{
+    main.table.reshuffle_choice = photo_table::reshuffle::not_asked;
+    if (photo_source_kind(main) != photo_source::folder)
+        get_photos(main);
+    count_with_progress(main);
+}
+
+// Nothing to choose from yet: the window of the saved lists is on its way.
+void get_photo_list(frmMain & main)
+{
+    main.txtPhotos.tag.clear();
+}

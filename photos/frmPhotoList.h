@@ -1,0 +1,28 @@
+#pragma once
+
+#include "support/forms.h"
+
+/// Gathers a selection: photos are added to the working list, singly or by the folder.
+struct frmPhotoList : form {
+    frmPhotoList() : form("frmPhotoList")
+    {
+        set_caption("S e l e c t e d   p h o t o s");
+        cmdFolder.set_tool_tip("Add all photos from a folder");
+        cmdPhotos.set_tool_tip("Add selected individual photos");
+        cmdClear.set_tool_tip("Clear all photos");
+        cmdEdit.set_tool_tip("Edit the photo list");
+    }
+    button cmdFolder{*this, "cmdFolder", "Folder"};
+    button cmdPhotos{*this, "cmdPhotos", "Add  Photos"};
+    button cmdClear{*this, "cmdClear", "Clear"};
+    button cmdEdit{*this, "cmdEdit", "Edit"};
+    label txtEdit{*this, "txtEdit", "Edit the photo list"};
+    label lblCount{*this, "lblCount"};
+    label txtCounting{*this, "txtCounting"};  ///< shown while the editor opens
+    button cmdDone{*this, "cmdDone", "Done"};
+    button cmdCancel{*this, "cmdCancel", "Cancel"};
+    button cmdHelp{*this, "cmdHelp", "Help"};
+};
+
+/// Most photos of a list that the editor takes.
+inline constexpr int editable_photos = 60;

@@ -1,0 +1,39 @@
+#include "photos/working_list.h"
+
+#include "photos/photo_list.h"
+#include "support/paths.h"
+
+namespace {
+
+constexpr int most_photos = 998;  // one more is written before the limit is noticed
+
+}  // namespace
+
+void folder_of_photos(frmMain & main)
+{
+    const std::optional<std::string> folder = main.desk.choose_folder("Select a folder and click OK");
+    if (!folder || folder->empty())
+        return;
+    int16 selected = main.selected_count;
+    std::vector<std::string> photos;
+    for (const std::string & name : files_in(*folder)) {
+        if (!lower_case(name).ends_with(".jpg"))
+            continue;
+        photos.push_back(*folder + path_separator + name);
+        if (++selected > most_photos)
+            break;
+    }
+    if (!photos.empty())
+        append_photos(main.working_list_path, photos);
+    main.selected_count = selected;
+    if (!photos.empty() && selected > most_photos)
+        main.desk.message("Maximum number of photos reached");
+    if (photos.empty())
+        main.desk.message("There are no photos in that folder.");
+}
+
+void clear_working_list(frmMain & main)
+{
+    delete_file(main.working_list_path);
+    main.selected_count = 0;
+}
