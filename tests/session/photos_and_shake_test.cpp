@@ -59,12 +59,6 @@ TEST(cmbBlanks, redraws_only_while_it_shows)
     EXPECT_EQ(session.previews_of([&] { session.main.cmbBlanks.set_text("0"); }), 0);
 }
 
-TEST(cmdPhotos, is_disabled_without_a_dialog)
-{
-    opened_session session;
-    expect_states(session.main, "cmdPhotos-");
-}
-
 TEST(chkRotate, rules_out_round_corners_with_one_preview)
 {
     opened_session session;
