@@ -2,13 +2,15 @@
 // and pastes the same photos. Each figure comes from a process of its own, so that its peak memory is its own
 // too.
 //
-//     whole_run_bench APP PHOTOS WORK [RUNS]
+//     whole_run_bench APP PHOTOS WORK [RUNS [DESIGN...]]
 //
 // APP is a staged program folder, PHOTOS a folder of JPEG files, which are enlarged to 12 megapixels, 40 of
-// them, in WORK. Prints medians, the ratio to the bare loop, and the peak of resident memory.
+// them, in WORK; without a DESIGN all are measured. Prints medians, the ratio to the bare loop, and the peak
+// of resident memory.
 
 #include "designs/catalogue.h"
 #include "designs/template_reader.h"
+#include "engine/cell_geometry.h"
 #include "engine/flurn_driver.h"
 #include "photos/photo_list.h"
 #include "photos/thumbnails.h"
@@ -154,19 +156,52 @@ struct bench_session {
 
 // ---- what is timed
 
-// The least that has to be done for these locations: load, rescale, paste. Which photo goes where is no
-// matter.
+struct cell_size {
+    int width = 0, height = 0;
+};
+
+void add_grid_cells(const location & first, const location & second, std::vector<cell_size> & cells)
+{
+    const grid layer = grid_of(first, second, 0);
+    cells.insert(cells.end(), static_cast<std::size_t>(layer.rows) * layer.columns,
+                 {layer.cell_width, layer.cell_height});
+}
+
+// A fixed picture or a painted shape takes no photo; a shape that takes one is square.
+void add_place(const location & place, std::vector<cell_size> & cells)
+{
+    const bool shape = place.width == 0 || place.height == 0;
+    if (shape ? place.spare != 0 : !place.file.empty())
+        return;
+    const int side = std::max(place.width, place.height);
+    cells.push_back(shape ? cell_size{side, side} : cell_size{place.width, place.height});
+}
+
+// The size of every photo that the template draws.
+std::vector<cell_size> photo_cells(bench_session & session)
+{
+    frmMain & main = session.all.main;
+    read_template(main, run_size::full);
+    const location_table & table = main.design_locations;
+    std::vector<cell_size> cells;
+    if (main.work_style == "Fill")
+        for (int i = 0; i + 1 < table.count; i += 2)
+            add_grid_cells(table[i], table[i + 1], cells);
+    else
+        for (int i = 0; i < table.count; ++i)
+            add_place(table[i], cells);
+    return cells;
+}
+
+// The least that has to be done for these cells: load, rescale, paste. Which photo goes where is no matter.
 double bare_seconds(bench_session & session, const std::string & work)
 {
-    read_template(session.all.main, run_size::full);
-    const location_table table = session.all.main.design_locations;
+    const std::vector<cell_size> cells = photo_cells(session);
     return seconds_of([&] {
         bitmap canvas(4000, 4000);
-        for (int i = 0, photo = 0; i < table.count; ++i) {
-            if (table[i].width == 0 || table[i].height == 0)
-                continue;
+        for (int photo = 0; const cell_size & cell : cells) {
             const bitmap image = load_picture(picture_format::jpeg, big_photo(work, photo++ % photo_count));
-            paste(canvas, rescaled(image, table[i].width, table[i].height), 400, 400, plain_copy);
+            paste(canvas, rescaled(image, cell.width, cell.height), 0, 0, plain_copy);
         }
     });
 }
@@ -255,7 +290,7 @@ std::vector<std::string> starter_designs(const std::string & app)
 int main(int count, char ** words)
 {
     if (count < 4) {
-        std::fprintf(stderr, "whole_run_bench APP PHOTOS WORK [RUNS]\n");
+        std::fprintf(stderr, "whole_run_bench APP PHOTOS WORK [RUNS [DESIGN...]]\n");
         return 2;
     }
     const std::string app = absolute_path(words[1]);
@@ -266,7 +301,8 @@ int main(int count, char ** words)
         set_output_message();
         make_big_photos(absolute_path(words[2]), work);
         measure_thumbnails(work);
-        for (const std::string & design : starter_designs(app))
+        const std::vector<std::string> wanted(words + std::min(count, 5), words + count);
+        for (const std::string & design : wanted.empty() ? starter_designs(app) : wanted)
             measure_design(app, work, design, runs);
     } catch (const platform_error & error) {
         std::fprintf(stderr, "%s\n", told(error).c_str());
