@@ -85,7 +85,9 @@ void display_font(const text_box & held, QWidget & widget)
 {
     if (held.font() == font_style{})
         return;
-    QFont font = pixel_font(held.font());
+    font_style style = held.font();
+    style.size /= std::max(1, widget.property("shrink").toInt());
+    QFont font = pixel_font(style);
     const QVariant largest = widget.property("largest");
     if (largest.isValid())
         font.setPixelSize(std::min(font.pixelSize(), largest.toInt()));
@@ -180,6 +182,8 @@ void display_content(const group & held, QWidget & widget)
 void display_place(const control & held, QWidget & widget)
 {
     const box & at = held.place();
+    if (at != box{} && widget.property("sized").toBool())
+        widget.setFixedSize(at.width, at.height);
     if (at == box{} || !widget.property("placed").toBool())
         return;
     const QSize own = widget.sizeHint();

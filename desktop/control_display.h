@@ -6,6 +6,9 @@
 /// of these names:
 ///   mnemonic   letters of which the first that stands in the caption becomes the shortcut
 ///   placed     true: the widget stands where the control's `place` says
+///   sized      true: the widget keeps the size of the control's `place` inside its layout
+///   shrink     text is shown at one n-th of the size that the control holds
+///   announced  true: a reader of the screen is told each new text
 ///   coveredBy  the name of a control behind which this one disappears
 ///   divider    true: an entry of the menu bar that can't be chosen
 ///   largest    pixels: the greatest height of letters that its box has room for

@@ -36,32 +36,11 @@ std::string path_bytes(const QString & path)
     return QFile::encodeName(path).toStdString();
 }
 
-// A form whose load handler failed isn't open.
-void load(form & window)
-{
-    try {
-        window.load();
-    } catch (...) {
-        window.unload();
-        throw;
-    }
-}
-
 void prepare_box(QMessageBox & box, const std::string & title, const std::string & text)
 {
     box.setWindowTitle(title.empty() ? QStringLiteral("Tessaloom") : shown(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(shown(text).remove(QLatin1Char('\r')));
-}
-
-// A window that the Designer file doesn't size fills most of the screen.
-void size_to_screen(QWidget & window)
-{
-    if (!window.property("fillsScreen").toBool())
-        return;
-    const QRect room = window.screen()->availableGeometry();
-    const QSize size = room.size() * 9 / 10;
-    window.setGeometry(QRect(room.center() - QPoint(size.width() / 2, size.height() / 2), size));
 }
 
 // A question that comes up in the midst of work is answered with an arrow, not with an hourglass.
@@ -142,16 +121,29 @@ QWidget & qt_desktop::made(form & window)
     bind(window, *widget,
          {.report = [this](const std::string & text) { message(text, {}); },
           .unloaded = [this, &window] { taken_down(window); }});
-    size_to_screen(*widget);
     windows[&window].widget = widget.get();
     return *widget.release();
 }
 
+// The window is there before its form is loaded, so that a picture which the load handler deletes has been
+// seen. A form whose load handler failed isn't open.
+QWidget & qt_desktop::loaded(form & window)
+{
+    QWidget & widget = made(window);
+    try {
+        window.load();
+    } catch (...) {
+        window.unload();
+        throw;
+    }
+    return widget;
+}
+
 void qt_desktop::show(form & window)
 {
-    load(window);
+    QWidget & widget = loaded(window);
     if (window.loaded())
-        made(window).show();
+        widget.show();
 }
 
 void qt_desktop::hide(form & window)
@@ -161,11 +153,10 @@ void qt_desktop::hide(form & window)
 
 void qt_desktop::show_modal(form & window)
 {
-    load(window);
+    QWidget & widget = loaded(window);
     if (!window.loaded())
         return;
     const arrow_pointer usable;
-    QWidget & widget = made(window);
     QEventLoop loop;
     windows[&window].modal_loop = &loop;
     widget.setWindowModality(Qt::ApplicationModal);
@@ -279,13 +270,22 @@ bool qt_desktop::open_document(const std::string & target)
                                              : QUrl(shown(target)));
 }
 
-bool qt_desktop::print(const bitmap & image, page orientation)
+print_result qt_desktop::print(const bitmap & image, page orientation)
 {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (info.isNull())
-        return false;
+        return print_result::no_printer;
     QPrinter printer(info, QPrinter::HighResolution);
-    return print_on(printer, image, orientation);
+    return print_on(printer, image, orientation) ? print_result::printed : print_result::failed;
+}
+
+// A window fills the screen to nine tenths, which leaves room for its frame.
+picture_size qt_desktop::screen_room()
+{
+    const QWidget * const shown_over = owner();
+    const QScreen * const screen = shown_over ? shown_over->screen() : QGuiApplication::primaryScreen();
+    const QSize room = screen->availableSize() * 9 / 10;
+    return {.width = room.width(), .height = room.height()};
 }
 
 std::vector<std::string> qt_desktop::font_names()

@@ -27,7 +27,8 @@ public:
     std::optional<std::string> choose_save(const file_request & asked) override;
     std::optional<std::uint32_t> choose_color(std::uint32_t initial) override;
     bool open_document(const std::string & target) override;
-    bool print(const bitmap & image, page orientation) override;
+    print_result print(const bitmap & image, page orientation) override;
+    picture_size screen_room() override;
     std::vector<std::string> font_names() override;
     bitmap draw_text(const text_request & request) override;
 
@@ -45,6 +46,7 @@ private:
     };
     QWidget * owner() const;
     QWidget & made(form & window);
+    QWidget & loaded(form & window);
     void taken_down(const form & window);
     QString folder_to_open(const std::string & wanted) const;
     std::vector<std::string> chosen(QFileDialog & chooser, const file_request & asked);

@@ -1,11 +1,14 @@
 #include "desktop/windows_made.h"
 
+#include "ui_frmAbout.h"
+#include "ui_frmFont.h"
 #include "ui_frmImage.h"
 #include "ui_frmMain.h"
 #include "ui_frmPhotoCnt.h"
 #include "ui_frmPhotoList.h"
 #include "ui_frmPictureName.h"
 #include "ui_frmSelectPhotos.h"
+#include "ui_frmSize.h"
 
 #include <QDialog>
 #include <QMainWindow>
@@ -28,6 +31,7 @@ struct maker {
     std::unique_ptr<QWidget> (*make)(QWidget * parent);
 };
 
+// clang-format off
 constexpr std::array makers{
     maker{"frmMain", made<QMainWindow, Ui::frmMain>},
     maker{"frmPhotoCnt", made<QDialog, Ui::frmPhotoCnt>},
@@ -35,7 +39,11 @@ constexpr std::array makers{
     maker{"frmPhotoList", made<QDialog, Ui::frmPhotoList>},
     maker{"frmPictureName", made<QDialog, Ui::frmPictureName>},
     maker{"frmImage", made<QDialog, Ui::frmImage>},
+    maker{"frmSize", made<QDialog, Ui::frmSize>},
+    maker{"frmFont", made<QDialog, Ui::frmFont>},
+    maker{"frmAbout", made<QDialog, Ui::frmAbout>},
 };
+// clang-format on
 
 }  // namespace
 

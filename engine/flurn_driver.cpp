@@ -120,8 +120,10 @@ void make_collage(frmMain & main, borrowed_settings & before)
 
 void show_collage(frmMain & main)
 {
-    if (main.run.run_active && main.all != nullptr)
-        main.desk.show_modal(main.all->image);
+    if (!main.run.run_active || main.all == nullptr)
+        return;
+    main.shown_as = image_face::finished;
+    main.desk.show_modal(main.all->image);
 }
 
 void take_failure(frmMain & main, borrowed_settings & before)

@@ -1,17 +1,22 @@
 #pragma once
 
 #include "support/forms.h"
+#include "support/numbers.h"
 
-/// Shows a finished collage. Saving, printing and the outside viewer are not offered yet; closing it ends the
-/// run.
+/// Shows a finished collage, with the ways to save, print and view it, or just a stored picture; which of the
+/// two says `shown_as` of the main window. Closing it after a run ends the run.
 struct frmImage : form {
     frmImage() : form("frmImage") { set_caption("S a v e   F l u r n"); }
     label lblImageName{*this, "lblImageName"};  ///< caption: path of the picture shown; hidden
     group picScroll{*this, "picScroll"};
     picture picDisplay{*this, "picDisplay"};
     group frmButtons{*this, "frmButtons"};
-    button cmdSave{*this, "cmdSave", "Save"};
     button cmdPrint{*this, "cmdPrint", "Print"};
+    button cmdSave{*this, "cmdSave", "Save"};
     button cmdView{*this, "cmdView", "View"};
     button cmdClose{*this, "cmdClose", "Cancel"};
+
+    bool is_square = false;
+    bool is_portrait = true;  ///< squares count as well
+    int16 save_size = 0;      ///< long side in pixels to save at; 0: cancelled
 };

@@ -20,4 +20,7 @@ void connect_all(windows & all)
     connect_frmPhotoList(all);
     connect_frmPictureName(all);
     connect_photo_menus(all);
+    connect_frmSize(all);
+    connect_frmFont(all);
+    connect_frmAbout(all);
 }

@@ -26,6 +26,9 @@ struct enable_memory {
 /// The three orientations of a poster.
 enum class poster_shape { portrait, landscape, square };
 
+/// What the image window was opened for.
+enum class image_face { finished, viewed, sample };
+
 /// The one window of the session. Its controls are the settings of the collage: the engine reads them at the
 /// moment it needs them, and there is no second copy. What controls can't hold travels in the public fields
 /// below them.
@@ -217,6 +220,7 @@ struct frmMain : form {
     int16 collage_width = 2000, collage_height = 3000;
     int16 shake_start = -1, mix_step = -1;
     std::string save_image_path, image_to_show;
+    image_face shown_as = image_face::finished;  ///< to be set before the image window is opened
 
     // Guards and memories of the window itself.
     bool menus_shown = true;
@@ -233,6 +237,8 @@ struct frmMain : form {
     bool bg_from_design = false;
     bool bg_portrait = true;
     std::uint32_t bg_color = 0, caption_color = 0;
+    bool font_extended = false;  ///< the font window offers size and colour as well
+    std::string font_size_text;  ///< size that the font window gave, empty after a cancel
     std::string last_frame_size;
     enable_memory enabling;
     std::string trace;  ///< how far the session came; only the error boxes show it

@@ -20,13 +20,19 @@ void txtCaption_change(frmMain & main)
     refresh_after_change(main);
 }
 
-void take_size(frmMain & main)
+// The box shows its letters smaller than the collage does.
+void show_size_of_tag(frmMain & main)
 {
-    main.txtCaption.tag = main.cmbSize.text();
-    show_caption_font(main);
     font_style font = main.txtCaption.font();
     font.size = leading_number(main.txtCaption.tag) / 10 + 8;
     main.txtCaption.set_font(font);
+    show_caption_font(main);
+}
+
+void take_size(frmMain & main)
+{
+    main.txtCaption.tag = main.cmbSize.text();
+    show_size_of_tag(main);
     refresh_after_change(main);
 }
 
@@ -41,6 +47,22 @@ void cmbSize_typed(frmMain & main)
         take_size(main);
 }
 
+void cmdFont_click(frmMain & main)
+{
+    main.font_size_text = main.cmbSize.text();
+    if (main.font_size_text.empty())
+        return;
+    main.desk.show_modal(main.all->font);
+    show_size_of_tag(main);
+    if (main.font_size_text.empty())
+        return;
+    {
+        const updating quiet(main);
+        main.cmbSize.set_text(main.font_size_text);
+    }
+    refresh_after_change(main);
+}
+
 }  // namespace
 
 void connect_caption(frmMain & main)
@@ -50,5 +72,5 @@ void connect_caption(frmMain & main)
     main.cmbSize.on_click = [&main] { take_size(main); };
     main.chkClear.on_change = [&main] { refresh_after_change(main); };
     main.optTop.on_click = main.optBottom.on_click = [&main] { refresh_after_change(main); };
-    main.cmdFont.enable(false);  // its dialog isn't offered yet
+    main.cmdFont.on_click = [&main] { cmdFont_click(main); };
 }

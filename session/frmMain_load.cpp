@@ -48,6 +48,7 @@ void reset_window_flags(frmMain & main)
     main.bg_from_design = false;
     main.bg_portrait = true;
     main.bg_color = main.caption_color = 0;
+    main.font_extended = false;
 }
 
 void blacken(frmMain & main)

@@ -11,7 +11,7 @@ void disable_unanswered(frmMain & main)
     for (menu_entry * each :
          {&main.mnuQuick, &main.mnuDesigned, &main.mnuMatrix, &main.mnuLettering, &main.mnuPuzzle,
           &main.mnuSeparator, &main.mnuImport, &main.mnuEditDesigns, &main.mnuSaveDesign,
-          &main.mnuEditSelections, &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon, &main.mnuHelpAbout})
+          &main.mnuEditSelections, &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon})
         each->enable(false);
 }
 
@@ -53,5 +53,6 @@ void connect_menus(frmMain & main)
     main.on_query_unload = [&main] { return may_close(main); };
     main.mnuHelpTopics.on_click = [&main] { show_help(main, "help_main.htm"); };
     main.mnuStarted.on_click = [&main] { main.desk.open_document(documentation_address("/tutorials.htm")); };
+    main.mnuHelpAbout.on_click = [&main] { main.desk.show_modal(main.all->about); };
     main.mnuFAQ.on_click = [&main] { main.desk.open_document(documentation_address("/faq.htm")); };
 }

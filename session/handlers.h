@@ -19,6 +19,9 @@ void connect_frmSelectPhotos(windows & all);
 void connect_frmPhotoList(windows & all);
 void connect_frmPictureName(windows & all);
 void connect_photo_menus(windows & all);
+void connect_frmSize(windows & all);
+void connect_frmFont(windows & all);
+void connect_frmAbout(windows & all);
 
 /// The load step of the main window: its start state.
 void load_main(frmMain & main);

@@ -30,6 +30,7 @@ void begin_collage(frmMain & main)
     main.table.reshuffle_choice = photo_table::reshuffle::not_asked;
     main.mnuSaveDesign.enable(false);
     main.cmdHelp.enable(true);
+    main.font_extended = true;
     // A picture background without a picture: its click opens the chooser.
     if (main.optBGimage.selected() && main.txtBGimage.text().empty()) {
         main.optBGimage.select(false);

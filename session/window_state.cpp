@@ -26,12 +26,10 @@ void note_groups(frmMain & main)
 
 void enable_caption(frmMain & main)
 {
-    for (control * each : std::initializer_list<control *>{&main.optTop, &main.optBottom, &main.txtCaption,
-                                                           &main.lblFontSize, &main.cmbSize, &main.lblFont})
+    for (control * each :
+         std::initializer_list<control *>{&main.optTop, &main.optBottom, &main.txtCaption, &main.lblFontSize,
+                                          &main.cmbSize, &main.cmdFont, &main.lblFont})
         each->enable(true);
-    // Without a font chooser to open the button stays as it is.
-    if (main.cmdFont.on_click)
-        main.cmdFont.enable(true);
 }
 
 void enable_frame_and_shadow(frmMain & main)

@@ -6,6 +6,9 @@
 #include "photos/frmPictureName.h"
 #include "photos/frmSelectPhotos.h"
 #include "session/frmMain.h"
+#include "support/frmAbout.h"
+#include "support/frmFont.h"
+#include "support/frmSize.h"
 
 #include <vector>
 
@@ -18,10 +21,13 @@ struct windows {
     frmPhotoList photo_list;
     frmPictureName picture_name;
     frmImage image;
+    frmSize size;
+    frmFont font;
+    frmAbout about;
 
     /// Every window but the main one, in the order above.
     std::vector<form *> others()
     {
-        return {&photo_count, &select_photos, &photo_list, &picture_name, &image};
+        return {&photo_count, &select_photos, &photo_list, &picture_name, &image, &size, &font, &about};
     }
 };

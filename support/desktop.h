@@ -35,6 +35,7 @@ struct text_request {
 };
 
 enum class page { portrait, landscape };
+enum class print_result { printed, no_printer, failed };
 
 class desktop {
 public:
@@ -65,10 +66,11 @@ public:
 
     /// Opens a file or an address with the user's default program; false when there is none.
     virtual bool open_document(const std::string & target) = 0;
-    /// Prints on the default printer: whole, centred, proportions kept. False when printing failed or was
-    /// cancelled.
-    virtual bool print(const bitmap & image, page orientation) = 0;
+    /// Prints on the default printer: whole, centred, proportions kept, on a page of that orientation.
+    virtual print_result print(const bitmap & image, page orientation) = 0;
 
+    /// What the screen has for a window, in pixels at 100%.
+    virtual picture_size screen_room() = 0;
     virtual std::vector<std::string> font_names() = 0;
     /// The text drawn in a bitmap as wide as the text and `extra_width`, as high as the text's line. No
     /// bitmap for an empty text.

@@ -87,6 +87,9 @@ void scripted_desktop::pump()
 void scripted_desktop::busy_pointer(bool on)
 {
     busy_depth += on ? 1 : -1;
+    busy_count += on ? 1 : 0;
+    if (on)
+        fire(on_busy);
 }
 
 std::optional<std::string> scripted_desktop::choose_folder(const std::string & title)
@@ -106,6 +109,7 @@ std::optional<std::string> scripted_desktop::choose_file(const file_request & as
 
 std::optional<std::string> scripted_desktop::choose_save(const file_request & asked)
 {
+    save_requests.push_back(asked);
     return taken(saves, "the save chooser " + asked.title);
 }
 
@@ -117,13 +121,14 @@ std::optional<std::uint32_t> scripted_desktop::choose_color(std::uint32_t)
 bool scripted_desktop::open_document(const std::string & target)
 {
     opened_documents.push_back(target);
-    return true;
+    return opens_documents;
 }
 
-bool scripted_desktop::print(const bitmap &, page orientation)
+print_result scripted_desktop::print(const bitmap & image, page orientation)
 {
+    printed_sizes.push_back({.width = image.width(), .height = image.height()});
     printed_pages.push_back(orientation);
-    return !prints_fail;
+    return next_print;
 }
 
 bitmap scripted_desktop::draw_text(const text_request & request)

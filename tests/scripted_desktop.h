@@ -42,9 +42,16 @@ public:
     std::vector<text_request> drawn_texts;
     int pumps = 0;
     int busy_depth = 0;  ///< pointers turned on less those turned off
-    bool prints_fail = false;
+    print_result next_print = print_result::printed;
     std::vector<page> printed_pages;
-    bool keeps_messages = false;  ///< true: messages left over are not an error
+    std::vector<picture_size> printed_sizes;
+    picture_size room{.width = 1280, .height = 960};
+    std::vector<file_request> save_requests;
+    bool opens_documents = true;
+    std::vector<std::string> fonts{"Sans", "Serif"};
+    int busy_count = 0;             ///< how often the pointer was turned on
+    std::function<void()> on_busy;  ///< runs when it is
+    bool keeps_messages = false;    ///< true: messages left over are not an error
 
     void message(const std::string & text, const std::string & title) override;
     answer ask(const question & asked) override;
@@ -59,8 +66,9 @@ public:
     std::optional<std::string> choose_save(const file_request & asked) override;
     std::optional<std::uint32_t> choose_color(std::uint32_t initial) override;
     bool open_document(const std::string & target) override;
-    bool print(const bitmap & image, page orientation) override;
-    std::vector<std::string> font_names() override { return {"Sans", "Serif"}; }
+    print_result print(const bitmap & image, page orientation) override;
+    picture_size screen_room() override { return room; }
+    std::vector<std::string> font_names() override { return fonts; }
     /// Draws each character but the blank as a bar of 0.6 by 0.8 of the size in pixels, 0.1 from the top.
     bitmap draw_text(const text_request & request) override;
 

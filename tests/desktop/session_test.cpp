@@ -136,7 +136,9 @@ TEST_F(session_test, a_design_is_finished_by_hand_and_made_full_size)
     when_asked<QDialog>([&](QDialog & shown) {
         const auto * const picture = shown.findChild<picture_view *>("picDisplay");
         seen = picture->image();
-        EXPECT_LE(picture->width(), shown.width());
+        const auto * const close = shown.findChild<QPushButton *>("cmdClose");
+        EXPECT_TRUE(shown.rect().contains(QRect(close->mapTo(&shown, QPoint()), close->size())))
+            << "a picture larger than the screen scrolls, and the buttons stay in reach";
         EXPECT_EQ(picture->height(), picture->width() * 3 / 2);
         keep_screen(shown, "finished.png");
         QTest::mouseClick(shown.findChild<QPushButton *>("cmdClose"), Qt::LeftButton);

@@ -92,7 +92,7 @@ TEST(menus, offer_what_has_an_answer)
 {
     opened_session session;
     expect_states(session.main,
-                  "mnuFile+ mnuQuit+ mnuHelp+ mnuHelpTopics+ mnuStarted+ mnuFAQ+ mnuDesign+ "
+                  "mnuFile+ mnuQuit+ mnuHelp+ mnuHelpTopics+ mnuStarted+ mnuFAQ+ mnuHelpAbout+ mnuDesign+ "
                   "mnuPictures+ mnuFrames+ mnuSeparator-");
     const std::set<control *> containers{&session.main.mnuFile, &session.main.mnuDesign,
                                          &session.main.mnuPictures, &session.main.mnuFrames,

@@ -65,9 +65,3 @@ TEST(cmbSize, cuts_what_is_typed_into_range_and_takes_it)
         EXPECT_EQ(session.main.txtCaption.tag, each.shown) << each.typed;
     }
 }
-
-TEST(cmdFont, is_disabled_without_a_dialog)
-{
-    opened_session session;
-    expect_states(session.main, "cmdFont-");
-}

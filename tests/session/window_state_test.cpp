@@ -63,7 +63,6 @@ TEST(show_menus, leaves_the_guard_of_its_caller_standing)
 TEST(enable_all, frees_every_control_that_a_design_may_limit)
 {
     opened_session session;
-    session.main.cmdFont.on_click = [] {};
     const char * const names[] = {
         "optTop",     "optBottom",     "txtCaption",     "lblFontSize",    "cmbSize",    "cmdFont",
         "lblShadow",  "cmbShadow",     "cmdShadowColor", "picShadowColor", "lblFrame",   "cmbFrame",
@@ -99,13 +98,6 @@ TEST(enable_all, keeps_a_picture_that_is_there)
     enable_all(session.main);
     expect_states(session.main, "optBGimage1");
     EXPECT_EQ(session.main.txtBGimage.text(), "/a.jpg");
-}
-
-TEST(enable_all, leaves_a_button_disabled_that_has_nothing_to_open)
-{
-    opened_session session;
-    enable_all(session.main);
-    expect_states(session.main, "cmdFont-");
 }
 
 TEST(set_enable, closes_the_window_for_a_run_and_opens_it_as_it_was)

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "support/colors.h"
+#include "support/forms.h"
+
+/// Says what the program is.
+struct frmAbout : form {
+    frmAbout() : form("frmAbout")
+    {
+        set_caption("A b o u t   F l u r n s");
+        set_back_color(about_background);
+    }
+    picture PicIcon{*this, "PicIcon"};
+    text_box txtAbout{*this, "txtAbout"};
+    button cmdOK{*this, "cmdOK", "OK"};
+};

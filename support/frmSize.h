@@ -1,0 +1,17 @@
+#pragma once
+
+#include "support/forms.h"
+
+/// Asks for the size of a saved collage. The answer goes to `save_size` of the image window.
+struct frmSize : form {
+    frmSize() : form("frmSize") { set_caption("Collage Size"); }
+    option_set sizes;
+    option_button optFull{*this, "optFull", sizes};
+    option_button optWeb{*this, "optWeb", sizes, "Web size -  500px * 750px   (for email, Facebook, etc)"};
+    option_button optCustom{*this, "optCustom", sizes, "Custom size"};
+    label lblSize{*this, "lblSize", "Number of pixels on long side:"};
+    text_box txtSize{*this, "txtSize"};
+    button cmdOk{*this, "cmdOk", "Ok"};
+    button cmdCancel{*this, "cmdCancel", "Cancel"};
+    button cmdHelp{*this, "cmdHelp", "Help"};
+};
