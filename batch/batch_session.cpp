@@ -2,6 +2,7 @@
 
 #include "batch/batch_desktop.h"
 #include "designs/catalogue.h"
+#include "designs/chosen_design.h"
 #include "engine/flurn_driver.h"
 #include "engine/flurn_file.h"
 #include "photos/photo_list.h"
@@ -52,19 +53,14 @@ void print_designs(frmMain & main)
     close_catalogue(main);
 }
 
-bool has_own_background(const design_record & design)
+poster_shape shape_of(const design_record & design, const std::string & asked)
 {
-    const std::string & image = design.bg_image;
-    return image != "Either" && !image.empty() && image != "None" && image != "Solid";
-}
-
-option_button & orientation_option(frmMain & main, const std::string & asked)
-{
-    const std::string & drawn_for = main.design_record.background;
-    const std::string wanted = !asked.empty() ? asked : drawn_for == "Landscape" ? "landscape" : "portrait";
+    const std::string wanted = !asked.empty()                     ? asked
+                               : design.background == "Landscape" ? "landscape"
+                                                                  : "portrait";
     if (wanted == "square")
-        return main.optSquare;
-    return wanted == "landscape" ? main.optLandscape : main.optPortrait;
+        return poster_shape::square;
+    return wanted == "landscape" ? poster_shape::landscape : poster_shape::portrait;
 }
 
 // Leaves the session as the design browser leaves it after its Ok.
@@ -74,18 +70,12 @@ void choose_design(frmMain & main, const batch_arguments & arguments)
         throw bad_arguments{"there is no design named \"" + arguments.design +
                             "\"; --list shows the designs"};
     close_catalogue(main);
-    design_record & design = main.design_record;
-    if (design.caption_clear.empty())
-        design.caption_clear = design.design == "Scatter" ? "Adjust" : "Same";
-    if (has_own_background(design))
-        main.optNone.select();
-    main.lblDesign.tag = design.section;
-    main.lblDesign.set_caption(design.name);
+    settle_caption_clear(main.design_record);
     const updating guard(main);  // the photos are not there yet, so there is nothing to preview
-    option_button & chosen = orientation_option(main, arguments.orientation);
-    chosen.select(false);  // its click has to run even when it is selected already
-    chosen.select();
-    main.poster_tall = &chosen != &main.optLandscape;
+    make_room_for_background(main);
+    take_design(main, {.section = main.design_record.section,
+                       .name = main.design_record.name,
+                       .shape = shape_of(main.design_record, arguments.orientation)});
 }
 
 // ---- photos

@@ -4,6 +4,7 @@
 #include "desktop/control_display.h"
 #include "desktop/control_input.h"
 #include "desktop/focus_keeper.h"
+#include "desktop/move_keys.h"
 #include "desktop/qt_text.h"
 
 #include <QCloseEvent>
@@ -36,6 +37,8 @@ private:
     bool is_covered(const QWidget & widget) const;
     bool key_pressed(const QKeyEvent & event);
     bool option_key(QRadioButton & option, int pressed);
+    bool moved_about(int pressed);
+    bool double_clicked(const QObject & watched);
 
     form & bound;
     QWidget & window;
@@ -64,6 +67,8 @@ binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
             guard->show_window();
     };
     show_window();
+    if (auto * const first = window.findChild<QWidget *>(window.property("firstFocus").toString()))
+        first->setFocus(Qt::OtherFocusReason);
 }
 
 void binding::bind_control(control & held)
@@ -175,8 +180,12 @@ bool binding::eventFilter(QObject * watched, QEvent * event)
     if (event->type() == QEvent::KeyPress) {
         const auto & pressed = static_cast<const QKeyEvent &>(*event);
         auto * const option = qobject_cast<QRadioButton *>(watched);
+        if ((option || watched == &window) && moved_about(pressed.key()))
+            return true;
         return watched == &window ? key_pressed(pressed) : option && option_key(*option, pressed.key());
     }
+    if (event->type() == QEvent::MouseButtonDblClick)
+        return double_clicked(*watched);
     if (event->type() == QEvent::FocusIn && boxes.contains(watched)) {
         const Qt::FocusReason reason = static_cast<const QFocusEvent *>(event)->reason();
         if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
@@ -205,6 +214,30 @@ bool binding::key_pressed(const QKeyEvent & event)
     if (!asked || !bound.on_key)
         return false;
     act([this, asked] { bound.on_key(*asked); });
+    return true;
+}
+
+bool binding::moved_about(int pressed)
+{
+    const std::optional<move_key> asked = move_key_of(pressed);
+    if (!asked || !bound.on_move_key)
+        return false;
+    QWidget * const focused = window.focusWidget();
+    const control * const held = focused ? bound.find(focused->objectName().toStdString()) : nullptr;
+    bool taken = false;
+    act([&] { taken = bound.on_move_key(*asked, held); });
+    if (taken)
+        follow_selection(focused);
+    return taken;
+}
+
+// The first of the two clicks has selected the option, unless it fell beside the text.
+bool binding::double_clicked(const QObject & watched)
+{
+    auto * const option = dynamic_cast<option_button *>(bound.find(watched.objectName().toStdString()));
+    if (!option || !option->on_double_click || !option->selected())
+        return false;
+    act([option] { option->on_double_click(); });
     return true;
 }
 

@@ -20,6 +20,8 @@ QString letters_of(const QObject & widget)
 
 QString marked_caption(const control & held, const QObject & widget)
 {
+    if (widget.property("verbatim").toBool())
+        return shown(held.caption()).replace(QLatin1Char('&'), QLatin1String("&&"));
     return with_mnemonic(shown(held.caption()), letters_of(widget));
 }
 
@@ -51,6 +53,8 @@ void display_content(const option_button & held, QRadioButton & widget)
     widget.setText(marked_caption(held, widget));
     widget.setAutoExclusive(false);
     widget.setChecked(held.selected());
+    if (widget.property("oneStop").toBool())
+        widget.setFocusPolicy(held.selected() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void display_items(const combo_box & held, QComboBox & widget)
@@ -191,6 +195,15 @@ void display_place(const control & held, QWidget & widget)
                        at.height ? at.height : own.height());
 }
 
+// Without a tip of its own the control leaves the one of the Designer file.
+void display_tool_tip(const control & held, QWidget & widget)
+{
+    if (held.tool_tip().empty() && !widget.property("tipTold").toBool())
+        return;
+    widget.setToolTip(shown(held.tool_tip()));
+    widget.setProperty("tipTold", true);
+}
+
 }  // namespace
 
 void display(control & held, QObject & shown_on)
@@ -200,7 +213,6 @@ void display(control & held, QObject & shown_on)
     if (!widget)
         return;
     widget->setEnabled(held.enabled());
-    if (!held.tool_tip().empty())
-        widget->setToolTip(shown(held.tool_tip()));
+    display_tool_tip(held, *widget);
     display_place(held, *widget);
 }

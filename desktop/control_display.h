@@ -11,6 +11,8 @@
 ///   announced  true: a reader of the screen is told each new text
 ///   coveredBy  the name of a control behind which this one disappears
 ///   divider    true: an entry of the menu bar that can't be chosen
+///   verbatim   true: the caption is a text of the user's, shown with any "&" that it holds
+///   oneStop    true: of the options of its set the Tab key stops at the selected one alone
 ///   largest    pixels: the greatest height of letters that its box has room for
 
 /// Brings the widget to the state of its control; fires none of the signals that a user's action fires.

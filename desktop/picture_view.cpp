@@ -76,6 +76,14 @@ int picture_view::heightForWidth(int width) const
     return picture.isNull() ? 0 : width * picture.height() / picture.width();
 }
 
+QRect picture_view::whole_place() const
+{
+    QSize size = picture.deviceIndependentSize().toSize();
+    if (size.width() > width() || size.height() > height())
+        size.scale(this->size(), Qt::KeepAspectRatio);
+    return {QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size};
+}
+
 void picture_view::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -84,6 +92,9 @@ void picture_view::paintEvent(QPaintEvent *)
     if (!picture.isNull() && fits_width) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QRect(0, 0, width(), heightForWidth(width())), picture);
+    } else if (!picture.isNull() && fits_whole) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(whole_place(), picture);
     } else if (!picture.isNull()) {
         painter.drawImage(0, 0, picture);
     }

@@ -13,6 +13,8 @@ class picture_view : public QAbstractButton {
     /// True: the picture is scaled to the view's width, and the height follows. False: it is shown as large
     /// as it is.
     Q_PROPERTY(bool scaled READ scaled WRITE set_scaled)
+    /// True: a picture larger than the view is shown whole, as large as fits, in the middle.
+    Q_PROPERTY(bool fitted MEMBER fits_whole)
 
 public:
     explicit picture_view(QWidget * parent = nullptr);
@@ -38,5 +40,7 @@ protected:
 private:
     QImage picture;
     QColor back;
-    bool fits_width = false;
+    bool fits_width = false, fits_whole = false;
+
+    QRect whole_place() const;
 };

@@ -9,6 +9,7 @@
 #include "ui_frmPictureName.h"
 #include "ui_frmSelectPhotos.h"
 #include "ui_frmSize.h"
+#include "ui_frmThemes.h"
 
 #include <QDialog>
 #include <QMainWindow>
@@ -38,6 +39,7 @@ constexpr std::array makers{
     maker{"frmSelectPhotos", made<QDialog, Ui::frmSelectPhotos>},
     maker{"frmPhotoList", made<QDialog, Ui::frmPhotoList>},
     maker{"frmPictureName", made<QDialog, Ui::frmPictureName>},
+    maker{"frmThemes", made<QDialog, Ui::frmThemes>},
     maker{"frmImage", made<QDialog, Ui::frmImage>},
     maker{"frmSize", made<QDialog, Ui::frmSize>},
     maker{"frmFont", made<QDialog, Ui::frmFont>},

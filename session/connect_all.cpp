@@ -12,8 +12,10 @@ void connect_all(windows & all)
     connect_shake(all.main);
     connect_output(all.main);
     connect_menus(all.main);
+    connect_designed(all.main);
     connect_buttons(all.main);
     connect_quick_controls(all.main);
+    connect_frmThemes(all);
     connect_frmImage(all);
     connect_frmPhotoCnt(all);
     connect_frmSelectPhotos(all);

@@ -18,7 +18,7 @@ void apply_design_to_photos(frmMain & main)
 
 }  // namespace
 
-void start_designed(frmMain & main)
+void start_designed(frmMain & main, const std::function<void()> & choose_photos)
 {
     {
         const updating quiet(main);
@@ -27,6 +27,7 @@ void start_designed(frmMain & main)
         main.random_design = true;
         main.chkMatch.enable(true);
         main.picSample.show(false);
+        fire(choose_photos);
         main.quick_active = false;
         main.optSample.show(true);
         if (photo_source_kind(main) != photo_source::none && !main.photo_choice_cancelled)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/frmThemes.h"
 #include "engine/frmImage.h"
 #include "photos/frmPhotoCnt.h"
 #include "photos/frmPhotoList.h"
@@ -20,6 +21,7 @@ struct windows {
     frmSelectPhotos select_photos;
     frmPhotoList photo_list;
     frmPictureName picture_name;
+    frmThemes themes;
     frmImage image;
     frmSize size;
     frmFont font;
@@ -28,6 +30,7 @@ struct windows {
     /// Every window but the main one, in the order above.
     std::vector<form *> others()
     {
-        return {&photo_count, &select_photos, &photo_list, &picture_name, &image, &size, &font, &about};
+        return {&photo_count, &select_photos, &photo_list, &picture_name, &themes,
+                &image,       &size,          &font,       &about};
     }
 };

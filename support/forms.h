@@ -148,6 +148,7 @@ public:
     /// nothing.
     void select(bool selected = true);
     std::function<void()> on_click;
+    std::function<void()> on_double_click;
     std::string value() const override { return on ? "1" : "0"; }
     bool set_as_user(std::string_view text) override;
 
@@ -258,6 +259,9 @@ private:
 /// Key codes that a window's own key handler is asked for.
 enum class key { f1 = 112, help = 47 };
 
+/// Key codes by which the keyboard moves about in a window.
+enum class move_key { page_up = 33, page_down = 34, left = 37, up = 38, right = 39, down = 40 };
+
 class form {
 public:
     explicit form(std::string name);
@@ -296,6 +300,9 @@ public:
     std::function<bool()> on_query_unload;
     std::function<void()> on_resize;
     std::function<void(key)> on_key;
+    /// Asked with the control that has the keyboard (nullptr: none of this form) before such a key does what
+    /// it usually does; true when that was all.
+    std::function<bool(move_key, const control *)> on_move_key;
 
     /// Told after each change of the window itself; set by whoever shows it.
     std::function<void()> on_shown_change;

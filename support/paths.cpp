@@ -32,6 +32,20 @@ auto with_folder_errors(Step step)
     }
 }
 
+template <typename Wanted>
+std::vector<std::string> names_in(const std::string & folder, Wanted wanted)
+{
+    return with_folder_errors([&] {
+        std::vector<std::string> names;
+        for (const auto & entry : fs::directory_iterator(folder)) {
+            std::error_code unreadable;
+            if (wanted(entry, unreadable))
+                names.push_back(entry.path().filename().string());
+        }
+        return names;
+    });
+}
+
 }  // namespace
 
 std::string joined(const std::string & folder, std::string_view name)
@@ -101,20 +115,29 @@ bool folder_exists(const std::string & path)
 
 std::vector<std::string> files_in(const std::string & folder)
 {
-    return with_folder_errors([&] {
-        std::vector<std::string> names;
-        for (const auto & entry : fs::directory_iterator(folder)) {
-            std::error_code unreadable;
-            if (entry.is_regular_file(unreadable))
-                names.push_back(entry.path().filename().string());
-        }
-        return names;
+    return names_in(folder, [](const fs::directory_entry & entry, std::error_code & unreadable) {
+        return entry.is_regular_file(unreadable);
+    });
+}
+
+std::vector<std::string> folders_in(const std::string & folder)
+{
+    return names_in(folder, [](const fs::directory_entry & entry, std::error_code & unreadable) {
+        return entry.is_directory(unreadable);
     });
 }
 
 void make_folder(const std::string & path)
 {
     with_folder_errors([&] { fs::create_directory(path); });
+}
+
+void remove_folder(const std::string & path)
+{
+    with_folder_errors([&] {
+        if (!fs::is_directory(path) || !fs::remove(path))
+            throw platform_error(error_number::path_not_found, "The folder does not exist.", path);
+    });
 }
 
 void delete_file(const std::string & path)

@@ -44,11 +44,17 @@ bool file_readable(const std::string & path);
 /// Names of the plain files in a folder, in the file system's order. Raises path_not_found (76) or 70.
 std::vector<std::string> files_in(const std::string & folder);
 
+/// Names of the folders in a folder, in the file system's order. Raises 70, 76.
+std::vector<std::string> folders_in(const std::string & folder);
+
 /// Makes one folder. Raises 70, 75, 76.
 void make_folder(const std::string & path);
 
 /// Deletes a file if it is there, a write-protected one too. Raises 70, 75.
 void delete_file(const std::string & path);
+
+/// Removes a folder that is empty. Raises 70, 75, 76.
+void remove_folder(const std::string & path);
 
 /// Copies one file, overwriting. Raises 53, 61, 70, 75. The copy is whole or not there.
 void copy_file(const std::string & from, const std::string & to);

@@ -374,4 +374,81 @@ TEST(binder, a_covered_widget_shows_only_while_its_cover_is_away)
     EXPECT_TRUE(covered.isHidden());
 }
 
+// ---- keys that move about, double clicks
+
+TEST(binder, a_key_that_moves_about_is_the_form_s_first)
+{
+    bound_form shown;
+    std::vector<std::pair<move_key, const control *>> asked;
+    shown.held.on_move_key = [&](move_key pressed, const control * focused) {
+        asked.emplace_back(pressed, focused);
+        shown.held.optRight.select();
+        return pressed == move_key::left;
+    };
+    shown.left->setFocus();
+    QTest::keyClick(shown.left, Qt::Key_Left);
+    EXPECT_EQ(asked,
+              (std::vector<std::pair<move_key, const control *>>{{move_key::left, &shown.held.optLeft}}));
+    EXPECT_TRUE(shown.right->hasFocus()) << "the keyboard follows the selection";
+}
+
+TEST(binder, a_key_that_the_form_leaves_does_what_it_usually_does)
+{
+    bound_form shown;
+    shown.held.on_move_key = [](move_key, const control *) { return false; };
+    shown.left->setFocus();
+    QTest::keyClick(shown.left, Qt::Key_Down);
+    EXPECT_TRUE(shown.held.optRight.selected());
+}
+
+TEST(binder, a_page_key_that_no_widget_takes_reaches_the_form)
+{
+    bound_form shown;
+    int pages = 0;
+    shown.held.on_move_key = [&](move_key pressed, const control * focused) {
+        pages += pressed == move_key::page_down && focused == &shown.held.cmdGo;
+        return true;
+    };
+    shown.go->setFocus();
+    QTest::keyClick(shown.go, Qt::Key_PageDown);
+    EXPECT_EQ(pages, 1);
+}
+
+TEST(binder, a_double_click_on_an_option_reaches_it_once_it_is_selected)
+{
+    bound_form shown;
+    int clicks = 0;
+    shown.held.optLeft.on_double_click = [&] { ++clicks; };
+    QTest::mouseDClick(shown.left, Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_EQ(clicks, 0) << "its first click fell beside the text";
+    QTest::mouseClick(shown.left, Qt::LeftButton, {}, QPoint(8, 12));
+    QTest::mouseDClick(shown.left, Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseClick(shown.right, Qt::LeftButton, {}, QPoint(8, 12));
+    QTest::mouseDClick(shown.right, Qt::LeftButton, {}, QPoint(8, 12));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(binder, a_tool_tip_that_the_session_takes_back_is_gone)
+{
+    bound_form shown;
+    shown.go->setToolTip("from the layout");
+    shown.held.cmdGo.set_caption("other");
+    EXPECT_EQ(shown.go->toolTip(), "from the layout");
+    shown.held.cmdGo.set_tool_tip("told");
+    shown.held.cmdGo.set_tool_tip("");
+    EXPECT_EQ(shown.go->toolTip(), "");
+}
+
+TEST(binder, of_one_stop_options_the_tab_key_reaches_the_selected_one)
+{
+    bound_form shown;
+    for (QRadioButton * option : {shown.left, shown.right})
+        option->setProperty("oneStop", true);
+    shown.held.optLeft.select();
+    shown.held.optRight.select();
+    EXPECT_EQ(shown.left->focusPolicy(), Qt::ClickFocus);
+    EXPECT_EQ(shown.right->focusPolicy(), Qt::StrongFocus);
+}
+
 }  // namespace

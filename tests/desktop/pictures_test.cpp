@@ -47,6 +47,24 @@ TEST(picture_view, shows_the_file_unscaled_from_the_top_left_and_cut_at_its_edge
         << "beside it, the window";
 }
 
+TEST(picture_view, fitted_shows_a_larger_picture_whole_and_leaves_a_smaller_one_as_it_is)
+{
+    const temporary_folder folder;
+    picture_view view;
+    view.setProperty("fitted", true);
+    view.resize(60, 40);
+    view.show_file(colored_file(folder, "high.png", {80, 80}, red));
+    const QColor beside(view.palette().color(QPalette::Window));
+    EXPECT_EQ(seen_view(view).pixelColor(8, 20), beside);
+    EXPECT_EQ(seen_view(view).pixelColor(12, 1), red);
+    EXPECT_EQ(seen_view(view).pixelColor(48, 38), red);
+    EXPECT_EQ(seen_view(view).pixelColor(51, 20), beside);
+    view.show_file(colored_file(folder, "small.png", {20, 20}, red));
+    EXPECT_EQ(seen_view(view).pixelColor(20, 10), black);
+    EXPECT_EQ(seen_view(view).pixelColor(39, 29), red);
+    EXPECT_EQ(seen_view(view).pixelColor(40, 30), beside);
+}
+
 TEST(picture_view, reads_a_file_again_that_has_changed_under_its_name)
 {
     const temporary_folder folder;

@@ -8,6 +8,7 @@
 #include "session/start_up.h"
 #include "support/colors.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
@@ -15,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 
@@ -146,6 +148,35 @@ TEST_F(session_test, a_design_is_finished_by_hand_and_made_full_size)
     QTest::mouseClick(found<QPushButton>("cmdFlurn"), Qt::LeftButton);
     EXPECT_EQ(seen.size(), QSize(2000, 3000));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(session_test, a_designed_flurn_goes_from_the_menu_over_both_choosers_to_its_preview)
+{
+    photos_of_folder(all.main, folder.at("photos"));
+    set_photo_source_kind(all.main, photo_source::folder);
+    all.main.txtPhotos.tag = folder.at("photos");
+    when_asked<QDialog>([&](QDialog & browser) {
+        EXPECT_EQ(browser.windowTitle(), "F l u r n   D e s i g n s");
+        QApplication::processEvents();
+        keep_screen(browser, "designs_portrait.png");
+        QTest::mouseClick(browser.findChild<QRadioButton *>("optLandscape"), Qt::LeftButton, {}, {8, 8});
+        QTest::mouseClick(browser.findChild<QRadioButton *>("optTheme"), Qt::LeftButton, {}, {8, 8});
+        QApplication::processEvents();
+        keep_screen(browser, "designs_landscape.png");
+        EXPECT_EQ(all.themes.optDesign[0].caption(), "White mats");
+        when_asked<QDialog>([&](QDialog & chooser) {
+            keep_screen(chooser, "photos.png");
+            QTest::mouseClick(chooser.findChild<QPushButton *>("cmdOk"), Qt::LeftButton);
+        });
+        QTest::keyClick(&browser, Qt::Key_Return);
+    });
+    window().findChild<QAction *>("mnuDesigned")->trigger();
+    EXPECT_EQ(window().windowTitle(), "F i n i s h i n g   t o u c h e s");
+    EXPECT_EQ(all.main.lblDesign.caption(), "White mats");
+    EXPECT_TRUE(all.main.optLandscape.selected());
+    EXPECT_EQ(all.main.picSample.load_count(), 1);
+    EXPECT_FALSE(found<picture_view>("picSample")->image().isNull());
+    keep_screen(window(), "designed.png");
 }
 
 TEST_F(session_test, the_first_close_only_backs_out_of_the_work)

@@ -4,6 +4,7 @@ namespace {
 
 void load_all(opened_session & session)
 {
+    session.folder.write("data/designs.ini", "");
     session.main.load();
     for (form * each : session.all.others())
         each->load();

@@ -79,6 +79,30 @@ TEST(paths, names_of_files_are_listed_without_folders)
     EXPECT_EQ(raised_by([&] { files_in(folder.at("none")); }), 76);
 }
 
+TEST(paths, the_folders_in_a_folder_are_named_without_its_files)
+{
+    const temporary_folder folder;
+    folder.write("a/deep/x", "");
+    folder.write("b/x", "");
+    folder.write("c", "");
+    std::vector<std::string> names = folders_in(folder.path());
+    std::ranges::sort(names);
+    EXPECT_EQ(names, (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(raised_by([&] { folders_in(joined(folder.path(), "none")); }), 76);
+}
+
+TEST(paths, only_an_empty_folder_is_removed)
+{
+    const temporary_folder folder;
+    const std::string file = folder.write("a/x", "");
+    EXPECT_EQ(raised_by([&] { remove_folder(folder_of(file)); }), 75);
+    EXPECT_TRUE(file_exists(file));
+    delete_file(file);
+    remove_folder(folder_of(file));
+    EXPECT_FALSE(folder_exists(folder_of(file)));
+    EXPECT_EQ(raised_by([&] { remove_folder(folder_of(file)); }), 76);
+}
+
 TEST(paths, a_folder_is_made_once_and_only_in_a_folder_that_is_there)
 {
     const temporary_folder folder;
