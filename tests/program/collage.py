@@ -1,0 +1,51 @@
+"""What both ways through the program share: photos, the welcome, saved files and their sizes."""
+import glob
+import os
+import shutil
+import sys
+
+import screen
+
+
+def started():
+    app, plugins, photos = sys.argv[1:4]
+    program = screen.Program(app, plugins)
+    program.photos = os.path.join(program.folder, 'my photos')
+    os.makedirs(program.photos)
+    for path in sorted(glob.glob(os.path.join(photos, '*.jpg')))[:12]:
+        shutil.copy(path, program.photos)
+    return program
+
+
+def check(is_so, told):
+    if not is_so:
+        raise AssertionError(told)
+
+
+def check_saved(program, path, size):
+    screen.until(lambda: os.path.exists(path) and os.path.getsize(path) > 0, path)
+    check(program.picture_of(path) == size, '%s is %s, not %s' % (path, program.picture_of(path), size))
+
+
+def changed_preview(program, act, told):
+    """Does something and waits until a new preview is on disk and on the screen."""
+    file, pixels = program.finished(), program.pixels('picSample')
+    act()
+    screen.until(lambda: program.finished() not in ('', file), 'a new preview after ' + told)
+    screen.until(lambda: program.pixels('picSample') != pixels, 'the new preview on the screen after ' + told)
+
+
+def run(play):
+    program = started()
+    try:
+        play(program)
+    except BaseException:
+        seen = program.look() if program.process.poll() is None else {}
+        print('in front:', seen.get('window'), seen.get('class'), repr(seen.get('title')), repr(seen.get('message', '')))
+        keep = os.environ.get('TESSALOOM_SCREENS')
+        if keep:
+            os.system('DISPLAY=%s import -window root %s/failed.png' % (program.environment['DISPLAY'], keep))
+        raise
+    finally:
+        program.close()
+    print('the program did all that was asked of it')

@@ -1,0 +1,160 @@
+// Tells a test of the built program what stands where on its screen: a plugin that the toolkit loads into the
+// shipped program when the environment asks for it. It only looks; every event comes from outside.
+//
+// A request is a line on the local socket TESSALOOM_PROBE. "look" is answered by a line of JSON: every
+// visible widget and menu entry that has a name or a text, with its place on the screen. "see X Y W H" is
+// answered by a digest of the pixels that the screen shows there.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QCryptographicHash>
+#include <QGenericPlugin>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+
+namespace {
+
+QJsonObject placed(const QString & name, const QString & text, const QRect & where)
+{
+    return {{"name", name},   {"text", text},           {"x", where.x()},
+            {"y", where.y()}, {"width", where.width()}, {"height", where.height()}};
+}
+
+QString text_of(const QWidget & widget)
+{
+    if (const auto * const button = qobject_cast<const QAbstractButton *>(&widget))
+        return button->text();
+    if (const auto * const line = qobject_cast<const QLineEdit *>(&widget))
+        return line->text();
+    if (const auto * const label = qobject_cast<const QLabel *>(&widget))
+        return label->text();
+    if (const auto * const list = qobject_cast<const QComboBox *>(&widget))
+        return list->currentText();
+    return {};
+}
+
+QRect on_screen(const QWidget & widget, const QRect & inside)
+{
+    return {widget.mapToGlobal(inside.topLeft()), inside.size()};
+}
+
+template <typename Bar>
+void add_entries(const Bar & bar, QJsonArray & found)
+{
+    for (QAction * entry : bar.actions())
+        if (entry->isVisible() && !entry->isSeparator()) {
+            const QString name = entry->menu() && entry->objectName().isEmpty() ? entry->menu()->objectName()
+                                                                                : entry->objectName();
+            QJsonObject one = placed(name, entry->text(), on_screen(bar, bar.actionGeometry(entry)));
+            one["enabled"] = entry->isEnabled();
+            found.append(one);
+        }
+}
+
+void add_widget(const QWidget & widget, QJsonArray & found)
+{
+    if (const auto * const bar = qobject_cast<const QMenuBar *>(&widget))
+        add_entries(*bar, found);
+    if (const auto * const menu = qobject_cast<const QMenu *>(&widget))
+        add_entries(*menu, found);
+    QJsonObject one = placed(widget.objectName(), text_of(widget), on_screen(widget, widget.rect()));
+    one["enabled"] = widget.isEnabled();
+    one["focus"] = widget.hasFocus();
+    one["window"] = widget.window()->objectName();
+    one["title"] = widget.window()->windowTitle();
+    if (const auto * const button = qobject_cast<const QAbstractButton *>(&widget))
+        one["checked"] = button->isChecked();
+    found.append(one);
+}
+
+// Only the window on top can be reached by the user.
+QWidget * top_window()
+{
+    if (QWidget * const popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget * const modal = QApplication::activeModalWidget())
+        return modal;
+    for (QWidget * window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            return window;
+    return nullptr;
+}
+
+QByteArray looked()
+{
+    QJsonObject answer;
+    if (QWidget * const window = top_window()) {
+        QJsonArray found;
+        add_widget(*window, found);
+        for (const QWidget * widget : window->findChildren<QWidget *>())
+            if (widget->isVisible() && !widget->visibleRegion().isEmpty())
+                add_widget(*widget, found);
+        answer = {{"window", window->objectName()},
+                  {"class", window->metaObject()->className()},
+                  {"title", window->windowTitle()},
+                  {"id", static_cast<qint64>(window->window()->winId())},
+                  {"widgets", found}};
+        if (const auto * const box = qobject_cast<const QMessageBox *>(window))
+            answer["message"] = box->text();
+    }
+    return QJsonDocument(answer).toJson(QJsonDocument::Compact);
+}
+
+QByteArray seen(const QList<QByteArray> & words)
+{
+    if (words.size() != 5)
+        return "see X Y WIDTH HEIGHT";
+    const QImage pixels =
+        QApplication::primaryScreen()
+            ->grabWindow(0, words[1].toInt(), words[2].toInt(), words[3].toInt(), words[4].toInt())
+            .toImage();
+    const auto bytes =
+        QByteArrayView(reinterpret_cast<const char *>(pixels.constBits()), pixels.sizeInBytes());
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
+}
+
+void answer(QLocalSocket & asker)
+{
+    while (asker.canReadLine()) {
+        const QByteArray line = asker.readLine().trimmed();
+        asker.write((line == "look" ? looked() : seen(line.split(' '))) + '\n');
+        asker.flush();
+    }
+}
+
+void listen(const QString & name)
+{
+    auto * const server = new QLocalServer(qApp);
+    QObject::connect(server, &QLocalServer::newConnection, server, [server] {
+        while (QLocalSocket * const asker = server->nextPendingConnection())
+            QObject::connect(asker, &QLocalSocket::readyRead, asker, [asker] { answer(*asker); });
+    });
+    if (!server->listen(name))
+        qWarning("%s: %s", qPrintable(name), qPrintable(server->errorString()));
+}
+
+class probe : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "probe.json")
+public:
+    QObject * create(const QString &, const QString &) override
+    {
+        listen(qEnvironmentVariable("TESSALOOM_PROBE"));
+        return new QObject;
+    }
+};
+
+}  // namespace
+
+#include "probe.moc"

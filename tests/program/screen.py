@@ -1,0 +1,149 @@
+"""The built program on a display of its own, watched through the probe and driven by real mouse and key events."""
+import hashlib
+import json
+import os
+import shutil
+import socket
+import subprocess
+import tempfile
+import time
+
+PATIENCE = 60.0
+
+
+def until(what, told):
+    """Waits until `what()` gives something true, and gives that."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        result = what()
+        if result:
+            return result
+        time.sleep(0.02)
+    raise AssertionError('waited in vain for ' + told)
+
+
+class Program:
+    def __init__(self, app, plugins):
+        self.folder = tempfile.mkdtemp(prefix='tessaloom_')
+        self.app = os.path.join(self.folder, 'app')
+        shutil.copytree(app, self.app)
+        # As it is before its first start, which leaves these marks.
+        for mark in ('3_1_install', '4_2_install'):
+            if os.path.exists(os.path.join(self.app, mark)):
+                os.remove(os.path.join(self.app, mark))
+        self.start_display()
+        self.start_program(plugins)
+
+    def start_display(self):
+        read, write = os.pipe()
+        self.display = subprocess.Popen(
+            ['Xvfb', '-displayfd', str(write), '-screen', '0', '1600x1200x24', '-nolisten', 'tcp'],
+            pass_fds=[write], stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as told:
+            number = told.readline().strip()  # the whole line: a pipe closed in its middle ends the display
+        self.environment = dict(os.environ, DISPLAY=':' + number, HOME=self.folder, XDG_RUNTIME_DIR=self.folder)
+        for name in ('QT_SCALE_FACTOR', 'XDG_DATA_HOME', 'WAYLAND_DISPLAY'):
+            self.environment.pop(name, None)
+
+    def start_program(self, plugins):
+        self.socket_path = os.path.join(self.folder, 'probe')
+        self.process = subprocess.Popen(
+            [os.path.join(self.app, 'tessaloom')], stderr=subprocess.DEVNULL,
+            env=dict(self.environment, QT_QPA_PLATFORM='xcb', QT_PLUGIN_PATH=plugins, QT_QPA_GENERIC_PLUGINS='probe',
+                     TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8'))
+        until(lambda: os.path.exists(self.socket_path), 'the program')
+        self.probe = socket.socket(socket.AF_UNIX)
+        self.probe.settimeout(PATIENCE)
+        self.probe.connect(self.socket_path)
+        self.answers = self.probe.makefile('r')
+        self.focused = None
+
+    def close(self):
+        self.process.kill()
+        self.display.kill()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    # ---- what is seen
+
+    def ask(self, line):
+        self.probe.sendall(line.encode() + b'\n')
+        return self.answers.readline()
+
+    def look(self):
+        """The window that can be reached. Gives it the focus once, as a window manager would."""
+        seen = json.loads(self.ask('look'))
+        if seen and seen['id'] != self.focused and seen['class'] != 'QMenu':
+            self.tool('windowfocus', '--sync', str(seen['id']))
+            self.focused = seen['id']
+        return seen
+
+    def window(self, name):
+        """Waits for the window of that name or class, or with that title."""
+        def there():
+            seen = self.look()
+            return seen if seen and name in (seen['window'], seen['class'], seen['title']) else None
+        return until(there, name)
+
+    def find(self, name, seen=None):
+        for widget in (seen or self.look()).get('widgets', []):
+            if widget['name'] == name or widget['text'].replace('&', '') == name:
+                return widget
+        return None
+
+    def widget(self, name):
+        """Waits until the widget or menu entry of that name, or else with that text, can be used."""
+        def ready():
+            found = self.find(name)
+            return found if found and found.get('enabled') else None
+        return until(ready, name)
+
+    def pixels(self, name):
+        """A digest of what the screen shows of the widget."""
+        at = self.widget(name)
+        return self.ask('see %d %d %d %d' % (at['x'], at['y'], at['width'], at['height'])).strip()
+
+    def finished(self):
+        """A digest of the picture that the session made last; empty while there is none."""
+        path = os.path.join(self.app, 'tmp', 'finished.jpg')
+        try:
+            with open(path, 'rb') as file:
+                return hashlib.sha1(file.read()).hexdigest()
+        except OSError:
+            return ''
+
+    # ---- what is done
+
+    def tool(self, *words):
+        subprocess.run(['xdotool', *words], env=self.environment, check=True, stdout=subprocess.DEVNULL)
+
+    def click(self, name, button=1, times=1):
+        at = self.widget(name)
+        # Check boxes and options are hit at their mark, which stands at the left.
+        x = at['x'] + (10 if 'checked' in at and at['width'] > 60 and at['height'] < 40 else at['width'] // 2)
+        self.tool('mousemove', '--sync', str(x), str(at['y'] + at['height'] // 2))
+        self.tool('click', '--repeat', str(times), '--delay', '60', str(button))
+
+    def keys(self, *names):
+        for name in names:
+            self.tool('key', '--clearmodifiers', name)
+
+    def type(self, text):
+        self.tool('type', '--delay', '8', text)
+
+    def type_into(self, name, text):
+        self.click(name)
+        self.keys('ctrl+a')
+        self.type(text)
+
+    def picture_of(self, path):
+        """Width and height of a JPEG file."""
+        with open(path, 'rb') as file:
+            data = file.read()
+        at = 2
+        while data[at] == 0xFF:
+            marker, length = data[at + 1], int.from_bytes(data[at + 2:at + 4], 'big')
+            if 0xC0 <= marker <= 0xC3:
+                return (int.from_bytes(data[at + 7:at + 9], 'big'), int.from_bytes(data[at + 5:at + 7], 'big'))
+            at += 2 + length
+        raise AssertionError('no frame in ' + path)
