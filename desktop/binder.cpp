@@ -132,6 +132,7 @@ bool binding::is_covered(const QWidget & widget) const
 void binding::show_window()
 {
     window.setWindowTitle(shown(bound.caption()));
+    window.setAccessibleName(unspaced(window.windowTitle()));
     if (window.property("stage").toBool()) {
         QPalette colors = window.palette();
         colors.setColor(QPalette::Window, shown_color(bound.back_color()));

@@ -3,6 +3,7 @@
 #include "desktop/captions.h"
 #include "desktop/qt_text.h"
 
+#include <QAccessible>
 #include <QGroupBox>
 #include <QMenu>
 
@@ -85,6 +86,15 @@ void display_content(const combo_box & held, QComboBox & widget)
         widget.lineEdit()->setCursorPosition(cursor);
 }
 
+void announce(QWidget & widget)
+{
+    if (!widget.property("announced").toBool())
+        return;
+    widget.setProperty("announcements", widget.property("announcements").toInt() + 1);
+    QAccessibleEvent told(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
+}
+
 void display_font(const text_box & held, QWidget & widget)
 {
     if (held.font() == font_style{})
@@ -104,6 +114,7 @@ void display_content(const text_box & held, QLineEdit & widget)
     if (widget.text() != text) {
         widget.setText(text);
         widget.setCursorPosition(0);  // a long text shows its beginning
+        announce(widget);
     }
     display_colors(held, widget, QPalette::Base, QPalette::Text);
     display_font(held, widget);
@@ -151,8 +162,12 @@ void display_content(const slider & held, QSlider & widget)
 void display_content(const label & held, QLabel & widget)
 {
     const QString text = shown(held.caption()).remove(QLatin1Char('\r'));
+    const QString marked = widget.buddy() ? with_mnemonic_in_any_text(text, letters_of(widget)) : text;
     widget.setTextFormat(Qt::PlainText);
-    widget.setText(widget.buddy() ? with_mnemonic_in_any_text(text, letters_of(widget)) : text);
+    if (widget.text() != marked) {
+        widget.setText(marked);
+        announce(widget);
+    }
     display_colors(held, widget, QPalette::Window, QPalette::WindowText);
 }
 
@@ -162,6 +177,8 @@ void display_content(const picture & held, picture_view & widget)
     widget.setFocusPolicy(usable ? Qt::StrongFocus : Qt::NoFocus);
     widget.setCursor(usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
     widget.set_back_color(shown_color(held.back_color()));
+    if (usable && held.file().empty())
+        widget.setAccessibleDescription(shown_color(held.back_color()).name());
     if (widget.property("shown_load").toInt() == held.load_count())
         return;
     widget.setProperty("shown_load", held.load_count());

@@ -8,7 +8,7 @@
 ///   placed     true: the widget stands where the control's `place` says
 ///   sized      true: the widget keeps the size of the control's `place` inside its layout
 ///   shrink     text is shown at one n-th of the size that the control holds
-///   announced  true: a reader of the screen is told each new text
+///   announced  true: a reader of the screen is told each new text; `announcements` counts them
 ///   coveredBy  the name of a control behind which this one disappears
 ///   divider    true: an entry of the menu bar that can't be chosen
 ///   verbatim   true: the caption is a text of the user's, shown with any "&" that it holds

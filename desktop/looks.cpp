@@ -61,6 +61,7 @@ QPushButton[primary="true"]:hover { background: #f7c272; }
 QPushButton[primary="true"]:pressed { background: #d2963b; }
 QPushButton[primary="true"]:focus { border: 2px solid #ffffff; }
 QPushButton[primary="true"]:disabled { background: #2f3236; color: #83888f; border-color: #43484e; }
+QListWidget::item { padding: 3px 4px; }
 QToolTip { border: 1px solid #585d64; padding: 3px; }
 )")
         .arg(QLatin1String(accent));

@@ -21,7 +21,11 @@ picture_size portrait(picture_size own, picture_size room)
 {
     const int height = room.height - margins - button_row - bar;
     const int width = own.height > 0 ? height * own.width / own.height : height;
-    return of_width(own, std::max(least_portrait_width, std::min(width, room.width - margins - bar)));
+    const int widest = std::max(1, room.width - margins - bar);
+    const int least = std::min(least_portrait_width, widest);
+    if (width < least || width > widest)
+        return of_width(own, std::clamp(width, least, widest));
+    return {.width = width, .height = height};
 }
 
 shown_size framed(picture_size picture, int frame_width, picture_size room)

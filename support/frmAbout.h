@@ -9,6 +9,8 @@ struct frmAbout : form {
     {
         set_caption("A b o u t   F l u r n s");
         set_back_color(about_background);
+        txtAbout.set_back_color(about_background);
+        txtAbout.set_fore_color(text_color);
     }
     picture PicIcon{*this, "PicIcon"};
     text_box txtAbout{*this, "txtAbout"};

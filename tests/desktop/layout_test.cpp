@@ -1,75 +1,19 @@
 #include "../scripted_desktop.h"
 #include "desktop/binder.h"
 #include "desktop/captions.h"
-#include "desktop/elided_label.h"
-#include "desktop/picture_view.h"
 #include "desktop/windows_made.h"
+#include "layout_checks.h"
 #include "stages.h"
 #include "support/colors.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QStyle>
 
 #include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
 
-// The widgets of all controls that can be seen, in any depth.
-std::vector<QWidget *> seen_widgets(const frmMain & main, const QWidget & window)
-{
-    std::vector<QWidget *> seen;
-    for (const control * held : main.controls()) {
-        auto * const widget = window.findChild<QWidget *>(QString::fromStdString(held->name()));
-        if (widget && widget->isVisible())
-            seen.push_back(widget);
-    }
-    return seen;
-}
-
-QRect place_in(const QWidget & window, const QWidget & widget)
-{
-    return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
-}
-
-// True where one lies inside the other.
-bool related(const QWidget & one, const QWidget & other)
-{
-    return one.isAncestorOf(&other) || other.isAncestorOf(&one);
-}
-
-int widest_item(const QComboBox & list)
-{
-    int widest = 0;
-    for (int i = 0; i < list.count(); ++i)
-        widest = std::max(widest, list.fontMetrics().horizontalAdvance(list.itemText(i)));
-    return widest;
-}
-
-// What the widget needs for its text; nothing where a text of any length has to be cut.
-QSize needed(const QWidget & widget)
-{
-    if (const auto * const list = qobject_cast<const QComboBox *>(&widget))
-        return {list->width() - list->lineEdit()->width() + widest_item(*list) + 6,
-                list->minimumSizeHint().height()};
-    if (qobject_cast<const picture_view *>(&widget) || qobject_cast<const elided_label *>(&widget))
-        return {0, qobject_cast<const elided_label *>(&widget) ? widget.minimumSizeHint().height() : 0};
-    if (const auto * const box = qobject_cast<const QGroupBox *>(&widget))
-        return {box->fontMetrics().horizontalAdvance(box->title()) + 20, box->minimumSizeHint().height()};
-    if (qobject_cast<const QLineEdit *>(&widget))
-        return {0, widget.fontMetrics().height() + 2};
-    if (const auto * const button = qobject_cast<const QPushButton *>(&widget))
-        return {button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + 10,
-                button->fontMetrics().height() + 4};
-    if (qobject_cast<const QAbstractButton *>(&widget) || qobject_cast<const QLabel *>(&widget))
-        return widget.sizeHint();
-    return {0, widget.minimumSizeHint().height()};
-}
+using faults = std::vector<std::string>;
 
 // One window for all: its making takes longer than the looking.
 struct layout_test : testing::TestWithParam<std::tuple<look, shape>> {
@@ -90,57 +34,41 @@ struct layout_test : testing::TestWithParam<std::tuple<look, shape>> {
     {
         bring_to(kept->main, std::get<0>(GetParam()), std::get<1>(GetParam()));
         QApplication::processEvents();
-        seen = seen_widgets(kept->main, *window);
     }
     static std::unique_ptr<shown_main> kept;
     QWidget * window;
-    std::vector<QWidget *> seen;
 };
 
 std::unique_ptr<layout_test::shown_main> layout_test::kept;
 
 TEST_P(layout_test, no_two_widgets_overlap)
 {
-    for (const QWidget * one : seen)
-        for (const QWidget * other : seen)
-            if (one < other && !related(*one, *other)) {
-                EXPECT_FALSE(place_in(*window, *one).intersects(place_in(*window, *other)))
-                    << one->objectName().toStdString() << " and " << other->objectName().toStdString();
-            }
+    EXPECT_EQ(overlaps(kept->main, *window), faults());
 }
 
 TEST_P(layout_test, every_widget_lies_inside_its_group_and_the_window)
 {
-    for (const QWidget * one : seen) {
-        EXPECT_TRUE(one->parentWidget()->rect().contains(one->geometry())) << one->objectName().toStdString();
-        EXPECT_TRUE(window->rect().contains(place_in(*window, *one))) << one->objectName().toStdString();
-    }
+    EXPECT_EQ(strays(kept->main, *window), faults());
 }
 
 TEST_P(layout_test, no_text_is_cut)
 {
-    for (const QWidget * one : seen) {
-        const QSize wanted = needed(*one);
-        EXPECT_LE(wanted.width(), one->width()) << one->objectName().toStdString();
-        EXPECT_LE(wanted.height(), one->height()) << one->objectName().toStdString();
-    }
+    EXPECT_EQ(cut_texts(kept->main, *window), faults());
 }
 
 TEST_P(layout_test, the_tab_key_follows_the_eye)
 {
-    const QWidget * before = nullptr;
-    for (QWidget * one = window->nextInFocusChain(); one != window; one = one->nextInFocusChain()) {
-        if (!one->isVisible() || !(one->focusPolicy() & Qt::TabFocus) ||
-            std::find(seen.begin(), seen.end(), one) == seen.end())
-            continue;
-        if (before && before->parentWidget() == one->parentWidget()) {
-            const QRect from = place_in(*window, *before), to = place_in(*window, *one);
-            const bool next_row = to.center().y() > from.bottom();
-            EXPECT_TRUE(next_row || (to.left() >= from.right() && to.bottom() >= from.top()))
-                << before->objectName().toStdString() << " to " << one->objectName().toStdString();
-        }
-        before = one;
-    }
+    EXPECT_EQ(tab_order_faults(kept->main, *window), faults());
+}
+
+TEST_P(layout_test, every_widget_that_the_keyboard_reaches_has_a_name)
+{
+    EXPECT_EQ(names_missing(kept->main, *window), faults());
+}
+
+TEST_P(layout_test, no_letter_stands_for_two)
+{
+    EXPECT_EQ(shared_letters(*window), faults());
 }
 
 TEST_P(layout_test, the_window_has_its_fixed_size)

@@ -129,19 +129,6 @@ TEST(printing, a_picture_stands_whole_and_centred_on_the_page)
     EXPECT_EQ(fitted({10, 10}, {50, 50, 100, 100}), QRect(50, 50, 100, 100));
 }
 
-TEST(printing, prints_one_page_in_the_orientation_of_the_collage)
-{
-    const temporary_folder folder;
-    QPrinter printer(QPrinter::ScreenResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(QString::fromStdString(folder.at("page.pdf")));
-    EXPECT_TRUE(print_on(printer, plain(30, 20, {255, 0, 0}), page::landscape));
-    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
-    QFile file(QString::fromStdString(folder.at("page.pdf")));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(file.readAll().contains("/Count 1"));
-}
-
 TEST(printing, a_printer_that_refuses_and_an_empty_picture_print_nothing)
 {
     QPrinter printer(QPrinter::ScreenResolution);

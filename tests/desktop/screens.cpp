@@ -1,12 +1,15 @@
-// Draws the main window in all its stages into a folder: tessaloom-screens FOLDER SPLASH [PREVIEW]. Set
+// Draws every window into a folder, in the states that are worth looking at: tessaloom-screens FOLDER. Set
 // QT_SCALE_FACTOR=2 for screens of double density.
 
-#include "../scripted_desktop.h"
+#include "designs/catalogue.h"
 #include "desktop/binder.h"
 #include "desktop/looks.h"
 #include "desktop/windows_made.h"
-#include "session/windows.h"
+#include "engine/run_steps.h"
+#include "session/new_poster.h"
 #include "stages.h"
+#include "support/paths.h"
+#include "window_views.h"
 
 #include <QApplication>
 
@@ -14,17 +17,56 @@
 
 namespace {
 
-void draw(windows & all, QWidget & window, const QString & folder)
+void save(QWidget & window, const QString & folder, const std::string & name)
 {
+    const QString path = folder + QLatin1Char('/') + QString::fromStdString(name) + QStringLiteral(".png");
+    if (!window.grab().save(path))
+        std::fprintf(stderr, "%s can't be written\n", qPrintable(path));
+}
+
+// A collage of the sample photos, full size and as its preview; both are kept for the pictures.
+void make_collage(filled_session & session)
+{
+    frmMain & main = session.all.main;
+    if (!find_design(main, "Autumn walk"))
+        std::fprintf(stderr, "the design of the pictures isn't there\n");
+    close_catalogue(main);
+    main.poster_tall = true;
+    main.optPortrait.select();
+    start_designed(main);
+    session.preview = session.folder.at("tmp/preview.jpg");
+    copy_file(finished_path(main), session.preview);
+    session.desk.on_modal<frmImage>([&](frmImage &) {
+        session.collage = session.folder.at("tmp/collage.jpg");
+        copy_file(finished_path(main), session.collage);
+    });
+    main.cmdFlurn.click();
+}
+
+// Every look of an upright poster, and the other shapes once.
+void draw_stages(filled_session & session, const QString & folder)
+{
+    frmMain & main = session.all.main;
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {});
+    main.picSplash.load(joined(main.install_folder, "images/splash.png"));
+    main.picSample.load(session.preview);
+    window->show();
     for (const look wanted : all_looks)
-        for (const shape poster : all_shapes) {
-            bring_to(all.main, wanted, poster);
-            QCoreApplication::processEvents();
-            const QString path = folder + QLatin1Char('/') + QString::fromStdString(name_of(wanted, poster)) +
-                                 QStringLiteral(".png");
-            if (!window.grab().save(path))
-                std::fprintf(stderr, "%s can't be written\n", qPrintable(path));
-        }
+        for (const shape poster : all_shapes)
+            if (poster == shape::portrait || wanted == look::quick_block) {
+                bring_to(main, wanted, poster);
+                QCoreApplication::processEvents();
+                save(*window, folder, "frmMain_" + name_of(wanted, poster));
+            }
+}
+
+void draw_views(filled_session & session, const QString & folder)
+{
+    for (const window_view & view : session.views()) {
+        const shown_view shown(view);
+        save(shown.window(), folder, view.name);
+    }
 }
 
 }  // namespace
@@ -34,20 +76,13 @@ int main(int count, char ** words)
     QApplication application(count, words);
     apply_looks(application);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() < 3) {
-        std::fprintf(stderr, "usage: tessaloom-screens FOLDER SPLASH [PREVIEW]\n");
+    if (arguments.size() != 2) {
+        std::fprintf(stderr, "usage: tessaloom-screens FOLDER\n");
         return 1;
     }
-    scripted_desktop desk;
-    windows all(desk, listed({}));
-    for (picture * swatch : {&all.main.picFrameColor, &all.main.picShadowColor, &all.main.picBGcolor})
-        swatch->on_click = [] {};
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(all.main, *window, {});
-    all.main.load();
-    all.main.picSplash.load(arguments[2].toStdString());
-    all.main.picSample.load(arguments.value(3).toStdString());
-    window->show();
-    draw(all, *window, arguments[1]);
+    filled_session session;
+    make_collage(session);
+    draw_views(session, arguments[1]);
+    draw_stages(session, arguments[1]);
     return 0;
 }

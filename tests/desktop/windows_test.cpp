@@ -3,6 +3,7 @@
 #include "../scripted_desktop.h"
 #include "desktop/binder.h"
 #include "desktop/windows_made.h"
+#include "layout_checks.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -13,7 +14,6 @@
 #include <QRadioButton>
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace {
 
@@ -22,28 +22,6 @@ std::vector<form *> all_forms(windows & all)
     std::vector<form *> forms = all.others();
     forms.push_back(&all.main);
     return forms;
-}
-
-// A letter that two captions of a window share; blanks aside. Entries of menus have letters of their own.
-std::string shared_letters(const QWidget & window)
-{
-    std::map<QString, QString> owners;
-    std::string faults;
-    const auto note = [&](const QString & name, const QString & caption) {
-        const qsizetype at = QString(caption).replace("&&", "  ").indexOf('&');
-        if (at < 0)
-            return;
-        const QString letter = caption.mid(at + 1, 1).toUpper();
-        if (owners.contains(letter))
-            faults += (letter + ": " + owners[letter] + ", " + name + "\n").toStdString();
-        owners[letter] = name;
-    };
-    for (const QAbstractButton * one : window.findChildren<QAbstractButton *>())
-        note(one->objectName(), one->text());
-    for (const QLabel * one : window.findChildren<QLabel *>())
-        if (one->buddy())
-            note(one->objectName(), one->text());
-    return faults;
 }
 
 TEST(windows, every_control_has_its_widget_and_every_named_widget_its_control)
@@ -86,7 +64,7 @@ TEST(windows, no_two_controls_of_a_window_share_a_letter)
     for (form * one : all_forms(all)) {
         const std::unique_ptr<QWidget> window = make_window(one->name());
         bind(*one, *window, {});
-        EXPECT_EQ(shared_letters(*window), "") << one->name();
+        EXPECT_EQ(shared_letters(*window), std::vector<std::string>()) << one->name();
     }
 }
 

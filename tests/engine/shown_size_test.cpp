@@ -36,6 +36,12 @@ TEST(shown_size, a_portrait_is_scrolled_rather_than_shown_tiny)
     EXPECT_LT(on_small.scroll.height, on_small.picture.height);
 }
 
+TEST(shown_size, a_portrait_is_never_scrolled_sideways)
+{
+    const shown_size sizes = shown_size_of({2000, 3000}, {360, 360});
+    EXPECT_LT(sizes.picture.width, sizes.scroll.width);
+}
+
 TEST(shown_size, no_window_leaves_the_screen)
 {
     for (const picture_size own :

@@ -1,0 +1,170 @@
+#include "desktop/binder.h"
+#include "desktop/captions.h"
+#include "desktop/windows_made.h"
+#include "layout_checks.h"
+#include "window_views.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using faults = std::vector<std::string>;
+
+constexpr int usual_letters = 12, large_letters = 16;  // pixels
+
+// What the smallest screens have room for.
+constexpr int widest_window = 1040, highest_window = 740;
+
+// One session for all: its making takes longer than the looking.
+struct every_window : testing::TestWithParam<int> {
+    static void SetUpTestSuite()
+    {
+        kept = std::make_unique<filled_session>();
+        kept->desk.room = {.width = widest_window, .height = highest_window};
+    }
+    static void TearDownTestSuite() { kept.reset(); }
+    every_window() { set_letters(GetParam()); }
+    ~every_window() override { set_letters(usual_letters); }
+
+    static void set_letters(int pixels)
+    {
+        QFont font = QApplication::font();
+        font.setPixelSize(pixels);
+        QApplication::setFont(font);
+    }
+
+    template <typename Look>
+    void look_at_each(Look look)
+    {
+        for (const window_view & view : kept->views()) {
+            SCOPED_TRACE(view.name);
+            const shown_view shown(view);
+            ASSERT_TRUE(view.window->loaded()) << "closes itself in a session like this one";
+            look(*view.window, shown.window());
+        }
+    }
+    static std::unique_ptr<filled_session> kept;
+};
+
+std::unique_ptr<filled_session> every_window::kept;
+
+TEST_P(every_window, has_no_two_widgets_that_overlap)
+{
+    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(overlaps(held, window), faults()); });
+}
+
+TEST_P(every_window, keeps_its_widgets_in_their_groups)
+{
+    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(strays(held, window), faults()); });
+}
+
+TEST_P(every_window, cuts_no_text)
+{
+    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(cut_texts(held, window), faults()); });
+}
+
+TEST_P(every_window, is_no_larger_than_a_small_screen)
+{
+    look_at_each([](form &, QWidget & window) {
+        EXPECT_LE(window.width(), widest_window);
+        EXPECT_LE(window.height(), highest_window);
+    });
+}
+
+TEST_P(every_window, lets_the_tab_key_follow_the_eye)
+{
+    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(tab_order_faults(held, window), faults()); });
+}
+
+TEST_P(every_window, has_a_name_for_each_widget_that_the_keyboard_reaches)
+{
+    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(names_missing(held, window), faults()); });
+}
+
+TEST_P(every_window, has_no_letter_twice)
+{
+    look_at_each([](form &, QWidget & window) { EXPECT_EQ(shared_letters(window), faults()); });
+}
+
+TEST_P(every_window, is_called_by_its_title_without_the_blanks_between_the_letters)
+{
+    look_at_each([](form &, QWidget & window) {
+        EXPECT_FALSE(window.windowTitle().isEmpty());
+        EXPECT_EQ(window.accessibleName(), unspaced(window.windowTitle()));
+    });
+}
+
+TEST_P(every_window, takes_enter_for_its_ok)
+{
+    look_at_each([](form & held, QWidget & window) {
+        for (const char * name : {"cmdOk", "cmdOK"})
+            if (held.find(name)) {
+                EXPECT_TRUE(window.findChild<QPushButton *>(QLatin1String(name))->isDefault());
+            }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(letters, every_window, testing::Values(usual_letters, large_letters),
+                         [](const auto & each) { return std::to_string(each.param) + "_pixels"; });
+
+// ---- what a reader of the screen hears
+
+// The toolkit's own events can't be heard without a reader of the screen, so the announcements are counted.
+TEST(announcements, what_is_going_on_is_told_once_for_each_new_text)
+{
+    scripted_desktop desk;
+    windows all(desk, listed({}));
+    const std::unique_ptr<QWidget> main = make_window("frmMain"), count = make_window("frmPhotoCnt");
+    bind(all.main, *main, {});
+    bind(all.photo_count, *count, {});
+    const auto told = [](QWidget & window, const char * name) {
+        return window.findChild<QWidget *>(QLatin1String(name))->property("announcements").toInt();
+    };
+    all.main.txtDoing.set_text("Image number 1");
+    all.main.txtDoing.set_text("Image number 2");
+    all.main.txtDoing.enable(false);
+    all.main.lblOutput.set_caption("Photos from a folder");
+    all.photo_count.lblAnnounce.set_caption("a.jpg");
+    EXPECT_EQ(told(*main, "txtDoing"), 2);
+    EXPECT_EQ(told(*main, "lblOutput"), 1);
+    EXPECT_EQ(told(*count, "lblAnnounce"), 1);
+    EXPECT_EQ(told(*main, "lblDesign"), 0);
+}
+
+TEST(announcements, every_label_of_a_state_is_one_that_is_told)
+{
+    scripted_desktop desk;
+    windows all(desk, listed({}));
+    std::vector<form *> forms = all.others();
+    forms.push_back(&all.main);
+    for (const form * each : forms) {
+        const std::unique_ptr<QWidget> window = make_window(each->name());
+        for (const char * name : {"txtDoing", "lblOutput", "lblCount", "lblAnnounce", "txtCounting"})
+            if (const auto * const widget = window->findChild<QWidget *>(QLatin1String(name))) {
+                EXPECT_TRUE(widget->property("announced").toBool()) << each->name() << " " << name;
+            }
+    }
+}
+
+TEST(swatches, say_their_colour)
+{
+    scripted_desktop desk;
+    windows all(desk, listed({}));
+    for (picture * swatch : {&all.main.picFrameColor, &all.main.picShadowColor, &all.main.picBGcolor})
+        swatch->on_click = [] {};
+    const std::unique_ptr<QWidget> main = make_window("frmMain");
+    bind(all.main, *main, {});
+    all.main.picFrameColor.set_back_color(0x0000FF);
+    auto * const swatch = main->findChild<QWidget *>(QLatin1String("picFrameColor"));
+    QAccessibleInterface * const reader = QAccessible::queryAccessibleInterface(swatch);
+    ASSERT_NE(reader, nullptr);
+    EXPECT_EQ(reader->text(QAccessible::Name).toStdString(), "Color of the frames");
+    EXPECT_EQ(reader->text(QAccessible::Description).toStdString(), "#ff0000");
+    EXPECT_EQ(reader->role(), QAccessible::Button);
+}
+
+}  // namespace

@@ -1,0 +1,137 @@
+#include "window_views.h"
+
+#include "../pictures.h"
+#include "desktop/binder.h"
+#include "desktop/windows_made.h"
+#include "photos/photo_list.h"
+#include "session/connect_all.h"
+#include "session/start_up.h"
+#include "support/colors.h"
+#include "support/paths.h"
+#include "support/text_file.h"
+
+#include <QApplication>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+void save_lists(const filled_session & session, const frmMain & main)
+{
+    std::string lines;
+    for (int i = 0; i <= main.table.last_photo; ++i)
+        lines += main.table[i] + "\r\n";
+    for (const char * name : {"Summer by the sea", "Grandmother's birthday", "last_photos"})
+        session.folder.write(std::string("piclists/") + name + ".pls", lines);
+}
+
+void choose_photos(filled_session & session)
+{
+    frmMain & main = session.all.main;
+    photos_of_folder(main, session.folder.at("photos"));
+    save_lists(session, main);
+    set_photo_source_kind(main, photo_source::folder);
+    main.lblPhotos.set_caption("Folder:");
+    main.txtPhotos.set_text("photos");
+    main.txtPhotos.tag = session.folder.at("photos");
+}
+
+void begin_caption(frmMain & main)
+{
+    main.txtCaption.set_font({.name = "DejaVu Serif", .size = 20, .italic = true});
+    main.txtCaption.tag = "120";
+    main.txtCaption.set_back_color(0);
+    main.txtCaption.set_fore_color(0xFFFFFF);
+    main.font_extended = true;
+}
+
+std::string square_of(const filled_session & session, const std::string & picture)
+{
+    const std::string path = session.folder.at("tmp/square.jpg");
+    save_jpeg(copied(load_picture(picture_format::jpeg, picture), 0, 0, 2000, 2000), path);
+    return path;
+}
+
+}  // namespace
+
+filled_session::filled_session()
+{
+    desk.keeps_messages = true;
+    std::filesystem::copy(BUILT_SEED, folder.path(), std::filesystem::copy_options::recursive);
+    std::filesystem::copy(SAMPLE_PHOTOS, folder.at("photos"));
+    all.main.install_folder = folder.path();
+    prepare_data_folder(all.main, {});
+    connect_all(all);
+    all.main.load();
+    desk.fonts = {"Bitstream Charter", "Bitstream Charter", "DejaVu Sans",
+                  "DejaVu Sans Mono",  "DejaVu Serif",      "Liberation Sans"};
+    choose_photos(*this);
+    begin_caption(all.main);
+}
+
+void filled_session::add_image_views(std::vector<window_view> & views)
+{
+    const auto add = [&](const std::string & name, const std::string & picture, image_face face) {
+        views.push_back({.name = "frmImage_" + name,
+                         .window = &all.image,
+                         .prepare =
+                             [this, picture, face] {
+                                 all.main.image_to_show = picture;
+                                 all.main.shown_as = face;
+                             },
+                         .fill = {}});
+    };
+    const std::string autumn = folder.at("images/autumn.jpg"), night = folder.at("images/starry_night.jpg");
+    add("portrait", collage.empty() ? autumn : collage, image_face::finished);
+    add("landscape", night, image_face::finished);
+    add("square", square_of(*this, night), image_face::finished);
+    add("sample", folder.at("samples/not_yet.jpg"), image_face::sample);
+}
+
+void filled_session::add_small_views(std::vector<window_view> & views)
+{
+    views.push_back({.name = "frmPhotoCnt", .window = &all.photo_count, .prepare = {}, .fill = [this] {
+                         all.photo_count.lblAnnounce.set_caption(
+                             "photos/of a long summer by the sea/beach_012.jpg");
+                     }});
+    views.push_back({.name = "frmSize", .window = &all.size, .prepare = {}, .fill = {}});
+    views.push_back({.name = "frmSize_custom", .window = &all.size, .prepare = {}, .fill = [this] {
+                         all.size.optCustom.select();
+                         all.size.txtSize.set_text("4200");
+                     }});
+    views.push_back({.name = "frmFont_plain",
+                     .window = &all.font,
+                     .prepare = [this] { all.main.font_extended = false; },
+                     .fill = [this] { all.main.font_extended = true; }});
+}
+
+std::vector<window_view> filled_session::views()
+{
+    std::vector<window_view> views;
+    add_image_views(views);
+    add_small_views(views);
+    for (form * each : all.others()) {
+        const auto is_its = [&](const window_view & view) { return view.name == each->name(); };
+        if (each != &all.image && std::none_of(views.begin(), views.end(), is_its))
+            views.push_back({.name = each->name(), .window = each, .prepare = {}, .fill = {}});
+    }
+    return views;
+}
+
+shown_view::shown_view(const window_view & wanted)
+    : held(*wanted.window), widget(make_window(wanted.window->name()))
+{
+    bind(held, *widget, {});
+    fire(wanted.prepare);
+    held.load();
+    fire(wanted.fill);
+    widget->show();
+    widget->activateWindow();
+    QApplication::processEvents();
+}
+
+shown_view::~shown_view()
+{
+    held.unload();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "../scripted_desktop.h"
+#include "../temporary_folder.h"
+#include "session/windows.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// A state of a window that is worth looking at.
+struct window_view {
+    std::string name;  ///< "frmImage_landscape"
+    form * window = nullptr;
+    std::function<void()> prepare;  ///< runs before the window is loaded
+    std::function<void()> fill;     ///< runs when it is open
+};
+
+/// A session in the midst of its work: the program's own data, the sample photos as a folder, a saved list
+/// and a selection. A person sits at it who answers nothing.
+struct filled_session {
+    filled_session();
+    /// Every window but the main one, in one state or several.
+    std::vector<window_view> views();
+
+    std::string collage;  ///< a finished one to show, if there is one
+    std::string preview;
+    temporary_folder folder;
+    scripted_desktop desk;
+    windows all{desk, seeded_random(7)};
+
+private:
+    void add_image_views(std::vector<window_view> & views);
+    void add_small_views(std::vector<window_view> & views);
+};
+
+/// The window of a view while it lives: open, bound and shown.
+class shown_view {
+public:
+    explicit shown_view(const window_view & wanted);
+    shown_view(const shown_view &) = delete;
+    shown_view & operator=(const shown_view &) = delete;
+    ~shown_view();
+    QWidget & window() const { return *widget; }
+
+private:
+    form & held;
+    std::unique_ptr<QWidget> widget;
+};
