@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
 
@@ -28,6 +29,7 @@ public:
 
 private:
     void bind_control(control & held);
+    void bind_focus(control & held, QObject & found);
     void show_control(control & held, QObject & widget);
     void show_widget(control & held, QWidget & widget);
     void show_window();
@@ -88,6 +90,7 @@ void binding::bind_control(control & held)
         boxes.insert(found, text);
     if (auto * const text = dynamic_cast<label *>(&held))
         labels.insert(found, text);
+    bind_focus(held, *found);
     listen(held, *found, *this, [this, &held, found](const std::function<void()> & step) {
         act(step);
         show_control(held, *found);
@@ -97,6 +100,23 @@ void binding::bind_control(control & held)
             guard->show_control(held, *found);
     };
     show_control(held, *found);
+}
+
+// A menu that stands in no bar pops up where the user asked for it.
+void binding::bind_focus(control & held, QObject & found)
+{
+    if (auto * const widget = qobject_cast<QWidget *>(&found))
+        held.on_take_focus = [widget = QPointer(widget)] {
+            if (widget)
+                widget->setFocus(Qt::OtherFocusReason);
+        };
+    auto * const entry = dynamic_cast<menu_entry *>(&held);
+    auto * const action = qobject_cast<QAction *>(&found);
+    if (entry && action && action->menu())
+        entry->on_pop_up = [menu = QPointer(action->menu()), this] {
+            if (menu)
+                menu->popup(window.property("popup_at").toPoint());
+        };
 }
 
 void binding::show_control(control & held, QObject & widget)

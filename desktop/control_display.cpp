@@ -173,9 +173,10 @@ void display_content(const label & held, QLabel & widget)
 
 void display_content(const picture & held, picture_view & widget)
 {
-    const bool usable = static_cast<bool>(held.on_click);
-    widget.setFocusPolicy(usable ? Qt::StrongFocus : Qt::NoFocus);
-    widget.setCursor(usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    const bool usable = static_cast<bool>(held.on_click), can_be_dragged = static_cast<bool>(held.on_drop);
+    widget.setFocusPolicy(usable || can_be_dragged ? Qt::StrongFocus : Qt::NoFocus);
+    widget.setCursor(can_be_dragged ? Qt::OpenHandCursor : usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    widget.set_draggable(can_be_dragged);
     widget.set_back_color(shown_color(held.back_color()));
     if (usable && held.file().empty())
         widget.setAccessibleDescription(shown_color(held.back_color()).name());
@@ -225,11 +226,13 @@ void display_tool_tip(const control & held, QWidget & widget)
 
 void display(control & held, QObject & shown_on)
 {
-    visit_pair(held, shown_on, [](auto & known, auto & widget) { display_content(known, widget); });
     auto * const widget = qobject_cast<QWidget *>(&shown_on);
+    if (widget)
+        display_place(held, *widget);  // a picture is read as large as it stands
+    visit_pair(held, shown_on, [](auto & known, auto & its_widget) { display_content(known, its_widget); });
     if (!widget)
         return;
     widget->setEnabled(held.enabled());
     display_tool_tip(held, *widget);
-    display_place(held, *widget);
+    display_place(held, *widget);  // and a text takes the room it needs
 }

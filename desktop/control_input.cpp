@@ -27,6 +27,15 @@ struct listener {
     void operator()(picture & held, picture_view & widget) const
     {
         connect_click(widget, [&held] { held.click(); });
+        QObject::connect(&widget, &picture_view::dropped, &owner,
+                         [run = act, &held](QPoint at) { run([&held, at] { held.drop(at.x(), at.y()); }); });
+        QObject::connect(&widget, &picture_view::asked, &owner,
+                         [run = act, &held](picture_key what) { run([&held, what] { held.press(what); }); });
+        QObject::connect(&widget, &picture_view::popup_wanted, &owner,
+                         [run = act, &held, &widget](QPoint global) {
+                             widget.window()->setProperty("popup_at", global);
+                             run([&held] { held.ask_popup(); });
+                         });
     }
 
     void operator()(menu_entry & held, QAction & widget) const

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "support/forms.h"
+
 #include <QAbstractButton>
 #include <QImage>
+#include <QLabel>
+#include <QPointer>
 
 #include <string>
 
@@ -15,6 +19,8 @@ class picture_view : public QAbstractButton {
     Q_PROPERTY(bool scaled READ scaled WRITE set_scaled)
     /// True: a picture larger than the view is shown whole, as large as fits, in the middle.
     Q_PROPERTY(bool fitted MEMBER fits_whole)
+    /// True: the picture fills the view, and no more of it is kept than that takes.
+    Q_PROPERTY(bool filled READ filled WRITE set_filled)
 
 public:
     explicit picture_view(QWidget * parent = nullptr);
@@ -28,19 +34,42 @@ public:
     void set_back_color(const QColor & color);
     const QColor & back_color() const { return back; }
     const QImage & image() const { return picture; }
+    bool filled() const { return fills_view; }
+    void set_filled(bool fills) { fills_view = fills; }
+    /// One that can be dragged over the widget it stands in. It can take the keyboard, from which arrow keys
+    /// lead to the nearest picture in their direction.
+    void set_draggable(bool can_be_dragged);
 
     QSize sizeHint() const override;
     bool hasHeightForWidth() const override { return fits_width; }
     int heightForWidth(int width) const override;
 
+signals:
+    /// Let go after a drag, at that point of the parent.
+    void dropped(QPoint at);
+    void popup_wanted(QPoint global);
+    void asked(picture_key what);
+
 protected:
     void paintEvent(QPaintEvent * event) override;
     void keyPressEvent(QKeyEvent * event) override;
+    void mousePressEvent(QMouseEvent * event) override;
+    void mouseMoveEvent(QMouseEvent * event) override;
+    void mouseReleaseEvent(QMouseEvent * event) override;
+    void hideEvent(QHideEvent * event) override;
+    void contextMenuEvent(QContextMenuEvent * event) override;
 
 private:
+    bool drag_key(const QKeyEvent & event);
+    void begin_drag();
+    void end_drag();
+    void focus_towards(picture_key direction);
+
     QImage picture;
     QColor back;
-    bool fits_width = false, fits_whole = false;
+    bool fits_width = false, fits_whole = false, fills_view = false, can_be_dragged = false;
+    QPoint grabbed_at;
+    QPointer<QLabel> ghost;  // what follows the mouse
 
     QRect whole_place() const;
 };

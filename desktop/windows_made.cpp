@@ -6,7 +6,9 @@
 #include "ui_frmMain.h"
 #include "ui_frmPhotoCnt.h"
 #include "ui_frmPhotoList.h"
+#include "ui_frmPictureList.h"
 #include "ui_frmPictureName.h"
+#include "ui_frmPictures.h"
 #include "ui_frmSelectPhotos.h"
 #include "ui_frmSize.h"
 #include "ui_frmThemes.h"
@@ -39,6 +41,8 @@ constexpr std::array makers{
     maker{"frmSelectPhotos", made<QDialog, Ui::frmSelectPhotos>},
     maker{"frmPhotoList", made<QDialog, Ui::frmPhotoList>},
     maker{"frmPictureName", made<QDialog, Ui::frmPictureName>},
+    maker{"frmPictureList", made<QDialog, Ui::frmPictureList>},
+    maker{"frmPictures", made<QDialog, Ui::frmPictures>},
     maker{"frmThemes", made<QDialog, Ui::frmThemes>},
     maker{"frmImage", made<QDialog, Ui::frmImage>},
     maker{"frmSize", made<QDialog, Ui::frmSize>},

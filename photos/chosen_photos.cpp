@@ -1,5 +1,6 @@
 #include "photos/chosen_photos.h"
 
+#include "photos/list_name.h"
 #include "photos/photo_list.h"
 #include "session/windows.h"
 
@@ -35,8 +36,12 @@ void take_chosen_photos(frmMain & main)
     count_with_progress(main);
 }
 
-// Nothing to choose from yet: the window of the saved lists is on its way.
 void get_photo_list(frmMain & main)
 {
-    main.txtPhotos.tag.clear();
+    main.photo_list_edit_mode = false;
+    main.desk.show_modal(main.all->picture_list);
+    if (main.txtPhotos.tag.empty())
+        return;
+    main.all->select_photos.txtCards.set_text(list_name(main.txtPhotos.tag));
+    main.all->select_photos.optList.tag = "True";
 }

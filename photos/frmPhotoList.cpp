@@ -40,6 +40,17 @@ void cmdClear_click(windows & all)
     display_count(all);
 }
 
+void cmdEdit_click(windows & all)
+{
+    all.pictures.edit_mode = editing::selection;
+    all.pictures.edit_list_path = all.main.working_list_path;
+    all.photo_list.txtCounting.set_caption("");
+    all.photo_list.txtCounting.show(true);
+    all.main.desk.show_modal(all.pictures);
+    all.photo_list.txtCounting.show(false);
+    display_count(all);
+}
+
 void cmdDone_click(windows & all)
 {
     if (all.main.selected_count >= 1) {
@@ -64,10 +75,12 @@ void connect_frmPhotoList(windows & all)
     window.cmdFolder.on_click = [&all] { cmdFolder_click(all); };
     window.cmdPhotos.on_click = [&all] { cmdPhotos_click(all); };
     window.cmdClear.on_click = [&all] { cmdClear_click(all); };
+    window.cmdEdit.on_click = [&all] { cmdEdit_click(all); };
     window.cmdDone.on_click = [&all] { cmdDone_click(all); };
     window.cmdCancel.on_click = [&all] { close_without_choice(all); };
     window.on_query_unload = [&all] {
-        close_without_choice(all);
+        if (!all.pictures.loaded())  // its photos are being checked
+            close_without_choice(all);
         return false;
     };
     window.cmdHelp.on_click = [&all] { show_help(all.main, "photo_list.htm"); };

@@ -23,6 +23,3 @@ struct frmPhotoList : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 };
-
-/// Most photos of a list that the editor takes.
-inline constexpr int editable_photos = 60;

@@ -34,6 +34,12 @@ std::string list_name_fault(std::string_view name)
     return {};
 }
 
+std::string list_name(std::string_view path)
+{
+    const std::string file = name_of(path);
+    return file.substr(0, file.rfind('.'));
+}
+
 bool is_saved_list(std::string_view file_name)
 {
     return lower_case(file_name).ends_with(".pls") && file_name != "__last__.pls";

@@ -105,17 +105,23 @@ std::string get_photo_folder(frmMain & main)
     return folder.value_or("");
 }
 
-void get_selected_photos(frmMain & main)
+std::vector<std::string> choose_photos(frmMain & main)
 {
     file_request asked = images_to_select;
     asked.folder = main.photo_folder;
-    const std::vector<std::string> photos = main.desk.choose_files(asked);
-    if (photos.empty()) {
+    std::vector<std::string> photos = main.desk.choose_files(asked);
+    if (!photos.empty())
+        main.photo_folder = folder_of(photos.front());
+    return photos;
+}
+
+void get_selected_photos(frmMain & main)
+{
+    const std::vector<std::string> photos = choose_photos(main);
+    if (photos.empty())
         main.photo_choice_cancelled = true;
-        return;
-    }
-    main.photo_folder = folder_of(photos.front());
-    append_to_list(main, photos);
+    else
+        append_to_list(main, photos);
 }
 
 void append_to_list(frmMain & main, const std::vector<std::string> & photos)

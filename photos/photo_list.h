@@ -19,6 +19,9 @@ void photos_of_folder(frmMain & main, const std::string & folder);
 /// `folder_cancelled`. Gives the folder.
 std::string get_photo_folder(frmMain & main);
 
+/// Lets the user choose image files, where the last ones came from; none after a cancel.
+std::vector<std::string> choose_photos(frmMain & main);
+
 /// Lets the user choose files and appends them to the list at the tag of `txtPhotos`, which becomes
 /// `last_photos.pls` when it is empty. A cancel sets `photo_choice_cancelled`.
 void get_selected_photos(frmMain & main);

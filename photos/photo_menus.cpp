@@ -1,6 +1,8 @@
 #include "photos/photo_list.h"
+#include "photos/saved_lists.h"
 #include "session/handlers.h"
 #include "support/paths.h"
+#include "support/text_file.h"
 
 // The menu of the photo lists.
 
@@ -44,10 +46,40 @@ void mnuSaveLast_click(frmMain & main)
         save_last_list(main, list);
 }
 
+// A list that the user edited or deleted may have been the working list itself.
+void recount_working_list(frmMain & main)
+{
+    const std::string list = last_photos_path(main);
+    int count = 0;
+    if (file_exists(list))
+        for (line_source lines(list); !lines.at_end(); ++count)
+            lines.read_line();
+    main.selected_count = narrow(count);
+    main.cmdPhotos.tag = std::to_string(count);
+}
+
+// The lists are managed and no source of a collage.
+void mnuEditSelections_click(frmMain & main)
+{
+    main.picSplash.show(false);
+    main.picSample.load("");
+    main.photo_list_edit_mode = true;
+    start_photo_list(main);
+    if (main.all->picture_list.lstPictures.items().empty()) {
+        main.desk.message("You have not created any photo lists yet.");
+        return;
+    }
+    const std::string source = main.txtPhotos.tag;
+    main.desk.show_modal(main.all->picture_list);
+    main.txtPhotos.tag = source;
+    recount_working_list(main);
+}
+
 }  // namespace
 
 void connect_photo_menus(windows & all)
 {
     all.main.mnuNewList.on_click = [&all] { mnuNewList_click(all.main); };
+    all.main.mnuEditSelections.on_click = [&all] { mnuEditSelections_click(all.main); };
     all.main.mnuSaveLast.on_click = [&all] { mnuSaveLast_click(all.main); };
 }

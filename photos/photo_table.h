@@ -30,5 +30,8 @@ struct photo_table {
 /// Where the photos of the collage come from; held as text in the tag of `lblPhotos`.
 enum class photo_source { none = 0, folder = 1, list = 2, selection = 3 };
 
+/// Most photos of a list that can be edited.
+inline constexpr int editable_photos = 60;
+
 /// What `last_photo` holds after the folder chooser was cancelled.
 inline constexpr int16 folder_cancelled = 999;

@@ -1,5 +1,6 @@
 #include "photos/thumbnails.h"
 
+#include "support/beside.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
 
@@ -39,6 +40,15 @@ bool cleared_place(const std::string & thumbnail)
            folder_writable(folder);
 }
 
+// The thumbnail, or the photo where it can't be written.
+std::string made_thumbnail(const std::string & photo, const std::string & thumbnail)
+{
+    const bitmap small = small_picture(photo);
+    if (!small)
+        return thumbnail;
+    return written([&] { save_jpeg(small, thumbnail); }) ? thumbnail : photo;
+}
+
 }  // namespace
 
 std::string chk_sample_thumb(frmMain & main, const std::string & photo)
@@ -53,10 +63,7 @@ std::string chk_sample_thumb(frmMain & main, const std::string & photo)
     }
     if (!cleared_place(thumbnail))
         return photo;
-    const bitmap small = small_picture(photo);
-    if (!small)
-        return thumbnail;
-    return written([&] { save_jpeg(small, thumbnail); }) ? thumbnail : photo;
+    return beside(main.desk, [&] { return made_thumbnail(photo, thumbnail); });
 }
 
 void photos_from_thumbnails(frmMain & main)

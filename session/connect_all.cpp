@@ -21,6 +21,8 @@ void connect_all(windows & all)
     connect_frmSelectPhotos(all);
     connect_frmPhotoList(all);
     connect_frmPictureName(all);
+    connect_frmPictureList(all);
+    connect_frmPictures(all);
     connect_photo_menus(all);
     connect_frmSize(all);
     connect_frmFont(all);

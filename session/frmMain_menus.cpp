@@ -10,7 +10,7 @@ void disable_unanswered(frmMain & main)
 {
     for (menu_entry * each : {&main.mnuQuick, &main.mnuMatrix, &main.mnuLettering, &main.mnuPuzzle,
                               &main.mnuSeparator, &main.mnuImport, &main.mnuEditDesigns, &main.mnuSaveDesign,
-                              &main.mnuEditSelections, &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon})
+                              &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon})
         each->enable(false);
 }
 

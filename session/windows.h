@@ -4,7 +4,9 @@
 #include "engine/frmImage.h"
 #include "photos/frmPhotoCnt.h"
 #include "photos/frmPhotoList.h"
+#include "photos/frmPictureList.h"
 #include "photos/frmPictureName.h"
+#include "photos/frmPictures.h"
 #include "photos/frmSelectPhotos.h"
 #include "session/frmMain.h"
 #include "support/frmAbout.h"
@@ -21,6 +23,8 @@ struct windows {
     frmSelectPhotos select_photos;
     frmPhotoList photo_list;
     frmPictureName picture_name;
+    frmPictureList picture_list;
+    frmPictures pictures;
     frmThemes themes;
     frmImage image;
     frmSize size;
@@ -30,7 +34,7 @@ struct windows {
     /// Every window but the main one, in the order above.
     std::vector<form *> others()
     {
-        return {&photo_count, &select_photos, &photo_list, &picture_name, &themes,
-                &image,       &size,          &font,       &about};
+        return {&photo_count, &select_photos, &photo_list, &picture_name, &picture_list, &pictures,
+                &themes,      &image,         &size,       &font,         &about};
     }
 };

@@ -123,6 +123,16 @@ void save_bmp(const bitmap & image, const std::string & path)
     write_file(path, encoded(image, FIF_BMP, 0));
 }
 
+void save_picture(picture_format format, const bitmap & image, const std::string & path)
+{
+    if (format != picture_format::gif) {
+        write_file(path, encoded(image, static_cast<FREE_IMAGE_FORMAT>(format), superb_quality));
+        return;
+    }
+    const bitmap in_256_colors(image ? FreeImage_ColorQuantize(image.get(), FIQ_WUQUANT) : nullptr);
+    write_file(path, encoded(in_256_colors, FIF_GIF, 0));
+}
+
 bitmap rescaled(const bitmap & image, int width, int height)
 {
     if (!image || width <= 0 || height <= 0)

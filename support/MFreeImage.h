@@ -56,7 +56,7 @@ private:
 inline constexpr int pixel_bytes = 3;
 
 /// The library's own codes, as far as the system passes them.
-enum class picture_format { bmp = 0, jpeg = 2, gif = 25 };
+enum class picture_format { bmp = 0, ico = 1, jpeg = 2, png = 13, tiff = 18, gif = 25 };
 
 struct picture_size {
     int width = 0, height = 0;
@@ -82,6 +82,9 @@ void save_jpeg(const bitmap & image, const std::string & path);
 
 /// The same as a BMP file.
 void save_bmp(const bitmap & image, const std::string & path);
+
+/// The same as a file of that format; a GIF has the 256 colours that come nearest.
+void save_picture(picture_format format, const bitmap & image, const std::string & path);
 
 /// A new bitmap of that size, bilinear. An empty source or size gives no bitmap.
 bitmap rescaled(const bitmap & image, int width, int height);

@@ -51,6 +51,11 @@ void control::changed() const
     fire(on_shown_change);
 }
 
+void control::take_focus() const
+{
+    fire(on_take_focus);
+}
+
 void control::show(bool on)
 {
     if (replaced(shown, on))
@@ -114,9 +119,31 @@ void menu_entry::click()
     fire(on_click);
 }
 
+void menu_entry::pop_up() const
+{
+    fire(on_pop_up);
+}
+
 void picture::click()
 {
     fire(on_click);
+}
+
+void picture::drop(int x, int y)
+{
+    if (on_drop)
+        on_drop(x, y);
+}
+
+void picture::press(picture_key pressed)
+{
+    if (on_key)
+        on_key(pressed);
+}
+
+void picture::ask_popup()
+{
+    fire(on_popup);
 }
 
 void picture::load(std::string path)

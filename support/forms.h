@@ -49,6 +49,9 @@ public:
     std::uint32_t fore_color() const { return fore; }
     void set_fore_color(std::uint32_t color);
 
+    /// Gives it the keyboard.
+    void take_focus() const;
+
     /// Data that travels with the control and is never shown.
     std::string tag;
 
@@ -60,6 +63,7 @@ public:
 
     /// Told after each change of anything above; set by whoever shows the control, by nobody else.
     std::function<void()> on_shown_change;
+    std::function<void()> on_take_focus;  ///< likewise
 
 protected:
     void changed() const;
@@ -99,7 +103,14 @@ public:
     using control::control;
     std::function<void()> on_click;
     void click();
+    /// Shows the entries of a menu that belongs to no bar where the user asked for them: at the mouse, or at
+    /// the control that has the keyboard.
+    void pop_up() const;
+    std::function<void()> on_pop_up;  ///< set by whoever shows the menu
 };
+
+/// What the keyboard can ask of a picture that can be dragged.
+enum class picture_key { left, right, up, down, remove };
 
 /// A picture control: shows a file, unscaled from the top left and cut at its edge, or just its back colour.
 class picture : public control {
@@ -107,6 +118,16 @@ public:
     using control::control;
     std::function<void()> on_click;
     void click();
+    /// Makes it one that can be dragged: it was let go at that point, in pixels of what it stands in, at
+    /// 100%.
+    std::function<void(int x, int y)> on_drop;
+    void drop(int x, int y);
+    /// Ctrl and an arrow key: one place on in that direction. Or the Delete key.
+    std::function<void(picture_key)> on_key;
+    void press(picture_key pressed);
+    /// The right mouse button, the Menu key or Shift+F10.
+    std::function<void()> on_popup;
+    void ask_popup();
     const std::string & file() const { return shown_file; }
     /// Shows the file as it is now, even when its path is the one shown before; an empty path clears the
     /// control.

@@ -1,0 +1,19 @@
+#include "photos/saved_lists.h"
+
+#include "photos/list_name.h"
+#include "session/windows.h"
+#include "support/paths.h"
+
+void start_photo_list(frmMain & main)
+{
+    std::vector<std::string> names;
+    for (const std::string & file : files_in(joined(main.data_folder, "piclists")))
+        if (is_saved_list(file))
+            names.push_back(list_name(file));
+    main.all->picture_list.lstPictures.set_items(std::move(names));
+}
+
+std::string saved_list_path(const frmMain & main, const std::string & name)
+{
+    return joined(main.data_folder, "piclists/") + name + ".pls";
+}
