@@ -70,6 +70,13 @@ TEST(edit_thumbnail, has_the_format_of_its_photo)
     }
 }
 
+TEST(edit_thumbnail, an_icon_stands_in_for_itself_since_none_has_that_size)
+{
+    thumbnails session;
+    const std::string icon = session.photo("p/a.ico", picture_format::ico, 32, 32);
+    EXPECT_EQ(session.of(icon).file, icon);
+}
+
 TEST(edit_thumbnail, a_damaged_one_is_made_anew)
 {
     thumbnails session;

@@ -15,6 +15,7 @@ struct opened_session {
     opened_session()
     {
         folder.at("data/tmp/x");
+        folder.at("data/piclists/x");
         main.install_folder = folder.at("install");
         main.data_folder = folder.at("data");
         connect_all(all);
