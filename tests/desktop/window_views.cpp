@@ -4,6 +4,7 @@
 #include "desktop/binder.h"
 #include "desktop/windows_made.h"
 #include "photos/photo_list.h"
+#include "photos/pls_line.h"
 #include "session/connect_all.h"
 #include "session/start_up.h"
 #include "support/colors.h"
@@ -21,7 +22,7 @@ void save_lists(const filled_session & session, const frmMain & main)
 {
     std::string lines;
     for (int i = 0; i <= main.table.last_photo; ++i)
-        lines += main.table[i] + "\r\n";
+        lines += list_line(orientation::unknown, main.table[i]) + "\r\n";
     for (const char * name : {"Summer by the sea", "Grandmother's birthday", "last_photos"})
         session.folder.write(std::string("piclists/") + name + ".pls", lines);
 }
@@ -106,11 +107,52 @@ void filled_session::add_small_views(std::vector<window_view> & views)
                      .fill = [this] { all.main.font_extended = true; }});
 }
 
+// The windows of the photos that have more than one face.
+void filled_session::add_photo_views(std::vector<window_view> & views)
+{
+    frmMain & main = all.main;
+    views.push_back({.name = "frmSelectPhotos_selection",
+                     .window = &all.select_photos,
+                     .prepare =
+                         [&main] {
+                             main.selected_count = 24;
+                             set_photo_source_kind(main, photo_source::selection);
+                         },
+                     .fill = [&main] { set_photo_source_kind(main, photo_source::folder); }});
+    views.push_back(
+        {.name = "frmPhotoList_counting", .window = &all.photo_list, .prepare = {}, .fill = [this] {
+             all.photo_list.txtCounting.set_caption(
+                 "Checking  /home/someone/pictures/of a long summer by the sea/beach_012.jpg...");
+             all.photo_list.txtCounting.show(true);
+         }});
+    views.push_back({.name = "frmPictureList_manager",
+                     .window = &all.picture_list,
+                     .prepare = [&main] { main.photo_list_edit_mode = true; },
+                     .fill =
+                         [this] {
+                             all.main.photo_list_edit_mode = false;
+                             all.picture_list.lstPictures.select(0);
+                         }});
+    const auto edit = [this] {
+        all.pictures.edit_mode = editing::saved_list;
+        all.pictures.edit_list_path = folder.at("piclists/Summer by the sea.pls");
+    };
+    views.push_back({.name = "frmPictures", .window = &all.pictures, .prepare = edit, .fill = {}});
+    views.push_back(
+        {.name = "frmPictures_counting", .window = &all.pictures, .prepare = edit, .fill = [this] {
+             for (button * each : {&all.pictures.cmdAdd, &all.pictures.cmdSave, &all.pictures.cmdCancel,
+                                   &all.pictures.cmdHelp})
+                 each->show(false);
+             all.pictures.txtCounting.show(true);
+         }});
+}
+
 std::vector<window_view> filled_session::views()
 {
     std::vector<window_view> views;
     add_image_views(views);
     add_small_views(views);
+    add_photo_views(views);
     for (form * each : all.others()) {
         const auto is_its = [&](const window_view & view) { return view.name == each->name(); };
         if (each != &all.image && std::none_of(views.begin(), views.end(), is_its))

@@ -35,6 +35,7 @@ struct filled_session {
 private:
     void add_image_views(std::vector<window_view> & views);
     void add_small_views(std::vector<window_view> & views);
+    void add_photo_views(std::vector<window_view> & views);
 };
 
 /// The window of a view while it lives: open, bound and shown.
