@@ -159,7 +159,8 @@ void binding::show_window()
         window.setPalette(colors);
     }
     if (bound.width() > 0 && bound.height() > 0)
-        window.setFixedSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel);
+        window.setFixedSize(QSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel) +
+                            growth_of(window));
     if (!bound.loaded())
         fire(hooks.unloaded);
     else if (is_hidden == bound.visible())

@@ -23,7 +23,7 @@ void clear_stage(frmMain & main)
 }
 
 // A folder is in the table when its chooser closes. A choice cancelled for an earlier collage doesn't count.
-void choose_photos(frmMain & main)
+void ask_for_photos(frmMain & main)
 {
     main.photo_choice_cancelled = false;
     main.desk.show_modal(main.all->select_photos);
@@ -41,7 +41,7 @@ void mnuDesigned_click(frmMain & main)
     if (main.lblDesign.tag.empty())
         main.cmdCancel.click();
     else
-        start_designed(main, [&main] { choose_photos(main); });
+        start_designed(main, [&main] { ask_for_photos(main); });
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Draws every window into a folder, in the states that are worth looking at: tessaloom-screens FOLDER. Set
-// QT_SCALE_FACTOR=2 for screens of double density.
+// Draws every window into a folder, in the states that are worth looking at: tessaloom-screens FOLDER [LETTERS].
+// LETTERS: pixels, the size of the system's font. Set QT_SCALE_FACTOR=2 for screens of double density.
 
 #include "designs/catalogue.h"
 #include "desktop/binder.h"
