@@ -23,9 +23,7 @@ picture_size portrait(picture_size own, picture_size room)
     const int width = own.height > 0 ? height * own.width / own.height : height;
     const int widest = std::max(1, room.width - margins - bar);
     const int least = std::min(least_portrait_width, widest);
-    if (width < least || width > widest)
-        return of_width(own, std::clamp(width, least, widest));
-    return {.width = width, .height = height};
+    return of_width(own, std::clamp(width, least, widest));
 }
 
 shown_size framed(picture_size picture, int frame_width, picture_size room)

@@ -7,6 +7,7 @@
 #include "desktop/windows_made.h"
 #include "engine/run_steps.h"
 #include "session/new_poster.h"
+#include "session/window_state.h"
 #include "stages.h"
 #include "support/paths.h"
 #include "window_views.h"
@@ -51,6 +52,11 @@ void draw_stages(filled_session & session, const QString & folder)
     bind(main, *window, {});
     main.picSplash.load(joined(main.install_folder, "images/splash.png"));
     main.picSample.load(session.preview);
+    const updating as_it_is(main);  // the stages are drawn with the preview that is there
+    enable_all(main);
+    start_enable_true(main);
+    for (option_button * each : main.border_options)
+        each->enable(true);
     window->show();
     for (const look wanted : all_looks)
         for (const shape poster : all_shapes)
