@@ -4,6 +4,7 @@
 #include "desktop/control_display.h"
 #include "desktop/control_input.h"
 #include "desktop/focus_keeper.h"
+#include "desktop/growing_room.h"
 #include "desktop/move_keys.h"
 #include "desktop/qt_text.h"
 
@@ -33,6 +34,7 @@ private:
     void show_control(control & held, QObject & widget);
     void show_widget(control & held, QWidget & widget);
     void show_window();
+    void follow_growth();
     void hide_or_show();
     void show_menu_bar();
     void act(const std::function<void()> & step);
@@ -69,8 +71,17 @@ binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
             guard->show_window();
     };
     show_window();
+    if (QWidget * const grown = growing_widget(window))
+        new growth_watcher(*grown, [this] { follow_growth(); });  // owned by the widget
     if (auto * const first = window.findChild<QWidget *>(window.property("firstFocus").toString()))
         first->setFocus(Qt::OtherFocusReason);
+}
+
+void keep_room(QWidget & widget)
+{
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
 }
 
 void binding::bind_control(control & held)
@@ -80,6 +91,8 @@ void binding::bind_control(control & held)
         return;
     if (auto * const widget = qobject_cast<QWidget *>(found)) {
         widget->installEventFilter(this);
+        if (widget->property("keepsRoom").toBool())
+            keep_room(*widget);
         const QString cover = widget->property("coveredBy").toString();
         if (!cover.isEmpty())
             behind.insert(cover, widget);
@@ -165,6 +178,15 @@ void binding::show_window()
         fire(hooks.unloaded);
     else if (is_hidden == bound.visible())
         hide_or_show();
+}
+
+// Its windows are few, and so are the times.
+void binding::follow_growth()
+{
+    show_window();
+    for (control * held : bound.controls())
+        if (QObject * const found = widget_of(*held, window))
+            show_control(*held, *found);
 }
 
 void binding::hide_or_show()

@@ -1,6 +1,7 @@
 #include "desktop/control_display.h"
 
 #include "desktop/captions.h"
+#include "desktop/growing_room.h"
 #include "desktop/qt_text.h"
 
 #include <QAccessible>
@@ -10,13 +11,6 @@
 #include <algorithm>
 
 namespace {
-
-QWidget * growing_widget(const QWidget & window)
-{
-    const QByteArray name = window.property("grows").toByteArray();
-    return name.isEmpty() ? nullptr : window.findChild<QWidget *>(QString::fromUtf8(name));
-}
-
 
 QString letters_of(const QObject & widget)
 {
@@ -208,18 +202,6 @@ void display_content(const group & held, QWidget & widget)
     }
 }
 
-// What stands right of the widget that grows, or below it, makes room.
-QPoint shift_of(const QWidget & widget, const box & at)
-{
-    const QWidget & window = *widget.window();
-    const QWidget * const grown = growing_widget(window);
-    if (!grown || grown->isAncestorOf(&widget) || widget.parentWidget() != grown->parentWidget())
-        return {};
-    const QSize growth = growth_of(window);
-    return {at.left >= grown->geometry().right() - growth.width() ? growth.width() : 0,
-            at.top >= grown->geometry().bottom() - growth.height() ? growth.height() : 0};
-}
-
 void display_place(const control & held, QWidget & widget)
 {
     const box & at = held.place();
@@ -243,19 +225,6 @@ void display_tool_tip(const control & held, QWidget & widget)
 }
 
 }  // namespace
-
-QSize growth_of(const QWidget & window)
-{
-    QWidget * const widget = growing_widget(window);
-    if (!widget)
-        return {0, 0};
-    if (!widget->property("drawnSize").isValid())
-        widget->setProperty("drawnSize", widget->size());
-    const QSize drawn = widget->property("drawnSize").toSize();
-    const QSize whole = drawn.expandedTo(widget->minimumSizeHint());
-    widget->resize(whole);
-    return whole - drawn;
-}
 
 void display(control & held, QObject & shown_on)
 {

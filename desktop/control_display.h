@@ -13,12 +13,12 @@
 ///   divider    true: an entry of the menu bar that can't be chosen
 ///   verbatim   true: the caption is a text of the user's, shown with any "&" that it holds
 ///   oneStop    true: of the options of its set the Tab key stops at the selected one alone
-///   grows      on the window: the name of a widget with a size of its own that takes more where its content needs
-///              it (larger letters); what is placed right of it or below it moves, and the window grows with it
+///   keepsRoom  true: while hidden it keeps its room in the layout
+///   grows      on the window: the name of a widget with a size of its own that takes more where its content
+///   needs
+///              it (larger letters); what is placed right of it or below it moves, and the window grows with
+///              it
 ///   largest    pixels: the greatest height of letters that its box has room for
-
-/// Pixels by which the window is larger than its form says, for the widget that grows in it; resizes that widget.
-QSize growth_of(const QWidget & window);
 
 /// Brings the widget to the state of its control; fires none of the signals that a user's action fires.
 void display(control & held, QObject & widget);

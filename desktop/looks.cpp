@@ -5,12 +5,18 @@
 #include "support/colors.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QIcon>
 #include <QPalette>
+
+#include <algorithm>
 
 namespace {
 
 const char * const accent = "#f0b050";
+
+// Pixels. The windows are drawn for the first and have room for the second.
+constexpr int smallest_letters = 12, largest_letters = 16;
 
 struct role_color {
     QPalette::ColorRole role;
@@ -81,7 +87,7 @@ void apply_looks(QApplication & application)
 {
     application.setStyle(new indicator_style);  // owned by the application
     QFont font = application.font();
-    font.setPixelSize(12);
+    font.setPixelSize(std::clamp(QFontInfo(font).pixelSize(), smallest_letters, largest_letters));
     application.setFont(font);
     application.setPalette(dark_palette());
     application.setStyleSheet(sheet());

@@ -103,7 +103,10 @@ answer qt_desktop::ask(const question & asked)
 QWidget * qt_desktop::owner() const
 {
     QWidget * const waiting = QApplication::activeModalWidget();
-    if (waiting && waiting->isVisible())
+    const bool stays = std::none_of(windows.begin(), windows.end(), [&](const auto & each) {
+        return each.second.widget == waiting && !each.second.modal_loop;
+    });
+    if (waiting && waiting->isVisible() && stays)
         return waiting;
     for (const auto & [its_form, entry] : windows)
         if (qobject_cast<QMainWindow *>(entry.widget))

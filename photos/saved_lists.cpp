@@ -7,7 +7,8 @@
 void start_photo_list(frmMain & main)
 {
     std::vector<std::string> names;
-    for (const std::string & file : files_in(joined(main.data_folder, "piclists")))
+    const std::string folder = joined(main.data_folder, "piclists");
+    for (const std::string & file : folder_exists(folder) ? files_in(folder) : names)
         if (is_saved_list(file))
             names.push_back(list_name(file));
     main.all->picture_list.lstPictures.set_items(std::move(names));

@@ -299,6 +299,7 @@ TEST_F(photo_dialogs, a_selection_is_gathered_edited_and_taken)
             keep_screen(list, "photo_list.png");
             EXPECT_EQ(found<QLabel>(list, "lblCount")->text(), "Number of photos selected:   3");
             when_asked<QDialog>([this](QDialog & editor) {
+                EXPECT_EQ(focused(), "picIn_0");
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
                 click(editor, "cmdSave");
             });

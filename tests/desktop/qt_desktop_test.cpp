@@ -3,6 +3,7 @@
 #include "../temporary_folder.h"
 #include "session/windows.h"
 #include "support/platform_error.h"
+#include "windows_played.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -17,17 +18,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-// Plays the user in the next box or window that waits for one.
-template <typename Box>
-void when_asked(std::function<void(Box &)> play)
-{
-    QTimer::singleShot(0, [play] {
-        auto * const box = qobject_cast<Box *>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr) << "no box waits";
-        play(*box);
-    });
-}
 
 TEST(qt_desktop, a_message_shows_its_text_as_it_stands)
 {

@@ -1,5 +1,6 @@
-// Draws every window into a folder, in the states that are worth looking at: tessaloom-screens FOLDER [LETTERS].
-// LETTERS: pixels, the size of the system's font. Set QT_SCALE_FACTOR=2 for screens of double density.
+// Draws every window into a folder, in the states that are worth looking at: tessaloom-screens FOLDER
+// [LETTERS]. LETTERS: pixels, the size of the system's font. Set QT_SCALE_FACTOR=2 for screens of double
+// density.
 
 #include "designs/catalogue.h"
 #include "desktop/binder.h"
@@ -75,6 +76,13 @@ void draw_views(filled_session & session, const QString & folder)
     }
 }
 
+void set_letters(int pixels)
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(pixels);
+    QApplication::setFont(font);
+}
+
 }  // namespace
 
 int main(int count, char ** words)
@@ -82,10 +90,12 @@ int main(int count, char ** words)
     QApplication application(count, words);
     apply_looks(application);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 2) {
-        std::fprintf(stderr, "usage: tessaloom-screens FOLDER\n");
+    if (arguments.size() != 2 && arguments.size() != 3) {
+        std::fprintf(stderr, "usage: tessaloom-screens FOLDER [LETTERS]\n");
         return 1;
     }
+    if (arguments.size() == 3)
+        set_letters(arguments[2].toInt());
     filled_session session;
     make_collage(session);
     draw_views(session, arguments[1]);

@@ -7,6 +7,7 @@
 #include "session/new_poster.h"
 #include "session/start_up.h"
 #include "support/colors.h"
+#include "windows_played.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,28 +25,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-// Plays the user in the next box or window that waits, however many events a run lets through before.
-template <typename Box>
-void when_asked(std::function<void(Box &)> play, int patience = 2000)
-{
-    QTimer::singleShot(0, [play, patience] {
-        if (auto * const box = qobject_cast<Box *>(QApplication::activeModalWidget()))
-            play(*box);
-        else if (patience > 0)
-            when_asked<Box>(play, patience - 1);
-        else
-            ADD_FAILURE() << "no box waits";
-    });
-}
-
-// Screens for looking at, where somebody wants them.
-void keep_screen(QWidget & window, const char * name)
-{
-    const QString folder = qEnvironmentVariable("TESSALOOM_SCREENS");
-    if (!folder.isEmpty())
-        window.grab().save(folder + QLatin1Char('/') + QLatin1String(name));
-}
 
 // The whole program in its window, on the data as it is staged and the sample photos.
 struct session_test : testing::Test {

@@ -1,26 +1,42 @@
 #pragma once
 
 #include <QApplication>
+#include <QDeadlineTimer>
+#include <QTest>
 #include <QTimer>
 #include <QWidget>
 
+#include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
 
-/// Plays the user in the next box or window that waits other than `before`, however many events are let
-/// through until then.
-template <typename Box>
-void when_other_asked(QWidget * before, std::function<void(Box &)> play, int patience = 2000)
+/// A test that waited in vain must end: what is still open is closed.
+inline void close_all_modal()
 {
-    QTimer::singleShot(0, [play, patience, before] {
+    ADD_FAILURE() << "no box waits";
+    while (QWidget * const open = QApplication::activeModalWidget()) {
+        open->close();
+        if (QApplication::activeModalWidget() == open)
+            return;
+    }
+}
+
+/// Plays the user in the next box or window that waits other than `before`, within half a minute.
+template <typename Box>
+void when_other_asked(QWidget * before, std::function<void(Box &)> play,
+                      QDeadlineTimer patience = QDeadlineTimer(std::chrono::seconds(30)))
+{
+    QTimer::singleShot(1, [play, patience, before] {
         QWidget * const waiting = QApplication::activeModalWidget();
         auto * const box = qobject_cast<Box *>(waiting);
-        if (box && waiting != before && box->isVisible())
+        if (box && waiting != before && box->isVisible()) {
+            EXPECT_TRUE(QTest::qWaitFor([box] { return QApplication::activeWindow() == box; }))
+                << "the keyboard has no aim";
             play(*box);
-        else if (patience > 0)
-            when_other_asked<Box>(before, play, patience - 1);
+        } else if (!patience.hasExpired())
+            when_other_asked<Box>(before, play, patience);
         else
-            ADD_FAILURE() << "no box waits";
+            close_all_modal();
     });
 }
 

@@ -62,7 +62,6 @@ TEST(edit_thumbnail, has_the_format_of_its_photo)
     thumbnails session;
     for (const auto & [name, format] : {std::pair{"p/a.png", picture_format::png},
                                         {"p/a.gif", picture_format::gif},
-                                        {"p/a.ico", picture_format::ico},
                                         {"p/a.tiff", picture_format::tiff}}) {
         const edit_thumbnail made = session.of(session.photo(name, format, 40, 30));
         EXPECT_EQ(made.file, session.folder.at("p/__thumbs/") + name_of(name));

@@ -2,6 +2,7 @@
 #include "tests/session/opened_session.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace {
@@ -201,6 +202,14 @@ TEST(mnuEditSelections, without_lists_it_says_so)
     expect_states(session.main, "picSplash_");
     EXPECT_EQ(session.main.picSample.file(), "");
     EXPECT_TRUE(session.main.photo_list_edit_mode);
+}
+
+TEST(mnuEditSelections, a_folder_of_lists_that_is_gone_holds_none)
+{
+    opened_session session;
+    std::filesystem::remove_all(session.folder.at("data/piclists"));
+    session.main.mnuEditSelections.click();
+    EXPECT_EQ(session.desk.next_message(), "You have not created any photo lists yet.");
 }
 
 TEST(mnuEditSelections, opens_the_manager_and_leaves_the_source_of_the_collage_alone)

@@ -5,6 +5,7 @@ namespace {
 void load_all(opened_session & session)
 {
     session.folder.write("data/designs.ini", "");
+    session.all.pictures.edit_list_path = session.folder.write("data/piclists/Sea.pls", "");
     session.main.load();
     for (form * each : session.all.others())
         each->load();

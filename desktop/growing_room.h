@@ -1,0 +1,34 @@
+#pragma once
+
+#include "support/forms.h"
+
+#include <QObject>
+#include <QPoint>
+#include <QSize>
+#include <QWidget>
+
+#include <functional>
+
+/// A window whose controls stand where its form says has one widget that takes more room than it was drawn
+/// with where its content needs it: the letters of the system may be large. The window's property `grows`
+/// names it.
+
+/// None in most windows.
+QWidget * growing_widget(const QWidget & window);
+
+/// Pixels that the widget needs beyond its drawn size; it is resized to them.
+QSize growth_of(const QWidget & window);
+
+/// Pixels that a widget beside or below the growing one moves; {0, 0} for all others.
+QPoint shift_of(const QWidget & widget, const box & at);
+
+/// Tells each change of the growth.
+class growth_watcher : public QObject {
+public:
+    growth_watcher(QWidget & watched, std::function<void()> changed);
+    bool eventFilter(QObject * watched, QEvent * event) override;
+
+private:
+    std::function<void()> on_change;
+    QSize known;
+};
