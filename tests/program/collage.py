@@ -35,6 +35,26 @@ def changed_preview(program, act, told):
     screen.until(lambda: program.pixels('picSample') != pixels, 'the new preview on the screen after ' + told)
 
 
+def focused_on(program, name):
+    """Presses Tab until the widget of that name has the keyboard, as somebody without a mouse does."""
+    for _ in range(120):
+        if screen.until(lambda: program.find(name), name).get('focus'):
+            return
+        program.keys('Tab')
+    raise AssertionError('the Tab key never comes to ' + name)
+
+
+def answer_with(program, text):
+    """Answers a question with the letter that its button underlines."""
+    program.window('QMessageBox')
+    program.shortcut(text)
+
+
+def ended(program):
+    screen.until(lambda: program.process.poll() is not None, 'the end of the program')
+    check(program.process.returncode == 0, 'the program ended with %d' % program.process.returncode)
+
+
 def run(play):
     program = started()
     try:

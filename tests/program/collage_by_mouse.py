@@ -2,7 +2,7 @@
 """A collage from a design and a folder of photos in the built program, by mouse: made, changed, saved in three sizes."""
 import os
 
-from collage import changed_preview, check, check_saved, run
+from collage import changed_preview, check, check_saved, ended, run
 from screen import until
 
 
@@ -23,9 +23,7 @@ def choose_folder(p):
 
 
 def change_settings(p):
-    for name in ('chkRounded', 'chkRounded', 'optTiny', 'optLarge', 'optNone', 'optBottom', 'optTop'):
-        if name in ('optBottom', 'optTop'):
-            continue
+    for name in ('chkRounded', 'chkRounded', 'optTiny', 'optLarge', 'optNone'):
         changed_preview(p, lambda: p.click(name), name)
     for name, value in (('cmbFrame', '40'), ('cmbShadow', '30')):
         changed_preview(p, lambda: (p.type_into(name, value), p.keys('Tab')), name)
@@ -102,8 +100,7 @@ def play(p):
     p.click('cmdCancel')
     p.click('mnuFile')
     p.click('mnuQuit')
-    until(lambda: p.process.poll() is not None, 'the end of the program')
-    check(p.process.returncode == 0, 'the program ended with %d' % p.process.returncode)
+    ended(p)
 
 
 run(play)

@@ -20,6 +20,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QScreen>
 #include <QTimer>
 
@@ -73,6 +74,7 @@ void add_widget(const QWidget & widget, QJsonArray & found)
     one["focus"] = widget.hasFocus();
     one["window"] = widget.window()->objectName();
     one["title"] = widget.window()->windowTitle();
+    one["option"] = qobject_cast<const QRadioButton *>(&widget) != nullptr;
     if (const auto * const button = qobject_cast<const QAbstractButton *>(&widget))
         one["checked"] = button->isChecked();
     found.append(one);
@@ -103,6 +105,7 @@ QByteArray looked()
         answer = {{"window", window->objectName()},
                   {"class", window->metaObject()->className()},
                   {"title", window->windowTitle()},
+                  {"active", window->isActiveWindow() || qobject_cast<const QMenu *>(window)},
                   {"id", static_cast<qint64>(window->window()->winId())},
                   {"widgets", found}};
         if (const auto * const box = qobject_cast<const QMessageBox *>(window))

@@ -79,10 +79,10 @@ class Program:
         return seen
 
     def window(self, name):
-        """Waits for the window of that name or class, or with that title."""
+        """Waits for the window of that name or class, or with that title, until it takes the keys."""
         def there():
             seen = self.look()
-            return seen if seen and name in (seen['window'], seen['class'], seen['title']) else None
+            return seen if seen and seen['active'] and name in (seen['window'], seen['class'], seen['title']) else None
         return until(there, name)
 
     def find(self, name, seen=None):
@@ -127,6 +127,18 @@ class Program:
     def keys(self, *names):
         for name in names:
             self.tool('key', '--clearmodifiers', name)
+
+    def shortcut(self, name):
+        """Presses the letter that the text of the widget or menu entry underlines."""
+        found = self.widget(name)
+        text = found['text'].replace('&&', '')
+        if '&' not in text:
+            raise AssertionError(name + ' has no letter of its own: ' + text)
+        letter = text[text.index('&') + 1].lower()
+        in_menu = self.look()['class'] == 'QMenu'
+        self.keys(letter if in_menu else 'alt+' + letter)
+        if found.get('option'):
+            until(lambda: self.find(name)['checked'], name)  # the toolkit shows it pressed for a while
 
     def type(self, text):
         self.tool('type', '--delay', '8', text)

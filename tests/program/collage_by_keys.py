@@ -1,0 +1,126 @@
+#!/usr/bin/env python3
+"""The same collage in the built program by keyboard alone."""
+import os
+
+from collage import answer_with, changed_preview, check, check_saved, ended, focused_on, run
+from screen import until
+
+
+def choose_design(p):
+    p.shortcut('mnuDesigned')
+    p.window('frmThemes')
+    p.shortcut('optBlock')
+    focused_on(p, 'optDesign_0')
+    p.keys('Down', 'Up', 'Return')
+
+
+def choose_folder(p):
+    p.window('frmSelectPhotos')
+    p.shortcut('cmdCards')
+    p.window('QFileDialog')
+    focused_on(p, 'fileNameEdit')
+    p.keys('ctrl+a')
+    p.type(p.photos)
+    p.keys('Return')
+
+
+def choose(p, name, *keys):
+    """Goes to a control with the Tab key and presses keys there."""
+    def act():
+        focused_on(p, name)
+        p.keys(*keys)
+    changed_preview(p, act, name)
+
+
+def enter(p, name, text):
+    def act():
+        focused_on(p, name)
+        p.keys('ctrl+a')
+        p.type(text)
+        p.keys('Tab')
+    changed_preview(p, act, name)
+
+
+def change_settings(p):
+    choose(p, 'chkRounded', 'space')
+    choose(p, 'chkRounded', 'space')
+    enter(p, 'cmbFrame', '40')
+    enter(p, 'cmbShadow', '30')
+    enter(p, 'txtCaption', 'Summer')
+    for name in ('chkSoftEdge', 'cmdShuffle', 'chkSoftEdge', 'cmdShuffle'):
+        choose(p, name, 'space')
+    enter(p, 'cmbFrame', '10')
+    enter(p, 'cmbShadow', '0')
+    enter(p, 'txtCaption', 'Summer by the sea')
+
+
+def save(p, kind, path, custom=None):
+    p.shortcut('cmdSave')
+    p.window('frmSize')
+    p.shortcut(kind)
+    if custom:
+        focused_on(p, 'txtSize')
+        p.keys('ctrl+a')
+        p.type(custom)
+    p.keys('Return')
+    name_file(p, path)
+
+
+def name_file(p, path):
+    p.window('QFileDialog')
+    focused_on(p, 'fileNameEdit')
+    p.keys('ctrl+a')
+    p.type(path)
+    p.keys('Return')
+
+
+def overwrite(p, target, second):
+    before = os.stat(target).st_mtime_ns
+    save(p, 'optFull', target)
+    p.window('QMessageBox')
+    p.keys('Escape')
+    p.window('frmImage')
+    check(os.stat(target).st_mtime_ns == before, 'Escape changed the file')
+    save(p, 'optFull', target)
+    answer_with(p, 'No')
+    name_file(p, second)
+    check_saved(p, second, (2000, 3000))
+    p.window('frmImage')
+    check(os.stat(target).st_mtime_ns == before, 'No changed the file')
+    save(p, 'optWeb', target)
+    answer_with(p, 'Yes')
+    until(lambda: os.stat(target).st_mtime_ns != before, 'the file to be replaced')
+    check_saved(p, target, (500, 750))
+
+
+def play(p):
+    p.window('QMessageBox')
+    p.keys('Return')
+    p.window('frmMain')
+    choose_design(p)
+    choose_folder(p)
+    p.window('frmMain')
+    p.widget('cmdFlurn')
+    until(p.finished, 'the first preview')
+    change_settings(p)
+    p.shortcut('cmdFlurn')
+    p.window('frmImage')
+    full, web, custom = (os.path.join(p.folder, name) for name in ('full.jpg', 'web.jpg', 'custom.jpg'))
+    save(p, 'optFull', full)
+    check_saved(p, full, (2000, 3000))
+    save(p, 'optWeb', web)
+    check_saved(p, web, (500, 750))
+    save(p, 'optCustom', custom, '1200')
+    check_saved(p, custom, (800, 1200))
+    overwrite(p, full, os.path.join(p.folder, 'second.jpg'))
+    p.window('frmImage')
+    p.keys('Escape')
+    p.window('frmMain')
+    p.shortcut('cmdCancel')
+    p.shortcut('mnuFile')
+    p.window('QMenu')
+    p.shortcut('mnuQuit')
+    ended(p)
+
+
+run(play)
