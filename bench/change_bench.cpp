@@ -1,0 +1,155 @@
+// Times a change of a setting in the finishing stage, with 40 photos whose thumbnails are there: from the
+// change in the session to the new preview in the painted window.
+
+#include "designs/catalogue.h"
+#include "desktop/binder.h"
+#include "desktop/looks.h"
+#include "desktop/windows_made.h"
+#include "photos/photo_list.h"
+#include "session/connect_all.h"
+#include "session/new_poster.h"
+#include "session/start_up.h"
+#include "support/paths.h"
+#include "tests/scripted_desktop.h"
+#include "tests/temporary_folder.h"
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <filesystem>
+
+namespace {
+
+constexpr int photo_total = 40;
+
+// The finishing stage of a design, in its window.
+struct finishing_stage {
+    explicit finishing_stage(const char * design)
+    {
+        desk.keeps_messages = true;
+        std::filesystem::copy(BUILT_SEED, folder.path(), std::filesystem::copy_options::recursive);
+        copy_photos();
+        frmMain & main = all.main;
+        main.install_folder = folder.path();
+        prepare_data_folder(main, {});
+        connect_all(all);
+        main.load();
+        window = make_window("frmMain");
+        bind(main, *window, {});
+        window->show();
+        start(design);
+    }
+
+    void copy_photos()
+    {
+        std::vector<std::filesystem::path> samples;
+        for (const auto & entry : std::filesystem::directory_iterator(SAMPLE_PHOTOS))
+            if (entry.path().extension() == ".jpg")
+                samples.push_back(entry.path());
+        std::filesystem::create_directory(folder.at("photos"));
+        for (std::size_t i = 0; i < photo_total; ++i)
+            std::filesystem::copy_file(samples[i % samples.size()],
+                                       folder.at("photos/" + std::to_string(i) + ".jpg"));
+    }
+
+    void start(const char * design)
+    {
+        frmMain & main = all.main;
+        photos_of_folder(main, folder.at("photos"));
+        set_photo_source_kind(main, photo_source::folder);
+        main.txtPhotos.tag = folder.at("photos");
+        if (!find_design(main, design))
+            std::fprintf(stderr, "no design %s\n", design);
+        close_catalogue(main);
+        main.optPortrait.select();
+        start_designed(main);
+    }
+
+    void show()
+    {
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(window->grab());
+    }
+
+    temporary_folder folder;
+    scripted_desktop desk;
+    windows all{desk, seeded_random(7)};
+    std::unique_ptr<QWidget> window;
+};
+
+const char * const upright = "Mosaic wall";
+const char * const tilted = "Snapshots";
+const char * const over_a_background = "At the seaside";
+
+template <typename Change>
+void time_change(benchmark::State & state, const char * design, Change change)
+{
+    finishing_stage stage(design);
+    const int before = stage.all.main.picSample.load_count();
+    int step = 0;
+    for (auto _ : state) {
+        change(stage.all.main, ++step);
+        stage.show();
+    }
+    if (stage.all.main.picSample.load_count() - before < step)
+        state.SkipWithError("not every change made a preview");
+}
+
+void frame_size(benchmark::State & state, const char * design)
+{
+    time_change(state, design,
+                [](frmMain & main, int step) { main.cmbFrame.set_as_user(step % 2 ? "30" : "20"); });
+}
+
+void shadow_size(benchmark::State & state, const char * design)
+{
+    time_change(state, design,
+                [](frmMain & main, int step) { main.cmbShadow.set_as_user(step % 2 ? "30" : "20"); });
+}
+
+void rounded(benchmark::State & state, const char * design)
+{
+    time_change(state, design, [](frmMain & main, int) { main.chkRounded.tick(!main.chkRounded.ticked()); });
+}
+
+void soft_edge(benchmark::State & state, const char * design)
+{
+    time_change(state, design,
+                [](frmMain & main, int) { main.chkSoftEdge.tick(!main.chkSoftEdge.ticked()); });
+}
+
+void shuffle(benchmark::State & state, const char * design)
+{
+    time_change(state, design, [](frmMain & main, int) { main.cmdShuffle.click(); });
+}
+
+void collage_caption(benchmark::State & state, const char * design)
+{
+    time_change(state, design, [](frmMain & main, int step) {
+        main.txtCaption.set_as_user(step % 2 ? "Summer by the sea" : "Summer");
+    });
+}
+
+BENCHMARK_CAPTURE(frame_size, upright, upright)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(frame_size, tilted, tilted)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(shadow_size, upright, upright)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(shadow_size, tilted, tilted)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(rounded, upright, upright)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(soft_edge, upright, upright)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(soft_edge, over_a_background, over_a_background)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(shuffle, upright, upright)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(shuffle, over_a_background, over_a_background)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(collage_caption, upright, upright)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(collage_caption, over_a_background, over_a_background)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int count, char ** words)
+{
+    QApplication application(count, words);
+    apply_looks(application);
+    benchmark::Initialize(&count, words);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
