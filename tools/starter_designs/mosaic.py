@@ -50,7 +50,26 @@ def tiled(columns, rows, tiles, seed):
     return found
 
 
+def shadows_beneath(cells):
+    """The cells in an order in which each shadow, which falls right and down, falls under the next photo."""
+    left = sorted(cells)
+    ordered = []
+
+    def shades(one, other):
+        x, y, width, height = one
+        left_x, top_y, other_width, other_height = other
+        beside = y < top_y + other_height and top_y < y + height
+        above = x < left_x + other_width and left_x < x + width
+        return (beside and x + width <= left_x) or (above and y + height <= top_y)
+
+    while left:
+        first = next(one for one in left if not any(shades(other, one) for other in left if other != one))
+        left.remove(first)
+        ordered.append(first)
+    return ordered
+
+
 def mosaic(size, module, tiles, seed):
     columns, rows = size[0] // module, size[1] // module
     return [box(x * module, y * module, width * module, height * module)
-            for x, y, width, height in tiled(columns, rows, tiles, seed)]
+            for x, y, width, height in shadows_beneath(tiled(columns, rows, tiles, seed))]
