@@ -325,8 +325,8 @@ void list_box::double_click(int index)
 
 void slider::set_range(int minimum, int maximum)
 {
-    const bool is_new = replaced(least, minimum) | replaced(most, std::max(minimum, maximum));
-    if (is_new)
+    const bool other_end = replaced(most, std::max(minimum, maximum));
+    if (replaced(least, minimum) || other_end)
         changed();
     set_position(held);
 }
