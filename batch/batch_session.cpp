@@ -1,6 +1,7 @@
 #include "batch/batch_session.h"
 
 #include "batch/batch_desktop.h"
+#include "designs/browser_page.h"
 #include "designs/catalogue.h"
 #include "designs/chosen_design.h"
 #include "engine/flurn_driver.h"
@@ -63,6 +64,16 @@ poster_shape shape_of(const design_record & design, const std::string & asked)
     return wanted == "landscape" ? poster_shape::landscape : poster_shape::portrait;
 }
 
+// The window offers a design only where it fits; here it is up to the caller.
+void note_misfit(const design_record & design, poster_shape shape)
+{
+    const design_view view =
+        shape == poster_shape::landscape ? design_view::landscape : design_view::portrait;
+    if (shape != poster_shape::square && !fits_orientation(design, view))
+        std::fprintf(stderr, "%s isn't made for a %s poster; it is used all the same.\n", design.name.c_str(),
+                     view == design_view::landscape ? "landscape" : "portrait");
+}
+
 // Leaves the session as the design browser leaves it after its Ok.
 void choose_design(frmMain & main, const batch_arguments & arguments)
 {
@@ -70,12 +81,13 @@ void choose_design(frmMain & main, const batch_arguments & arguments)
         throw bad_arguments{"there is no design named \"" + arguments.design +
                             "\"; --list shows the designs"};
     close_catalogue(main);
+    const poster_shape shape = shape_of(main.design_record, arguments.orientation);
+    note_misfit(main.design_record, shape);
     settle_caption_clear(main.design_record);
     const updating guard(main);  // the photos are not there yet, so there is nothing to preview
     make_room_for_background(main);
-    take_design(main, {.section = main.design_record.section,
-                       .name = main.design_record.name,
-                       .shape = shape_of(main.design_record, arguments.orientation)});
+    take_design(main,
+                {.section = main.design_record.section, .name = main.design_record.name, .shape = shape});
 }
 
 // ---- photos

@@ -36,6 +36,12 @@ protected:
     {
         return run_batch(parse_arguments(words), folders);
     }
+    std::string noted(const std::vector<std::string> & words) const
+    {
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(run(words), exit_status::made);
+        return testing::internal::GetCapturedStderr();
+    }
     std::string printed(const std::vector<std::string> & words) const
     {
         testing::internal::CaptureStdout();
@@ -135,6 +141,23 @@ TEST_F(batch_program, a_setting_acts_as_the_user_and_is_dumped)
     EXPECT_EQ(controls["txtCaption"][3], "Summer");
     EXPECT_EQ(controls["frmOutput"][1], "1");
     EXPECT_EQ(controls["mnuFile"][1], "0");
+}
+
+TEST_F(batch_program, what_the_window_would_not_offer_is_done_and_noted)
+{
+    const std::vector<std::string> common{"--photos", photos(), "--preview", "--out", out()};
+    const auto with = [&](std::vector<std::string> words) {
+        words.insert(words.end(), common.begin(), common.end());
+        return words;
+    };
+    EXPECT_NE(noted(with({"--design", "Sweethearts", "--set", "chkCaption=1"}))
+                  .find("chkCaption is disabled for this design; it is set all the same.\n"),
+              std::string::npos);
+    EXPECT_NE(noted(with({"--design", "Snapshots", "--orientation", "landscape"}))
+                  .find("Snapshots isn't made for a landscape poster; it is used all the same.\n"),
+              std::string::npos);
+    EXPECT_EQ(noted(with({"--design", "Mosaic wall", "--orientation", "landscape"})).find("isn't made"),
+              std::string::npos);
 }
 
 TEST_F(batch_program, a_photo_list_and_single_files_serve_as_well)
