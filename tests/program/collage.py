@@ -44,10 +44,32 @@ def focused_on(program, name):
     raise AssertionError('the Tab key never comes to ' + name)
 
 
-def answer_with(program, text):
-    """Answers a question with the letter that its button underlines."""
-    program.window('QMessageBox')
-    program.shortcut(text)
+def save_each_way(program, way):
+    """Saves the collage that is open in three sizes, and over a file with each answer to the question."""
+    full, web, custom, second = (os.path.join(program.folder, name + '.jpg')
+                                 for name in ('full', 'web', 'custom', 'second'))
+    way.save(program, 'optFull', full)
+    check_saved(program, full, (2000, 3000))
+    way.save(program, 'optWeb', web)
+    check_saved(program, web, (500, 750))
+    way.save(program, 'optCustom', custom, '1200')
+    check_saved(program, custom, (800, 1200))
+    before = os.stat(full).st_mtime_ns
+    way.save(program, 'optFull', full)
+    way.answer(program, 'Cancel')
+    program.window('frmImage')
+    check(os.stat(full).st_mtime_ns == before, 'Cancel changed the file')
+    way.save(program, 'optFull', full)
+    way.answer(program, 'No')
+    way.name_file(program, second)
+    check_saved(program, second, (2000, 3000))
+    program.window('frmImage')
+    check(os.stat(full).st_mtime_ns == before, 'No changed the file')
+    way.save(program, 'optWeb', full)
+    way.answer(program, 'Yes')
+    screen.until(lambda: os.stat(full).st_mtime_ns != before, 'the file to be replaced')
+    check_saved(program, full, (500, 750))
+    program.window('frmImage')
 
 
 def ended(program):

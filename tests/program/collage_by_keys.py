@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """The same collage in the built program by keyboard alone."""
-import os
+import sys
 
-from collage import answer_with, changed_preview, check, check_saved, ended, focused_on, run
+from collage import changed_preview, ended, focused_on, run, save_each_way
 from screen import until
 
 
@@ -74,23 +74,13 @@ def name_file(p, path):
     p.keys('Return')
 
 
-def overwrite(p, target, second):
-    before = os.stat(target).st_mtime_ns
-    save(p, 'optFull', target)
+def answer(p, text):
+    """With the letter that the button underlines; Escape is the answer Cancel."""
     p.window('QMessageBox')
-    p.keys('Escape')
-    p.window('frmImage')
-    check(os.stat(target).st_mtime_ns == before, 'Escape changed the file')
-    save(p, 'optFull', target)
-    answer_with(p, 'No')
-    name_file(p, second)
-    check_saved(p, second, (2000, 3000))
-    p.window('frmImage')
-    check(os.stat(target).st_mtime_ns == before, 'No changed the file')
-    save(p, 'optWeb', target)
-    answer_with(p, 'Yes')
-    until(lambda: os.stat(target).st_mtime_ns != before, 'the file to be replaced')
-    check_saved(p, target, (500, 750))
+    if text == 'Cancel':
+        p.keys('Escape')
+    else:
+        p.shortcut(text)
 
 
 def play(p):
@@ -105,15 +95,7 @@ def play(p):
     change_settings(p)
     p.shortcut('cmdFlurn')
     p.window('frmImage')
-    full, web, custom = (os.path.join(p.folder, name) for name in ('full.jpg', 'web.jpg', 'custom.jpg'))
-    save(p, 'optFull', full)
-    check_saved(p, full, (2000, 3000))
-    save(p, 'optWeb', web)
-    check_saved(p, web, (500, 750))
-    save(p, 'optCustom', custom, '1200')
-    check_saved(p, custom, (800, 1200))
-    overwrite(p, full, os.path.join(p.folder, 'second.jpg'))
-    p.window('frmImage')
+    save_each_way(p, sys.modules[__name__])
     p.keys('Escape')
     p.window('frmMain')
     p.shortcut('cmdCancel')

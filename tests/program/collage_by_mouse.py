@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """A collage from a design and a folder of photos in the built program, by mouse: made, changed, saved in three sizes."""
-import os
+import sys
 
-from collage import changed_preview, check, check_saved, ended, run
+from collage import changed_preview, ended, run, save_each_way
 from screen import until
 
 
@@ -58,24 +58,6 @@ def answer(p, text):
     p.click(text)
 
 
-def overwrite(p, target, second):
-    before = os.stat(target)
-    save(p, 'optFull', target)
-    answer(p, 'Cancel')
-    p.window('frmImage')
-    check(os.stat(target).st_mtime_ns == before.st_mtime_ns, 'Cancel changed the file')
-    save(p, 'optFull', target)
-    answer(p, 'No')
-    name_file(p, second)
-    check_saved(p, second, (2000, 3000))
-    p.window('frmImage')
-    check(os.stat(target).st_mtime_ns == before.st_mtime_ns, 'No changed the file')
-    save(p, 'optWeb', target)
-    answer(p, 'Yes')
-    until(lambda: os.stat(target).st_mtime_ns != before.st_mtime_ns, 'the file to be replaced')
-    check_saved(p, target, (500, 750))
-
-
 def play(p):
     p.window('QMessageBox')
     p.keys('Return')
@@ -87,14 +69,7 @@ def play(p):
     until(p.finished, 'the first preview')
     change_settings(p)
     make_full_size(p)
-    full, web, custom = (os.path.join(p.folder, name) for name in ('full.jpg', 'web.jpg', 'custom.jpg'))
-    save(p, 'optFull', full)
-    check_saved(p, full, (2000, 3000))
-    save(p, 'optWeb', web)
-    check_saved(p, web, (500, 750))
-    save(p, 'optCustom', custom, '1200')
-    check_saved(p, custom, (800, 1200))
-    overwrite(p, full, os.path.join(p.folder, 'second.jpg'))
+    save_each_way(p, sys.modules[__name__])
     p.click('cmdClose')
     p.window('frmMain')
     p.click('cmdCancel')
