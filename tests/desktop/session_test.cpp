@@ -144,6 +144,7 @@ TEST_F(session_test, a_designed_flurn_goes_from_the_menu_over_both_choosers_to_i
         keep_screen(browser, "designs_landscape.png");
         EXPECT_EQ(all.themes.optDesign[0].caption(), "White mats");
         when_asked<QDialog>([&](QDialog & chooser) {
+            all.select_photos.txtCards.set_text("/home/someone/pictures/summer");
             keep_screen(chooser, "photos.png");
             QTest::mouseClick(chooser.findChild<QPushButton *>("cmdOk"), Qt::LeftButton);
         });
@@ -155,6 +156,7 @@ TEST_F(session_test, a_designed_flurn_goes_from_the_menu_over_both_choosers_to_i
     EXPECT_TRUE(all.main.optLandscape.selected());
     EXPECT_EQ(all.main.picSample.load_count(), 1);
     EXPECT_FALSE(found<picture_view>("picSample")->image().isNull());
+    all.main.txtPhotos.set_text("/home/someone/pictures/summer");
     keep_screen(window(), "designed.png");
 }
 

@@ -111,6 +111,9 @@ void filled_session::add_small_views(std::vector<window_view> & views)
 void filled_session::add_photo_views(std::vector<window_view> & views)
 {
     frmMain & main = all.main;
+    views.push_back({.name = "frmSelectPhotos", .window = &all.select_photos, .prepare = {}, .fill = [this] {
+                         all.select_photos.txtCards.set_text("/home/someone/pictures/summer");
+                     }});
     views.push_back({.name = "frmSelectPhotos_selection",
                      .window = &all.select_photos,
                      .prepare =
@@ -143,6 +146,7 @@ void filled_session::add_photo_views(std::vector<window_view> & views)
              for (button * each : {&all.pictures.cmdAdd, &all.pictures.cmdSave, &all.pictures.cmdCancel,
                                    &all.pictures.cmdHelp})
                  each->show(false);
+             all.pictures.txtCounting.set_caption("Checking  /home/someone/pictures/summer/beach_012.jpg...");
              all.pictures.txtCounting.show(true);
          }});
 }
