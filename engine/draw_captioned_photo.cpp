@@ -2,7 +2,7 @@
 
 #include "engine/card.h"
 #include "engine/draw_rotated_photo.h"
-#include "engine/resize_image.h"
+#include "engine/photo_steps.h"
 
 void draw_captioned_photo(frmMain & main, const bitmap & image, int width, int height, int top, int left,
                           int rotation)
@@ -10,7 +10,8 @@ void draw_captioned_photo(frmMain & main, const bitmap & image, int width, int h
     const card_layout layout = laid_out_card(width, height);
     bitmap card(width, height);
     fill(card, main.run.frame_color);
-    paste(card, resize_image(image, layout.width, layout.height), layout.margin, layout.margin, plain_copy);
+    paste(card, fit_photo(main, image, layout.width, layout.height), layout.margin, layout.margin,
+          plain_copy);
     if (rotation == 0)
         paste(main.run.canvas, card, left, top, plain_copy);
     else

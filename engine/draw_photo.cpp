@@ -4,7 +4,7 @@
 #include "engine/draw_frame.h"
 #include "engine/draw_shadow.h"
 #include "engine/paste_shape.h"
-#include "engine/resize_image.h"
+#include "engine/photo_steps.h"
 #include "engine/soft_edge_paste.h"
 
 namespace {
@@ -38,7 +38,7 @@ void draw_photo(frmMain & main, const bitmap & image, int width, int height, int
     run.current_height = narrow(height == 0 ? width : height);
     width = run.current_width;
     height = run.current_height;
-    bitmap fitted = drawn == kind::colored_shape ? bitmap() : resize_image(image, width, height);
+    bitmap fitted = drawn == kind::colored_shape ? bitmap() : fit_photo(main, image, width, height);
     int bottom_row = run.canvas.height() - (top + height);
     const bool soft = main.chkSoftEdge.ticked() && main.frmOrnaments.visible();
     if (soft && drawn != kind::colored_shape) {

@@ -2,7 +2,7 @@
 
 #include "engine/draw_frame.h"
 #include "engine/draw_shadow.h"
-#include "engine/resize_image.h"
+#include "engine/photo_steps.h"
 #include "engine/rotation_numbers.h"
 #include "engine/soft_edge_paste.h"
 #include "support/paths.h"
@@ -271,7 +271,7 @@ void draw_rotated_photo(frmMain & main, bitmap image, int width, int height, int
     if (main.chkEvolve.ticked())
         work.place = evolved(work.place, size_of(work.photo));
     if (fit == fitting::to_fit)
-        work.photo = copied(resize_image(work.photo, work.place.width, work.place.height), 0, 0,
+        work.photo = copied(fit_photo(main, work.photo, work.place.width, work.place.height), 0, 0,
                             work.place.width, work.place.height);
     const std::string section = rotation_section(work.place.width, work.place.height, work.rotation);
     work.ring = frame_in_rotation(main.run.frame_size, work.rotation);

@@ -3,6 +3,7 @@
 #include "engine/draw_photo.h"
 #include "engine/draw_rotated_photo.h"
 #include "engine/ornament_sizes.h"
+#include "engine/photo_steps.h"
 #include "engine/placement_loops.h"
 #include "photos/photo_list.h"
 #include "support/paths.h"
@@ -73,7 +74,7 @@ void pass_over(frmMain & main, grid_walk & walk)
 // loaded.
 cell_photo next_photo(frmMain & main, grid_walk & walk, int column)
 {
-    const auto loaded = [&] { return load_picture(picture_format::jpeg, main.table[walk.photo]); };
+    const auto loaded = [&] { return load_photo(main, main.table[walk.photo]); };
     while (main.chkMatch.ticked()) {
         const picture_size size = jpeg_size(main.table[walk.photo]).value_or(picture_size{});
         if (fits_cell(walk.layer, size.height, size.width)) {

@@ -1,5 +1,6 @@
 #include "engine/flurn_driver.h"
 
+#include "engine/photo_steps.h"
 #include "engine/quick_template.h"
 #include "engine/run_steps.h"
 #include "photos/thumbnails.h"
@@ -93,7 +94,7 @@ void keep_collage(frmMain & main)
     const int margin = run.collage_margin;
     run.canvas =
         copied(run.canvas, margin, margin, main.collage_width + margin, main.collage_height + margin);
-    save_jpeg(run.canvas, finished_path(main));
+    save_photo(main, run.canvas, finished_path(main));
     main.txtDoing.show(false);
     run.image_saved = false;
     main.trace += "FFF  ";

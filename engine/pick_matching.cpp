@@ -1,6 +1,7 @@
 #include "engine/pick_matching.h"
 
 #include "engine/matching.h"
+#include "engine/photo_steps.h"
 
 namespace {
 
@@ -43,7 +44,7 @@ orientation looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientat
         known = told_by_header(main.table[index]);
     if (known != wish && !is_wanted_anyhow)
         return known;
-    image = load_picture(picture_format::jpeg, main.table[index]);
+    image = load_photo(main, main.table[index]);
     if (!image)
         known = orientation::not_loadable;
     return known;

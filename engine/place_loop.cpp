@@ -3,6 +3,7 @@
 #include "engine/draw_rotated_photo.h"
 #include "engine/fixed_picture.h"
 #include "engine/flurn_driver.h"
+#include "engine/photo_steps.h"
 #include "engine/pick_matching.h"
 #include "engine/placement_loops.h"
 #include "photos/photo_list.h"
@@ -40,16 +41,16 @@ picked_picture picked(bitmap image)
     return {.image = std::move(image), .found = found};
 }
 
-picked_picture fixed_picture(const frmMain & main, const std::string & file)
+picked_picture fixed_picture(frmMain & main, const std::string & file)
 {
     const std::optional<std::string> path = fixed_picture_path(main, file);
-    return path ? picked(load_picture(picture_format::jpeg, *path)) : picked_picture{};
+    return path ? picked(load_photo(main, *path)) : picked_picture{};
 }
 
-picked_picture first_photo(const frmMain & main, int & photo)
+picked_picture first_photo(frmMain & main, int & photo)
 {
     photo = 1;
-    picked_picture first = picked(load_picture(picture_format::jpeg, main.table[0]));
+    picked_picture first = picked(load_photo(main, main.table[0]));
     first.moved_on = true;
     return first;
 }
@@ -64,7 +65,7 @@ picked_picture next_photo(frmMain & main, const location & place, int & photo)
     // A painted shape needs a photo that could be loaded and nothing of its pixels.
     picked_picture next = is_painted(main, place)
                               ? picked_picture{.image = {}, .found = jpeg_size(path).has_value()}
-                              : picked(load_picture(picture_format::jpeg, path));
+                              : picked(load_photo(main, path));
     next.moved_on = true;
     return next;
 }

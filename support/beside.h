@@ -6,7 +6,7 @@
 #include <future>
 
 /// How long a window may stand still, at most.
-inline constexpr std::chrono::milliseconds longest_standstill{50};
+inline constexpr std::chrono::milliseconds longest_standstill{20};
 
 /// Runs `step` on another core, lets pending events through meanwhile, and gives its result or raises its
 /// error. The step works on files and pixels of its own and touches nothing of the session.

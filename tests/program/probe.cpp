@@ -3,12 +3,14 @@
 //
 // A request is a line on the local socket TESSALOOM_PROBE. "look" is answered by a line of JSON: every
 // visible widget and menu entry that has a name or a text, with its place on the screen. "see X Y W H" is
-// answered by a digest of the pixels that the screen shows there.
+// answered by a digest of the pixels that the screen shows there. "standstill" is answered by the longest
+// time, in milliseconds, in which the program let no event through since it was asked last.
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QCryptographicHash>
+#include <QElapsedTimer>
 #include <QGenericPlugin>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -23,6 +25,9 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QTimer>
+
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -127,11 +132,35 @@ QByteArray seen(const QList<QByteArray> & words)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
 }
 
-void answer(QLocalSocket & asker)
+// A clock that ticks as long as events come through.
+class event_clock {
+public:
+    event_clock()
+    {
+        since_tick.start();
+        QObject::connect(&ticker, &QTimer::timeout,
+                         [this] { longest = std::max(longest, since_tick.restart()); });
+        ticker.start(1);
+    }
+    qint64 longest_standstill() { return std::exchange(longest, 0); }
+
+private:
+    QTimer ticker;
+    QElapsedTimer since_tick;
+    qint64 longest = 0;  // milliseconds
+};
+
+QByteArray answer_to(const QByteArray & line, event_clock & clock)
+{
+    if (line == "look")
+        return looked();
+    return line == "standstill" ? QByteArray::number(clock.longest_standstill()) : seen(line.split(' '));
+}
+
+void answer(QLocalSocket & asker, event_clock & clock)
 {
     while (asker.canReadLine()) {
-        const QByteArray line = asker.readLine().trimmed();
-        asker.write((line == "look" ? looked() : seen(line.split(' '))) + '\n');
+        asker.write(answer_to(asker.readLine().trimmed(), clock) + '\n');
         asker.flush();
     }
 }
@@ -139,9 +168,11 @@ void answer(QLocalSocket & asker)
 void listen(const QString & name)
 {
     auto * const server = new QLocalServer(qApp);
-    QObject::connect(server, &QLocalServer::newConnection, server, [server] {
+    const auto clock = std::make_shared<event_clock>();
+    QObject::connect(server, &QLocalServer::newConnection, server, [server, clock] {
         while (QLocalSocket * const asker = server->nextPendingConnection())
-            QObject::connect(asker, &QLocalSocket::readyRead, asker, [asker] { answer(*asker); });
+            QObject::connect(asker, &QLocalSocket::readyRead, asker,
+                             [asker, clock] { answer(*asker, *clock); });
     });
     if (!server->listen(name))
         qWarning("%s: %s", qPrintable(name), qPrintable(server->errorString()));

@@ -74,9 +74,18 @@ class Program:
         """The window that can be reached. Gives it the focus once, as a window manager would."""
         seen = json.loads(self.ask('look'))
         if seen and seen['id'] != self.focused and seen['class'] != 'QMenu':
-            self.tool('windowfocus', '--sync', str(seen['id']))
-            self.focused = seen['id']
+            if self.focus(seen['id']):
+                self.focused = seen['id']
         return seen
+
+    def focus(self, window):
+        """False where the window is on its way in or out."""
+        try:
+            told = subprocess.run(['xdotool', 'windowfocus', '--sync', str(window)], env=self.environment, timeout=5,
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        except subprocess.TimeoutExpired:
+            return False
+        return told.returncode == 0
 
     def window(self, name):
         """Waits for the window of that name or class, or with that title, until it takes the keys."""
