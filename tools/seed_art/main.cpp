@@ -3,7 +3,10 @@
 //     seed_art mask IN.svg OUT.gif            800 by 800, grey levels
 //     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
 //     seed_art png IN.svg OUT.png W H         a PNG of that size, clear where nothing is drawn
+//     seed_art collage LAYOUT OUT.jpg W H FOLDER  a small collage of the photos of that folder
 //     seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which is checked
+#include "collage.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -71,6 +74,12 @@ void render_picture(const char * drawing, const char * target, int width, int he
     save(FIF_JPEG, in_colour(rendered(drawing, width, height)), target, picture_quality);
 }
 
+void render_collage(char ** arguments)
+{
+    const QImage page = collage(arguments[2], arguments[6], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    save(FIF_JPEG, in_colour(page), arguments[3], picture_quality);
+}
+
 void render_png(const char * drawing, const char * target, int width, int height)
 {
     if (!rendered(drawing, width, height, Qt::transparent).save(target))
@@ -109,10 +118,14 @@ void render(int count, char ** arguments)
         render_picture(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "png" && count == 6)
         render_png(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    else if (kind == "collage" && count == 7)
+        render_collage(arguments);
     else if (kind == "white" && count == 4)
         render_white(arguments[2], std::stoi(arguments[3]));
     else
-        throw std::runtime_error("mask IN OUT, picture or png IN OUT WIDTH HEIGHT, or white OUT SIZE");
+        throw std::runtime_error(
+            "mask IN OUT, picture or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
+            "PHOTOS, or white OUT SIZE");
 }
 
 }  // namespace

@@ -1,0 +1,269 @@
+// The scatters: one for every number of photos that the limits leave, on both kinds of poster, covering it
+// well.
+#include "tests/seed/plain_tables.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <map>
+#include <numbers>
+#include <set>
+#include <string>
+#include <vector>
+
+using namespace plain;
+
+namespace {
+
+constexpr int most_of_a_kind = 64;
+
+/// The greatest count along the poster for a count across, and the other way round.
+int most_along(int cross)
+{
+    constexpr std::array falling{63, 61, 59, 57, 55, 53, 52, 51};
+    if (cross < 30)
+        return 65;
+    if (cross < 38)
+        return falling[static_cast<std::size_t>(cross - 30)];
+    return cross < 63 ? 49 - 2 * (cross - 38) : 0;
+}
+
+int most_cross(int along)
+{
+    return along % 2 == 0 ? 65 - along / 2 : 63 - along / 2;
+}
+
+std::set<int> possible_totals()
+{
+    std::set<int> found;
+    for (int along = 0; along <= most_of_a_kind; ++along)
+        for (int cross = 0; cross <= most_of_a_kind; ++cross) {
+            const int left = along > cross ? std::min(along, most_along(cross)) + cross
+                                           : along + std::min(cross, most_cross(along));
+            if (left >= 3)
+                found.insert(left);
+        }
+    return found;
+}
+
+struct scatter {
+    std::string name;
+    int total, tall, wide;
+    int height;  // of the poster
+    std::vector<cell> cells;
+};
+
+std::vector<cell> cells_of(const std::vector<std::string> & lines, const std::string & name)
+{
+    std::vector<cell> cells;
+    for (const std::string & line : section(lines, name)) {
+        const std::vector<std::string> fields = split(line);
+        EXPECT_EQ(fields.size(), 6u) << name << ": " << line;
+        cells.push_back(
+            {number(fields[1]), number(fields[2]), number(fields[3]), number(fields[4]), number(fields[5])});
+    }
+    return cells;
+}
+
+std::vector<scatter> read_scatters()
+{
+    const std::vector<std::string> templates = lines_of("scatter_templates");
+    std::vector<scatter> found;
+    int height = 3000;
+    for (const std::string & line : lines_of("quick_scatter.ini")) {
+        const std::vector<std::string> fields = split(line);
+        if (fields.at(0) == "SQUARES") {
+            height = 2000;
+            continue;
+        }
+        EXPECT_EQ(fields.size(), 4u) << line;
+        EXPECT_EQ(line.find(':'), 2u) << line;
+        found.push_back({fields.at(3), number(fields.at(0)), number(fields.at(1)), number(fields.at(2)),
+                         height, cells_of(templates, fields.at(3))});
+    }
+    return found;
+}
+
+const std::vector<scatter> & all_scatters()
+{
+    static const auto scatters = read_scatters();
+    return scatters;
+}
+
+struct spot {
+    double x, y;
+};
+
+/// Where a point of a cell, given from the cell's corner, lies on the poster.
+spot placed(const cell & one, double across, double down)
+{
+    const double angle = one.tilt * std::numbers::pi / 180, c = std::cos(angle), s = std::sin(angle);
+    return {one.left + across * c - down * s, one.top + across * s + down * c};
+}
+
+bool covers(const cell & one, spot at)
+{
+    const double angle = one.tilt * std::numbers::pi / 180, c = std::cos(angle), s = std::sin(angle);
+    const double x = at.x - one.left, y = at.y - one.top;
+    const double across = x * c + y * s, down = y * c - x * s;
+    return across >= 0 && across <= one.width && down >= 0 && down <= one.height;
+}
+
+/// How far the cell hangs over the poster where it hangs over most.
+double overhang(const cell & one, int height)
+{
+    double most = 0;
+    for (const spot at : {placed(one, 0, 0), placed(one, one.width, 0), placed(one, 0, one.height),
+                          placed(one, one.width, one.height)})
+        most = std::max({most, -at.x, -at.y, at.x - 2000, at.y - height});
+    return most;
+}
+
+/// The poster's points, 40 pixels apart, each with the cells that lie there.
+struct look {
+    int points = 0, bare = 0;
+    std::array<int, 4> corner_points{}, corner_bare{};  // of the squares of 240 pixels in the corners
+    std::vector<int> inside, shown;                     // by cell
+};
+
+look looked_at(const scatter & one)
+{
+    constexpr int step = 40, corner = 240;
+    look found;
+    found.inside.resize(one.cells.size());
+    found.shown.resize(one.cells.size());
+    for (int y = step / 2; y < one.height; y += step)
+        for (int x = step / 2; x < 2000; x += step) {
+            int top = -1;
+            for (std::size_t i = 0; i < one.cells.size(); ++i)
+                if (covers(one.cells[i], {1.0 * x, 1.0 * y})) {
+                    ++found.inside[i];
+                    top = static_cast<int>(i);
+                }
+            ++found.points;
+            found.bare += top < 0;
+            if (top >= 0)
+                ++found.shown[static_cast<std::size_t>(top)];
+            if ((x < corner || x > 2000 - corner) && (y < corner || y > one.height - corner)) {
+                const std::size_t which = (x < corner ? 0u : 1u) + (y < corner ? 0u : 2u);
+                ++found.corner_points[which];
+                found.corner_bare[which] += top < 0;
+            }
+        }
+    return found;
+}
+
+/// The cell turned from tall to wide or back about its middle, as near as whole numbers allow.
+cell turned(const cell & one)
+{
+    const int quarter = one.tall() ? one.width / 4 : -one.width / 4;
+    return {one.top + quarter, one.left - quarter, one.width, one.height, one.tilt};
+}
+
+}  // namespace
+
+TEST(scatter_tables, both_lists_hold_every_total_ascending)
+{
+    const std::set<int> wanted = possible_totals();
+    EXPECT_EQ(*wanted.begin(), 3);
+    EXPECT_EQ(*wanted.rbegin(), 97);
+    for (const int height : {3000, 2000}) {
+        std::vector<int> totals;
+        for (const scatter & one : all_scatters())
+            if (one.height == height)
+                totals.push_back(one.total);
+        EXPECT_TRUE(std::ranges::equal(totals, wanted)) << height;
+    }
+}
+
+TEST(scatter_tables, have_one_line_between_the_lists_no_blank_one_and_no_exact_list)
+{
+    const std::vector<std::string> lines = lines_of("quick_scatter.ini");
+    EXPECT_EQ(std::ranges::count(lines, "SQUARES"), 1);
+    for (const std::string & line : lines)
+        EXPECT_FALSE(line.empty() || line.starts_with('-') || line.starts_with('#')) << line;
+    for (const std::string & line : lines_of("scatter_templates"))
+        EXPECT_FALSE(line.empty());
+}
+
+TEST(scatter_tables, every_scatter_has_its_own_template_and_as_many_cells_as_its_line_says)
+{
+    std::set<std::string> names;
+    for (const scatter & one : all_scatters()) {
+        EXPECT_TRUE(names.insert(one.name).second) << one.name;
+        EXPECT_EQ(one.cells.size(), static_cast<std::size_t>(one.total)) << one.name;
+        EXPECT_EQ(std::ranges::count_if(one.cells, &cell::tall), one.tall) << one.name;
+        EXPECT_EQ(std::ranges::count_if(one.cells, &cell::wide), one.wide) << one.name;
+    }
+    EXPECT_EQ(std::ranges::count_if(lines_of("scatter_templates"),
+                                    [](const std::string & line) { return line.starts_with('['); }),
+              static_cast<long>(names.size()));
+}
+
+TEST(scatter_tables, every_scatter_is_drawn_with_as_many_tall_cells_as_wide_ones_or_one_less)
+{
+    for (const scatter & one : all_scatters())
+        EXPECT_LE(std::abs(one.tall - one.wide), 1) << one.name;
+}
+
+TEST(scatter_tables, tilts_are_fives_and_keep_within_the_numbers_of_the_program)
+{
+    for (const scatter & one : all_scatters())
+        for (const cell & each : one.cells) {
+            EXPECT_EQ(each.tilt % 5, 0) << one.name;
+            EXPECT_LE(std::abs(each.tilt), 35) << one.name;
+            EXPECT_LE(std::max(each.height, each.width) * std::abs(each.tilt), 32767) << one.name;
+        }
+}
+
+TEST(scatter_tables, nothing_hangs_over_further_than_a_preview_can_draw)
+{
+    for (const scatter & one : all_scatters())
+        for (const cell & each : one.cells)
+            EXPECT_LE(overhang(each, one.height), 135) << one.name;
+}
+
+TEST(scatter_tables, cover_the_poster_and_its_corners)
+{
+    for (const scatter & one : all_scatters()) {
+        const look found = looked_at(one);
+        EXPECT_LT(found.bare, found.points * (one.total == 3 ? 12 : 5) / 100) << one.name;
+        for (std::size_t corner = 0; corner < 4; ++corner)
+            EXPECT_LT(found.corner_bare[corner], found.corner_points[corner] * 6 / 10)
+                << one.name << " " << corner;
+    }
+}
+
+TEST(scatter_tables, hide_no_photo_by_more_than_about_half)
+{
+    for (const scatter & one : all_scatters()) {
+        const look found = looked_at(one);
+        for (std::size_t i = 0; i < one.cells.size(); ++i)
+            EXPECT_GE(found.shown[i], found.inside[i] * 0.46) << one.name << " " << i + 1;
+    }
+}
+
+TEST(scatter_tables, a_photo_stays_as_large_as_it_was_and_near_its_place_when_it_is_turned)
+{
+    for (const scatter & one : all_scatters())
+        for (const cell & each : one.cells) {
+            EXPECT_NEAR(each.ratio(), 1.5, 0.001) << one.name;
+            EXPECT_LT(overhang(turned(each), one.height), 350) << one.name;
+        }
+}
+
+TEST(scatter_tables, cells_with_room_to_turn_stand_first)
+{
+    for (const scatter & one : all_scatters()) {
+        const auto half = static_cast<std::ptrdiff_t>(one.cells.size() / 2);
+        const auto crowded = [&](auto from, auto to) {
+            return std::count_if(from, to,
+                                 [&](const cell & each) { return overhang(turned(each), one.height) > 150; });
+        };
+        EXPECT_LE(crowded(one.cells.begin(), one.cells.begin() + half),
+                  crowded(one.cells.begin() + half, one.cells.end()))
+            << one.name;
+    }
+}

@@ -1,0 +1,68 @@
+"""Quick matrix: a grid of rows and columns for a number of cells, with gaps and margins.
+
+A portrait takes one cell and a landscape two side by side. A cell of 1 to the root of 2 would suit both; from 1.12 to
+1.62 both are cut a little. Where rows and columns don't give that, wider margins do.
+"""
+from dataclasses import dataclass
+
+MOST_CELLS = 640
+
+
+@dataclass(frozen=True)
+class Grid:
+    rows: int
+    columns: int
+    row_gap: int
+    column_gap: int
+    side: int
+    top: int
+    bottom: int
+
+    def line(self):
+        numbers = (self.rows * self.columns, self.rows, self.columns, self.row_gap, self.column_gap, self.side, self.top,
+                   self.bottom)
+        return ":".join(str(number) for number in numbers)
+
+    def cell(self, height):
+        """Width and height of a cell on a poster 2000 wide."""
+        return ((2000 - 2 * self.side - (self.columns - 1) * self.column_gap) / self.columns,
+                (height - self.top - self.bottom - (self.rows - 1) * self.row_gap) / self.rows)
+
+
+def gap(cells):
+    return 24 if cells <= 24 else 20 if cells <= 70 else 16 if cells <= 160 else 12 if cells <= 320 else 8
+
+
+def margins(cells):
+    """The least margin that looks well, the same on all four sides but for a little more at the bottom."""
+    return 110 if cells <= 24 else 90 if cells <= 70 else 70 if cells <= 160 else 50
+
+
+def fitted(rows, columns, height):
+    """The grid with its margins: the least ones, and more on two sides until the cells have the shape of a photo."""
+    cells = rows * columns
+    space, least = gap(cells), margins(cells)
+    for extra in range(0, 261, 10):
+        for side, ends in ((extra, 0), (0, extra)):
+            grid = Grid(rows, columns, space, space, least + side, least + ends, least + ends + least // 3)
+            across, down = grid.cell(height)
+            if min(across, down) > 0 and 1.2 <= down / across <= 1.6:
+                return extra, grid
+    return None
+
+
+def best(cells, height):
+    """The grid of exactly so many cells that needs the least extra margin; None where none has sensible cells."""
+    ways = [fitted(rows, cells // rows, height) for rows in range(1, cells + 1) if cells % rows == 0]
+    ways = [(extra, grid.columns % 2, grid.rows, grid) for extra, grid in filter(None, ways)]
+    return min(ways)[-1] if ways else None
+
+
+def grids(height):
+    return [grid for grid in (best(cells, height) for cells in range(3, MOST_CELLS + 1)) if grid]
+
+
+def table():
+    """The lines of quick_matrix.ini."""
+    return (["# cells : rows : columns : row gap : column gap : side margin : top margin : bottom margin"]
+            + [grid.line() for grid in grids(3000)] + ["#SQUARE"] + [grid.line() for grid in grids(2000)])
