@@ -67,7 +67,7 @@ TEST(matrix_table, every_count_finds_a_grid_with_few_cells_to_spare)
         for (int wanted = 3; wanted <= 600; ++wanted) {
             const auto found = std::ranges::lower_bound(all, wanted, {}, &grid::cells);
             ASSERT_NE(found, all.end());
-            EXPECT_LE(found->cells - wanted, 7) << wanted;
+            EXPECT_LE(found->cells - wanted, 10) << wanted;
         }
     }
 }
@@ -81,7 +81,7 @@ TEST(matrix_table, a_portrait_in_one_cell_and_a_landscape_in_two_are_both_cut_li
             EXPECT_GE(single, 1.2) << one.cells;
             EXPECT_LE(single, 1.6) << one.cells;
             EXPECT_GE(pair, 1.2) << one.cells;
-            EXPECT_LE(pair, 1.72) << one.cells;
+            EXPECT_LE(pair, 1.701) << one.cells;
         }
 }
 
@@ -90,7 +90,7 @@ TEST(matrix_table, margins_leave_most_of_the_poster_to_the_photos)
     for (const int height : {3000, 2000})
         for (const grid & one : grids(height)) {
             const double photos = one.cells * one.cell_width() * one.cell_height();
-            EXPECT_GT(photos, (one.cells < 16 ? 0.55 : 0.6) * 2000 * height) << one.cells;
+            EXPECT_GT(photos, (one.cells <= 40 ? 0.52 : 0.6) * 2000 * height) << one.cells;
             EXPECT_GE(one.side, 50);
             EXPECT_GE(one.bottom, one.top);
         }

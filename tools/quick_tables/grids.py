@@ -1,7 +1,7 @@
 """Quick matrix: a grid of rows and columns for a number of cells, with gaps and margins.
 
-A portrait takes one cell and a landscape two side by side. A cell of 1 to the root of 2 would suit both; from 1.12 to
-1.62 both are cut a little. Where rows and columns don't give that, wider margins do.
+A portrait takes one cell and a landscape two side by side. A cell of 1 to the root of 2 would suit both; from 1.2 to
+1.6 both are cut a little. Where rows and columns don't give that, wider margins do.
 """
 from dataclasses import dataclass
 
@@ -42,11 +42,11 @@ def fitted(rows, columns, height):
     """The grid with its margins: the least ones, and more on two sides until the cells have the shape of a photo."""
     cells = rows * columns
     space, least = gap(cells), margins(cells)
-    for extra in range(0, 261, 10):
+    for extra in range(0, 261 if cells <= 40 else 151, 10):
         for side, ends in ((extra, 0), (0, extra)):
             grid = Grid(rows, columns, space, space, least + side, least + ends, least + ends + least // 3)
             across, down = grid.cell(height)
-            if min(across, down) > 0 and 1.2 <= down / across <= 1.6:
+            if min(across, down) > 0 and 1.2 <= down / across <= 1.6 and (2 * across + space) / down <= 1.7:
                 return extra, grid
     return None
 

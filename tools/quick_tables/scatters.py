@@ -12,6 +12,7 @@ from starter_designs.place import centred
 
 WIDTH = 2000
 HANG = 130          # how far a corner may leave the poster
+HANG_TURNED = 140   # the same, beyond the former, for a large photo that has been turned
 ROOM = 85           # how far a turned photo may reach before the program takes a broader border
 MOST_PRODUCT = 32767  # of a side and the tilt
 
@@ -111,7 +112,7 @@ class Throw:
     def __init__(self, total, height, heap, chance):
         self.total, self.height, self.chance = total, height, chance
         area = WIDTH * height
-        longest = WIDTH * (0.78 if total > 4 else 0.95 if height > WIDTH else 0.86)
+        longest = WIDTH * (0.78 if total > 4 else 0.88 if height > WIDTH else 0.82)
         self.long_side = max(12, math.floor(min(math.sqrt(1.5 * heap * area / total), longest) / 12) * 12)
         self.short_side = self.long_side * 2 // 3
         self.raster = Raster(height, max(28, self.long_side / (16 if total <= 12 else 11)))
@@ -250,7 +251,10 @@ class Throw:
                 self.photos[index], self.spans[index] = old, old_span
 
     def strain(self, photo):
-        return self.cost_of_pixels(0.25 * photo.lack_of_room(self.height))
+        pixels = 0.25 * photo.lack_of_room(self.height)
+        if self.total <= 24:
+            pixels += 3 * max(0, overhang(photo.turned().corners(), self.height) - HANG_TURNED)
+        return self.cost_of_pixels(pixels)
 
     def leaves(self, new, old):
         """True for a step beyond the rim; whoever stands there may come back."""
@@ -291,7 +295,7 @@ class Scatter:
 def thrown(total, height, name):
     """The best of some throws; the first that is good enough ends the search."""
     found = []
-    for attempt in range(40 if total <= 10 else 16 if total <= 24 else 6):
+    for attempt in range(24 if total <= 10 else 10 if total <= 24 else 5):
         chance = random.Random(f"{name} {attempt}")
         throw = Throw(total, height, (1.5, 1.42, 1.58)[attempt % 3], chance)
         throw.improve(100 + 5 * total)
@@ -299,7 +303,7 @@ def thrown(total, height, name):
             throw.settle(throw.in_order()[0], 200 + (14 if total <= 40 else 9) * total)
         order, share = throw.in_order()
         found.append(Scatter(name, height, [throw.photos[index].place() for index in order], share, *throw.bare_share()))
-        if found[-1].flaws() < (0.06 if total <= 24 else 0.11):
+        if found[-1].flaws() < (0.08 if total <= 24 else 0.11):
             break
     return min(found, key=Scatter.flaws)
 

@@ -5,10 +5,12 @@ from starter_art.svg import turned
 
 
 def from_profile(half_width, top=20, bottom=430, steps=60):
-    """A leaf as wide as `half_width` says along its midrib, 0 at the tip and 1 at the stem."""
-    right = [(250 + half_width(i / steps), top + (bottom - top) * i / steps) for i in range(steps + 1)]
+    """A leaf as wide as `half_width` says along its midrib, 0 at the tip and 1 at the stem, and there not narrower than
+    the stem, so that no rim parts the two."""
+    right = [(250 + max(half_width(i / steps), 8 if i > steps / 2 else 0), top + (bottom - top) * i / steps)
+             for i in range(steps + 1)]
     left = [(500 - x, y) for x, y in reversed(right)]
-    stem = [(244, bottom), (242, 488), (258, 488), (256, bottom)]
+    stem = [(242, bottom), (240, 488), (260, 488), (258, bottom)]
     return left[:-1] + right[:-1] + list(reversed(stem))
 
 
@@ -31,7 +33,7 @@ def linden(at):
 
 def maple():
     right = [(250, 15), (285, 95), (325, 70), (318, 165), (372, 118), (385, 150), (470, 135), (445, 205), (485, 228),
-             (405, 298), (422, 345), (335, 340), (285, 352), (268, 400), (258, 400), (262, 488)]
+             (405, 298), (422, 345), (335, 340), (285, 352), (264, 400), (261, 420), (262, 488)]
     return right + [(500 - x, y) for x, y in reversed(right)]
 
 

@@ -64,28 +64,41 @@ def stamp():
     return mask([path(closed([(20 + x, 20 + y) for x, y in edge]))], rim=12)
 
 
-SIDES = {"tab": 1, "hole": -1}
+BODY, START = 376, 14  # the side of a piece's body and where it begins: the tabs stand over at the right and below
 
 
-def piece(top, right, bottom, left):
-    """A piece of a jigsaw with a square body; each side bears a tab, a hole or nothing."""
-    low, high = 110, 390
-    length, middle = high - low, (low + high) / 2
-    neck, knob, reach = 0.09 * length, 0.16 * length, 0.2 * length
-    edge = []
-    for kind in (left, bottom, right, top):
-        side, out = [(low, low)], SIDES.get(kind, 0)
-        if out:
-            arc = [math.radians(degrees) for degrees in range(235, -56, -10)]
-            side += [(middle - neck, low)] + [
-                (middle + knob * math.cos(a), low - out * (reach + knob * math.sin(a))) for a in arc] + [(middle + neck, low)]
-        edge = side + [(high + low - y, x) for x, y in edge]  # what was on top goes to the right
+def knob(radius, wide=1.0, lean=0.0, steps=26):
+    """Half a side of a piece with its knob, along x with the knob upwards: a neck that curls into a round head."""
+    middle, high = BODY / 2, radius * 1.02
+    angles = [math.radians(215 - 250 * step / steps) for step in range(steps + 1)]
+    head = [(middle + lean * radius + wide * radius * math.cos(a), high + radius * math.sin(a)) for a in angles]
+
+    def neck(start, end, out):
+        """From the side to the head: sets off along the side and arrives along the head."""
+        one = (start[0] + out * 0.8 * radius, start[1])
+        two = (end[0] + out * 0.25 * radius, end[1] - 0.36 * radius)
+        return [tuple((1 - t) ** 3 * p + 3 * (1 - t) ** 2 * t * q + 3 * (1 - t) * t ** 2 * r + t ** 3 * e
+                      for p, q, r, e in zip(start, one, two, end)) for t in (at / 10 for at in range(10))]
+
+    left = neck((middle - 1.5 * radius, 0), head[0], 1)
+    right = neck((middle + 1.5 * radius, 0), head[-1], -1)
+    return left + head + right[::-1]
+
+
+def piece(wide, lean):
+    """A piece of a jigsaw: tabs at the right and below, holes at the left and above, all in the middle of their sides.
+    So each piece fits each other one, whichever are dealt, and they join where the shapes overlap by a fifth."""
+    tab, hole = knob(47, wide, lean), knob(50)
+    low, high = START, START + BODY
+    edge = [(low, low)] + [(low + x, low + y) for x, y in hole]
+    edge += [(high, low)] + [(high + y, low + x) for x, y in tab]
+    edge += [(high, high)] + [(high - x, high + y) for x, y in tab]
+    edge += [(low, high)] + [(low + y, high - x) for x, y in hole]
     return mask([path(closed(edge))], rim=14)
 
 
 def pieces():
-    kinds = [("tab", "hole", "tab", "hole"), ("hole", "tab", "hole", "tab"), ("tab", "tab", "hole", "hole"),
-             ("hole", "hole", "tab", "tab"), ("tab", "tab", "tab", "hole"), ("hole", "tab", "tab", "tab")]
+    kinds = [(1, 0), (1.1, 0.08), (0.96, -0.1), (1.06, -0.12), (0.94, 0.1), (1.12, 0)]
     return {f"puzzle_{index + 1}": piece(*kind) for index, kind in enumerate(kinds)}
 
 
