@@ -90,7 +90,7 @@ TEST(matrix_table, margins_leave_most_of_the_poster_to_the_photos)
     for (const int height : {3000, 2000})
         for (const grid & one : grids(height)) {
             const double photos = one.cells * one.cell_width() * one.cell_height();
-            EXPECT_GT(photos, (one.cells <= 40 ? 0.52 : 0.6) * 2000 * height) << one.cells;
+            EXPECT_GT(photos, (one.cells <= 40 ? 0.52 : 0.56) * 2000 * height) << one.cells;
             EXPECT_GE(one.side, 50);
             EXPECT_GE(one.bottom, one.top);
         }

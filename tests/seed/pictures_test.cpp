@@ -6,6 +6,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -44,6 +45,19 @@ TEST(seed_pictures, backgrounds_fill_the_poster_and_have_their_previews)
     EXPECT_EQ(size_of("samples/not_yet.jpg"), "300x450");
 }
 
+TEST(seed_pictures, every_quick_style_has_its_ready_made_previews_in_the_size_of_the_window)
+{
+    std::vector<std::string> states{"nb", "sb", "lb", "s"};
+    for (const char * shuffled : {"", "s"})
+        for (const char * resized : {"", "r"})
+            for (const char * rotated : {"o", "r"})
+                states.push_back(std::string(shuffled) + resized + rotated);
+    for (const std::string & state : states) {
+        EXPECT_EQ(size_of("images/preview/p_" + state + ".jpg"), "308x457") << state;
+        EXPECT_EQ(size_of("images/preview/l_" + state + ".jpg"), "457x308") << state;
+    }
+}
+
 TEST(seed_pictures, every_fixed_picture_and_mask_of_a_template_is_built)
 {
     std::ifstream templates(SEED_FOLDER "/design_list");
@@ -66,6 +80,7 @@ TEST(seed_pictures, the_folders_that_the_program_expects_are_there)
                               "frames", "icons", "images"})
         EXPECT_TRUE(std::filesystem::is_directory(built(name))) << name;
     for (const char * name :
-         {"designs.ini", "design_list", "description_list", "quick_scatter.ini", "icons/icons"})
+         {"designs.ini", "design_list", "description_list", "quick_block.ini", "block_templates",
+          "quick_scatter.ini", "scatter_templates", "quick_matrix.ini", "icons/icons"})
         EXPECT_TRUE(std::filesystem::is_regular_file(built(name))) << name;
 }

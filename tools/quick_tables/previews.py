@@ -8,7 +8,7 @@ rotated, "r", behind an "r" for resized and an "s" for shuffled.
 from itertools import product
 
 SPACES = {"nb": 0, "sb": 20, "lb": 45}
-BLOCKS = {"p_": "p06x06", "l_": "l06x06"}
+BLOCKS = {"p_": "p06x05", "l_": "l06x05"}
 SCATTER = "scatter15"
 
 # One for each cell of a matrix in turn: tilt, scale, shift down and right in fiftieths of the cell.
@@ -52,7 +52,7 @@ def matrix_layout(prefix, shuffled, resized, rotated):
             w, h = (cells * width + (cells - 1) * gap) * scale, height * scale
             x = margin + column * (width + gap) + right * shift - (w - w / scale) / 2
             y = margin + row * (height + gap) + down * shift - (h - h / scale) / 2
-            places.append((x - shift_of_corner(h, tilt), y + shift_of_corner(w, -tilt), w, h, tilt))
+            places.append((x - shift_of_corner(h, tilt), y + shift_of_corner(w, tilt), w, h, tilt))
             column += cells
     order = [at for at in range(0, len(places), 2)] + [at for at in range(1, len(places), 2)]
     return text(size, 14, [places[at] for at in order])

@@ -42,6 +42,15 @@ class Photo:
     def place(self):
         return centred(self.x, self.y, self.width, self.height, self.tilt)
 
+    def corners(self):
+        """The four corners as (x, y), clockwise."""
+        angle = math.radians(self.tilt)
+        c, s = math.cos(angle) / 2, math.sin(angle) / 2
+        x1, y1 = self.width * c - self.height * s, self.width * s + self.height * c
+        x2, y2 = self.width * c + self.height * s, self.width * s - self.height * c
+        return [(self.x - x1, self.y - y1), (self.x + x2, self.y + y2), (self.x + x1, self.y + y1),
+                (self.x - x2, self.y - y2)]
+
     def turned(self):
         """The photo turned from tall to wide or back, as the program does it."""
         place, quarter = self.place(), min(self.width, self.height) / 4
@@ -69,10 +78,10 @@ class Raster:
         self.columns, self.rows = round(WIDTH / step), round(height / step)
         self.step_x, self.step_y = WIDTH / self.columns, height / self.rows
         self.all = (1 << self.columns * self.rows) - 1
-        corner = max(1, self.columns // 8)
-        run = ((1 << corner) - 1) | ((1 << corner) - 1) << (self.columns - corner)
-        self.corners = sum(run << row * self.columns
-                           for row in list(range(corner)) + list(range(self.rows - corner, self.rows)))
+        size = max(2, self.columns // 8)
+        self.each_corner = [sum(((1 << size) - 1) << (row * self.columns + left) for row in range(top, top + size))
+                            for top in (0, self.rows - size) for left in (0, self.columns - size)]
+        self.corners = sum(self.each_corner)
 
     def span(self, corners):
         """The points inside a convex outline."""
@@ -111,16 +120,17 @@ def overhang(corners, height):
 class Throw:
     def __init__(self, total, height, heap, chance):
         self.total, self.height, self.chance = total, height, chance
-        area = WIDTH * height
-        longest = WIDTH * (0.78 if total > 4 else 0.88 if height > WIDTH else 0.82)
+        area, self.worth_of_corner = WIDTH * height, 28 if total <= 16 else 14
+        longest = WIDTH * (0.78 if total > 4 else 0.96 if height > WIDTH else 0.86)
         self.long_side = max(12, math.floor(min(math.sqrt(1.5 * heap * area / total), longest) / 12) * 12)
         self.short_side = self.long_side * 2 // 3
         self.raster = Raster(height, max(28, self.long_side / (16 if total <= 12 else 11)))
         self.photos = self.start()
         self.spans = [self.span(photo) for photo in self.photos]
+        self.strains = [self.strain(photo) for photo in self.photos]
 
     def span(self, photo):
-        return self.raster.span(photo.place().corners())
+        return self.raster.span(photo.corners())
 
     def tilts(self):
         steepest = min(35, MOST_PRODUCT // self.long_side // 5 * 5)
@@ -149,7 +159,7 @@ class Throw:
 
     def brought_in(self, photo):
         """The photo moved until nothing of it hangs over by more than it may."""
-        corners = photo.place().corners()
+        corners = photo.corners()
         xs, ys = [x for x, _ in corners], [y for _, y in corners]
         x = max(0, -HANG - min(xs)) - max(0, max(xs) - WIDTH - HANG)
         y = max(0, -HANG - min(ys)) - max(0, max(ys) - self.height - HANG)
@@ -164,11 +174,11 @@ class Throw:
             photos[index] = replace(photos[index], width=photos[index].height, height=photos[index].width)
         return photos
 
-    def gain(self, photo, span, one, two, three):
+    def gain(self, strain, span, one, two, three):
         bare = span & ~one
-        return (6 * bare.bit_count() + 14 * (bare & self.raster.corners).bit_count() - (span & one).bit_count()
+        return (6 * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() - (span & one).bit_count()
                 - 3 * (span & two).bit_count() - 6 * (span & three).bit_count()
-                - self.strain(photo))
+                - strain)
 
     def cost_of_pixels(self, pixels):
         return pixels * (self.long_side / self.raster.step_x) * 6 / self.raster.step_x
@@ -185,9 +195,9 @@ class Throw:
             if self.leaves(new, old):
                 continue
             rest = layers(self.spans[:index] + self.spans[index + 1:])
-            span = self.span(new)
-            if self.gain(new, span, *rest) >= self.gain(old, self.spans[index], *rest):
-                self.photos[index], self.spans[index] = new, span
+            span, strain = self.span(new), self.strain(new)
+            if self.gain(strain, span, *rest) >= self.gain(self.strains[index], self.spans[index], *rest):
+                self.photos[index], self.spans[index], self.strains[index] = new, span, strain
 
     def shown(self, order):
         """How much of each photo shows when they are drawn in this order, as {photo: share}."""
@@ -229,7 +239,7 @@ class Throw:
                 hidden += points * (12 * lacking) ** 2
             above |= span
         bare = self.raster.all & ~above
-        return 6 * bare.bit_count() + 14 * (bare & self.raster.corners).bit_count() + hidden
+        return 6 * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() + hidden
 
     def settle(self, order, rounds):
         """Small moves, judged by what shows in the end."""
@@ -244,9 +254,9 @@ class Throw:
             if self.leaves(new, old):
                 continue
             self.photos[index], self.spans[index] = new, self.span(new)
-            changed = self.badness(order) + self.strain(new) - self.strain(old)
-            if changed <= bad:
-                bad = changed - self.strain(new) + self.strain(old)
+            changed, strain = self.badness(order), self.strain(new)
+            if changed + strain <= bad + self.strains[index]:
+                bad, self.strains[index] = changed, strain
             else:
                 self.photos[index], self.spans[index] = old, old_span
 
@@ -258,14 +268,14 @@ class Throw:
 
     def leaves(self, new, old):
         """True for a step beyond the rim; whoever stands there may come back."""
-        hang = overhang(new.place().corners(), self.height)
-        return hang > 0 and hang >= overhang(old.place().corners(), self.height)
+        hang = overhang(new.corners(), self.height)
+        return hang > 0 and hang >= overhang(old.corners(), self.height)
 
     def bare_share(self):
-        """Of the whole poster, and of its corners, how much stays bare."""
+        """How much stays bare of the whole poster, and of the corner that is covered least."""
         bare = self.raster.all & ~layers(self.spans)[0]
         return (bare.bit_count() / self.raster.all.bit_count(),
-                (bare & self.raster.corners).bit_count() / self.raster.corners.bit_count())
+                max((bare & corner).bit_count() / corner.bit_count() for corner in self.raster.each_corner))
 
 
 @dataclass
@@ -275,13 +285,13 @@ class Scatter:
     places: list
     least_shown: float
     bare: float
-    bare_corners: float
+    bare_corner: float
 
     def tall(self):
         return sum(place.height > place.width for place in self.places)
 
     def flaws(self):
-        return 8 * max(0, 0.55 - self.least_shown) + 3 * self.bare + self.bare_corners
+        return 10 * max(0, 0.54 - self.least_shown) + 3 * self.bare + 25 * max(0, self.bare - 0.035) + 0.9 * self.bare_corner ** 2
 
     def entry(self):
         return f"{len(self.places):02}:{self.tall():02}:{len(self.places) - self.tall():02}:{self.name}"
@@ -295,9 +305,9 @@ class Scatter:
 def thrown(total, height, name):
     """The best of some throws; the first that is good enough ends the search."""
     found = []
-    for attempt in range(24 if total <= 10 else 10 if total <= 24 else 5):
+    for attempt in range(60 if total <= 7 else 20 if total <= 16 else 8 if total <= 24 else 4):
         chance = random.Random(f"{name} {attempt}")
-        throw = Throw(total, height, (1.5, 1.42, 1.58)[attempt % 3], chance)
+        throw = Throw(total, height, (1.5, 1.42, 1.58, 1.34)[attempt % 4], chance)
         throw.improve(100 + 5 * total)
         for _ in range(3 if total <= 24 else 2):
             throw.settle(throw.in_order()[0], 200 + (14 if total <= 40 else 9) * total)
