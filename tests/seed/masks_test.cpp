@@ -129,3 +129,28 @@ TEST(masks, have_a_grey_rim_all_round_unless_they_are_patterns)
         EXPECT_FALSE(touches_ground(load_picture(picture_format::gif, path))) << path;
     }
 }
+
+TEST(masks, any_two_pieces_of_the_puzzle_join)
+{
+    constexpr std::size_t size = 800, step = 604;  // the body of a piece and a little
+    std::vector<std::vector<part>> pieces;
+    for (const char digit : {'1', '2', '3', '4', '5', '6'})
+        pieces.push_back(parts_of(
+            load_picture(picture_format::gif, std::string(BUILT_SEED "/images/puzzle_") + digit + ".gif")));
+    for (const auto & one : pieces)
+        for (const auto & other : pieces) {
+            int double_beside = 0, double_below = 0;
+            for (std::size_t along = 0; along < size; ++along)
+                for (std::size_t deep = 0; deep + step < size; ++deep) {
+                    const auto inside = [&](const std::vector<part> & piece, std::size_t row,
+                                            std::size_t column) {
+                        return piece[row * size + column] == part::inside ? 1 : 0;
+                    };
+                    double_beside += inside(one, along, deep + step) * inside(other, along, deep);
+                    // rows count from the bottom: the piece below ends where the other's tab begins
+                    double_below += inside(one, deep, along) * inside(other, deep + step, along);
+                }
+            EXPECT_LT(double_beside, 500);
+            EXPECT_LT(double_below, 500);
+        }
+}

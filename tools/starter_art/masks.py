@@ -88,7 +88,7 @@ def knob(radius, wide=1.0, lean=0.0, steps=26):
 def piece(wide, lean):
     """A piece of a jigsaw: tabs at the right and below, holes at the left and above, all in the middle of their sides.
     So each piece fits each other one, whichever are dealt, and they join where the shapes overlap by a fifth."""
-    tab, hole = knob(47, wide, lean), knob(50)
+    tab, hole = knob(45, wide, lean), knob(50)
     low, high = START, START + BODY
     edge = [(low, low)] + [(low + x, low + y) for x, y in hole]
     edge += [(high, low)] + [(high + y, low + x) for x, y in tab]
@@ -98,7 +98,7 @@ def piece(wide, lean):
 
 
 def pieces():
-    kinds = [(1, 0), (1.1, 0.08), (0.96, -0.1), (1.06, -0.12), (0.94, 0.1), (1.12, 0)]
+    kinds = [(1, 0), (1.06, 0.05), (0.96, -0.06), (1.03, -0.06), (0.94, 0.06), (1.08, 0)]
     return {f"puzzle_{index + 1}": piece(*kind) for index, kind in enumerate(kinds)}
 
 
