@@ -6,6 +6,8 @@
 #include "session/window_state.h"
 #include "support/paths.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int caption_that_counts = 15;  // pixels
@@ -33,9 +35,31 @@ bool is_drawn_nearer(const frmMain & main)
            main.run.caption_height > caption_that_counts;
 }
 
+// A shaken matrix was laid out smaller, so that nothing is lost at the edges of the canvas: it is drawn
+// nearer by as much.
+bool is_laid_out_smaller(const frmMain & main)
+{
+    return main.quick_active && main.optMatrix.selected() && main.quick.preview_inset > 0 &&
+           main.txtCaption.text().empty();
+}
+
+bitmap matrix_part(const frmMain & main)
+{
+    const int margin = main.run.collage_margin, inset = main.quick.preview_inset;
+    const int width = main.collage_width, height = main.collage_height;
+    const int side = std::max(width, height);
+    const int across = nearest(inset * width / static_cast<double>(side));
+    const int down = nearest(inset * height / static_cast<double>(side));
+    const bitmap part = copied(main.run.canvas, margin + across, margin + down, width + margin - across,
+                               height + margin - down);
+    return rescaled(part, width, height);
+}
+
 // The collage as it is shown: without its bleed, and drawn nearer above a large caption.
 bitmap shown_part(const frmMain & main)
 {
+    if (is_laid_out_smaller(main))
+        return matrix_part(main);
     const int margin = main.run.collage_margin;
     const int width = main.collage_width, height = main.collage_height;
     if (!is_drawn_nearer(main))

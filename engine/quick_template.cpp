@@ -1,6 +1,10 @@
 #include "engine/quick_template.h"
 
 #include "designs/catalogue.h"
+#include "quick/quick_block.h"
+#include "quick/quick_matrix.h"
+#include "quick/quick_scatter.h"
+#include "quick/quick_shapes.h"
 
 namespace {
 
@@ -19,9 +23,20 @@ void read_record(frmMain & main, const std::string & name, const std::string & w
         main.desk.message(when_missing);
 }
 
-/// The generator of the selected style writes `designs/__quick` here, the block, scatter and shapes ones
-/// behind the record, which they read, the matrix one in front of it.
-void write_template(frmMain &) {}
+// A full-size run draws the shapes that the preview has laid out.
+void write_template(frmMain & main, run_size size)
+{
+    main.quick.scatter_mode = scatter_mode::block;
+    if (main.optBlock.selected()) {
+        write_quick_block(main);
+    } else if (main.optShapes.selected()) {
+        if (size == run_size::preview)
+            write_quick_shapes(main);
+    } else {
+        main.quick.scatter_mode = scatter_mode::scatter;
+        write_quick_scatter(main);
+    }
+}
 
 }  // namespace
 
@@ -30,14 +45,10 @@ void make_quick_template(frmMain & main, run_size size)
     if (!main.quick_active)
         return;
     if (main.optMatrix.selected()) {
-        if (size == run_size::full) {
-            main.collage_width = 2000;
-            main.collage_height = 3000;
-        }
-        write_template(main);
+        write_quick_matrix(main);
         read_record(main, "Quick matrix", no_matrix_message(size));
     } else {
         read_record(main, "Match", "should not happen 2 ?");
-        write_template(main);
+        write_template(main, size);
     }
 }

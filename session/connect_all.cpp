@@ -1,6 +1,7 @@
 #include "session/connect_all.h"
 
 #include "quick/quick_controls.h"
+#include "quick/start_quick.h"
 #include "session/handlers.h"
 
 void connect_all(windows & all)
@@ -15,6 +16,9 @@ void connect_all(windows & all)
     connect_designed(all.main);
     connect_buttons(all.main);
     connect_quick_controls(all.main);
+    connect_quick_styles(all.main);
+    connect_quick_orientation(all.main);
+    connect_quick_menu(all.main);
     connect_frmThemes(all);
     connect_frmImage(all);
     connect_frmPhotoCnt(all);

@@ -3,9 +3,11 @@
 #include "designs/catalogue_state.h"
 #include "designs/design_record.h"
 #include "designs/location.h"
+#include "designs/poster_shape.h"
 #include "engine/rotation_files.h"
 #include "engine/run_state.h"
 #include "photos/photo_table.h"
+#include "quick/quick_state.h"
 #include "support/desktop.h"
 #include "support/forms.h"
 #include "support/random.h"
@@ -22,9 +24,6 @@ struct enable_memory {
     bool shadow_usable = false;  ///< shadows may be drawn in the run that is going on
     bool shadow_fixed = false;   ///< `cmbShadow` was enabled when the run began
 };
-
-/// The three orientations of a poster.
-enum class poster_shape { portrait, landscape, square };
 
 /// What the image window was opened for.
 enum class image_face { finished, viewed, sample };
@@ -231,6 +230,7 @@ struct frmMain : form {
     bool skip_preview_click = false;
     bool quick_active = false, quick_first_pass = false;
     bool quick_spacing_changed = false, quick_border = false;
+    quick_state quick;
     double shape_row_bias = 0, shape_column_bias = 0;  ///< added by the row and column buttons
     double shape_rows = 0, shape_columns = 0;          ///< the counts shown beside them
     poster_shape shape_in_force = poster_shape::portrait;

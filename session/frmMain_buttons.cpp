@@ -45,7 +45,7 @@ void optPreview_click(frmMain & main)
 void optSample_click(frmMain & main)
 {
     main.preview_blocked = false;
-    refresh_preview(main);
+    show_ready_made(main);
 }
 
 void show_own_help(frmMain & main)

@@ -1,6 +1,7 @@
 #include "photos/chosen_photos.h"
 #include "photos/photo_list.h"
 #include "quick/quick_controls.h"
+#include "quick/start_quick.h"
 #include "session/handlers.h"
 #include "session/windows.h"
 
@@ -44,7 +45,7 @@ void cmdPhotos_click(frmMain & main)
     take_chosen_photos(main);
     main.cmdMore.tag.clear();
     main.shape_row_bias = main.shape_column_bias = 0;
-    refresh_preview(main);
+    take_new_photos(main);
 }
 
 }  // namespace

@@ -31,6 +31,7 @@ void begin_collage(frmMain & main)
     main.mnuSaveDesign.enable(false);
     main.cmdHelp.enable(true);
     main.font_extended = true;
+    main.quick.matrix_offset = -1;
     // A picture background without a picture: its click opens the chooser.
     if (main.optBGimage.selected() && main.txtBGimage.text().empty()) {
         main.optBGimage.select(false);

@@ -55,6 +55,13 @@ void select_picture_quietly(frmMain & main)
 
 }  // namespace
 
+poster_shape selected_shape(const frmMain & main)
+{
+    if (main.optSquare.selected())
+        return poster_shape::square;
+    return main.optLandscape.selected() ? poster_shape::landscape : poster_shape::portrait;
+}
+
 void show_work_controls(frmMain & main, bool show)
 {
     const updating quiet(main);

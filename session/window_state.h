@@ -4,6 +4,9 @@
 
 /// What the main window does with its own controls alone.
 
+/// The poster that the orientation options stand for; upright when none is selected.
+poster_shape selected_shape(const frmMain & main);
+
 /// Shows or hides the groups of the finishing stage; those of the quick styles only while one is active.
 void show_work_controls(frmMain & main, bool show);
 

@@ -1,0 +1,55 @@
+#include "quick/quick_scatter.h"
+
+#include "quick/quick_tables.h"
+#include "quick/scatter_plan.h"
+#include "quick/template_text.h"
+
+#include <algorithm>
+
+namespace {
+
+// A wider border that the user has chosen stays.
+void force_border(frmMain & main, const option_button & least)
+{
+    const option_set & borders = main.border_options;
+    const auto floor = std::find(borders.begin(), borders.end(), &least);
+    for (auto smaller = borders.begin(); smaller != floor; ++smaller)
+        (*smaller)->enable(false);
+    if (std::none_of(floor, borders.end(), [](const option_button * each) { return each->selected(); }))
+        (*floor)->select();
+    main.borders_free = false;
+}
+
+void fit_borders(frmMain & main, least_border least)
+{
+    const updating quiet(main);
+    if (least == least_border::small)
+        force_border(main, main.optSmall);
+    if (least == least_border::medium)
+        force_border(main, main.optMedium);
+    if (least == least_border::large)
+        force_border(main, main.optLarge);
+}
+
+}  // namespace
+
+void write_quick_scatter(frmMain & main)
+{
+    scatter_request request;
+    request.blanks = start_blanks(main);
+    main.borders_free = true;
+    const std::vector<std::string> fields = fields_of(main.quick.scatter_line);
+    request.offered = {.along = number_at(fields, 1), .cross = number_at(fields, 2)};
+    request.wanted = {.along = main.quick.quick_along, .cross = main.quick.quick_cross};
+    const std::string header = "[" + field_at(fields, 3) + "]";
+    scatter_layout layout;
+    with_table(main, "scatter_templates", [&](line_source & scatters) {
+        const auto scatter = section_of(scatters, header);
+        if (scatter)
+            layout = scatter_plan(*scatter, request, main.random);
+        else
+            main.desk.message("Shouldn't happen");
+    });
+    write_quick_template(main, layout.lines);
+    fit_borders(main, border_for(layout.reach));
+}

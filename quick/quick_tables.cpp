@@ -1,0 +1,34 @@
+#include "quick/quick_tables.h"
+
+#include "support/paths.h"
+#include "support/platform_error.h"
+
+void with_table(const frmMain & main, std::string_view name, const std::function<void(line_source &)> & work)
+{
+    const std::string path = joined(main.install_folder, name);
+    try {
+        line_source table(path);
+        work(table);
+    } catch (const platform_error & error) {
+        if (!error.path.empty())
+            throw;
+        throw platform_error(error.number, error.what(), path);
+    }
+}
+
+void write_quick_template(const frmMain & main, const std::vector<std::string> & lines)
+{
+    write_file(joined(joined(main.data_folder, "designs"), "__quick"), text_of(lines));
+}
+
+blank_run start_blanks(frmMain & main)
+{
+    const int length = pixels_in(main.cmbBlanks);
+    main.random.reseed();
+    return start_blanks(length, main.random);
+}
+
+int pixels_in(const combo_box & list)
+{
+    return nearest16(number_in(list));
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "quick/blank_run.h"
+#include "session/frmMain.h"
+#include "support/text_file.h"
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+/// The files of the quick styles: tables in the program's own folder, and the template that is written.
+
+/// Reads a table with `work`. Raises 53, 70 when it can't be opened; what `work` raises names the table.
+void with_table(const frmMain & main, std::string_view name, const std::function<void(line_source &)> & work);
+
+/// Writes `designs/__quick` anew. Raises 61, 70, 75, 76; the old one then stays.
+void write_quick_template(const frmMain & main, const std::vector<std::string> & lines);
+
+/// The holes that `cmbBlanks` asks for; chance starts anew. Raises overflow (6).
+blank_run start_blanks(frmMain & main);
+
+/// The number in a list of the window in whole pixels. Raises overflow (6).
+int pixels_in(const combo_box & list);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "designs/poster_shape.h"
+#include "support/numbers.h"
+#include "support/text_file.h"
+
+#include <string>
+
+/// Which scatter suits which count of photos.
+
+/// Slots whose photo lies along the poster, and across it.
+struct slot_counts {
+    int along = 0, cross = 0;
+    bool operator==(const slot_counts &) const = default;
+};
+
+struct clamped_slots {
+    slot_counts slots;
+    int16 reduced = 0;  ///< how many times a count was lowered
+};
+
+/// The slots that a scatter can have: at most `most` of either kind, and fewer where the other kind has many.
+/// Raises subscript (9) for counts that no table knows.
+clamped_slots clamped_for_scatter(slot_counts slots, int most);
+
+enum class scatter_search {
+    found,
+    substituted,  ///< no scatter has as many photos: the one looked at last stands in
+    none,         ///< neither, and with so few photos none stands in
+};
+
+struct scatter_match {
+    scatter_search result = scatter_search::none;
+    std::string line;              ///< of the table
+    bool squares_missing = false;  ///< the table has no list for square posters
+};
+
+/// Searches the table of scatters, `quick_scatter.ini`: lines "-:count:count:name" for exact counts, then
+/// "total:count:count:name" for upright and landscape posters, then a line "SQUARES" and such lines for
+/// square ones. Raises past_end_of_file (62) when "SQUARES" is the last line.
+scatter_match find_scatter(line_source & table, poster_shape poster, slot_counts wanted);
