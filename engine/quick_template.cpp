@@ -26,13 +26,14 @@ void read_record(frmMain & main, const std::string & name, const std::string & w
 // A full-size run draws the shapes that the preview has laid out.
 void write_template(frmMain & main, run_size size)
 {
+    const bool preview = size == run_size::preview;
     main.quick.scatter_mode = scatter_mode::block;
     if (main.optBlock.selected()) {
         write_quick_block(main);
     } else if (main.optShapes.selected()) {
-        if (size == run_size::preview)
+        if (preview)
             write_quick_shapes(main);
-    } else {
+    } else if (preview || main.optScatter.selected()) {
         main.quick.scatter_mode = scatter_mode::scatter;
         write_quick_scatter(main);
     }

@@ -20,7 +20,7 @@ block_counts clamped_for_blocks(block_counts counts, poster_shape poster);
 
 /// A block and what is to be done with it.
 struct block_match {
-    std::string name;              ///< its header, with brackets
+    std::string name{};            ///< its header, with brackets
     int16 doubled = 0, split = 0;  ///< rectangles to widen, and to cut in two
     bool operator==(const block_match &) const = default;
 };

@@ -14,7 +14,7 @@ struct block_request {
     int gap = 0;      ///< pixels that each side of a rectangle gives up; negative: they overlap
     int doubled = 0;  ///< so many rectangles, from the first on, become twice as high
     int split = 0;    ///< so many, behind those, are cut in two
-    blank_run blanks;
+    blank_run blanks{};
 };
 
 /// The template lines of a block. `block` holds its lines, "top:left:height:width" and comments, in pixels of

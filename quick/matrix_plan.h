@@ -10,14 +10,14 @@
 /// A quick matrix: a full grid in which a portrait photo takes one cell and a landscape photo two.
 
 struct matrix_request {
-    matrix_grid grid;
+    matrix_grid grid{};
     poster_shape poster = poster_shape::portrait;
     int portrait = 0, landscape = 0;                       ///< photos
-    std::string shapes;                                    ///< "p:" or "l:" for each of them, in list order
+    std::string shapes{};                                  ///< "p:" or "l:" for each of them, in list order
     bool rotate = false, resize = false, shuffle = false;  ///< how the grid is shaken
     int offset = 0;                                        ///< where in the patterns the poster begins
     int inset = 0;  ///< pixels that a preview leaves free at the sides, for what hangs over
-    blank_run blanks;
+    blank_run blanks{};
 };
 
 /// The pixels that a shaken preview of `last_photo` + 1 photos leaves free at its sides.

@@ -107,6 +107,8 @@ bool find_scatter_match(frmMain & main)
     with_table(main, "quick_scatter.ini", [&](line_source & table) {
         match = find_scatter(table, selected_shape(main),
                              {.along = main.quick.quick_along, .cross = main.quick.quick_cross});
+        if (match.result != scatter_search::none)
+            scatter_entry_of(match.line);  // a fault is told here, with the name of the table
     });
     main.quick.scatter_line = match.line;
     return told_scatter_search(main, match);

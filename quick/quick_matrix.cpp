@@ -70,6 +70,7 @@ std::string find_matrix_line(frmMain & main, int wanted)
         const matrix_lines found = find_matrix(table, selected_shape(main), wanted);
         if (found.corrupt)
             main.desk.message("Corrupt quick_matrix file??");
+        matrix_grid_of(found.line);  // a fault is told here, with the name of the table
         line = found.corrupt ? found.line : offer_fewer(main, found, wanted);
     });
     return line;

@@ -35,16 +35,16 @@ void fit_borders(frmMain & main, least_border least)
 
 void write_quick_scatter(frmMain & main)
 {
-    scatter_request request;
-    request.blanks = start_blanks(main);
+    const blank_run blanks = start_blanks(main);
     main.borders_free = true;
-    const std::vector<std::string> fields = fields_of(main.quick.scatter_line);
-    request.offered = {.along = number_at(fields, 1), .cross = number_at(fields, 2)};
-    request.wanted = {.along = main.quick.quick_along, .cross = main.quick.quick_cross};
-    const std::string header = "[" + field_at(fields, 3) + "]";
+    const scatter_entry entry = scatter_entry_of(main.quick.scatter_line);
+    const scatter_request request{
+        .wanted = {.along = main.quick.quick_along, .cross = main.quick.quick_cross},
+        .offered = entry.slots,
+        .blanks = blanks};
     scatter_layout layout;
     with_table(main, "scatter_templates", [&](line_source & scatters) {
-        const auto scatter = section_of(scatters, header);
+        const auto scatter = section_of(scatters, "[" + entry.name + "]");
         if (scatter)
             layout = scatter_plan(*scatter, request, main.random);
         else

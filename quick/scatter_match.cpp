@@ -92,6 +92,13 @@ clamped_slots clamped_for_scatter(slot_counts slots, int most)
     return clamped;
 }
 
+scatter_entry scatter_entry_of(const std::string & line)
+{
+    const std::vector<std::string> fields = fields_of(line);
+    return {.slots = {.along = number_at(fields, 1), .cross = number_at(fields, 2)},
+            .name = field_at(fields, 3)};
+}
+
 scatter_match find_scatter(line_source & table, poster_shape poster, slot_counts wanted)
 {
     scatter_match match;

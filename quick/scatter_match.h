@@ -35,6 +35,15 @@ struct scatter_match {
     bool squares_missing = false;  ///< the table has no list for square posters
 };
 
+/// What a line of the table says of its scatter.
+struct scatter_entry {
+    slot_counts slots;
+    std::string name;
+};
+
+/// Reads it. Raises subscript (9) for a line with too few fields, overflow (6).
+scatter_entry scatter_entry_of(const std::string & line);
+
 /// Searches the table of scatters, `quick_scatter.ini`: lines "-:count:count:name" for exact counts, then
 /// "total:count:count:name" for upright and landscape posters, then a line "SQUARES" and such lines for
 /// square ones. Raises past_end_of_file (62) when "SQUARES" is the last line.

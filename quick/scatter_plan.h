@@ -9,9 +9,9 @@
 /// A scatter: photos thrown on the poster, each tilted by its own angle.
 
 struct scatter_request {
-    slot_counts wanted;   ///< slots that the photos need
-    slot_counts offered;  ///< slots that the scatter has: tall cells lie along the poster
-    blank_run blanks;
+    slot_counts wanted{};   ///< slots that the photos need
+    slot_counts offered{};  ///< slots that the scatter has: tall cells lie along the poster
+    blank_run blanks{};
 };
 
 /// How far the cells that were turned reach, in pixels of the upright poster; 0 where none does.

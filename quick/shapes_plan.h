@@ -19,7 +19,7 @@ struct shapes_request {
     int frame = 0, shadow = 0;
     shapes_align align = shapes_align::center;
     bool mix = false;
-    blank_run blanks;
+    blank_run blanks{};
 };
 
 struct shapes_layout {

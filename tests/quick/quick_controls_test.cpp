@@ -1,20 +1,12 @@
 #include "quick/quick_controls.h"
 
-#include "tests/session/opened_session.h"
+#include "tests/quick/quick_session.h"
 
 namespace {
 
-// The finishing stage of a quick style, as its entry will leave it.
-struct quick_session : opened_session {
-    quick_session()
-    {
-        folder.write("data/designs.ini",
-                     "[Design001]\r\nName=Match\r\nFile=__match\r\n"
-                     "[Design002]\r\nName=Quick matrix\r\n");
-        main.load();
-        main.quick_active = true;
-        finish();
-    }
+// In the midst of a collage of blocks.
+struct started_session : quick_session {
+    started_session() { start(); }
 };
 
 }  // namespace
@@ -90,7 +82,7 @@ TEST(refresh_after_change, marks_the_redraw_and_takes_the_mark_off)
 
 TEST(cmbSpace, a_choice_redraws_and_is_noted)
 {
-    quick_session session;
+    started_session session;
     session.main.cmbSpace.show(true);
     EXPECT_EQ(session.previews_of([&] { session.main.cmbSpace.choose(15); }), 1);
     EXPECT_TRUE(session.main.quick_spacing_changed);
@@ -98,7 +90,7 @@ TEST(cmbSpace, a_choice_redraws_and_is_noted)
 
 TEST(cmbSpace, typing_turns_the_preview_off_until_the_user_wants_it)
 {
-    quick_session session;
+    started_session session;
     EXPECT_EQ(session.previews_of([&] { session.main.cmbSpace.set_text("3"); }), 0);
     expect_states(session.main, "optPreview0");
     EXPECT_TRUE(session.main.preview_blocked);
@@ -108,7 +100,7 @@ TEST(cmbSpace, typing_turns_the_preview_off_until_the_user_wants_it)
 
 TEST(cmbSpace, does_nothing_while_hidden)
 {
-    quick_session session;
+    started_session session;
     session.main.cmbSpace.show(false);
     session.main.cmbSpace.set_text("35");
     session.main.cmbSpace.choose(2);
@@ -118,7 +110,8 @@ TEST(cmbSpace, does_nothing_while_hidden)
 
 TEST(optBlock, shows_its_columns)
 {
-    quick_session session;
+    started_session session;
+    session.main.optScatter.select();
     session.main.frmShake.move({100, 200, 30, 40});
     session.main.chkMatch.move({60, 0, 1, 1});
     session.main.chkEvolve.move({500, 900, 1, 1});
@@ -144,7 +137,7 @@ TEST(optBlock, shows_its_columns)
 
 TEST(optScatter, shows_its_columns)
 {
-    quick_session session;
+    started_session session;
     session.main.chkRounded.tick(true);
     session.main.chkCaption.enable(false);
     EXPECT_EQ(session.previews_of([&] { session.main.optScatter.select(); }), 1);
@@ -156,7 +149,7 @@ TEST(optScatter, shows_its_columns)
 
 TEST(optMatrix, shows_its_columns)
 {
-    quick_session session;
+    started_session session;
     session.main.optScatter.select();
     EXPECT_EQ(session.previews_of([&] { session.main.optMatrix.select(); }), 1);
     expect_states(session.main,
@@ -167,7 +160,7 @@ TEST(optMatrix, shows_its_columns)
 
 TEST(optMatrix, tilted_photos_have_no_round_corners)
 {
-    quick_session session;
+    started_session session;
     session.main.chkRotate.tick(true);
     session.main.chkRounded.tick(true);
     session.main.chkRounded.enable(true);
@@ -177,7 +170,7 @@ TEST(optMatrix, tilted_photos_have_no_round_corners)
 
 TEST(optShapes, shows_its_columns)
 {
-    quick_session session;
+    started_session session;
     session.main.cmbShapes.set_text("Stars");
     session.main.frmShake.move({100, 200, 30, 40});
     EXPECT_EQ(session.previews_of([&] { session.main.optShapes.select(); }), 1);
@@ -191,24 +184,24 @@ TEST(optShapes, shows_its_columns)
     EXPECT_EQ(session.main.frmSpace.place().left, 100);
     EXPECT_EQ(session.main.frmAlign.place().left, 222);
     EXPECT_EQ(session.main.frmAlign.place().top, 200);
-    EXPECT_EQ(session.main.lblRows.caption(), "00      Rows");
-    EXPECT_EQ(session.main.lblCols.caption(), "00    Columns");
+    EXPECT_EQ(session.main.lblRows.caption(), "03      Rows");
+    EXPECT_EQ(session.main.lblCols.caption(), "02    Columns");
 }
 
 TEST(optShapes, in_landscape_names_the_other_sides)
 {
-    quick_session session;
+    started_session session;
     session.main.optLandscape.select();
     session.main.optShapes.select();
     EXPECT_EQ(session.main.optAlignTop.caption(), "Right");
     EXPECT_EQ(session.main.optAlignBottom.caption(), "Left");
-    EXPECT_EQ(session.main.lblRows.caption(), "00    Columns");
-    EXPECT_EQ(session.main.lblCols.caption(), "00      Rows");
+    EXPECT_EQ(session.main.lblRows.caption(), "03    Columns");
+    EXPECT_EQ(session.main.lblCols.caption(), "02      Rows");
 }
 
 TEST(cmbShapes, a_shape_takes_no_captions_and_no_second_preview_for_that)
 {
-    quick_session session;
+    started_session session;
     session.main.optShapes.select();
     session.main.chkCaption.tick(true);
     EXPECT_EQ(session.previews_of([&] { session.main.cmbShapes.choose(2); }), 1);
@@ -221,7 +214,7 @@ TEST(cmbShapes, a_shape_takes_no_captions_and_no_second_preview_for_that)
 
 TEST(cmbShapes, dots_stripes_and_targets_have_no_outline)
 {
-    quick_session session;
+    started_session session;
     session.main.optShapes.select();
     const std::vector<std::string> & shapes = session.main.cmbShapes.items();
     for (int i = 1; i < static_cast<int>(shapes.size()); ++i) {
@@ -232,7 +225,7 @@ TEST(cmbShapes, dots_stripes_and_targets_have_no_outline)
 
 TEST(orientation, lays_the_window_out)
 {
-    quick_session session;
+    started_session session;
     frmMain & main = session.main;
     main.optLandscape.select();
     EXPECT_EQ(main.picSample.place(), (box{688, 112, 457, 308}));
@@ -258,7 +251,7 @@ TEST(orientation, lays_the_window_out)
 
 TEST(orientation, draws_once_and_then_waits)
 {
-    quick_session session;
+    started_session session;
     EXPECT_EQ(session.previews_of([&] { session.main.optLandscape.select(); }), 1);
     expect_states(session.main, "optSample1 optPreview0");
     EXPECT_EQ(session.main.lblRows.caption(), "00    Columns");
@@ -268,7 +261,7 @@ TEST(orientation, draws_once_and_then_waits)
 
 TEST(orientation, with_shapes_the_preview_stays_on)
 {
-    quick_session session;
+    started_session session;
     session.main.optShapes.select();
     EXPECT_EQ(session.previews_of([&] { session.main.optLandscape.select(); }), 1);
     expect_states(session.main, "optPreview1");
@@ -276,7 +269,7 @@ TEST(orientation, with_shapes_the_preview_stays_on)
 
 TEST(orientation, that_is_in_force_already_draws_nothing)
 {
-    quick_session session;
+    started_session session;
     session.main.optPortrait.select(false);
     EXPECT_EQ(session.previews_of([&] { session.main.optPortrait.select(); }), 0);
     expect_states(session.main, "optPreview1");
@@ -297,7 +290,8 @@ TEST(orientation, drops_a_background_picture_of_the_wrong_shape)
                         {true, &frmMain::optPortrait, &frmMain::optSquare, true},
                         {false, &frmMain::optPortrait, &frmMain::optSquare, true}};
     for (const row & each : rows) {
-        quick_session session;
+        started_session session;
+        session.desk.keeps_messages = true;
         (session.main.*each.from).select();
         session.main.txtBGimage.set_text("/a.jpg");
         session.main.optBGimage.select();
@@ -312,7 +306,7 @@ TEST(orientation, drops_a_background_picture_of_the_wrong_shape)
 
 TEST(orientation, notes_the_shape_of_the_background_but_not_for_a_square)
 {
-    quick_session session;
+    started_session session;
     session.main.optLandscape.select();
     EXPECT_FALSE(session.main.bg_portrait);
     session.main.optSquare.select();
@@ -323,7 +317,7 @@ TEST(orientation, notes_the_shape_of_the_background_but_not_for_a_square)
 
 TEST(row_and_column_buttons, change_the_grid_and_redraw)
 {
-    quick_session session;
+    started_session session;
     frmMain & main = session.main;
     EXPECT_EQ(session.previews_of([&] { main.cmdRowUp.click(); }), 1);
     main.cmdRowUp.click();
@@ -333,12 +327,11 @@ TEST(row_and_column_buttons, change_the_grid_and_redraw)
     EXPECT_EQ(main.shape_column_bias, -1);
     main.cmdColUp.click();
     EXPECT_EQ(main.shape_column_bias, 0);
-    EXPECT_EQ(main.shape_rows, 0);  // the preview counts them anew
 }
 
 TEST(row_and_column_buttons, count_themselves_while_the_preview_is_off)
 {
-    quick_session session;
+    started_session session;
     frmMain & main = session.main;
     main.shape_rows = 9;
     main.shape_columns = 12;
@@ -351,4 +344,16 @@ TEST(row_and_column_buttons, count_themselves_while_the_preview_is_off)
     main.cmdRowDown.click();
     EXPECT_EQ(main.lblRows.caption(), "09      Rows");
     EXPECT_EQ(main.lblCols.caption(), "12  Columns");
+}
+
+TEST(row_and_column_buttons, stop_at_one_while_the_preview_is_off)
+{
+    started_session session;
+    frmMain & main = session.main;
+    main.shape_rows = 2;
+    main.optSample.select();
+    main.cmdRowDown.click();
+    main.cmdRowDown.click();
+    EXPECT_EQ(main.lblRows.caption(), "01      Rows");
+    EXPECT_EQ(main.shape_row_bias, -1);
 }
