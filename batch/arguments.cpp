@@ -62,6 +62,15 @@ std::size_t read_orientation(batch_arguments & read, const std::string & name, w
     return 1;
 }
 
+std::size_t read_quick(batch_arguments & read, const std::string & name, words rest)
+{
+    read.quick = value_of(name, rest);
+    for (const char * style : {"block", "scattered", "matrix", "shapes"})
+        if (read.quick == style)
+            return 1;
+    throw bad_arguments{name + " is block, scattered, matrix or shapes, not \"" + read.quick + "\""};
+}
+
 std::size_t read_answer(batch_arguments & read, const std::string & name, words rest)
 {
     const std::string & text = value_of(name, rest);
@@ -118,6 +127,7 @@ const std::map<std::string, option_reader> & readers()
     static const std::map<std::string, option_reader> table = {
         {"--photos", read_photos},
         {"--design", text_into(&batch_arguments::design)},
+        {"--quick", read_quick},
         {"--orientation", read_orientation},
         {"--set", read_setting},
         {"--caption", text_into(&batch_arguments::caption)},
@@ -140,9 +150,12 @@ void check_complete(const batch_arguments & read)
     using task = batch_arguments::task;
     if (read.wanted != task::make && read.wanted != task::dump)
         return;
-    if (read.design.empty())
-        throw bad_arguments{"--design is missing; --list shows the designs"};
-    if (read.photos.empty() && read.wanted == task::make)
+    if (read.design.empty() && read.quick.empty())
+        throw bad_arguments{"--design or --quick is missing; --list shows the designs"};
+    if (!read.design.empty() && !read.quick.empty())
+        throw bad_arguments{"--design and --quick can't both be made"};
+    // A quick style is laid out for its photos.
+    if (read.photos.empty() && (read.wanted == task::make || !read.quick.empty()))
         throw bad_arguments{"--photos is missing"};
     if (read.out.empty() && read.wanted == task::make)
         throw bad_arguments{"--out is missing"};
@@ -171,12 +184,17 @@ std::string usage()
     return R"(tessaloom-batch: makes a collage without a window
 
   tessaloom-batch --photos DIR|LIST.pls|FILE... --design NAME --out FILE [options]
+  tessaloom-batch --photos DIR|LIST.pls|FILE... --quick STYLE --out FILE [options]
 
   --photos DIR|LIST.pls|FILE...   a folder of JPEG files, a photo list, or the photos themselves
   --design NAME                   a design of the catalogue, as --list names it
+  --quick block|scattered|matrix|shapes
+                                  a layout made for these photos, three or more, instead of a design; the shape is
+                                  set by --set cmbShapes=Stars
   --out FILE                      where the JPEG goes; a file that is there is replaced
   --orientation portrait|landscape|square
-                                  shape of the poster; without it the one the design was drawn for
+                                  shape of the poster; without it the one the design was drawn for, and
+                                  portrait for a quick style
   --set CONTROL=VALUE             changes a control of the main window as a user would; may be repeated
   --caption TEXT                  text printed on the collage
   --size LONG_SIDE                long side in pixels, 16 to 12000; without it full size

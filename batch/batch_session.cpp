@@ -7,6 +7,10 @@
 #include "engine/flurn_driver.h"
 #include "engine/flurn_file.h"
 #include "photos/photo_list.h"
+#include "quick/quick_controls.h"
+#include "quick/quick_match.h"
+#include "quick/quick_shapes.h"
+#include "quick/start_quick.h"
 #include "session/connect_all.h"
 #include "session/new_poster.h"
 #include "session/windows.h"
@@ -176,6 +180,59 @@ void print_controls(const frmMain & main)
                     shown->enabled() ? 1 : 0, escaped(shown->value()).c_str(), escaped(shown->tag).c_str());
 }
 
+// ---- quick styles
+
+option_button & style_option(frmMain & main, const std::string & style)
+{
+    if (style == "scattered")
+        return main.optScatter;
+    if (style == "matrix")
+        return main.optMatrix;
+    return style == "shapes" ? main.optShapes : main.optBlock;
+}
+
+option_button & orientation_option(frmMain & main, const std::string & orientation)
+{
+    if (orientation == "landscape")
+        return main.optLandscape;
+    return orientation == "square" ? main.optSquare : main.optPortrait;
+}
+
+bool template_found(frmMain & main)
+{
+    const bool block = main.optBlock.selected();
+    if (!block && !main.optScatter.selected())
+        return true;
+    const bool found = match_quick_style(main);
+    if (!found)
+        tell_no_template(main, block ? block_caller : scatter_caller);
+    return found;
+}
+
+bool start_quick_style(frmMain & main, const batch_arguments & arguments)
+{
+    {
+        const updating guard(main);  // one picture at the end instead of one a setting
+        if (!begin_quick(main, [&] { choose_photos(main, arguments.photos); }))
+            return false;
+        style_option(main, arguments.quick).select();
+        orientation_option(main, arguments.orientation).select();
+        main.optPreview.select();
+    }
+    apply_settings(main, arguments);
+    return template_found(main);
+}
+
+bool start_design(frmMain & main, const batch_arguments & arguments)
+{
+    choose_design(main, arguments);
+    if (!arguments.photos.empty())
+        choose_photos(main, arguments.photos);
+    start_designed(main);
+    apply_settings(main, arguments);
+    return true;
+}
+
 // ---- the collage
 
 bool save_result(const bitmap & image, const batch_arguments & arguments)
@@ -197,6 +254,9 @@ exit_status make_full_size(session & running, const batch_arguments & arguments)
         if (&window == &running.all.image)
             saved = save_result(running.all.main.run.canvas, arguments);
     };
+    // The grid of shapes is laid out by a preview; the full size draws it as it stands.
+    if (running.all.main.quick_active && running.all.main.optShapes.selected())
+        write_quick_shapes(running.all.main);
     running.all.main.cmdFlurn.click();
     return saved ? exit_status::made : exit_status::not_made;
 }
@@ -206,7 +266,10 @@ exit_status make_small(session & running, const batch_arguments & arguments)
     frmMain & main = running.all.main;
     const std::string picture = joined(main.data_folder, "tmp/finished.jpg");
     delete_file(picture);
-    gen_sample(main);
+    if (main.quick_active)
+        make_preview(main);
+    else
+        gen_sample(main);
     const bitmap image = load_picture(picture_format::jpeg, picture);
     return image && save_result(image, arguments) ? exit_status::made : exit_status::not_made;
 }
@@ -214,11 +277,8 @@ exit_status make_small(session & running, const batch_arguments & arguments)
 exit_status make_collage(session & running, const batch_arguments & arguments)
 {
     frmMain & main = running.all.main;
-    choose_design(main, arguments);
-    if (!arguments.photos.empty())
-        choose_photos(main, arguments.photos);
-    start_designed(main);
-    apply_settings(main, arguments);
+    if (!(arguments.quick.empty() ? start_design(main, arguments) : start_quick_style(main, arguments)))
+        return exit_status::not_made;
     if (arguments.wanted == batch_arguments::task::dump)
         print_controls(main);
     if (arguments.out.empty())

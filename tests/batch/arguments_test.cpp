@@ -38,6 +38,12 @@ TEST(batch_arguments, reads_every_option)
     EXPECT_EQ(read.out, "o.jpg");
 }
 
+TEST(batch_arguments, a_quick_style_stands_for_a_design)
+{
+    for (const char * style : {"block", "scattered", "matrix", "shapes"})
+        EXPECT_EQ(parse_arguments({"--photos", "a", "--quick", style, "--out", "o"}).quick, style);
+}
+
 TEST(batch_arguments, an_empty_value_of_a_setting_is_a_value)
 {
     const auto read =
@@ -57,8 +63,12 @@ TEST(batch_arguments, what_is_missing_or_wrong_is_named)
         std::string fault;
     };
     const std::vector<row> rows = {
-        {{}, "--design is missing; --list shows the designs"},
+        {{}, "--design or --quick is missing; --list shows the designs"},
         {{"--design", "W"}, "--photos is missing"},
+        {{"--quick", "block"}, "--photos is missing"},
+        {{"--quick", "block", "--dump"}, "--photos is missing"},
+        {{"--design", "W", "--quick", "block"}, "--design and --quick can't both be made"},
+        {{"--quick", "round"}, "--quick is block, scattered, matrix or shapes, not \"round\""},
         {{"--design", "W", "--photos", "p"}, "--out is missing"},
         {{"--photos"}, "--photos needs a value"},
         {{"--photos", "--list"}, "--photos needs a folder, a list or files"},
@@ -78,7 +88,7 @@ TEST(batch_arguments, what_is_missing_or_wrong_is_named)
 TEST(batch_arguments, the_usage_names_every_option)
 {
     for (const char * option :
-         {"--photos", "--design", "--orientation", "--set", "--caption", "--size", "--random", "--data",
-          "--preview", "--answer", "--out", "--list", "--dump", "--help", "--version"})
+         {"--photos", "--design", "--quick", "--orientation", "--set", "--caption", "--size", "--random",
+          "--data", "--preview", "--answer", "--out", "--list", "--dump", "--help", "--version"})
         EXPECT_NE(usage().find(option), std::string::npos) << option;
 }

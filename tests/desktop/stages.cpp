@@ -36,15 +36,15 @@ void show_quick(frmMain & main, look wanted)
     const bool shapes = wanted == look::quick_squares || wanted == look::quick_circles;
     show({&main.frmOrientation, &main.frmStyle}, quick);
     main.frmShake.show(wanted == look::quick_matrix);
-    main.frmSpace.show(shapes || wanted == look::quick_block || wanted == look::quick_matrix);
+    main.frmSpace.show(shapes || wanted == look::quick_block);
     show({&main.frmAlign, &main.frmSquares, &main.cmbShapes, &main.chkMix}, shapes);
     main.chkOutline.show(wanted == look::quick_circles);
     main.frmOrnaments.show(wanted != look::choosing && wanted != look::quick_circles &&
                            wanted != look::designed_without_frames);
     main.cmdMore.show(wanted == look::quick_matrix);
-    show({&main.lblBlanks, &main.cmbBlanks}, wanted == look::quick_block);
+    show({&main.lblBlanks, &main.cmbBlanks}, quick);
     main.chkMatch.show(!shapes);
-    main.chkEvolve.show(wanted == look::quick_scatter || wanted == look::designed);
+    main.chkEvolve.show(wanted == look::designed);
 }
 
 void place(frmMain & main, shape poster)
