@@ -109,6 +109,62 @@ TEST_F(batch_program, makes_the_full_size_in_each_orientation)
     }
 }
 
+TEST_F(batch_program, makes_every_quick_style_as_a_preview_in_each_orientation)
+{
+    for (const char * style : {"block", "scattered", "matrix", "shapes"})
+        for (const char * orientation : {"portrait", "landscape", "square"}) {
+            delete_file(out());
+            EXPECT_EQ(run({"--photos", photos(7), "--quick", style, "--orientation", orientation, "--preview",
+                           "--out", out()}),
+                      exit_status::made)
+                << style << " " << orientation;
+            const picture_size size = size_of(out());
+            EXPECT_EQ(size.width > size.height, std::string(orientation) == "landscape") << style;
+            EXPECT_EQ(size.width == size.height, std::string(orientation) == "square") << style;
+        }
+}
+
+TEST_F(batch_program, makes_a_quick_style_at_full_size_for_the_settings_given)
+{
+    testing::internal::CaptureStderr();
+    ASSERT_EQ(run({"--photos", photos(), "--quick", "shapes", "--set", "cmbShapes=Stars", "--set",
+                   "cmbSpace=40", "--orientation", "landscape", "--out", out()}),
+              exit_status::made);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(size_of(out()).width, 3000);
+    const std::string layout = read_file(joined(folders.data.public_folder, "designs/__quick"));
+    EXPECT_TRUE(layout.ends_with(":star.gif\r\n")) << layout;
+}
+
+TEST_F(batch_program, a_style_among_the_settings_finds_its_template_too)
+{
+    EXPECT_EQ(run({"--photos", photos(5), "--quick", "block", "--set", "optScatter=1", "--preview", "--out",
+                   out()}),
+              exit_status::made);
+}
+
+TEST_F(batch_program, the_same_seed_gives_the_same_quick_collage)
+{
+    const std::vector<std::string> words = {"--photos",  photos(),      "--quick",  "matrix",
+                                            "--set",     "chkRotate=1", "--random", "5",
+                                            "--preview", "--out",       out()};
+    ASSERT_EQ(run(words), exit_status::made);
+    const std::string first = read_file(out());
+    ASSERT_EQ(run(words), exit_status::made);
+    EXPECT_TRUE(first == read_file(out()));
+}
+
+TEST_F(batch_program, too_few_photos_for_a_quick_style_are_told)
+{
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(run({"--photos", photos(2), "--quick", "block", "--out", out()}), exit_status::not_made);
+    EXPECT_EQ(
+        testing::internal::GetCapturedStderr(),
+        "There are only 2 photos in that folder. No templates are available for 2 photos. Please choose "
+        "another folder.\n");
+    EXPECT_FALSE(file_exists(out()));
+}
+
 TEST_F(batch_program, the_size_is_that_of_the_long_side)
 {
     ASSERT_EQ(run({"--photos", photos(), "--design", "Mosaic wall", "--orientation", "landscape", "--size",

@@ -2,6 +2,7 @@
 #include "designs/catalogue.h"
 #include "desktop/picture_view.h"
 #include "desktop/qt_desktop.h"
+#include "layout_checks.h"
 #include "photos/photo_list.h"
 #include "session/connect_all.h"
 #include "session/new_poster.h"
@@ -158,6 +159,34 @@ TEST_F(session_test, a_designed_flurn_goes_from_the_menu_over_both_choosers_to_i
     EXPECT_FALSE(found<picture_view>("picSample")->image().isNull());
     all.main.txtPhotos.set_text("/home/someone/pictures/summer");
     keep_screen(window(), "designed.png");
+}
+
+TEST_F(session_test, a_quick_flurn_goes_from_the_menu_to_every_style_on_every_poster)
+{
+    photos_of_folder(all.main, folder.at("photos"));
+    set_photo_source_kind(all.main, photo_source::folder);
+    all.main.txtPhotos.tag = folder.at("photos");
+    when_asked<QDialog>([&](QDialog & chooser) {
+        QTest::mouseClick(chooser.findChild<QPushButton *>("cmdOk"), Qt::LeftButton);
+    });
+    window().findChild<QAction *>("mnuQuick")->trigger();
+    EXPECT_EQ(window().windowTitle(), "F i n i s h i n g   t o u c h e s");
+    EXPECT_EQ(all.main.picSample.load_count(), 1);
+    all.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    all.main.txtPhotos.set_text("/home/someone/pictures/summer");
+    for (const char * orientation : {"optPortrait", "optLandscape", "optSquare"})
+        for (const char * style : {"optBlock", "optScatter", "optMatrix", "optShapes"}) {
+            SCOPED_TRACE(std::string(style) + " " + orientation);
+            QTest::mouseClick(found<QRadioButton>(orientation), Qt::LeftButton, {}, {8, 8});
+            QTest::mouseClick(found<QRadioButton>("optPreview"), Qt::LeftButton, {}, {8, 8});
+            QTest::mouseClick(found<QRadioButton>(style), Qt::LeftButton, {}, {8, 8});
+            QApplication::processEvents();
+            EXPECT_TRUE(found<QRadioButton>(style)->isChecked());
+            EXPECT_EQ(overlaps(all.main, window()), std::vector<std::string>());
+            EXPECT_EQ(strays(all.main, window()), std::vector<std::string>());
+            EXPECT_EQ(cut_texts(all.main, window()), std::vector<std::string>());
+            keep_screen(window(), (std::string("quick_") + style + "_" + orientation + ".png").c_str());
+        }
 }
 
 TEST_F(session_test, the_first_close_only_backs_out_of_the_work)
