@@ -111,10 +111,11 @@ TEST_F(batch_program, makes_the_full_size_in_each_orientation)
 
 TEST_F(batch_program, makes_every_quick_style_as_a_preview_in_each_orientation)
 {
+    const std::string folder = photos(7);
     for (const char * style : {"block", "scattered", "matrix", "shapes"})
         for (const char * orientation : {"portrait", "landscape", "square"}) {
             delete_file(out());
-            EXPECT_EQ(run({"--photos", photos(7), "--quick", style, "--orientation", orientation, "--preview",
+            EXPECT_EQ(run({"--photos", folder, "--quick", style, "--orientation", orientation, "--preview",
                            "--out", out()}),
                       exit_status::made)
                 << style << " " << orientation;
@@ -126,6 +127,7 @@ TEST_F(batch_program, makes_every_quick_style_as_a_preview_in_each_orientation)
 
 TEST_F(batch_program, makes_a_quick_style_at_full_size_for_the_settings_given)
 {
+    run({"--list"});  // the welcome is over
     testing::internal::CaptureStderr();
     ASSERT_EQ(run({"--photos", photos(), "--quick", "shapes", "--set", "cmbShapes=Stars", "--set",
                    "cmbSpace=40", "--orientation", "landscape", "--out", out()}),
@@ -156,6 +158,7 @@ TEST_F(batch_program, the_same_seed_gives_the_same_quick_collage)
 
 TEST_F(batch_program, too_few_photos_for_a_quick_style_are_told)
 {
+    run({"--list"});  // the welcome is over
     testing::internal::CaptureStderr();
     EXPECT_EQ(run({"--photos", photos(2), "--quick", "block", "--out", out()}), exit_status::not_made);
     EXPECT_EQ(
