@@ -81,6 +81,7 @@ struct finishing_stage {
 const char * const upright = "Mosaic wall";
 const char * const tilted = "Snapshots";
 const char * const over_a_background = "At the seaside";
+const char * const shapes = "Flower garden";
 
 template <typename Change>
 void time_change(benchmark::State & state, const char * design, Change change)
@@ -139,6 +140,7 @@ BENCHMARK_CAPTURE(rounded, upright, upright)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(soft_edge, upright, upright)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(soft_edge, over_a_background, over_a_background)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(shuffle, upright, upright)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(shuffle, shapes, shapes)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(shuffle, over_a_background, over_a_background)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(collage_caption, upright, upright)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(collage_caption, over_a_background, over_a_background)->Unit(benchmark::kMillisecond);

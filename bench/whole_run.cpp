@@ -12,6 +12,7 @@
 #include "designs/template_reader.h"
 #include "engine/cell_geometry.h"
 #include "engine/flurn_driver.h"
+#include "engine/resize_image.h"
 #include "photos/photo_list.h"
 #include "photos/thumbnails.h"
 #include "session/connect_all.h"
@@ -202,7 +203,7 @@ double bare_seconds(bench_session & session, const std::string & work)
         bitmap canvas(4000, 4000);
         for (int photo = 0; const cell_size & cell : cells) {
             const bitmap image = load_picture(picture_format::jpeg, big_photo(work, photo++ % photo_count));
-            paste(canvas, rescaled(image, cell.width, cell.height), 0, 0, plain_copy);
+            paste(canvas, resize_image(image, cell.width, cell.height), 0, 0, plain_copy);
         }
     });
 }

@@ -21,11 +21,12 @@ struct mask_key {
 /// gets another key.
 class mask_shelf {
 public:
-    static constexpr std::size_t places = 16;
+    /// Bytes of pixels: a dozen masks as they are loaded, or hundreds in the sizes of a preview.
+    static constexpr std::size_t room = std::size_t{32} << 20;
 
     /// The mask, good until the next `keep`; nullptr when it isn't there.
     const bitmap * find(const mask_key & wanted);
-    /// Puts a mask on the shelf, an empty one too, and gives it back; the one unused for longest makes room.
+    /// Puts a mask on the shelf, an empty one too, and gives it back; those unused for longest make room.
     const bitmap & keep(mask_key key, bitmap mask);
 
 private:
@@ -34,4 +35,5 @@ private:
         bitmap mask;
     };
     std::list<shelved> masks;  ///< the one used last is the first
+    std::size_t filled = 0;    ///< bytes
 };

@@ -15,6 +15,6 @@ auto beside(desktop & desk, Step step)
 {
     auto result = std::async(std::launch::async, std::move(step));
     while (result.wait_for(longest_standstill) != std::future_status::ready)
-        desk.pump();
+        desk.breathe();
     return result.get();
 }

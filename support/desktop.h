@@ -55,6 +55,8 @@ public:
     virtual void show_modal(form & window) = 0;
     /// Lets pending events through.
     virtual void pump() = 0;
+    /// The same while another core works for the session: nothing may depend on how often that happens.
+    virtual void breathe() { pump(); }
     virtual void busy_pointer(bool on) = 0;
 
     /// Choosers; nothing or an empty list after a cancel.

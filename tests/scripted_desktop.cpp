@@ -76,6 +76,13 @@ void scripted_desktop::show_modal(form & window)
     window.unload();
 }
 
+void scripted_desktop::breathe()
+{
+    ++breaths;
+    if (on_breath)
+        on_breath();
+}
+
 void scripted_desktop::pump()
 {
     ++pumps;

@@ -40,7 +40,8 @@ public:
     std::vector<question> questions;
     std::vector<std::string> shown_windows, hidden_windows, opened_documents;
     std::vector<text_request> drawn_texts;
-    int pumps = 0;
+    int pumps = 0, breaths = 0;
+    std::function<void()> on_breath;
     int busy_depth = 0;  ///< pointers turned on less those turned off
     print_result next_print = print_result::printed;
     std::vector<page> printed_pages;
@@ -59,6 +60,7 @@ public:
     void hide(form & window) override;
     void show_modal(form & window) override;
     void pump() override;
+    void breathe() override;
     void busy_pointer(bool on) override;
     std::optional<std::string> choose_folder(const std::string & title) override;
     std::vector<std::string> choose_files(const file_request & asked) override;

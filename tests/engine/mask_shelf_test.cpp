@@ -35,12 +35,23 @@ TEST(mask_shelf, a_mask_that_could_not_be_loaded_is_kept_too)
 
 TEST(mask_shelf, the_mask_unused_for_longest_makes_room)
 {
+    constexpr int third = 1900;  // a square that takes a little less than a third of the room
+    static_assert(3 * third * third * pixel_bytes < mask_shelf::room);
+    static_assert(4 * third * third * pixel_bytes > mask_shelf::room);
     mask_shelf shelf;
-    for (int size = 1; size <= static_cast<int>(mask_shelf::places); ++size)
-        shelf.keep(key_of("a", size), {});
+    for (int size = 1; size <= 3; ++size)
+        shelf.keep(key_of("a", size), bitmap(third, third));
     EXPECT_NE(shelf.find(key_of("a", 1)), nullptr);  // used again, so 2 is the oldest now
-    shelf.keep(key_of("b", 1), {});
+    shelf.keep(key_of("b", 1), bitmap(third, third));
     EXPECT_NE(shelf.find(key_of("a", 1)), nullptr);
     EXPECT_EQ(shelf.find(key_of("a", 2)), nullptr);
     EXPECT_NE(shelf.find(key_of("a", 3)), nullptr);
+}
+
+TEST(mask_shelf, small_masks_are_many)
+{
+    mask_shelf shelf;
+    for (int size = 1; size <= 100; ++size)
+        shelf.keep(key_of("a", size), bitmap(100, 100));
+    EXPECT_NE(shelf.find(key_of("a", 1)), nullptr);
 }

@@ -6,18 +6,38 @@
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 
+namespace {
+
+// A picture that no encoder makes small.
+bitmap noise(int width, int height)
+{
+    bitmap image(width, height);
+    std::uint32_t state = 7;
+    for (int y = 0; y < height; ++y)
+        for (std::uint8_t & byte : image.row(y)) {
+            state = state * 1664525 + 1013904223;
+            byte = static_cast<std::uint8_t>(state >> 24);
+        }
+    return image;
+}
+
+}  // namespace
+
 TEST(photo_steps, give_what_the_same_steps_give_without_another_core)
 {
     opened_session session;
     const std::string photo = session.folder.at("photo.jpg"), saved = session.folder.at("saved.jpg");
-    save_jpeg(graded(300, 200), photo);
-    const bitmap loaded = load_photo(session.main, photo);
-    EXPECT_TRUE(same(loaded, load_picture(picture_format::jpeg, photo)));
-    const bitmap fitted = fit_photo(session.main, loaded, 70, 90);
-    EXPECT_TRUE(same(fitted, resize_image(loaded, 70, 90)));
-    save_photo(session.main, loaded, saved);
-    save_jpeg(loaded, photo);
-    EXPECT_TRUE(read_file(saved) == read_file(photo));
+    for (const bitmap & picture : {graded(300, 200), noise(1200, 800)}) {
+        save_jpeg(picture, photo);
+        const bitmap loaded = load_photo(session.main, photo);
+        EXPECT_TRUE(same(loaded, load_picture(picture_format::jpeg, photo)));
+        const bitmap fitted = fit_photo(session.main, loaded, 70, 90);
+        EXPECT_TRUE(same(fitted, resize_image(loaded, 70, 90)));
+        save_photo(session.main, loaded, saved);
+        save_jpeg(loaded, photo);
+        EXPECT_TRUE(read_file(saved) == read_file(photo));
+    }
+    EXPECT_GT(read_file(photo).size(), 200'000U) << "a file that another core loads";
 }
 
 TEST(photo_steps, leave_what_fails_as_it_was_told)

@@ -10,14 +10,14 @@ TEST(beside, lets_events_through_until_the_step_is_done)
 {
     scripted_desktop desk;
     std::atomic<bool> may_end = false;
-    desk.on_pump(3, [&] { may_end = true; });
+    desk.on_breath = [&] { may_end = desk.breaths >= 3; };
     const int result = beside(desk, [&] {
         while (!may_end)
             std::this_thread::yield();
         return 7;
     });
     EXPECT_EQ(result, 7);
-    EXPECT_GE(desk.pumps, 3);
+    EXPECT_GE(desk.breaths, 3);
 }
 
 TEST(beside, the_error_of_the_step_is_the_caller_s)
