@@ -7,7 +7,7 @@
 struct frmMain;
 
 /// The steps with a photo that take longest and touch nothing of the session: they run on another core, and
-/// the window lets events through meanwhile.
+/// the window lets events through meanwhile. Thumbnails and what is as small are done at once.
 
 /// A JPEG, empty when it can't be loaded.
 bitmap load_photo(frmMain & main, const std::string & path);

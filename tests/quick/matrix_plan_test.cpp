@@ -118,6 +118,25 @@ TEST(matrix_plan, each_switch_shakes_in_its_own_way)
                                        "1556:150:638:1700:00:-1:-1:0:", "2250:00:750:2000:00:-1:-1:0:"}));
 }
 
+TEST(matrix_plan, cells_grow_away_from_the_edges_alone)
+{
+    matrix_request request = request_for("9:3:3:0:0:100:100:100", "pppppppl");
+    request.resize = true;
+    const auto rows_below_the_first = [&](int offset) {
+        request.offset = offset;
+        const lines plan = planned(request);
+        return lines(plan.begin() + 3, plan.end());
+    };
+    // By 1.3 in the middle, where the lower edge is no limit; a double cell behind 0.85 grows by nothing.
+    EXPECT_EQ(rows_below_the_first(1), (lines{"1056:115:886:570:00:-1:-1:0:", "893:610:1213:780:00:-1:-1:0:",
+                                              "1080:1330:840:540:00:-1:-1:0:", "1966:100:933:600:00:-1:-1:0:",
+                                              "2036:745:753:969:00:-1:-1:0:"}));
+    // The 1.3 of the last column and the 1.15 of a double cell that ends there are left out.
+    EXPECT_EQ(rows_below_the_first(0), (lines{"1033:100:933:600:00:-1:-1:0:", "1056:715:886:570:00:-1:-1:0:",
+                                              "1033:1300:933:600:00:-1:-1:0:", "2012:130:840:540:00:-1:-1:0:",
+                                              "1966:700:886:1140:00:-1:-1:0:"}));
+}
+
 TEST(matrix_plan, a_row_does_not_begin_with_the_pattern_of_the_row_before)
 {
     matrix_request request = request_for("48:2:24:0:0:0:0:0", std::string(48, 'p'));
