@@ -87,6 +87,11 @@ TEST(matrix_plan, large_mixed_grids_have_at_most_two_rows_in_a_run_that_begin_al
     EXPECT_EQ(cells(request_for("24:6:4:0:0:0:0:0", "pppppllllplppl")), "---- -=- == == --= ----");
 }
 
+TEST(matrix_plan, portraits_that_wait_count_as_landscape_photos_once_the_list_begins_anew)
+{
+    EXPECT_EQ(cells(request_for("27:9:3:0:0:0:0:0", "plplp")), "-= -= =- -= =- =- -= -= -=");
+}
+
 TEST(matrix_plan, sixteen_cells_or_photos_mostly_of_one_kind_are_not_balanced)
 {
     EXPECT_EQ(cells(request_for("16:4:4:0:0:0:0:0", "ppppppppllll")), "---- ---- == ==");
