@@ -40,19 +40,6 @@ TEST(photo_steps, give_what_the_same_steps_give_without_another_core)
     EXPECT_GT(read_file(photo).size(), 200'000U) << "a file that another core loads";
 }
 
-TEST(photo_steps, give_the_same_for_thumbnails_and_for_large_photos)
-{
-    opened_session session;
-    for (const char * name : {"sample_thumbs/a.jpg", "a.jpg"}) {
-        const std::string photo = session.folder.at(name);
-        save_jpeg(graded(200, 150), photo);
-        const bitmap loaded = load_photo(session.main, photo);
-        EXPECT_TRUE(same(loaded, load_picture(picture_format::jpeg, photo))) << name;
-        for (const int side : {60, 300, 301})
-            EXPECT_TRUE(same(fit_photo(session.main, loaded, side, 300), resize_image(loaded, side, 300)));
-    }
-}
-
 TEST(photo_steps, leave_what_fails_as_it_was_told)
 {
     opened_session session;
