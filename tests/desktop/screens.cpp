@@ -54,6 +54,7 @@ void draw_stages(filled_session & session, const QString & folder)
     main.picSplash.load(joined(main.install_folder, "images/splash.png"));
     main.picSample.load(session.preview);
     const updating as_it_is(main);  // the stages are drawn with the preview that is there
+    main.txtBGimage.set_text("/home/someone/pictures/autumn.jpg");
     enable_all(main);
     start_enable_true(main);
     for (option_button * each : main.border_options)

@@ -174,6 +174,7 @@ TEST_F(session_test, a_quick_flurn_goes_from_the_menu_to_every_style_on_every_po
     EXPECT_EQ(all.main.picSample.load_count(), 1);
     all.main.table.reshuffle_choice = photo_table::reshuffle::no;
     all.main.txtPhotos.set_text("/home/someone/pictures/summer");
+    all.main.lblOutput.set_caption("Using photos from   /home/someone/pictures/summer");
     for (const char * orientation : {"optPortrait", "optLandscape", "optSquare"})
         for (const char * style : {"optBlock", "optScatter", "optMatrix", "optShapes"}) {
             SCOPED_TRACE(std::string(style) + " " + orientation);
