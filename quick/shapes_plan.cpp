@@ -48,7 +48,8 @@ void count_cells(const shapes_request & request, shapes_layout & plan)
     const shapes_grid_size grid = grid_for(request.last_photo);
     plan.row_bias = request.row_bias;
     plan.column_bias = request.column_bias;
-    plan.rows = at_least_one(grid.cells / grid.columns + request.row_bias, plan.row_bias);
+    const int rows = grid.cells / grid.columns;
+    plan.rows = at_least_one(rows + request.row_bias, plan.row_bias);
     plan.columns = at_least_one(grid.columns + request.column_bias, plan.column_bias);
 }
 
