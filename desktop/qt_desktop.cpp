@@ -16,7 +16,6 @@
 #include <QFile>
 #include <QMainWindow>
 #include <QMessageBox>
-#include <QPrinterInfo>
 #include <QScreen>
 #include <QUrl>
 
@@ -275,11 +274,11 @@ bool qt_desktop::open_document(const std::string & target)
 
 print_result qt_desktop::print(const bitmap & image, page orientation)
 {
-    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    const QPrinterInfo info = printer();
     if (info.isNull())
         return print_result::no_printer;
-    QPrinter printer(info, QPrinter::HighResolution);
-    return print_on(printer, image, orientation) ? print_result::printed : print_result::failed;
+    QPrinter paper(info, QPrinter::HighResolution);
+    return print_on(paper, image, orientation) ? print_result::printed : print_result::failed;
 }
 
 // A window fills the screen to nine tenths, which leaves room for its frame.

@@ -5,7 +5,9 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QPointer>
+#include <QPrinterInfo>
 
+#include <functional>
 #include <map>
 
 /// The platform with windows. Needs a QApplication. A window lives from the load of its form to its
@@ -38,6 +40,9 @@ public:
     void forget_windows();
     /// The window of a form that has been shown, nullptr before.
     QWidget * window_of(const form & its_form) const;
+
+    /// Where a page goes; null when there is no printer.
+    std::function<QPrinterInfo()> printer = &QPrinterInfo::defaultPrinter;
 
 private:
     struct shown_window {

@@ -10,6 +10,18 @@ bitmap plain(int width, int height, rgb_triple color)
     return image;
 }
 
+bitmap noise(int width, int height)
+{
+    bitmap image(width, height);
+    std::uint32_t state = 1;
+    for (int y = 0; y < height; ++y)
+        for (std::uint8_t & byte : image.row(y)) {
+            state = state * 1664525 + 1013904223;
+            byte = static_cast<std::uint8_t>(state >> 24);
+        }
+    return image;
+}
+
 bitmap graded(int width, int height)
 {
     bitmap image(width, height);

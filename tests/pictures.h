@@ -10,6 +10,9 @@ bitmap plain(int width, int height, rgb_triple color);
 /// A bitmap in which every pixel tells where it is: red and green rise with column and row from the top.
 bitmap graded(int width, int height);
 
+/// A bitmap of chance, the same each time: no encoder makes it small, and no turn leaves it as it is.
+bitmap noise(int width, int height);
+
 /// Pixel (x, y) counted from the top; fails the test outside the bitmap.
 rgb_triple seen(const bitmap & image, int x, int y);
 

@@ -24,18 +24,6 @@ bitmap turned_whole(const bitmap & image, int degrees)
     return made;
 }
 
-bitmap noise(int width, int height)
-{
-    bitmap image(width, height);
-    std::uint32_t state = 1;
-    for (int y = 0; y < height; ++y)
-        for (std::uint8_t & byte : image.row(y)) {
-            state = state * 1664525 + 1013904223;
-            byte = static_cast<std::uint8_t>(state >> 24);
-        }
-    return image;
-}
-
 }  // namespace
 
 TEST(area_turn, every_byte_of_a_turned_picture_is_the_librarys)

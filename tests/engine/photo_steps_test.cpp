@@ -6,23 +6,6 @@
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 
-namespace {
-
-// A picture that no encoder makes small.
-bitmap noise(int width, int height)
-{
-    bitmap image(width, height);
-    std::uint32_t state = 7;
-    for (int y = 0; y < height; ++y)
-        for (std::uint8_t & byte : image.row(y)) {
-            state = state * 1664525 + 1013904223;
-            byte = static_cast<std::uint8_t>(state >> 24);
-        }
-    return image;
-}
-
-}  // namespace
-
 TEST(photo_steps, give_what_the_same_steps_give_without_another_core)
 {
     opened_session session;

@@ -125,3 +125,10 @@ void quick_session::forget_written()
 {
     delete_file(joined(main.data_folder, "designs/__quick"));
 }
+
+bool draws_anew(quick_session & session, const std::function<void()> & step)
+{
+    session.forget_written();
+    const int previews = session.previews_of(step);
+    return previews == 1 && !session.written().empty();
+}

@@ -35,3 +35,6 @@ struct quick_session : opened_session {
     std::vector<std::string> photos;
     std::string list;
 };
+
+/// True when the step writes a template and draws it once.
+bool draws_anew(quick_session & session, const std::function<void()> & step);

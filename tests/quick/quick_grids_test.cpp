@@ -1,0 +1,189 @@
+#include "quick/quick_match.h"
+#include "quick/quick_matrix.h"
+#include "support/text_file.h"
+#include "tests/quick/quick_session.h"
+
+#include <algorithm>
+
+// ---- more and fewer
+
+TEST(cmdMore, offers_the_grid_in_front_and_takes_it_back)
+{
+    quick_session session;
+    session.start();  // six cells are wanted
+    frmMain & main = session.main;
+    main.optMatrix.select();
+    expect_states(main, "cmdMore^ cmdMore+");
+    EXPECT_EQ(main.cmdMore.caption(), "Fewer photos");
+    EXPECT_TRUE(draws_anew(session, [&] { main.cmdMore.click(); }));
+    EXPECT_EQ(main.cmdMore.tag, "fewer");
+    EXPECT_EQ(main.cmdMore.caption(), "More photos");
+    const std::size_t fewer = session.written().size();
+    EXPECT_TRUE(draws_anew(session, [&] { main.cmdMore.click(); }));
+    EXPECT_EQ(main.cmdMore.tag, "");
+    EXPECT_EQ(main.cmdMore.caption(), "Fewer photos");
+    EXPECT_LT(fewer, session.written().size());
+}
+
+TEST(cmdMore, stays_disabled_for_the_first_grid)
+{
+    quick_session session;
+    session.start(2, 1);
+    session.main.optMatrix.select();
+    expect_states(session.main, "cmdMore-");
+}
+
+TEST(cmdMore, a_count_of_its_own_leaves_it_enabled_for_a_later_grid)
+{
+    quick_session session;
+    session.start();
+    find_matrix_line(session.main, 6);
+    expect_states(session.main, "cmdMore+");
+    session.main.cmdMore.tag = "fewer";
+    EXPECT_EQ(find_matrix_line(session.main, 8), "6:2:3:20:20:100:100:130");
+    EXPECT_EQ(find_matrix_line(session.main, 4), "4:2:2:20:20:100:100:130");
+}
+
+TEST(cmdMore, is_for_the_matrix_alone)
+{
+    quick_session session;
+    session.start();
+    session.main.optMatrix.select();
+    session.main.optShapes.select();
+    expect_states(session.main, "cmdMore_");
+    session.main.optMatrix.select();
+    session.main.optBlock.select();
+    expect_states(session.main, "cmdMore_");
+}
+
+// ---- matrix
+
+TEST(write_quick_matrix, without_portraits_an_odd_row_makes_room_for_a_smaller_grid_told_once)
+{
+    quick_session session;
+    session.desk.keeps_messages = true;
+    session.desk.will_answer(answer::no);  // two of its four rectangles hold a photo for the second time
+    session.start(0, 3);
+    session.desk.messages.clear();
+    // Three lying photos want six cells, in rows of three; without one photo a row, four are left at least.
+    session.main.optMatrix.select();
+    const std::string notice =
+        "There are no portraits in this group of photos.\r\n\r\nMaking a smaller matrix to match the "
+        "photos...";
+    EXPECT_EQ(session.desk.next_message(), notice);
+    EXPECT_EQ(session.written().size(), 2U);
+    EXPECT_TRUE(session.main.quick.matrix_notice_done);
+    session.desk.messages.clear();
+    EXPECT_TRUE(draws_anew(session, [&] { session.main.chkRotate.tick(true); }));
+    EXPECT_EQ(std::count(session.desk.messages.begin(), session.desk.messages.end(), notice), 0);
+}
+
+TEST(write_quick_matrix, shakes_alike_from_one_preview_to_the_next)
+{
+    quick_session session;
+    session.start();
+    frmMain & main = session.main;
+    double next = 0.1;
+    main.random.next = [&next] { return next; };
+    main.optMatrix.select();
+    main.chkRotate.tick(true);
+    const auto before = session.written();
+    next = 0.9;
+    EXPECT_TRUE(draws_anew(session, [&] { main.optTiny.select(); }));
+    EXPECT_EQ(session.written(), before);
+}
+
+TEST(write_quick_matrix, says_when_it_is_run_for_another_style)
+{
+    quick_session session;
+    session.start();
+    write_quick_matrix(session.main);
+    EXPECT_EQ(session.desk.next_message(), "write_design not for quick matrix");
+    EXPECT_EQ(session.written().size(), 5U);
+}
+
+TEST(write_quick_matrix, a_shaken_preview_is_laid_out_smaller_and_a_full_size_is_not)
+{
+    quick_session session;
+    session.start(2, 10);
+    frmMain & main = session.main;
+    session.desk.keeps_messages = true;
+    main.optMatrix.select();
+    EXPECT_EQ(main.quick.preview_inset, 0);
+    main.chkRotate.tick(true);
+    EXPECT_EQ(main.quick.preview_inset, 1);  // eleven by 1.25 is 9, that and a quarter 11, an eighth of it 1
+    main.chkRotate.tick(false);
+    EXPECT_EQ(main.quick.preview_inset, 0);
+    main.optSample.select();
+    main.chkResize.tick(true);
+    write_quick_matrix(main);
+    EXPECT_EQ(main.quick.preview_inset, 0);
+}
+
+TEST(write_quick_matrix, a_missing_record_is_told)
+{
+    quick_session session;
+    session.start();
+    session.folder.write("data/designs.ini", "[Design001]\r\nName=Match\r\nStyle=Place\r\n");
+    session.desk.keeps_messages = true;  // the record that is left has no template
+    session.main.optMatrix.select();
+    EXPECT_EQ(session.desk.next_message(), "Should not happen: 101 \r\nWHY CHECK FOR THIS??");
+}
+
+// ---- shapes
+
+TEST(shapes, show_the_counts_of_their_grid)
+{
+    quick_session session;
+    session.start();
+    frmMain & main = session.main;
+    main.optShapes.select();
+    EXPECT_EQ(main.lblRows.caption(), "03      Rows");
+    EXPECT_EQ(main.lblCols.caption(), "02    Columns");
+    EXPECT_TRUE(draws_anew(session, [&] { main.cmdRowUp.click(); }));
+    EXPECT_EQ(main.lblRows.caption(), "04      Rows");
+    EXPECT_EQ(session.written().size(), 8U);
+    EXPECT_TRUE(draws_anew(session, [&] { main.cmdColDown.click(); }));
+    EXPECT_EQ(main.lblCols.caption(), "01    Columns");
+}
+
+TEST(shapes, rows_end_at_one_and_the_next_click_up_counts)
+{
+    quick_session session;
+    session.start();
+    frmMain & main = session.main;
+    main.optShapes.select();
+    for (int i = 0; i < 5; ++i)
+        main.cmdRowDown.click();
+    EXPECT_EQ(main.lblRows.caption(), "01      Rows");
+    EXPECT_EQ(main.shape_row_bias, -2);
+    main.cmdRowUp.click();
+    EXPECT_EQ(main.lblRows.caption(), "02      Rows");
+}
+
+TEST(shapes, a_change_of_the_drawing_keeps_the_grid)
+{
+    quick_session session;
+    session.start();
+    session.main.optShapes.select();
+    session.main.cmbShapes.choose(2);
+    session.forget_written();
+    session.folder.write("data/designs/__quick", "0:0:0:900:0:0:-1:0:star.gif\r\n");
+    session.desk.keeps_messages = true;
+    EXPECT_EQ(session.previews_of([&] { session.main.chkOutline.tick(true); }), 1);
+    EXPECT_EQ(session.written().size(), 1U);
+    EXPECT_EQ(session.main.chkOutline.tag, "");
+}
+
+TEST(shapes, in_landscape_the_labels_change_places)
+{
+    quick_session session;
+    session.start();
+    session.main.optShapes.select();
+    session.main.optLandscape.select();
+    EXPECT_EQ(session.main.lblRows.caption(), "03    Columns");
+    EXPECT_EQ(session.main.lblCols.caption(), "02      Rows");
+    EXPECT_EQ(session.main.optAlignTop.caption(), "Right");
+    EXPECT_EQ(session.main.optAlignBottom.caption(), "Left");
+    expect_states(session.main, "optPreview1");
+}
