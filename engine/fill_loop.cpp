@@ -30,6 +30,11 @@ struct cell_photo {
     cell_span span = cell_span::single;
 };
 
+int columns_of(cell_span span)
+{
+    return span == cell_span::twice ? 2 : 1;
+}
+
 void start_shaking(frmMain & main)
 {
     if (main.shake_start != -1)
@@ -88,6 +93,26 @@ cell_photo next_photo(frmMain & main, grid_walk & walk, int column)
     return {.image = loaded()};
 }
 
+// The photo that the cells behind this one will take, as far as can be told.
+void read_upcoming(frmMain & main, const grid_walk & walk)
+{
+    const bool takes_any = !main.chkMatch.ticked() || main.matrix_both;
+    for (int photo = walk.photo + 1; photo <= main.table.last_photo; ++photo) {
+        const picture_size size =
+            takes_any ? picture_size{} : jpeg_size(main.table[photo]).value_or(picture_size{});
+        if (takes_any || fits_cell(walk.layer, size.height, size.width)) {
+            read_ahead(main, main.table[photo]);
+            return;
+        }
+    }
+}
+
+bool is_last(const grid_walk & walk, grid_position at, cell_span span)
+{
+    return row_ends(walk.layer, at.column + columns_of(span), walk.limits) &&
+           grid_ends(walk.layer, at.row + 1, walk.limits);
+}
+
 void draw_tilted(frmMain & main, grid_walk & walk, bitmap image, const cell_area & area, int rotation)
 {
     if (walk.saved)
@@ -134,6 +159,8 @@ int fill_cell(frmMain & main, grid_walk & walk, grid_position at, row_lean & lea
     set_ornament_sizes(main, cells);
     cell_photo photo = next_photo(main, walk, at.column);
     const cell_span span = photo.span;
+    if (!is_last(walk, at, span))
+        read_upcoming(main, walk);
     const shake & by =
         shake_table.at(static_cast<std::size_t>(main.shake_start + walk.cell) % shake_table.size());
     const shaken cell = shaken_cell(walk.layer, at, span, by,
@@ -141,7 +168,7 @@ int fill_cell(frmMain & main, grid_walk & walk, grid_position at, row_lean & lea
     cells.rotation = narrow(cell.rotation);
     draw_cell(main, walk, at, std::move(photo), cell);
     next_cell(main, walk);
-    return span == cell_span::twice ? 2 : 1;
+    return columns_of(span);
 }
 
 void fill_row(frmMain & main, grid_walk & walk, int row)

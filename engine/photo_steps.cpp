@@ -22,11 +22,38 @@ auto done_where(bool is_small, frmMain & main, Step step)
     return is_small ? step() : beside(main.desk, std::move(step));
 }
 
+bool is_busy(const photo_ahead & ahead)
+{
+    return ahead.image.valid() &&
+           ahead.image.wait_for(std::chrono::seconds::zero()) != std::future_status::ready;
+}
+
 }  // namespace
+
+void read_ahead(frmMain & main, const std::string & path)
+{
+    photo_ahead & ahead = main.run.ahead;
+    const std::optional<file_stamp> stamp = stamp_of(path);
+    if (!ahead.is_on || !stamp || stamp->bytes < small_file || is_busy(ahead))
+        return;
+    ahead.path = path;
+    ahead.stamp = *stamp;
+    ahead.image = std::async(std::launch::async, [path] { return load_picture(picture_format::jpeg, path); });
+}
+
+void forget_ahead(frmMain & main)
+{
+    std::future<bitmap> dropped = std::move(main.run.ahead.image);
+    if (dropped.valid())
+        wait_for(main.desk, dropped);
+}
 
 bitmap load_photo(frmMain & main, const std::string & path)
 {
     const std::optional<file_stamp> stamp = stamp_of(path);
+    photo_ahead & ahead = main.run.ahead;
+    if (ahead.image.valid() && ahead.path == path && stamp == ahead.stamp)
+        return awaited(main.desk, std::move(ahead.image));
     return done_where(!stamp || stamp->bytes < small_file, main,
                       [&] { return load_picture(picture_format::jpeg, path); });
 }

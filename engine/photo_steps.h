@@ -9,8 +9,15 @@ struct frmMain;
 /// The steps with a photo that take longest and touch nothing of the session: they run on another core, and
 /// the window lets events through meanwhile. Thumbnails and what is as small are done at once.
 
-/// A JPEG, empty when it can't be loaded.
+/// A JPEG, empty when it can't be loaded. One that was read ahead is there already.
 bitmap load_photo(frmMain & main, const std::string & path);
+
+/// Begins to read the photo that will probably be loaded next and returns at once. A wrong guess changes
+/// nothing but the time.
+void read_ahead(frmMain & main, const std::string & path);
+
+/// Drops what was read ahead.
+void forget_ahead(frmMain & main);
 
 /// `resize_image`.
 bitmap fit_photo(frmMain & main, const bitmap & image, int width, int height);

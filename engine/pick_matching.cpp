@@ -36,18 +36,24 @@ orientation told_by_header(const std::string & path)
     return size ? orientation_of(size->width, size->height) : orientation::not_loadable;
 }
 
-// How the photo lies; it is loaded into `image` only when it will be used.
-orientation looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientation wish, bitmap & image)
+orientation how_it_lies(frmMain & main, int index)
 {
     orientation & known = main.table.photo_orientation.at(static_cast<std::size_t>(index));
     if (known == orientation::unknown)
         known = told_by_header(main.table[index]);
+    return known;
+}
+
+// How the photo lies; it is loaded into `image` only when it will be used.
+orientation looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientation wish, bitmap & image)
+{
+    const orientation known = how_it_lies(main, index);
     if (known != wish && !is_wanted_anyhow)
         return known;
     image = load_photo(main, main.table[index]);
     if (!image)
-        known = orientation::not_loadable;
-    return known;
+        main.table.photo_orientation.at(static_cast<std::size_t>(index)) = orientation::not_loadable;
+    return how_it_lies(main, index);
 }
 
 }  // namespace
@@ -67,4 +73,11 @@ bitmap pick_matching(frmMain & main, int width, int height)
         return {};
     }
     return image;
+}
+
+std::optional<int> photo_to_match(frmMain & main, int width, int height)
+{
+    match_cursors cursors = cursors_of(main.run);
+    return find_match(request_for(main, width, height), cursors,
+                      [&](int index, orientation) { return how_it_lies(main, index); });
 }

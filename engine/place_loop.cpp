@@ -8,6 +8,7 @@
 #include "engine/placement_loops.h"
 #include "photos/photo_list.h"
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -89,6 +90,26 @@ picked_picture picture_for(frmMain & main, const location & place, int & photo)
     return main.table.last_photo < 0 ? picked_picture{} : next_photo(main, place, photo);
 }
 
+// The photo that the locations from this one on will take first, as far as can be told.
+std::optional<int> upcoming_photo(frmMain & main, int from, int photo)
+{
+    const location_table & table = main.design_locations;
+    for (int i = from; i <= table.count; ++i) {
+        const location & place = table[i];
+        if (is_fixed(place) || is_painted(main, place))
+            continue;
+        return main.run.match_active ? photo_to_match(main, place.width, place.height) : photo;
+    }
+    return std::nullopt;
+}
+
+void read_upcoming(frmMain & main, int from, int photo)
+{
+    const std::optional<int> next = upcoming_photo(main, from, photo);
+    if (next && *next <= main.table.last_photo)
+        read_ahead(main, main.table[*next]);
+}
+
 void draw_upright(frmMain & main, const location & place, const picked_picture & picked_one, int & photo)
 {
     main.run.shape_color = is_shape(place) ? place.spare : int16{0};
@@ -126,6 +147,7 @@ void place_loop(frmMain & main)
         picked_picture next = picture_for(main, place, photo);
         if (!next.found)
             break;
+        read_upcoming(main, i + 1, photo);
         draw_place(main, place, std::move(next), photo);
     }
     main.picSample.show(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/mask_shelf.h"
+#include "engine/photo_ahead.h"
 #include "support/MFreeImage.h"
 #include "support/numbers.h"
 
@@ -22,10 +23,11 @@ struct run_state {
     bool match_active = false;
     int16 next_portrait = 0, next_landscape = 0;  ///< cursors of the orientation matching
     int16 evolve_portrait_wraps = 0, evolve_landscape_wraps = 0;
-    int16 shape_color = 0;                              ///< colour code of the shape being drawn; 0: a photo
-    int16 current_width = 0, current_height = 0;        ///< of the location being drawn
-    std::string current_shape;                          ///< mask of the location being drawn
-    mask_shelf masks;                                   ///< outlives the run: a preview uses the same again
+    int16 shape_color = 0;                        ///< colour code of the shape being drawn; 0: a photo
+    int16 current_width = 0, current_height = 0;  ///< of the location being drawn
+    std::string current_shape;                    ///< mask of the location being drawn
+    mask_shelf masks;                             ///< outlives the run: a preview uses the same again
+    photo_ahead ahead;
     int16 first_cell_height = 0, first_cell_width = 0;  ///< in a grid its rows and columns
     int16 caption_height = 0;                           ///< pixels, of the prepared caption
     bool image_saved = false;

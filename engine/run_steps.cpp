@@ -5,6 +5,7 @@
 #include "engine/background.h"
 #include "engine/flurn_driver.h"
 #include "engine/ornament_sizes.h"
+#include "engine/photo_steps.h"
 #include "engine/placement_loops.h"
 #include "engine/run_layout.h"
 #include "engine/surroundings.h"
@@ -180,6 +181,7 @@ void place_photos(frmMain & main, run_size size)
         place_loop(main);
     else if (layout_of(main) == layout::grids)
         fill_all_layers(main);
+    forget_ahead(main);
     main.trace += "BBB  ";
 }
 
@@ -212,6 +214,7 @@ bool went_through(frmMain & main, const std::function<void()> & work)
 
 void end_run(frmMain & main)
 {
+    forget_ahead(main);
     main.run.canvas = bitmap{};
     main.run.run_active = false;
     main.run.cancel_requested = false;

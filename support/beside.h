@@ -8,13 +8,26 @@
 /// How long a window may stand still, at most.
 inline constexpr std::chrono::milliseconds longest_standstill{20};
 
+/// Lets pending events through until the result is there.
+template <typename Result>
+void wait_for(desktop & desk, const std::future<Result> & result)
+{
+    while (result.wait_for(longest_standstill) != std::future_status::ready)
+        desk.breathe();
+}
+
+/// The same, and gives the result or raises its error.
+template <typename Result>
+Result awaited(desktop & desk, std::future<Result> result)
+{
+    wait_for(desk, result);
+    return result.get();
+}
+
 /// Runs `step` on another core, lets pending events through meanwhile, and gives its result or raises its
 /// error. The step works on files and pixels of its own and touches nothing of the session.
 template <typename Step>
 auto beside(desktop & desk, Step step)
 {
-    auto result = std::async(std::launch::async, std::move(step));
-    while (result.wait_for(longest_standstill) != std::future_status::ready)
-        desk.breathe();
-    return result.get();
+    return awaited(desk, std::async(std::launch::async, std::move(step)));
 }
