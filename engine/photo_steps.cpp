@@ -28,13 +28,18 @@ bool is_busy(const photo_ahead & ahead)
            ahead.image.wait_for(std::chrono::seconds::zero()) != std::future_status::ready;
 }
 
+bool holds(const photo_ahead & ahead, const std::string & path, const file_stamp & stamp)
+{
+    return ahead.image.valid() && ahead.path == path && ahead.stamp == stamp;
+}
+
 }  // namespace
 
 void read_ahead(frmMain & main, const std::string & path)
 {
     photo_ahead & ahead = main.run.ahead;
     const std::optional<file_stamp> stamp = stamp_of(path);
-    if (!ahead.is_on || !stamp || stamp->bytes < small_file || is_busy(ahead))
+    if (!ahead.is_on || !stamp || stamp->bytes < small_file || is_busy(ahead) || holds(ahead, path, *stamp))
         return;
     ahead.path = path;
     ahead.stamp = *stamp;
@@ -52,7 +57,7 @@ bitmap load_photo(frmMain & main, const std::string & path)
 {
     const std::optional<file_stamp> stamp = stamp_of(path);
     photo_ahead & ahead = main.run.ahead;
-    if (ahead.image.valid() && ahead.path == path && stamp == ahead.stamp)
+    if (stamp && holds(ahead, path, *stamp))
         return awaited(main.desk, std::move(ahead.image));
     return done_where(!stamp || stamp->bytes < small_file, main,
                       [&] { return load_picture(picture_format::jpeg, path); });

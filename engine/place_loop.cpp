@@ -147,7 +147,8 @@ void place_loop(frmMain & main)
         picked_picture next = picture_for(main, place, photo);
         if (!next.found)
             break;
-        read_upcoming(main, i + 1, photo);
+        // A painted shape gives its photo back once it is drawn.
+        read_upcoming(main, i + 1, is_painted(main, place) ? photo - 1 : photo);
         draw_place(main, place, std::move(next), photo);
     }
     main.picSample.show(true);

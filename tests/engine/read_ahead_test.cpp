@@ -111,6 +111,16 @@ TEST(read_ahead, begins_nothing_for_a_thumbnail_or_what_is_gone_or_when_switched
     EXPECT_FALSE(run.main.run.ahead.image.valid());
 }
 
+TEST(read_ahead, keeps_what_it_has_when_the_guess_is_made_again)
+{
+    collage_fixture run;
+    const std::string path = noisy_photo(run, "a.jpg", 600, 400);
+    read_ahead(run.main, path);
+    run.main.run.ahead.image.wait();
+    read_ahead(run.main, path);
+    EXPECT_EQ(run.main.run.ahead.image.wait_for(std::chrono::seconds::zero()), std::future_status::ready);
+}
+
 TEST(read_ahead, is_forgotten_when_a_run_has_ended)
 {
     collage_fixture run;
@@ -122,6 +132,16 @@ TEST(read_ahead, is_forgotten_when_a_run_has_ended)
 TEST(read_ahead, leaves_places_in_order_as_they_are_without_it)
 {
     expect_same_run(add_places, place_loop);
+}
+
+TEST(read_ahead, leaves_painted_shapes_as_they_are_without_it)
+{
+    expect_same_run(
+        [](collage_fixture & run) {
+            for (const int16 code : {1, 0, 2, 3, 0, 0})
+                run.add_location({.top = 20, .left = 20, .width = 60, .spare = code});
+        },
+        place_loop);
 }
 
 TEST(read_ahead, leaves_matched_places_as_they_are_without_it)
