@@ -30,19 +30,20 @@ class Grid:
 
 
 def gap(cells):
-    return 24 if cells <= 24 else 20 if cells <= 70 else 16 if cells <= 160 else 12 if cells <= 320 else 8
+    """Wide enough that frames of the usual 10 pixels, which lie around the photos, stay apart, up to 160 cells."""
+    return 40 if cells <= 24 else 34 if cells <= 70 else 22 if cells <= 160 else 12 if cells <= 320 else 8
 
 
 def margins(cells):
     """The least margin that looks well, the same on all four sides but for a little more at the bottom."""
-    return 110 if cells <= 24 else 90 if cells <= 70 else 70 if cells <= 160 else 50
+    return 90 if cells <= 24 else 72 if cells <= 70 else 54 if cells <= 160 else 50
 
 
 def fitted(rows, columns, height):
     """The grid with its margins: the least ones, and more on two sides until the cells have the shape of a photo."""
     cells = rows * columns
     space, least = gap(cells), margins(cells)
-    for extra in range(0, 261 if cells <= 40 else 151, 10):
+    for extra in range(0, 261 if cells <= 40 else 131 if cells <= 160 else 151, 10):
         for side, ends in ((extra, 0), (0, extra)):
             grid = Grid(rows, columns, space, space, least + side, least + ends, least + ends + least // 3)
             across, down = grid.cell(height)

@@ -15,6 +15,7 @@ HANG = 130          # how far a corner may leave the poster
 HANG_TURNED = 140   # the same, beyond the former, for a large photo that has been turned
 ROOM = 85           # how far a turned photo may reach before the program takes a broader border
 MOST_PRODUCT = 32767  # of a side and the tilt
+MOST_TURNED = 24      # photos up to which the search looks at what turned photos leave bare; with more it hardly shows
 
 # How far a turned photo reaches from its corner, in its longer side, by tilt from -35 in steps of 5 without 0: the
 # program's own figures, by which it decides on the border.
@@ -128,9 +129,13 @@ class Throw:
         self.photos = self.start()
         self.spans = [self.span(photo) for photo in self.photos]
         self.strains = [self.strain(photo) for photo in self.photos]
+        self.turned_spans = [self.turned_span(photo) for photo in self.photos]
 
     def span(self, photo):
         return self.raster.span(photo.corners())
+
+    def turned_span(self, photo):
+        return self.raster.span(photo.turned().corners()) if self.total <= MOST_TURNED else 0
 
     def tilts(self):
         steepest = min(35, MOST_PRODUCT // self.long_side // 5 * 5)
@@ -198,6 +203,7 @@ class Throw:
             span, strain = self.span(new), self.strain(new)
             if self.gain(strain, span, *rest) >= self.gain(self.strains[index], self.spans[index], *rest):
                 self.photos[index], self.spans[index], self.strains[index] = new, span, strain
+                self.turned_spans[index] = self.turned_span(new)
 
     def shown(self, order):
         """How much of each photo shows when they are drawn in this order, as {photo: share}."""
@@ -228,6 +234,29 @@ class Throw:
                 best, best_share = order, share
         return best, best_share
 
+    def turnings(self, order):
+        """The sets of photos that are turned for other counts than those it is drawn for."""
+        tall = [index for index in order if self.photos[index].height > self.photos[index].width]
+        wide = [index for index in order if self.photos[index].height < self.photos[index].width]
+        for kind in (tall, wide):
+            step = 1 if self.total <= 8 else max(1, len(kind) // 2)
+            yield from (set(kind[:count]) for count in range(len(kind), 0, -step))
+
+    def bare_when_turned(self, order):
+        """What stays bare in each of these cases, as points."""
+        for turned in self.turnings(order):
+            covered = 0
+            for index in order:
+                covered |= self.turned_spans[index] if index in turned else self.spans[index]
+            yield self.raster.all & ~covered
+
+    def cost_of_turns(self, order):
+        if self.total > MOST_TURNED:
+            return 0
+        costs = [6 * bare.bit_count() + self.worth_of_corner / 2 * (bare & self.raster.corners).bit_count()
+                 for bare in self.bare_when_turned(order)]
+        return sum(costs) / len(costs) + max(costs)
+
     def badness(self, order):
         """What is wrong with the whole throw, drawn in this order: bare points, hidden photos."""
         above = hidden = 0
@@ -239,7 +268,8 @@ class Throw:
                 hidden += points * (12 * lacking) ** 2
             above |= span
         bare = self.raster.all & ~above
-        return 6 * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() + hidden
+        return 6 * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() + hidden + \
+            self.cost_of_turns(order)
 
     def settle(self, order, rounds):
         """Small moves, judged by what shows in the end."""
@@ -253,12 +283,13 @@ class Throw:
                 new = replace(new, tilt=self.chance.choice(tilts))
             if self.leaves(new, old):
                 continue
-            self.photos[index], self.spans[index] = new, self.span(new)
+            old_turned = self.turned_spans[index]
+            self.photos[index], self.spans[index], self.turned_spans[index] = new, self.span(new), self.turned_span(new)
             changed, strain = self.badness(order), self.strain(new)
             if changed + strain <= bad + self.strains[index]:
                 bad, self.strains[index] = changed, strain
             else:
-                self.photos[index], self.spans[index] = old, old_span
+                self.photos[index], self.spans[index], self.turned_spans[index] = old, old_span, old_turned
 
     def strain(self, photo):
         pixels = 0.25 * photo.lack_of_room(self.height)
@@ -270,6 +301,12 @@ class Throw:
         """True for a step beyond the rim; whoever stands there may come back."""
         hang = overhang(new.corners(), self.height)
         return hang > 0 and hang >= overhang(old.corners(), self.height)
+
+    def most_bare_when_turned(self, order):
+        """The greatest share of the poster that turns leave bare."""
+        if self.total > MOST_TURNED:
+            return 0
+        return max(bare.bit_count() for bare in self.bare_when_turned(order)) / self.raster.all.bit_count()
 
     def bare_share(self):
         """How much stays bare of the whole poster, and of the corner that is covered least."""
@@ -286,12 +323,14 @@ class Scatter:
     least_shown: float
     bare: float
     bare_corner: float
+    bare_turned: float
 
     def tall(self):
         return sum(place.height > place.width for place in self.places)
 
     def flaws(self):
-        return 10 * max(0, 0.54 - self.least_shown) + 3 * self.bare + 25 * max(0, self.bare - 0.035) + 0.9 * self.bare_corner ** 2
+        return 10 * max(0, 0.54 - self.least_shown) + 3 * self.bare + 25 * max(0, self.bare - 0.035) + \
+            2.5 * self.bare_corner ** 2 + 8 * max(0, self.bare_turned - 0.06)
 
     def entry(self):
         return f"{len(self.places):02}:{self.tall():02}:{len(self.places) - self.tall():02}:{self.name}"
@@ -312,7 +351,8 @@ def thrown(total, height, name):
         for _ in range(3 if total <= 24 else 2):
             throw.settle(throw.in_order()[0], 200 + (14 if total <= 40 else 9) * total)
         order, share = throw.in_order()
-        found.append(Scatter(name, height, [throw.photos[index].place() for index in order], share, *throw.bare_share()))
+        found.append(Scatter(name, height, [throw.photos[index].place() for index in order], share, *throw.bare_share(),
+                             throw.most_bare_when_turned(order)))
         if found[-1].flaws() < (0.08 if total <= 24 else 0.11):
             break
     return min(found, key=Scatter.flaws)
