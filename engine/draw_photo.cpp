@@ -38,6 +38,9 @@ void draw_photo(frmMain & main, const bitmap & image, int width, int height, int
     run.current_height = narrow(height == 0 ? width : height);
     width = run.current_width;
     height = run.current_height;
+    // A wide gap can leave nothing of a cell: a frame without a photo would stand there as two stray lines.
+    if (width < 1 || height < 1)
+        return;
     bitmap fitted = drawn == kind::colored_shape ? bitmap() : fit_photo(main, image, width, height);
     int bottom_row = run.canvas.height() - (top + height);
     const bool soft = main.chkSoftEdge.ticked() && main.frmOrnaments.visible();

@@ -290,3 +290,12 @@ TEST_F(draw_photo_test, a_shape_without_its_mask_draws_nothing)
     draw_photo(main, plain(50, 60, photo_color), 3, 0, 2, 7);
     EXPECT_EQ(picture(), blank(24));
 }
+
+TEST_F(draw_photo_test, a_cell_of_which_a_wide_gap_left_nothing_has_no_frame_and_no_shadow)
+{
+    main.run.frame_size = 2;
+    main.run.shadow_size = 3;
+    draw_photo(main, plain(4, 4, photo_color), -6, 8, 6, 10);
+    draw_photo(main, plain(4, 4, photo_color), 8, -6, 10, 6);
+    EXPECT_EQ(untouched(), 20U * 24U);
+}
