@@ -9,11 +9,6 @@ namespace {
 constexpr int first_saved = 600;
 constexpr int end_of_saved = 999;
 
-std::string catalogue_path(const frmMain & main)
-{
-    return joined(main.data_folder, "designs.ini");
-}
-
 enum class line_kind { of_this_section, of_the_next };
 
 line_kind read_catalogue_line(frmMain & main, const std::string & line)
@@ -32,6 +27,11 @@ line_kind read_catalogue_line(frmMain & main, const std::string & line)
 }
 
 }  // namespace
+
+std::string catalogue_path(const frmMain & main)
+{
+    return joined(main.data_folder, "designs.ini");
+}
 
 void open_catalogue(frmMain & main)
 {

@@ -7,6 +7,9 @@
 
 /// The design catalogue, `designs.ini` of the data folder, read forward only into `main.design_record`.
 
+/// The file itself.
+std::string catalogue_path(const frmMain & main);
+
 /// Opens the catalogue from the top; a walk that was open is closed first. Raises 53, 70.
 void open_catalogue(frmMain & main);
 

@@ -1,9 +1,11 @@
 #include "desktop/windows_made.h"
 
 #include "ui_frmAbout.h"
+#include "ui_frmDesigns.h"
 #include "ui_frmFont.h"
 #include "ui_frmImage.h"
 #include "ui_frmMain.h"
+#include "ui_frmNewDesign.h"
 #include "ui_frmPhotoCnt.h"
 #include "ui_frmPhotoList.h"
 #include "ui_frmPictureList.h"
@@ -44,6 +46,8 @@ constexpr std::array makers{
     maker{"frmPictureList", made<QDialog, Ui::frmPictureList>},
     maker{"frmPictures", made<QDialog, Ui::frmPictures>},
     maker{"frmThemes", made<QDialog, Ui::frmThemes>},
+    maker{"frmNewDesign", made<QDialog, Ui::frmNewDesign>},
+    maker{"frmDesigns", made<QDialog, Ui::frmDesigns>},
     maker{"frmImage", made<QDialog, Ui::frmImage>},
     maker{"frmSize", made<QDialog, Ui::frmSize>},
     maker{"frmFont", made<QDialog, Ui::frmFont>},

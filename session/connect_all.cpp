@@ -20,6 +20,9 @@ void connect_all(windows & all)
     connect_quick_orientation(all.main);
     connect_quick_menu(all.main);
     connect_frmThemes(all);
+    connect_frmNewDesign(all);
+    connect_frmDesigns(all);
+    connect_design_menus(all);
     connect_frmImage(all);
     connect_frmPhotoCnt(all);
     connect_frmSelectPhotos(all);

@@ -200,6 +200,7 @@ struct frmMain : form {
     bool matrix_both = false, matrix_rotate = false, matrix_resize = false;
     bool matrix_session = false;
     bool square_background = false, run_landscape = false;  ///< shape of the last full-size run
+    bool matrix_portrait = true;                            ///< the poster of the matrix designer
     bool frames_design = false, frames_inside = false;
     bool borders_free = true;
     std::string frame_set_name;

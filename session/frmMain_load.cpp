@@ -1,3 +1,4 @@
+#include "designs/unfinished.h"
 #include "session/handlers.h"
 #include "session/start_up.h"
 #include "session/window_state.h"
@@ -102,6 +103,7 @@ void hide_background_picture(frmMain & main)
 
 void load_main(frmMain & main)
 {
+    remove_leftovers(main);
     set_output_message();
     main.cmbFrame.set_text("10");
     main.cmbShadow.set_text("10");

@@ -5,10 +5,6 @@
 #include "support/paths.h"
 #include "support/platform_error.h"
 
-#include <filesystem>
-
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr int nt_family = 2;
@@ -40,11 +36,9 @@ void copy_seed_folder(frmMain & main, std::string_view name)
 {
     const std::string target = in_data(main, name);
     const std::string beside = target + ".part";
-    with_platform_errors([&] {
-        fs::remove_all(beside);
-        copy_folder(in_install(main, name), beside);
-        fs::rename(beside, target);
-    });
+    remove_tree(beside);
+    copy_folder(in_install(main, name), beside);
+    rename_folder(beside, target);
 }
 
 void supply_catalogue(frmMain & main)
@@ -108,7 +102,7 @@ outcome make_data_subfolder(frmMain & main, const std::string & path, int code)
     if (file_exists(path))
         end_with(main, "Error " + formatted(code, 2) + ":   " + path + "   is a file.");
     // On a fresh account the folders on the way may be missing as well.
-    with_platform_errors([&] { fs::create_directories(path); });
+    make_folders(path);
     return outcome::made;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "designs/frmDesigns.h"
+#include "designs/frmNewDesign.h"
 #include "designs/frmThemes.h"
 #include "engine/frmImage.h"
 #include "photos/frmPhotoCnt.h"
@@ -26,6 +28,8 @@ struct windows {
     frmPictureList picture_list;
     frmPictures pictures;
     frmThemes themes;
+    frmNewDesign new_design;
+    frmDesigns designs;
     frmImage image;
     frmSize size;
     frmFont font;
@@ -34,7 +38,7 @@ struct windows {
     /// Every window but the main one, in the order above.
     std::vector<form *> others()
     {
-        return {&photo_count, &select_photos, &photo_list, &picture_name, &picture_list, &pictures,
-                &themes,      &image,         &size,       &font,         &about};
+        return {&photo_count, &select_photos, &photo_list, &picture_name, &picture_list, &pictures, &themes,
+                &new_design,  &designs,       &image,      &size,         &font,         &about};
     }
 };

@@ -1,9 +1,41 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
-/// Unpacks all files of the zip archive `source` into the folder `destination`, overwriting. Entries that
-/// would leave the destination (`..`, absolute paths, drive letters), links and devices are refused: the
-/// unpacking ends there. True when all went through, false on any error; what was unpacked before an error
-/// stays.
+/// What may come out of one archive.
+struct unpack_limits {
+    int entries = 4000;
+    std::int64_t bytes = std::int64_t{512} << 20;
+};
+
+/// How an unpacking ended. An entry that is not allowed ends it; what was unpacked before stays.
+struct unpacking {
+    enum class end {
+        whole,        ///< all went through
+        broken,       ///< damaged, no archive, no room for it
+        not_allowed,  ///< `entry` would leave the folder, is a link or a device, or comes twice
+        too_many,     ///< `entry` is one more than the limit
+        too_large     ///< `entry` is beyond the limit of bytes
+    };
+    end ended = end::whole;
+    std::string entry;
+};
+
+/// Unpacks all files of the zip archive `source` into the folder `destination`, overwriting. Nothing is
+/// written anywhere else, whatever the names of the entries say.
+unpacking unpack_zip(const std::string & source, const std::string & destination,
+                     const unpack_limits & limits = {});
+
+/// The same; true when all went through.
 bool extract_zip(const std::string & source, const std::string & destination);
+
+/// A file for an archive.
+struct archived_file {
+    std::string name, bytes;
+};
+
+/// A zip archive of these files, as bytes; the same files give the same bytes. Raises 5 when the archive
+/// can't be made.
+std::string zip_bytes(const std::vector<archived_file> & files);

@@ -1,5 +1,6 @@
 #include "support/paths.h"
 
+#include "support/file_steps.h"
 #include "support/platform_error.h"
 #include "support/text_file.h"
 
@@ -129,12 +130,22 @@ std::vector<std::string> folders_in(const std::string & folder)
 
 void make_folder(const std::string & path)
 {
+    pass_gate(file_step::make_folder, path);
     with_folder_errors([&] { fs::create_directory(path); });
+}
+
+void make_folders(const std::string & path)
+{
+    if (folder_exists(path))
+        return;
+    pass_gate(file_step::make_folder, path);
+    with_folder_errors([&] { fs::create_directories(path); });
 }
 
 void remove_folder(const std::string & path)
 {
     with_folder_errors([&] {
+        pass_gate(file_step::remove, path);
         if (!fs::is_directory(path) || !fs::remove(path))
             throw platform_error(error_number::path_not_found, "The folder does not exist.", path);
     });
@@ -143,8 +154,32 @@ void remove_folder(const std::string & path)
 void delete_file(const std::string & path)
 {
     with_platform_errors([&] {
-        if (file_exists(path))
-            fs::remove(path);
+        if (!file_exists(path))
+            return;
+        pass_gate(file_step::remove, path);
+        fs::remove(path);
+    });
+}
+
+void remove_tree(const std::string & path)
+{
+    with_folder_errors([&] {
+        const fs::file_status status = fs::symlink_status(path);
+        if (!fs::exists(status))
+            return;
+        if (fs::is_directory(status))
+            for (const auto & entry : fs::directory_iterator(path))
+                remove_tree(entry.path().string());
+        pass_gate(file_step::remove, path);
+        fs::remove(path);
+    });
+}
+
+void rename_folder(const std::string & from, const std::string & to)
+{
+    with_folder_errors([&] {
+        pass_gate(file_step::rename, to);
+        fs::rename(from, to);
     });
 }
 
@@ -156,11 +191,11 @@ void copy_file(const std::string & from, const std::string & to)
 void copy_folder(const std::string & from, const std::string & to)
 {
     with_platform_errors([&] {
-        fs::create_directories(to);
+        make_folders(to);
         for (const auto & entry : fs::recursive_directory_iterator(from)) {
             const fs::path target = fs::path(to) / entry.path().lexically_relative(from);
             if (entry.is_directory())
-                fs::create_directories(target);
+                make_folders(target.string());
             else
                 copy_file(entry.path().string(), target.string());
         }

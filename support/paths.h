@@ -50,11 +50,21 @@ std::vector<std::string> folders_in(const std::string & folder);
 /// Makes one folder. Raises 70, 75, 76.
 void make_folder(const std::string & path);
 
+/// Makes a folder and those on the way to it that are missing. Raises 70, 75, 76.
+void make_folders(const std::string & path);
+
 /// Deletes a file if it is there, a write-protected one too. Raises 70, 75.
 void delete_file(const std::string & path);
 
 /// Removes a folder that is empty. Raises 70, 75, 76.
 void remove_folder(const std::string & path);
+
+/// Deletes a file or a folder with all that lies in it, if it is there; a link goes, what it leads to stays.
+/// Raises 70, 75.
+void remove_tree(const std::string & path);
+
+/// Gives a folder another name that no folder with anything in it has. Raises 70, 75, 76.
+void rename_folder(const std::string & from, const std::string & to);
 
 /// Copies one file, overwriting. Raises 53, 61, 70, 75. The copy is whole or not there.
 void copy_file(const std::string & from, const std::string & to);

@@ -72,3 +72,8 @@ std::string profile::value(std::string_view section, std::string_view key, std::
     }
     return text.substr(0, std::min(text.size(), limit - 1));
 }
+
+std::string profile_text(std::string_view written, std::size_t limit)
+{
+    return std::string(unquoted(trimmed(written)).substr(0, limit - 1));
+}

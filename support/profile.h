@@ -19,3 +19,7 @@ public:
 private:
     std::map<std::string, std::map<std::string, std::string>> sections;  // names in lower case
 };
+
+/// The text behind "=" as such a file gives it: without blanks at its ends, without one pair of quotes, cut
+/// to `limit` - 1 bytes.
+std::string profile_text(std::string_view written, std::size_t limit = 255);

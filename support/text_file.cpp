@@ -1,8 +1,10 @@
 #include "support/text_file.h"
 
+#include "support/file_steps.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -14,6 +16,7 @@
 namespace {
 
 constexpr std::size_t chunk_size = 1 << 16;
+constexpr std::size_t piece_size = 1 << 12;  // written at a time
 
 // A file that is to be made can only be missing when its folder is.
 platform_error from_opening(int system_number, const std::string & path, int flags)
@@ -25,9 +28,11 @@ platform_error from_opening(int system_number, const std::string & path, int fla
 
 class descriptor {
 public:
-    descriptor(const std::string & path, int flags)
-        : number(::open(path.c_str(), flags | O_CLOEXEC, 0666)), name(path)
+    descriptor(const std::string & path, int flags) : number(-1), name(path)
     {
+        if ((flags & O_CREAT) != 0)
+            pass_gate(file_step::make, path);
+        number = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
         if (number < 0)
             throw from_opening(errno, path, flags);
     }
@@ -42,7 +47,8 @@ public:
     void write_all(std::string_view bytes) const
     {
         while (!bytes.empty()) {
-            const ssize_t written = ::write(number, bytes.data(), bytes.size());
+            pass_gate(file_step::write, name);
+            const ssize_t written = ::write(number, bytes.data(), std::min(bytes.size(), piece_size));
             if (written < 0 && errno == EINTR)
                 continue;
             if (written < 0)
@@ -67,6 +73,7 @@ public:
     }
     void flush() const
     {
+        pass_gate(file_step::flush, name);
         // Special files (a terminal, /dev/full) can't be flushed to a disk and need not be.
         if (::fsync(number) != 0 && errno != EINVAL && errno != EROFS)
             throw from_system(errno, name);
@@ -110,16 +117,23 @@ void write_whole(const std::string & path, std::string_view bytes, durability wa
     file.close();
 }
 
+void rename_over(const std::string & from, const std::string & to)
+{
+    pass_gate(file_step::rename, to);
+    if (std::rename(from.c_str(), to.c_str()) != 0)
+        throw from_system(errno, to);
+}
+
 void swap_in(const std::string & path, std::string_view bytes, durability wanted)
 {
     const std::optional<mode_t> rights = rights_of(path);
-    const std::string beside = path + ".part";
+    const std::string beside = path + std::string(part_ending);
     try {
         write_whole(beside, bytes, wanted, rights);
-        if (std::rename(beside.c_str(), path.c_str()) != 0)
-            throw from_system(errno, path);
+        rename_over(beside, path);
     } catch (platform_error & error) {
-        std::remove(beside.c_str());
+        if (asked_gate(file_step::remove, beside) == 0)
+            std::remove(beside.c_str());
         error.path = path;
         throw;
     }
@@ -135,9 +149,11 @@ bool ends_inside_a_line(const std::string & path)
     return file.get() != '\n';
 }
 
-void flush_folder(const std::string & path)
+void flush_folder_of(const std::string & path)
 {
     const std::string folder = folder_of(path);
+    if (asked_gate(file_step::flush, folder) != 0)
+        return;
     const int number = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (number < 0)
         return;  // the rename stands; only its place on the disk is the system's affair
@@ -205,12 +221,26 @@ std::string read_file(const std::string & path)
 void replace_file(const std::string & path, std::string_view bytes)
 {
     swap_in(path, bytes, durability::flushed);
-    flush_folder(path);
+    flush_folder_of(path);
+}
+
+void move_file(const std::string & from, const std::string & to)
+{
+    rename_over(from, to);
+    flush_folder_of(to);
 }
 
 void write_file(const std::string & path, std::string_view bytes)
 {
     swap_in(path, bytes, durability::left_to_the_system);
+}
+
+std::vector<std::string> lines_of_file(const std::string & path)
+{
+    std::vector<std::string> lines;
+    for (line_source source(path); !source.at_end();)
+        lines.push_back(source.read_line());
+    return lines;
 }
 
 std::string text_of(const std::vector<std::string> & lines)

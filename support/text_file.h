@@ -54,6 +54,9 @@ private:
 /// All bytes of a file. Raises 53, 70, 75.
 std::string read_file(const std::string & path);
 
+/// Ends the name of a file that is being written beside the one it will replace.
+inline constexpr std::string_view part_ending = ".part";
+
 /// Puts `bytes` at `path` in one step: written beside it, flushed to the disk and renamed over it, so that a
 /// crash at any instant leaves the old or the new file, whole. The rights of the old file are kept. Raises
 /// 61, 70 (for a write-protected file too), 75, 76; the old file then stands as it was and nothing is left
@@ -63,6 +66,13 @@ void replace_file(const std::string & path, std::string_view bytes);
 /// The same for what can be made again (previews, thumbnails, generated templates): whole or not there as
 /// well, but it isn't waited for until the disk has it.
 void write_file(const std::string & path, std::string_view bytes);
+
+/// Gives a whole file another name, in one step and for good; a file of that name is replaced. Raises 53, 70,
+/// 75, 76.
+void move_file(const std::string & from, const std::string & to);
+
+/// All lines of a file. Raises 53, 70, 75.
+std::vector<std::string> lines_of_file(const std::string & path);
 
 /// The lines joined with CR LF, one behind each.
 std::string text_of(const std::vector<std::string> & lines);

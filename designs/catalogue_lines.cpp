@@ -1,0 +1,210 @@
+#include "designs/catalogue_lines.h"
+
+#include "support/inner_path.h"
+#include "support/letter_case.h"
+#include "support/profile.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace {
+
+constexpr std::string_view header_start = "[Design";
+constexpr std::size_t header_length = 11;  // "[Design600]"
+constexpr double end_of_supplied = 499;
+
+struct file_key {
+    std::string_view key, folder;
+};
+constexpr std::array file_keys{file_key{"File=", "designs/"}, file_key{"Sample=", "samples/"},
+                               file_key{"Description=", "descriptions/"}};
+
+bool is_header(std::string_view line)
+{
+    return line.starts_with(header_start);
+}
+
+bool is_blank(std::string_view line)
+{
+    return line.find_first_not_of(" \t") == std::string_view::npos;
+}
+
+// The file that a line of a section names, empty for none.
+std::string file_of_line(std::string_view line)
+{
+    for (const file_key & known : file_keys) {
+        if (!line.starts_with(known.key))
+            continue;
+        const std::string_view name = line.substr(known.key.size());
+        const bool is_there = name.find("not_yet") == std::string_view::npos && is_plain_name(name);
+        return is_there ? std::string(known.folder) + std::string(name) : std::string();
+    }
+    return {};
+}
+
+enum class side { of_the_number, of_the_others };
+
+// The lines of the sections of that number, or all others.
+text_lines lines_on(side wanted, const text_lines & catalogue, int number)
+{
+    text_lines lines;
+    side here = side::of_the_others;
+    for (const std::string & line : catalogue) {
+        if (is_header(line))
+            here = number_of_header(line, 3) == number ? side::of_the_number : side::of_the_others;
+        if (here == wanted)
+            lines.push_back(line);
+    }
+    return lines;
+}
+
+// Blank lines in front of the header stay there.
+text_lines with_one_header(text_lines section, int number)
+{
+    const auto own = std::ranges::find_if(section, is_header);
+    const bool leads = own != section.end() && std::all_of(section.begin(), own, is_blank);
+    const auto place = leads ? own - section.begin() : 0;
+    std::erase_if(section, is_header);
+    section.insert(section.begin() + place, design_header(number));
+    return section;
+}
+
+void append(text_lines & lines, std::span<const std::string> more)
+{
+    lines.insert(lines.end(), more.begin(), more.end());
+}
+
+bool has_header(const text_lines & catalogue, const std::string & header)
+{
+    return std::ranges::any_of(
+        catalogue, [&](const std::string & line) { return line.substr(0, header_length) == header; });
+}
+
+text_lines with_section_instead(const text_lines & catalogue, const std::string & header,
+                                const text_lines & section)
+{
+    text_lines merged;
+    auto line = catalogue.begin();
+    for (; line->substr(0, header_length) != header; ++line)
+        merged.push_back(*line);
+    append(merged, section);
+    line = std::find_if(line + 1, catalogue.end(), is_header);
+    merged.insert(merged.end(), line, catalogue.end());
+    return merged;
+}
+
+// The last number in the file and then, where numbers are out of order, the next that is free.
+int number_behind(const text_lines & catalogue)
+{
+    double last = 0;
+    for (const std::string & line : catalogue)
+        last = number_of_header(line).value_or(last);
+    int number = nearest(std::clamp(last, double{first_own_number}, double{last_own_number})) + 1;
+    while (number <= last_own_number && has_header(catalogue, design_header(number)))
+        ++number;
+    return number;
+}
+
+}  // namespace
+
+std::string design_header(int number)
+{
+    return std::string(header_start) + formatted(number, 3) + "]";
+}
+
+std::optional<double> number_of_header(std::string_view line, std::size_t signs)
+{
+    if (!is_header(line))
+        return std::nullopt;
+    return leading_number(line.substr(line.size() - 4).substr(0, signs));
+}
+
+bool holds_name(const text_lines & catalogue, std::string_view name)
+{
+    const std::string wanted = "NAME=" + upper_case(name);
+    return std::ranges::any_of(catalogue,
+                               [&](const std::string & line) { return upper_case(line) == wanted; });
+}
+
+text_lines saved_section(const design_to_save & design)
+{
+    const std::string file = "saved" + formatted(design.number, 3);
+    const bool is_matrix = design.kind == design_to_save::layout::matrix;
+    text_lines lines{"",
+                     design_header(design.number),
+                     "Name=" + design.name,
+                     "Ratio=2x3",
+                     "File=" + file,
+                     "System=No",
+                     "Design=Saved",
+                     is_matrix ? "Style=Matrix" : "Style=Place"};
+    if (design.kind == design_to_save::layout::quick_shape)
+        append(lines, std::array<std::string, 2>{"Frames=No", "Quick Shape=Yes"});
+    const bool is_wide = design.background == design_to_save::page::landscape;
+    append(lines, std::array<std::string, 3>{"Match=Yes", "Turn BG=No",
+                                             is_wide ? "Background=Landscape" : "Background=Portrait"});
+    if (design.sample == design_to_save::part::present)
+        lines.push_back("Sample=" + file + ".jpg");
+    if (design.description == design_to_save::part::present)
+        lines.push_back("Description=" + file);
+    return lines;
+}
+
+std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name)
+{
+    constexpr std::string_view key = "Name=";
+    double number = 0;
+    for (const std::string & line : catalogue) {
+        number = number_of_header(line, 3).value_or(number);
+        if (number <= end_of_supplied || !line.starts_with(key))
+            continue;
+        const std::string_view own = std::string_view(line).substr(key.size());
+        if (own == name || profile_text(own) == name)
+            return nearest(number);
+    }
+    return std::nullopt;
+}
+
+text_lines without_design(const text_lines & catalogue, int number)
+{
+    return lines_on(side::of_the_others, catalogue, number);
+}
+
+text_lines files_of_design(const text_lines & catalogue, int number)
+{
+    const text_lines others = without_design(catalogue, number);
+    text_lines files;
+    for (const std::string & line : lines_on(side::of_the_number, catalogue, number)) {
+        const std::string file = file_of_line(line);
+        if (!file.empty() && !names_file(others, file))
+            files.push_back(file);
+    }
+    return files;
+}
+
+bool names_file(const text_lines & catalogue, std::string_view path)
+{
+    return std::ranges::any_of(catalogue,
+                               [&](const std::string & line) { return file_of_line(line) == path; });
+}
+
+std::optional<text_lines> with_section(const text_lines & catalogue, double number, text_lines section)
+{
+    // No number above three digits has a section; those below have the number nearest to what was written.
+    const int wanted = nearest(std::clamp(number, 0.0, 1000.0));
+    const std::string header = design_header(wanted);
+    const text_lines headed = with_one_header(section, wanted);
+    if (has_header(catalogue, header))
+        return with_section_instead(catalogue, header, headed);
+    const auto above = std::ranges::find_if(
+        catalogue, [&](const std::string & line) { return number_of_header(line).value_or(0) > wanted; });
+    const bool is_inside = above != catalogue.end();
+    const int given = is_inside ? wanted : number_behind(catalogue);
+    if (given > last_own_number)
+        return std::nullopt;
+    text_lines merged(catalogue.begin(), above);
+    append(merged, is_inside ? headed : with_one_header(std::move(section), given));
+    merged.insert(merged.end(), above, catalogue.end());
+    return merged;
+}

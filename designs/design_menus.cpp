@@ -1,0 +1,37 @@
+#include "designs/catalogue.h"
+#include "designs/package_import.h"
+#include "designs/saved_design.h"
+#include "session/handlers.h"
+
+// The menu of the designs.
+
+namespace {
+
+void mnuSaveDesign_click(windows & all)
+{
+    if (all.main.square_background)
+        all.main.desk.message("We can't save designs on a square background.  Sorry.");
+    else if (GetNextDesign(all.main).empty())
+        all.main.desk.message(
+            "You are limited to 400 Designs.\r\nYou will need to remove one before you can save another.");
+    else
+        all.main.desk.show_modal(all.new_design);
+}
+
+void mnuEditDesigns_click(windows & all)
+{
+    all.designs.lstDesigns.set_items(own_designs(all.main));
+    if (all.designs.lstDesigns.items().empty())
+        all.main.desk.message("    You don't have any designs to edit.    ");
+    else
+        all.main.desk.show_modal(all.designs);
+}
+
+}  // namespace
+
+void connect_design_menus(windows & all)
+{
+    all.main.mnuSaveDesign.on_click = [&all] { mnuSaveDesign_click(all); };
+    all.main.mnuEditDesigns.on_click = [&all] { mnuEditDesigns_click(all); };
+    all.main.mnuImport.on_click = [&all] { import_package(all.main); };
+}

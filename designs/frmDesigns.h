@@ -1,0 +1,11 @@
+#pragma once
+
+#include "support/forms.h"
+
+/// The user's own designs, to be deleted. The list is filled before the window opens.
+struct frmDesigns : form {
+    frmDesigns() : form("frmDesigns") { set_caption("D e s i g n s"); }
+    list_box lstDesigns{*this, "lstDesigns"};
+    button cmdDelete{*this, "cmdDelete", "Delete"};
+    button cmdDone{*this, "cmdDone", "Done"};
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "designs/catalogue_lines.h"
+
+/// The manifest of a design package: text, one command a line, known by the exact start of its line; other
+/// lines are passed over.
+
+enum class manifest_step {
+    title,       ///< "$$$ MSG " and the package's title
+    new_folder,  ///< "$$$ NEW  " and a folder
+    payload,     ///< "$$$ NAME ", a file of six characters, any character, where it goes
+    icon,        ///< "$$$ icons"; the next line is one of the list of icons
+    section      ///< "$$$ designs.ini" and a number; the next lines, up to "$$$", are a section
+};
+
+struct manifest_command {
+    manifest_step step = manifest_step::title;
+    std::string text;    ///< the title, or the payload's name as it stands in its six columns
+    std::string target;  ///< folder or file below the data folder, as it is written
+    double number = 0;
+    text_lines lines;  ///< of an icon one, or none where the manifest ends; of a section all
+};
+
+std::vector<manifest_command> commands_of_manifest(const text_lines & manifest);
+
+/// The folders at the top of the data folder that packages have made for themselves.
+using package_folders = text_lines;
+
+/// Where a payload file may go: "designs/heart" for "designs\heart". Files go into the folders that hold
+/// designs, samples, descriptions, lists, pictures, frames, icons, letters and pieces, or into a folder that
+/// packages made; never over a file that the program keeps for itself. Nothing for any other place.
+std::optional<std::string> payload_place(std::string_view target, const package_folders & own);
+
+/// The same for a folder that is to be made new: one below the folders told above, or one beside them whose
+/// name the program has no use for.
+std::optional<std::string> folder_place(std::string_view target);
+
+/// True for a place that lies below no folder of the program's own: packages may renew it only when one of
+/// them made it.
+bool stands_beside_ours(std::string_view place);
+
+/// The first folder of a place: "designs" of "designs/heart".
+std::string first_folder(std::string_view place);

@@ -1,0 +1,138 @@
+#include "designs/saved_design.h"
+
+#include "designs/catalogue.h"
+#include "designs/catalogue_lines.h"
+#include "designs/unfinished.h"
+#include "support/paths.h"
+#include "support/profile.h"
+#include "support/text_file.h"
+
+namespace {
+
+constexpr int first_listed = 500, end_of_listed = 800;
+constexpr picture_size wide_sample{.width = 450, .height = 300}, high_sample{.width = 300, .height = 450};
+
+bool is_quick(const frmMain & main)
+{
+    return main.lblDesign.caption().starts_with("Quick ");
+}
+
+bool is_landscape(const frmMain & main)
+{
+    return is_quick(main) ? main.run_landscape : !main.matrix_portrait;
+}
+
+design_to_save::layout layout_of(const frmMain & main)
+{
+    if (!is_quick(main))
+        return design_to_save::layout::matrix;
+    const bool shaped = main.optShapes.selected() && main.cmbShapes.text() != "Squares";
+    return shaped ? design_to_save::layout::quick_shape : design_to_save::layout::quick;
+}
+
+std::string working_template(const frmMain & main)
+{
+    return joined(main.data_folder, is_quick(main) ? "designs/__quick" : "designs/__matrix");
+}
+
+design_to_save::part save_sample(frmMain & main, design_to_save & design, const std::string & path)
+{
+    const bitmap collage = load_picture(picture_format::jpeg, joined(main.data_folder, "tmp/finished.jpg"));
+    if (!collage) {
+        delete_if_exists(path);
+        return design_to_save::part::absent;
+    }
+    const bool is_wide = is_landscape(main);
+    const picture_size size = is_wide ? wide_sample : high_sample;
+    design.background = is_wide ? design_to_save::page::landscape : design_to_save::page::portrait;
+    replace_file(path, jpeg_bytes(rescaled(collage, size.width, size.height)));
+    return design_to_save::part::present;
+}
+
+design_to_save::part save_description(const std::string & text, const std::string & path)
+{
+    if (text.empty()) {
+        delete_if_exists(path);
+        return design_to_save::part::absent;
+    }
+    replace_file(path, text + "\r\n");
+    return design_to_save::part::present;
+}
+
+// The catalogue read anew, so that no walk goes on in what was there before.
+void reset_catalogue(frmMain & main)
+{
+    open_catalogue(main);
+    close_catalogue(main);
+}
+
+}  // namespace
+
+bool check_design_name(frmMain & main, const std::string & name)
+{
+    const bool taken = holds_name(lines_of_file(catalogue_path(main)), name);
+    if (taken)
+        main.desk.message("There already is a design named:\r\n" + name);
+    return !taken;
+}
+
+bool is_design_name(std::string_view name)
+{
+    return !profile_text(name).empty();
+}
+
+void delete_if_exists(const std::string & path)
+{
+    delete_file(path);
+}
+
+void save_design(frmMain & main, const std::string & name, const std::string & description)
+{
+    const std::string own = "saved" + formatted(main.next_design_number, 3);
+    const text_lines files{"designs/" + own, "samples/" + own + ".jpg", "descriptions/" + own};
+    const std::string layout = read_file(working_template(main));
+    design_to_save design{.number = main.next_design_number, .name = name, .kind = layout_of(main)};
+    note_unfinished(main, files);
+    replace_file(joined(main.data_folder, files[0]), layout);
+    design.sample = save_sample(main, design, joined(main.data_folder, files[1]));
+    design.description = save_description(description, joined(main.data_folder, files[2]));
+    close_catalogue(main);
+    const std::string path = catalogue_path(main);
+    replace_file(path, read_file(path) + text_of(saved_section(design)));
+    forget_unfinished(main);
+    delete_file(working_template(main));
+    reset_catalogue(main);
+}
+
+std::vector<std::string> own_designs(const frmMain & main)
+{
+    const profile designs(catalogue_path(main));
+    std::vector<std::string> names;
+    for (int number = first_listed; number < end_of_listed; ++number) {
+        const std::string section = "Design" + formatted(number, 3);
+        const std::string name = designs.value(section, "Name");
+        if (!name.empty() && designs.value(section, "System") != "Yes")
+            names.push_back(name);
+    }
+    return names;
+}
+
+bool delete_design(frmMain & main, const std::string & name)
+{
+    close_catalogue(main);
+    const std::string path = catalogue_path(main);
+    const text_lines catalogue = lines_of_file(path);
+    const std::optional<int> number = number_of_design(catalogue, name);
+    if (!number)
+        return false;
+    const text_lines files = files_of_design(catalogue, *number);
+    // The files go when no design needs them any more, not before.
+    note_unfinished(main, files);
+    const std::string rewritten = joined(main.data_folder, "tmp/designs.ini");
+    replace_file(rewritten, text_of(without_design(catalogue, *number)));
+    move_file(rewritten, path);
+    for (const std::string & file : files)
+        delete_if_exists(joined(main.data_folder, file));
+    forget_unfinished(main);
+    return true;
+}
