@@ -93,26 +93,34 @@ bool has_payload(const frmMain & main, const std::string & name)
     return is_plain_name(name) && file_exists(joined(unzipped(main), name));
 }
 
-// The target of the first command that may not act where it wants to; empty when all may. An import stops at
-// a missing file: what stands behind it is never carried out.
-std::string refused_target(const frmMain & main, const std::vector<manifest_command> & commands)
+// The target of the first command that may not act where it wants to. An import stops at a missing file: what
+// stands behind it is never carried out.
+std::optional<std::string> refused_target(const frmMain & main,
+                                          const std::vector<manifest_command> & commands)
 {
-    package_folders own = owned_folders(main);
+    package_folders own = owned_folders(main), renewed;
+    const auto is_renewed = [&](const std::string & place) {
+        return std::ranges::any_of(renewed, [&](const std::string & made) { return is_under(place, made); });
+    };
     for (const manifest_command & command : commands) {
+        std::optional<std::string> place;
         if (command.step == manifest_step::new_folder) {
-            const std::optional<std::string> place = free_folder_place(main, command.target, own);
-            if (!place)
-                return command.target;
-            own.push_back(first_folder(*place));
-        }
-        if (command.step != manifest_step::payload)
+            place = free_folder_place(main, command.target, own);
+            own.push_back(first_folder(place.value_or("")));
+            renewed.push_back(place.value_or(""));
+        } else if (command.step == manifest_step::payload) {
+            if (!has_payload(main, command.text))
+                return std::nullopt;
+            place = payload_place(command.target, own);
+            if (place && !is_renewed(*place))
+                place = free_payload_place(main, command.target, own);
+        } else {
             continue;
-        if (!has_payload(main, command.text))
-            return {};
-        if (!payload_place(command.target, own))
+        }
+        if (!place)
             return command.target;
     }
-    return {};
+    return std::nullopt;
 }
 
 void tell_refused(frmMain & main, const std::string & target)
@@ -252,9 +260,8 @@ void import_unpacked(frmMain & main, const std::string & package)
     const bool is_complete = file_exists(manifest);
     const std::vector<manifest_command> commands =
         commands_of_manifest(is_complete ? lines_of_file(manifest) : text_lines());
-    const std::string refused = refused_target(main, commands);
-    if (!refused.empty()) {
-        tell_refused(main, refused);
+    if (const std::optional<std::string> refused = refused_target(main, commands)) {
+        tell_refused(main, *refused);
         return;
     }
     delete_file(package);

@@ -55,7 +55,7 @@ design_to_save::part save_description(const std::string & text, const std::strin
         delete_if_exists(path);
         return design_to_save::part::absent;
     }
-    replace_file(path, text + "\r\n");
+    replace_file(path, text_of(lines_of_text(text + "\n")));
     return design_to_save::part::present;
 }
 

@@ -235,12 +235,17 @@ void write_file(const std::string & path, std::string_view bytes)
     swap_in(path, bytes, durability::left_to_the_system);
 }
 
-std::vector<std::string> lines_of_file(const std::string & path)
+std::vector<std::string> lines_of_text(std::string text)
 {
     std::vector<std::string> lines;
-    for (line_source source(path); !source.at_end();)
+    for (line_source source = line_source::of_text(std::move(text)); !source.at_end();)
         lines.push_back(source.read_line());
     return lines;
+}
+
+std::vector<std::string> lines_of_file(const std::string & path)
+{
+    return lines_of_text(read_file(path));
 }
 
 std::string text_of(const std::vector<std::string> & lines)

@@ -71,6 +71,9 @@ void write_file(const std::string & path, std::string_view bytes);
 /// 75, 76.
 void move_file(const std::string & from, const std::string & to);
 
+/// All lines of a text.
+std::vector<std::string> lines_of_text(std::string text);
+
 /// All lines of a file. Raises 53, 70, 75.
 std::vector<std::string> lines_of_file(const std::string & path);
 

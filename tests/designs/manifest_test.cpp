@@ -1,0 +1,104 @@
+#include "designs/manifest.h"
+
+#include "support/text_file.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::vector<manifest_command> commands(const std::string & text)
+{
+    return commands_of_manifest(lines_of_text(text));
+}
+
+}  // namespace
+
+TEST(manifest, knows_each_command_by_the_start_of_its_line)
+{
+    const auto read = commands(
+        "a note\n$$$ MSG Hearts\n$$$ NEW  frames\\heart\n$$$ NAME abcdef designs\\heart\n$$$ icons\nsun "
+        "sun.bmp\n"
+        "$$$ designs.ini 650\n[Design650]\nName=Heart\n$$$\nanother note\n");
+    ASSERT_EQ(read.size(), 5U);
+    EXPECT_EQ(read[0].step, manifest_step::title);
+    EXPECT_EQ(read[0].text, "Hearts");
+    EXPECT_EQ(read[1].step, manifest_step::new_folder);
+    EXPECT_EQ(read[1].target, "frames\\heart");
+    EXPECT_EQ(read[2].step, manifest_step::payload);
+    EXPECT_EQ(read[2].text, "abcdef");
+    EXPECT_EQ(read[2].target, "designs\\heart");
+    EXPECT_EQ(read[3].step, manifest_step::icon);
+    EXPECT_EQ(read[3].lines, text_lines{"sun sun.bmp"});
+    EXPECT_EQ(read[4].step, manifest_step::section);
+    EXPECT_EQ(read[4].number, 650);
+    EXPECT_EQ(read[4].lines, (text_lines{"[Design650]", "Name=Heart"}));
+}
+
+TEST(manifest, passes_over_lines_that_only_look_like_commands)
+{
+    for (const char * line : {"$$$", "$$$ MSG", "$$$ NEW frames\\one_blank", "$$$ msg x", " $$$ MSG x",
+                              "$$$ NAME", "$$$ designs", "[Design600]", ""})
+        EXPECT_TRUE(commands(line).empty()) << line;
+}
+
+TEST(manifest, a_short_name_misreads_the_columns)
+{
+    const auto read = commands("$$$ NAME abc designs\\heart\n$$$ NAME ab\n$$$ NAME abcdef\n");
+    ASSERT_EQ(read.size(), 3U);
+    EXPECT_EQ(read[0].text, "abc de");
+    EXPECT_EQ(read[0].target, "igns\\heart");
+    EXPECT_EQ(read[1].text, "ab");
+    EXPECT_EQ(read[1].target, "");
+    EXPECT_EQ(read[2].text, "abcdef");
+    EXPECT_EQ(read[2].target, "");
+}
+
+TEST(manifest, an_icon_takes_the_next_line_whatever_it_says)
+{
+    const auto read = commands("$$$ icons\n$$$ MSG x\n$$$ icons");
+    ASSERT_EQ(read.size(), 2U);
+    EXPECT_EQ(read[0].lines, text_lines{"$$$ MSG x"});
+    EXPECT_TRUE(read[1].lines.empty());
+}
+
+TEST(manifest, a_section_ends_at_three_dollars_alone_or_at_the_end)
+{
+    const auto read = commands("$$$ designs.ini 7\na\n$$$ \n$$$ MSG x\n$$$\n$$$ designs.ini\nb");
+    ASSERT_EQ(read.size(), 2U);
+    EXPECT_EQ(read[0].lines, (text_lines{"a", "$$$ ", "$$$ MSG x"}));
+    EXPECT_EQ(read[1].lines, text_lines{"b"});
+    EXPECT_EQ(read[1].number, 0);
+}
+
+TEST(manifest, a_number_beyond_all_numbers_stands_behind_all_sections)
+{
+    EXPECT_EQ(commands("$$$ designs.ini 1e999\n")[0].number, 999);
+}
+
+TEST(payload_place, is_a_file_in_a_folder_that_packages_use)
+{
+    EXPECT_EQ(payload_place("designs\\heart", {}), "designs/heart");
+    EXPECT_EQ(payload_place("Frames/My set/pframe00.jpg", {}), "frames/My set/pframe00.jpg");
+    EXPECT_EQ(payload_place("icons\\sun.bmp", {}), "icons/sun.bmp");
+    EXPECT_EQ(payload_place("hearts\\a.jpg", {}), std::nullopt);
+    EXPECT_EQ(payload_place("hearts\\a.jpg", {"hearts"}), "hearts/a.jpg");
+    for (const char * text :
+         {"designs.ini", "heart", "designs", "tmp\\finished.jpg", "images\\white.jpg", "help\\x.htm",
+          "bin\\tessaloom", "icons\\icons", "icons\\ICONS.NEW", "icons\\icons.bbb", "designs\\__quick",
+          "designs\\x.part", "piclists\\__last__.pls", "piclists\\last_photos.pls", "samples\\not_yet.jpg",
+          "frames\\_named_.not", "frames\\_named_.not\\captions"})
+        EXPECT_EQ(payload_place(text, {}), std::nullopt) << text;
+}
+
+TEST(folder_place, is_below_such_a_folder_or_beside_them)
+{
+    EXPECT_EQ(folder_place("frames\\heart"), "frames/heart");
+    EXPECT_EQ(folder_place("user_images/a/b"), "user_images/a/b");
+    EXPECT_EQ(folder_place("hearts"), "hearts");
+    for (const char * text :
+         {"", ".", "..", "frames", "Designs", "icons", "tmp", "tmp\\x", "TMP\\x", "images", "bin", "help\\x",
+          "frames\\_named_.not", "designs\\__x", "icons.part"})
+        EXPECT_EQ(folder_place(text), std::nullopt) << text;
+    EXPECT_TRUE(stands_beside_ours("hearts/inner"));
+    EXPECT_FALSE(stands_beside_ours("frames/heart"));
+}
