@@ -171,11 +171,16 @@ text_lines without_design(const text_lines & catalogue, int number)
     return lines_on(side::of_the_others, catalogue, number);
 }
 
+text_lines section_of(const text_lines & catalogue, int number)
+{
+    return lines_on(side::of_the_number, catalogue, number);
+}
+
 text_lines files_of_design(const text_lines & catalogue, int number)
 {
     const text_lines others = without_design(catalogue, number);
     text_lines files;
-    for (const std::string & line : lines_on(side::of_the_number, catalogue, number)) {
+    for (const std::string & line : section_of(catalogue, number)) {
         const std::string file = file_of_line(line);
         if (!file.empty() && !names_file(others, file))
             files.push_back(file);

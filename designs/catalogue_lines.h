@@ -42,6 +42,9 @@ text_lines saved_section(const design_to_save & design);
 /// shows it.
 std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name);
 
+/// The sections of that number.
+text_lines section_of(const text_lines & catalogue, int number);
+
 /// The catalogue without the sections of that number.
 text_lines without_design(const text_lines & catalogue, int number);
 

@@ -82,6 +82,7 @@ public:
     explicit manifest_reader(const text_lines & manifest) : lines(manifest) {}
 
     bool at_end() const { return next == lines.size(); }
+    const std::string & last_line() const { return lines[next - 1]; }
     std::optional<manifest_command> read()
     {
         const std::string & line = lines[next++];
@@ -138,6 +139,15 @@ std::vector<manifest_command> commands_of_manifest(const text_lines & manifest)
         if (std::optional<manifest_command> command = reader.read())
             commands.push_back(std::move(*command));
     return commands;
+}
+
+text_lines unknown_commands(const text_lines & manifest)
+{
+    text_lines unknown;
+    for (manifest_reader reader(manifest); !reader.at_end();)
+        if (!reader.read() && reader.last_line().starts_with(section_end))
+            unknown.push_back(reader.last_line());
+    return unknown;
 }
 
 std::string first_folder(std::string_view place)

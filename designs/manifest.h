@@ -23,6 +23,9 @@ struct manifest_command {
 
 std::vector<manifest_command> commands_of_manifest(const text_lines & manifest);
 
+/// The lines that begin as a command does and are passed over, since they are none.
+text_lines unknown_commands(const text_lines & manifest);
+
 /// The folders at the top of the data folder that packages have made for themselves.
 using package_folders = text_lines;
 
