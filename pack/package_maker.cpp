@@ -110,8 +110,7 @@ private:
         if (path == "custom_shape.gif")
             return own_picture("user_images/custom_shape.gif");
         const std::optional<std::string> inner = inner_path(path);
-        const bool travels =
-            inner && (inner->starts_with("user_images/") || inner->starts_with("frames/"));
+        const bool travels = inner && (inner->starts_with("user_images/") || inner->starts_with("frames/"));
         return travels ? own_picture(path) : path;
     }
     std::string own_picture(const std::string & path)

@@ -1,0 +1,195 @@
+#include "tests/designs/crash_scene.h"
+
+#include "designs/catalogue_lines.h"
+#include "designs/unfinished.h"
+#include "support/file_steps.h"
+#include "support/platform_error.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <set>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int went_through = 0, broken_off = 99, raised = 98;
+
+bool changes_nothing_on_a_full_disk(file_step step)
+{
+    return step == file_step::rename || step == file_step::remove;
+}
+
+// Counts the steps of the child and lets the mishap happen.
+class fate_gate {
+public:
+    fate_gate(int at_step, mishap fate) : target(at_step), kind(fate) {}
+
+    int operator()(file_step step, const std::string & path)
+    {
+        if (count++ >= target) {
+            if (kind == mishap::killed || kind == mishap::power_cut)
+                die();
+            if (kind == mishap::no_permission)
+                return EACCES;
+            if (!changes_nothing_on_a_full_disk(step))
+                return ENOSPC;
+        }
+        note(step, path);
+        return 0;
+    }
+
+private:
+    void note(file_step step, const std::string & path)
+    {
+        if (step == file_step::write)
+            unflushed.insert(path);
+        if (step == file_step::flush)
+            unflushed.erase(path);
+        if (step == file_step::rename && unflushed.erase(path + std::string(part_ending)) > 0)
+            unflushed.insert(path);
+    }
+    [[noreturn]] void die()
+    {
+        std::error_code ignored;
+        if (kind == mishap::power_cut)
+            for (const std::string & path : unflushed)
+                fs::resize_file(path, fs::file_size(path, ignored) / 2, ignored);
+        ::_exit(broken_off);
+    }
+
+    int target, count = 0;
+    mishap kind;
+    std::set<std::string> unflushed;
+};
+
+// Backups hold an older state; the work folder holds what the next run makes anew.
+bool is_kept_between_runs(const std::string & name)
+{
+    return !name.starts_with("tmp") && !name.ends_with(".bbb");
+}
+
+bool held_there(const folder_image & image, const std::string & name, const std::string & bytes)
+{
+    const auto found = image.find(name);
+    return found != image.end() && found->second == bytes;
+}
+
+}  // namespace
+
+crash_scene::crash_scene()
+{
+    const char * const place = std::getenv("TMPDIR");
+    old_place = place == nullptr ? "" : place;
+    // In memory, where flushing costs nothing.
+    if (::access("/dev/shm", W_OK) == 0)
+        ::setenv("TMPDIR", "/dev/shm", 1);
+    held = std::make_unique<package_session>();
+    if (old_place.empty())
+        ::unsetenv("TMPDIR");
+    else
+        ::setenv("TMPDIR", old_place.c_str(), 1);
+    lay_out();
+}
+
+crash_scene::~crash_scene() = default;
+
+// A catalogue of more than one piece, so that it is written in several steps.
+void crash_scene::lay_out()
+{
+    package_session & session = *held;
+    std::string text;
+    for (const int number : {500, 600, 601, 605}) {
+        const std::string own = "saved" + std::to_string(number);
+        text += "[Design" + std::to_string(number) + "]\r\nName=d" + std::to_string(number) +
+                "\r\nFile=" + own + "\r\nSystem=No\r\nSample=" + own + ".jpg\r\nDescription=" + own +
+                "\r\nHelp Tip=" + std::string(2500, 'x') + "\r\n\r\n";
+        for (const std::string & name : {"designs/" + own, "samples/" + own + ".jpg", "descriptions/" + own})
+            session.folder.write("data/" + name, "bytes of " + name);
+    }
+    session.catalogue(text);
+    session.finished(200, 300);
+    for (const char * name : {"frames/Team/design.ini", "frames/Team/captions", "frames/Team/pframe00.jpg",
+                              "icons/star.bmp", "user_images/a.jpg", "3_1_install"})
+        session.folder.write(std::string("data/") + name, std::string("bytes of ") + name);
+    session.folder.write("data/piclists/summer.pls", "L /a.jpg\r\n");
+    session.folder.write("data/piclists/last_photos.pls", "L /b.jpg\r\n");
+    before = image_of(session.at(""));
+}
+
+int crash_scene::run_child(int step, mishap fate, const std::function<void(package_session &)> & act)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const gated_files gate(fate_gate(step, fate));
+        try {
+            act(*held);
+        } catch (const platform_error &) {
+            ::_exit(raised);
+        }
+        ::_exit(went_through);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+void crash_scene::expect_whole(const folder_image & after)
+{
+    remove_leftovers(held->main);
+    const folder_image now = image_of(held->at(""));
+    for (const auto & [name, bytes] : now)
+        if (is_kept_between_runs(name))
+            EXPECT_TRUE(held_there(before, name, bytes) || held_there(after, name, bytes)) << name;
+    for (const auto & [name, bytes] : before)
+        if (is_kept_between_runs(name) && held_there(after, name, bytes))
+            EXPECT_TRUE(held_there(now, name, bytes)) << name;
+    const text_lines catalogue = lines_of_file(held->at("designs.ini"));
+    for (int number = 500; number < 999; ++number)
+        for (const std::string & file : files_of_design(catalogue, number))
+            EXPECT_TRUE(now.contains(file)) << file;
+    EXPECT_TRUE(!now.contains("tmp/unfinished") && !now.contains("designs.new"));
+}
+
+namespace {
+
+void put_back(const std::string & folder, const folder_image & image)
+{
+    for (const auto & entry : fs::directory_iterator(folder))
+        fs::remove_all(entry.path());
+    for (const auto & [name, bytes] : image) {
+        const fs::path path = fs::path(folder) / name;
+        if (bytes == "folder")
+            fs::create_directories(path);
+        else {
+            fs::create_directories(path.parent_path());
+            std::ofstream(path, std::ios::binary) << bytes;
+        }
+    }
+}
+
+}  // namespace
+
+int crash_scene::break_off(const std::string & name, mishap fate,
+                           const std::function<void(package_session &)> & act)
+{
+    const std::string data = held->main.data_folder;
+    put_back(data, before);
+    EXPECT_EQ(run_child(1'000'000, mishap::killed, act), went_through) << name;
+    const folder_image after = image_of(data);
+    EXPECT_NE(after, before) << name;
+    int step = 0;
+    for (int ended = broken_off; ended != went_through; ++step) {
+        SCOPED_TRACE(name + ", step " + std::to_string(step));
+        put_back(data, before);
+        ended = run_child(step, fate, act);
+        const bool dies = fate == mishap::killed || fate == mishap::power_cut;
+        EXPECT_TRUE(ended == went_through || ended == (dies ? broken_off : raised) || !dies) << ended;
+        expect_whole(after);
+        if (testing::Test::HasFailure() || step > 2000)
+            break;
+    }
+    return step - 1;
+}

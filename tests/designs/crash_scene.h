@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tests/designs/package_session.h"
+
+#include <functional>
+
+/// How a child process fares at one of its steps on the disk.
+enum class mishap {
+    killed,         ///< it ends in front of the step
+    power_cut,      ///< likewise, and what wasn't flushed yet is lost by half
+    full_disk,      ///< from the step on nothing can be made or written
+    no_permission,  ///< from the step on nothing can be changed at all
+};
+
+/// A data folder of which every state is known, and an operation that is broken off at each of its steps in
+/// turn. A start follows; then every file has to be as it was before or as it is after a whole run.
+class crash_scene {
+public:
+    crash_scene();
+    crash_scene(const crash_scene &) = delete;
+    crash_scene & operator=(const crash_scene &) = delete;
+    ~crash_scene();
+
+    /// Breaks it off at every step; gives how many there were. It runs in a child process.
+    int break_off(const std::string & name, mishap fate, const std::function<void(package_session &)> & act);
+
+private:
+    void lay_out();
+    int run_child(int step, mishap fate, const std::function<void(package_session &)> & act);
+    void expect_whole(const folder_image & after);
+
+    std::string old_place;
+    std::unique_ptr<package_session> held;
+    folder_image before;
+};

@@ -1,0 +1,70 @@
+#include "pack/package_check.h"
+
+#include "support/text_file.h"
+#include "tests/small_files.h"
+#include "tests/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+text_lines problems(const std::string & manifest, const text_lines & payload = {})
+{
+    return manifest_problems(lines_of_text(manifest), payload);
+}
+
+text_lines problems_of_zip(const std::vector<zip_entry> & entries)
+{
+    const temporary_folder folder;
+    return package_problems(folder.write("a.zip", stored_zip(entries)));
+}
+
+const std::string title = "$$$ MSG Hearts\n";
+
+}  // namespace
+
+TEST(package_check, finds_nothing_wrong_with_a_good_package)
+{
+    EXPECT_EQ(problems(title + "$$$ NEW  frames\\heart\n$$$ NAME abcdef frames\\heart\\captions\n"
+                               "$$$ NAME ghijkl designs\\heart\n$$$ icons\nsun sun.bmp\n"
+                               "$$$ designs.ini 650\n[Design650]\nName=Heart\nFile=heart\nSystem=No\n$$$\n",
+                       {"abcdef", "ghijkl"}),
+              text_lines{});
+}
+
+TEST(package_check, tells_every_problem_of_a_manifest)
+{
+    EXPECT_EQ(problems("$$$ NAMES\n$$$ NEW  tmp\n$$$ NAME abcdef ..\\x\n$$$ NAME short designs\\x\n"
+                       "$$$ NAME abcdef designs\\y\n$$$ designs.ini\nFile=z\nSystem=No\n$$$\n$$$ icons\nsun\n"
+                       "$$$ icons",
+                       {"abcdef", "unused", "folder/"}),
+              (text_lines{"unknown command: '$$$ NAMES'", "the package has no title",
+                          "packages may not have the folder 'tmp'", "packages may not use '..\\x'",
+                          "the file 'short ' is missing", "packages may not use 'esigns\\x'",
+                          "the file 'abcdef' is used twice", "a design has no header of its own",
+                          "a design has no name", "a design has no number",
+                          "this is no icon and its file: 'sun'", "the line of an icon is missing",
+                          "a design names 'designs/z', which doesn't come with it",
+                          "no command uses the file 'unused'", "no command uses the file 'folder/'"}));
+}
+
+TEST(package_check, a_folder_of_the_package_s_own_may_be_used_behind_its_making)
+{
+    EXPECT_EQ(problems(title + "$$$ NEW  hearts\n$$$ NAME abcdef hearts\\a.jpg\n", {"abcdef"}), text_lines{});
+    EXPECT_EQ(problems(title + "$$$ NAME abcdef hearts\\a.jpg\n$$$ NEW  hearts\n", {"abcdef"}),
+              text_lines{"packages may not use 'hearts\\a.jpg'"});
+}
+
+TEST(package_check, tells_what_is_wrong_with_the_archive)
+{
+    const temporary_folder folder;
+    EXPECT_EQ(package_problems(folder.write("a.zip", "text")),
+              text_lines{"the file is damaged or no zip file"});
+    EXPECT_EQ(package_problems(folder.at("none.zip")), text_lines{"the file is damaged or no zip file"});
+    EXPECT_EQ(problems_of_zip({{.name = "abcdef", .bytes = "x"}}), text_lines{"the manifest is missing"});
+    EXPECT_EQ(problems_of_zip({{.name = "../x", .bytes = "x"}}),
+              text_lines{"the entry '../x' is not allowed"});
+    EXPECT_EQ(
+        problems_of_zip({{.name = "manifest", .bytes = "$$$ MSG x\n"}, {.name = "abcdef", .bytes = "x"}}),
+        text_lines{"no command uses the file 'abcdef'"});
+}
