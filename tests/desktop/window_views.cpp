@@ -151,9 +151,28 @@ void filled_session::add_photo_views(std::vector<window_view> & views)
          }});
 }
 
+void filled_session::add_design_views(std::vector<window_view> & views)
+{
+    views.push_back({.name = "frmNewDesign", .window = &all.new_design, .prepare = {}, .fill = [this] {
+                         all.new_design.txtName.set_text("Summer wall");
+                         all.new_design.txtDescription.set_text(
+                             "Eleven photos on a wall, the large one in the middle.\n"
+                             "Best with many portraits.");
+                     }});
+    views.push_back({.name = "frmDesigns",
+                     .window = &all.designs,
+                     .prepare =
+                         [this] {
+                             all.designs.lstDesigns.set_items(
+                                 {"Summer wall", "Grandmother's birthday", "Three by four", "Stars at night"});
+                         },
+                     .fill = [this] { all.designs.lstDesigns.select(1); }});
+}
+
 std::vector<window_view> filled_session::views()
 {
     std::vector<window_view> views;
+    add_design_views(views);
     add_image_views(views);
     add_small_views(views);
     add_photo_views(views);

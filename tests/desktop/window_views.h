@@ -35,6 +35,7 @@ struct filled_session {
 private:
     void add_image_views(std::vector<window_view> & views);
     void add_small_views(std::vector<window_view> & views);
+    void add_design_views(std::vector<window_view> & views);
     void add_photo_views(std::vector<window_view> & views);
 };
 
