@@ -2,9 +2,11 @@
 
 #include "designs/catalogue.h"
 #include "designs/manifest.h"
+#include "designs/unfinished.h"
 #include "support/archive.h"
 #include "support/inner_path.h"
 #include "support/paths.h"
+#include "support/platform_error.h"
 #include "support/text_file.h"
 
 #include <algorithm>
@@ -140,14 +142,9 @@ progress make_new_folder(frmMain & main, const manifest_command & command)
     }
     if (stands_beside_ours(*place))
         note_owned(main, first_folder(*place));
-    const std::string path = in_data(main, *place);
-    const std::string aside = in_data(main, "tmp/replaced");
-    // Moved away whole first, so that no half of it is ever seen.
-    remove_tree(aside);
-    if (folder_exists(path))
-        rename_folder(path, aside);
-    make_folders(path);
-    remove_tree(aside);
+    // Gone for good once the import is at its end: until then a crash or a full disk brings it back.
+    set_aside(main, *place);
+    make_folders(in_data(main, *place));
     return progress::going_on;
 }
 
@@ -225,6 +222,19 @@ std::optional<std::string> carry_out(frmMain & main, const std::vector<manifest_
     return title;
 }
 
+std::optional<std::string> carried_out_whole(frmMain & main, const std::vector<manifest_command> & commands)
+{
+    put_back(main);
+    try {
+        std::optional<std::string> title = carry_out(main, commands);
+        forget_set_aside(main);
+        return title;
+    } catch (const platform_error &) {
+        put_back(main);
+        throw;
+    }
+}
+
 // ---- the package
 
 std::string refusal_of(const unpacking & unpacked)
@@ -271,7 +281,7 @@ void import_unpacked(frmMain & main, const std::string & package)
             "The new design was not imported.");
         return;
     }
-    if (const std::optional<std::string> title = carry_out(main, commands))
+    if (const std::optional<std::string> title = carried_out_whole(main, commands))
         main.desk.message("\r\n" + *title + " has been successfully imported.\r\n");
 }
 

@@ -1,7 +1,7 @@
 #include "designs/unfinished.h"
 
 #include "designs/catalogue.h"
-#include "designs/catalogue_lines.h"
+#include "designs/manifest.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
 #include "support/text_file.h"
@@ -11,6 +11,23 @@ namespace {
 std::string note_path(const frmMain & main)
 {
     return joined(main.data_folder, "tmp/unfinished");
+}
+
+std::string aside(const frmMain & main)
+{
+    return joined(main.data_folder, "tmp/replaced");
+}
+
+// Which places the folders set aside came from, the first in the folder "0"; while it is there they count.
+std::string places_path(const frmMain & main)
+{
+    return joined(aside(main), "places");
+}
+
+text_lines noted_places(const frmMain & main)
+{
+    const std::string path = places_path(main);
+    return file_exists(path) ? lines_of_file(path) : text_lines();
 }
 
 template <typename Step>
@@ -71,10 +88,44 @@ void forget_unfinished(const frmMain & main)
     delete_file(note_path(main));
 }
 
+void set_aside(const frmMain & main, const std::string & place)
+{
+    const std::string path = joined(main.data_folder, place);
+    if (!folder_exists(path))
+        return;
+    make_folders(aside(main));
+    text_lines places = noted_places(main);
+    const std::string number = std::to_string(places.size());
+    places.push_back(place);
+    replace_file(places_path(main), text_of(places));
+    rename_folder(path, joined(aside(main), number));
+}
+
+void forget_set_aside(const frmMain & main)
+{
+    delete_file(places_path(main));
+    remove_tree(aside(main));
+}
+
+void put_back(const frmMain & main)
+{
+    const text_lines places = noted_places(main);
+    for (std::size_t left = places.size(); left-- > 0;) {
+        const std::optional<std::string> place = folder_place(places[left]);
+        const std::string kept = joined(aside(main), std::to_string(left));
+        if (!place || !folder_exists(kept))
+            continue;
+        remove_tree(joined(main.data_folder, *place));
+        rename_folder(kept, joined(main.data_folder, *place));
+    }
+    forget_set_aside(main);
+}
+
 void remove_leftovers(const frmMain & main)
 {
     const auto in_data = [&](const char * name) { return joined(main.data_folder, name); };
     quietly([&] { finish_noted(main); });
+    quietly([&] { put_back(main); });
     quietly([&] { remove_parts(main.data_folder); });
     for (const char * folder :
          {"tmp", "designs", "descriptions", "samples", "piclists", "user_images", "frames", "icons"})
@@ -82,6 +133,6 @@ void remove_leftovers(const frmMain & main)
     quietly([&] { remove_parts_of_sets(in_data("frames")); });
     for (const char * file : {"designs.new", "icons/icons.new", "tmp/designs.ini"})
         quietly([&] { delete_file(in_data(file)); });
-    for (const char * folder : {"icons.part", "frames.part", "alpha.part", "puzzle.part", "tmp/replaced"})
+    for (const char * folder : {"icons.part", "frames.part", "alpha.part", "puzzle.part"})
         quietly([&] { remove_tree(in_data(folder)); });
 }

@@ -13,6 +13,15 @@
 void note_unfinished(const frmMain & main, const std::vector<std::string> & files);
 void forget_unfinished(const frmMain & main);
 
+/// Moves a folder that a package makes new out of the way, whole; nothing when it isn't there. `place` is a
+/// path below the data folder. It comes back by put_back, unless forget_set_aside is called first. Raises 61,
+/// 70, 75.
+void set_aside(const frmMain & main, const std::string & place);
+void forget_set_aside(const frmMain & main);
+/// Puts every folder that is still set aside back in its place, instead of what has been made there. Raises
+/// 70, 75.
+void put_back(const frmMain & main);
+
 /// Deletes what is left over: files of a design that was being saved or deleted, and files and folders under
-/// construction. Says nothing and raises nothing: what can't be removed stays.
+/// construction; puts folders back that a broken-off import was making new. Says nothing and raises nothing: what can't be removed stays.
 void remove_leftovers(const frmMain & main);

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t payload_length = 6;
 
-std::string quoted(std::string_view text)
+std::string in_quotes(std::string_view text)
 {
     return "'" + shown_in_message(text) + "'";
 }
@@ -35,7 +35,7 @@ public:
     text_lines run(const text_lines & manifest)
     {
         for (const std::string & line : unknown_commands(manifest))
-            problems.push_back("unknown command: " + quoted(line));
+            problems.push_back("unknown command: " + in_quotes(line));
         const std::vector<manifest_command> commands = commands_of_manifest(manifest);
         if (std::ranges::none_of(commands, [](const manifest_command & command) {
                 return command.step == manifest_step::title && !command.text.empty();
@@ -47,7 +47,7 @@ public:
             look_at_files(command);
         for (const std::string & file : payload)
             if (!holds(used, file))
-                problems.push_back("no command uses the file " + quoted(file));
+                problems.push_back("no command uses the file " + in_quotes(file));
         return problems;
     }
 
@@ -69,27 +69,27 @@ private:
         if (place)
             own.push_back(first_folder(*place));
         else
-            problems.push_back("packages may not have the folder " + quoted(command.target));
+            problems.push_back("packages may not have the folder " + in_quotes(command.target));
     }
     void look_at_payload(const manifest_command & command)
     {
         if (command.text.size() != payload_length || !holds(payload, command.text))
-            problems.push_back("the file " + quoted(command.text) + " is missing");
+            problems.push_back("the file " + in_quotes(command.text) + " is missing");
         else if (holds(used, command.text))
-            problems.push_back("the file " + quoted(command.text) + " is used twice");
+            problems.push_back("the file " + in_quotes(command.text) + " is used twice");
         used.push_back(command.text);
         const std::optional<std::string> place = payload_place(command.target, own);
         if (place)
             targets.push_back(*place);
         else
-            problems.push_back("packages may not use " + quoted(command.target));
+            problems.push_back("packages may not use " + in_quotes(command.target));
     }
     void look_at_icon(const manifest_command & command)
     {
         if (command.lines.empty())
             problems.emplace_back("the line of an icon is missing");
         else if (command.lines.front().find(' ') == std::string::npos)
-            problems.push_back("this is no icon and its file: " + quoted(command.lines.front()));
+            problems.push_back("this is no icon and its file: " + in_quotes(command.lines.front()));
     }
     void look_at_section(const manifest_command & command)
     {
@@ -113,7 +113,7 @@ private:
         section.insert(section.begin(), design_header(first_own_number));
         for (const std::string & file : files_of_design(section, first_own_number))
             if (!holds(targets, file))
-                problems.push_back("a design names " + quoted(file) + ", which doesn't come with it");
+                problems.push_back("a design names " + in_quotes(file) + ", which doesn't come with it");
     }
 
     const text_lines & payload;
@@ -148,11 +148,11 @@ std::optional<std::string> unpacking_problem(const unpacking & unpacked)
         case unpacking::end::broken:
             return "the file is damaged or no zip file";
         case unpacking::end::not_allowed:
-            return "the entry " + quoted(unpacked.entry) + " is not allowed";
+            return "the entry " + in_quotes(unpacked.entry) + " is not allowed";
         case unpacking::end::too_many:
-            return "there are too many entries, from " + quoted(unpacked.entry) + " on";
+            return "there are too many entries, from " + in_quotes(unpacked.entry) + " on";
         case unpacking::end::too_large:
-            return "the package is too large, from " + quoted(unpacked.entry) + " on";
+            return "the package is too large, from " + in_quotes(unpacked.entry) + " on";
         default:
             return std::nullopt;
     }

@@ -121,7 +121,7 @@ TEST(with_section, behind_all_others_gets_the_next_number)
 
 TEST(with_section, has_exactly_one_header)
 {
-    EXPECT_EQ(one_line(merged(three, 604, "Name=n\n")).substr(44), "~ [Design604] Name=n [Design605] Name=e");
+    EXPECT_EQ(one_line(merged(three, 604, "Name=n\n")).substr(47), "~ [Design604] Name=n [Design605] Name=e");
     EXPECT_EQ(one_line(merged("[Design700]\n", 650, "\n[Design001]\nName=n\n[Design002]\nFile=x\n")),
               "~ [Design650] Name=n File=x [Design700]");
     EXPECT_EQ(one_line(merged("[Design700]\n", 650, "Name=n\n[Design001]\n")),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/designs/memory_place.h"
 #include "tests/designs/package_session.h"
 
 #include <functional>
@@ -17,9 +18,6 @@ enum class mishap {
 class crash_scene {
 public:
     crash_scene();
-    crash_scene(const crash_scene &) = delete;
-    crash_scene & operator=(const crash_scene &) = delete;
-    ~crash_scene();
 
     /// Breaks it off at every step; gives how many there were. It runs in a child process.
     int break_off(const std::string & name, mishap fate, const std::function<void(package_session &)> & act);
@@ -29,7 +27,7 @@ private:
     int run_child(int step, mishap fate, const std::function<void(package_session &)> & act);
     void expect_whole(const folder_image & after);
 
-    std::string old_place;
-    std::unique_ptr<package_session> held;
+    memory_place in_memory;
+    package_session session;
     folder_image before;
 };

@@ -18,6 +18,21 @@ TEST(leftovers, a_start_removes_what_was_under_construction_and_says_nothing)
     EXPECT_EQ(image_of(session.at("")), before);
 }
 
+TEST(leftovers, folders_of_a_broken_off_import_come_back)
+{
+    own_designs_session session;
+    session.folder.write("data/frames/mine/captions", "x");
+    session.folder.write("data/frames/mine/inner/a", "y");
+    const folder_image before = image_of(session.at(""));
+    set_aside(session.main, "frames/none");
+    set_aside(session.main, "frames/mine");
+    session.folder.write("data/frames/mine/inner/b", "new");
+    set_aside(session.main, "frames/mine/inner");
+    session.folder.write("data/frames/mine/inner/c", "newer");
+    remove_leftovers(session.main);
+    EXPECT_EQ(image_of(session.at("")), before);
+}
+
 TEST(leftovers, noted_files_go_unless_a_design_names_them)
 {
     own_designs_session session;
