@@ -2,6 +2,7 @@
 //
 //     seed_art mask IN.svg OUT.gif            800 by 800, grey levels
 //     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
+//     seed_art icon IN.svg OUT.bmp W H        a Windows bitmap of that size, 24 bits
 //     seed_art png IN.svg OUT.png W H         a PNG of that size, clear where nothing is drawn
 //     seed_art collage LAYOUT OUT.jpg W H FOLDER  a small collage of the photos of that folder
 //     seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which is checked
@@ -74,6 +75,11 @@ void render_picture(const char * drawing, const char * target, int width, int he
     save(FIF_JPEG, in_colour(rendered(drawing, width, height)), target, picture_quality);
 }
 
+void render_icon(const char * drawing, const char * target, int width, int height)
+{
+    save(FIF_BMP, in_colour(rendered(drawing, width, height)), target, BMP_DEFAULT);
+}
+
 void render_collage(char ** arguments)
 {
     const QImage page = collage(arguments[2], arguments[6], std::stoi(arguments[4]), std::stoi(arguments[5]));
@@ -116,6 +122,8 @@ void render(int count, char ** arguments)
         render_mask(arguments[2], arguments[3]);
     else if (kind == "picture" && count == 6)
         render_picture(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    else if (kind == "icon" && count == 6)
+        render_icon(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "png" && count == 6)
         render_png(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "collage" && count == 7)
@@ -124,7 +132,7 @@ void render(int count, char ** arguments)
         render_white(arguments[2], std::stoi(arguments[3]));
     else
         throw std::runtime_error(
-            "mask IN OUT, picture or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
+            "mask IN OUT, picture, icon or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
             "PHOTOS, or white OUT SIZE");
 }
 
