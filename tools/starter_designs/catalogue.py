@@ -33,6 +33,11 @@ class Design:
         return lines + [f"{key}={value}" for key, value in self.keys.items()]
 
 
+def design(number, name, family, background, tip, description, layout, keys, style="Place"):
+    """A design whose file is named after its layout."""
+    return Design(number, name, layout.__name__, style, family, background, tip, description, layout(), keys)
+
+
 PLAIN_GROUND = {"BG Image": "Either"}
 FITTING = {"Match": "Yes"}
 ANY_SHAPE = {"Match": "No"}

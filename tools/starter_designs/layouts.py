@@ -23,7 +23,7 @@ def gallery_wall():
 
 
 def thrown():
-    return scattered(PORTRAIT, (660, 440), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=3)
+    return scattered(PORTRAIT, (660, 440), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=3, hang=80)
 
 
 def picnic():
