@@ -1,7 +1,4 @@
 """Layouts of upright photos, wall to wall or with air between them."""
-import math
-from dataclasses import replace
-
 from starter_designs.mosaic import mosaic, shadows_beneath, tiled
 from starter_designs.place import LANDSCAPE, PORTRAIT, box, grid, rows
 
@@ -96,8 +93,9 @@ def headline():
 
 
 def bookshelf():
-    """Books of different widths on three boards."""
-    return rows(PORTRAIT, 70, 20, [(940, [430, 520, 400, 490]), (940, [500, 400, 530, 410]), (940, [410, 480, 440, 540])])
+    """Books of different widths on four boards."""
+    return rows(PORTRAIT, 70, 20, [(700, [430, 520, 400, 450]), (700, [500, 400, 480, 420]), (700, [410, 470, 420, 500]),
+                                   (700, [480, 420, 490, 410])])
 
 
 def zigzag():
@@ -128,7 +126,7 @@ def four_columns():
 
 
 def wide_columns():
-    return columns(LANDSCAPE, 80, 40, ["PL", "LLL", "LP", "PL", "LLL", "LP"][:5])
+    return columns(LANDSCAPE, 80, 40, ["PLL", "PP", "LPL", "PP", "LLP"])
 
 
 def square_tiles():
@@ -141,12 +139,12 @@ def mixed_matrix():
 
 
 def heart_wall():
-    """Small squares in the shape of a heart."""
+    """Small portraits in the shape of a heart."""
     lines = [(1, 2, 3, 6, 7, 8), range(0, 10), range(0, 10), range(0, 10), range(0, 10), range(1, 9), range(2, 8), range(3, 7),
              (4, 5)]
-    side, step = 172, 186
-    left, top = (2000 - 10 * step + step - side) / 2, (3000 - 9 * step + step - side) / 2 - 40
-    return [box(left + x * step, top + y * step, side, side) for y, line in enumerate(lines) for x in line]
+    wide, high, gap = 172, 240, 14
+    left, top = (2000 - 10 * wide - 9 * gap) / 2, (3000 - 9 * high - 8 * gap) / 2
+    return [box(left + x * (wide + gap), top + y * (high + gap), wide, high) for y, line in enumerate(lines) for x in line]
 
 
 def diamond():
@@ -205,16 +203,3 @@ def window_seat():
     cells = [(0, 0, 4, 4), (4, 0, 2, 2), (4, 2, 2, 2), (0, 4, 2, 2), (2, 4, 2, 2), (4, 4, 2, 2), (0, 6, 2, 2), (2, 6, 4, 4),
              (0, 8, 2, 2)]
     return raster(PORTRAIT, 70, 30, 6, 10, cells)
-
-
-def unframed(places):
-    return [replace(place, frame=0) for place in places]
-
-
-def circle_of(count, reach, middle=(0, 0), first=-90):
-    """Points on a circle as (x, y, angle in degrees)."""
-    found = []
-    for at in range(count):
-        angle = first + 360 * at / count
-        found.append((middle[0] + reach * math.cos(math.radians(angle)), middle[1] + reach * math.sin(math.radians(angle)), angle))
-    return found

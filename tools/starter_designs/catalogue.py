@@ -52,7 +52,8 @@ RESERVED = [
     Design(4, "Frame_matrix", "__matrix", "Place", "Frame", "Both",
            keys={**FITTING, **PLAIN_GROUND, "Frames": "None", "Shadows": "No", "Block": "No", "Soft Edge": "No"}),
     Design(5, "Lettering", "__lettering", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND}),
-    Design(6, "Puzzle", "__puzzle", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND}),
+    # Its lines leave the frame to the window, and a hidden group would still frame the square round each piece.
+    Design(6, "Puzzle", "__puzzle", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND, "Frames": "No"}),
 ]
 
 STARTERS = [

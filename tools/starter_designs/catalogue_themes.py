@@ -48,8 +48,8 @@ THEMES = [
           "Two strips of film before a velvet curtain, six landscapes on each.", themes.cinema,
           {"Frames": "No", "Shadows": "No", "Soft Edge": "No"}),
     theme(315, "Space", "Portrait", "Planets, a rocket and six photos",
-          "Six photos on their way to the stars, with frames that shine.", themes.space,
-          {"Frames": "Color", "Frame Color": "Cyan", "Shadows": "No"}),
+          "Six photos on their way to the stars, with frames that glow green.", themes.space,
+          {"Frames": "Color", "Frame Color": "Green", "Shadows": "No"}),
     theme(316, "Pets", "Portrait", "Paws, a dog, a cat and six photos",
           "Five photos of what they did today, and one of what they really look like.", themes.pets),
 ]

@@ -25,23 +25,21 @@ def fan():
 def two_fans():
     """A hand of five above, one of five below that points down."""
     places = []
-    for top, sign in ((1430, 1), (1570, -1)):
-        for at in range(5):
-            tilt = -30 + 15 * at
+    for middle, sign in ((1660, 1), (1340, -1)):
+        for tilt in range(-30, 35, 15):
             angle = math.radians(tilt)
-            places.append(centred(1000 + 1020 * math.sin(angle), top - sign * 880 * math.cos(angle) + sign * 170, 500, 750,
-                                  tilt * sign))
+            places.append(centred(1000 + 980 * math.sin(angle), middle - sign * 940 * math.cos(angle), 580, 870, tilt * sign))
     return places
 
 
 def waves():
-    """Three waves of six photos, each tilted as the wave runs."""
+    """Four waves of six photos, each tilted as the wave runs."""
     places = []
-    for line, middle in enumerate((560, 1500, 2440)):
+    for line, middle in enumerate((430, 1140, 1850, 2560)):
         for at in range(6):
-            x = 230 + at * 308
+            x = 240 + at * 304
             phase = 2 * math.pi * (x / 1540) + line * 1.2
-            places.append(centred(x, middle + 190 * math.sin(phase), 470, 350, five(32 * math.cos(phase))))
+            places.append(centred(x, middle + 150 * math.sin(phase), 490, 367, five(28 * math.cos(phase))))
     return places
 
 
@@ -50,8 +48,8 @@ def heart_line(count, steps=2000):
     line = []
     for at in range(steps + 1):
         t = 2 * math.pi * at / steps
-        line.append((46.5 * 16 * math.sin(t) ** 3,
-                     -62 * (13 * math.cos(t) - 5 * math.cos(2 * t) - 2 * math.cos(3 * t) - math.cos(4 * t))))
+        line.append((47 * 16 * math.sin(t) ** 3,
+                     -74 * (13 * math.cos(t) - 5 * math.cos(2 * t) - 2 * math.cos(3 * t) - math.cos(4 * t))))
     lengths = [math.dist(one, other) for one, other in zip(line, line[1:])]
     found, walked, gap = [], 0.0, sum(lengths) / count
     for point, length in zip(line, lengths):
@@ -63,8 +61,8 @@ def heart_line(count, steps=2000):
 
 def heart_ring():
     """Sixteen photos along a heart and a large one inside."""
-    places = [centred(1000 + x, 1400 + y, 400, 300, (-15, 10, -5, 15, -10, 5)[at % 6]) for at, (x, y) in enumerate(heart_line(16))]
-    return places + [centred(1000, 1400, 640, 480, -5)]
+    places = [centred(1000 + x, 1330 + y, 440, 330, (-15, 10, -5, 15, -10, 5)[at % 6]) for at, (x, y) in enumerate(heart_line(16))]
+    return places + [centred(1000, 1290, 720, 540, -5)]
 
 
 def ring():
@@ -103,12 +101,11 @@ def four_friends():
 
 
 def cascade():
-    """Ten photos that tumble from the upper left to the lower right."""
+    """Ten photos that tumble to and fro on their way down."""
     places = []
     for at in range(10):
-        x, y = 430 + 127 * at, 400 + 245 * at
-        x += 250 if at % 2 else -120
-        places.append(centred(min(1610, max(390, x)), y, 660, 495, (-15, 10, -5, 15, -10)[at % 5]))
+        x = 1000 + 460 * math.sin(at * 0.8 - 1.3)
+        places.append(centred(x, 330 + 260 * at, 800, 600, five(-22 * math.cos(at * 0.8 - 1.3))))
     return places
 
 
@@ -143,13 +140,13 @@ def loose_portraits():
 
 
 def spiral():
-    """Eighteen photos that grow from the middle outwards; the small ones lie on top."""
+    """Eighteen photos as seeds stand in a flower, small in the middle, where they lie on top."""
     places = []
     for at in reversed(range(18)):
-        turn, reach = 2.4 * math.sqrt(at + 0.4) * 1.75, 0.215 * math.sqrt(at + 0.5)
-        size = 290 + 17 * at
-        places.append(centred(1000 + 830 * reach * math.cos(turn), 1500 + 1260 * reach * math.sin(turn), size, size * 0.75,
-                              five(30 * math.sin(turn * 1.5))))
+        turn, reach = math.radians(137.5 * at), math.sqrt((at + 0.3) / 18)
+        size = 400 + 14 * at
+        places.append(centred(1000 + 700 * reach * math.cos(turn), 1500 + 1220 * reach * math.sin(turn), size, size * 0.75,
+                              five(25 * math.sin(turn * 2))))
     return places
 
 
@@ -162,13 +159,13 @@ def bouquet():
 
 
 def pinboard():
-    """Sixteen photos that don't touch each other."""
-    tilts = [5, -5, 10, -10, -5, 5, -5, 5, 10, -10, 5, -5, -5, 10, -5, 5]
+    """Fifteen photos that don't touch each other."""
+    tilts = [5, -5, 10, -5, 5, -10, 10, -5, 5, 5, -10, -5, -5, 5, -5]
     places = []
-    for at in range(16):
-        column, line = at % 4, at // 4
-        tall = (column + line) % 2 == 0
-        places.append(centred(285 + 477 * column, 400 + 735 * line, *((350, 520) if tall else (400, 300)), tilts[at]))
+    for at in range(15):
+        column, line = at % 3, at // 3
+        size = (360, 500) if (column + line) % 2 == 0 else (530, 380)
+        places.append(centred(355 + 645 * column, 330 + 585 * line, *size, tilts[at]))
     return places
 
 

@@ -47,8 +47,8 @@ def travel():
                   (930, 1290, 460, 690, 5), (1560, 1310, 740, 493, -5), (2240, 1360, 480, 720, 5))
 
 def sports():
-    return [box(800, 110, 690, 460), box(1510, 110, 690, 460), centred(510, 1000, 500, 750, -5), centred(2490, 1000, 500, 750, 5),
-            box(930, 620, 1140, 760), box(800, 1430, 690, 460), box(1510, 1430, 690, 460)]
+    return [box(785, 110, 690, 460), box(1525, 110, 690, 460), centred(510, 1000, 500, 750, -5), centred(2490, 1000, 500, 750, 5),
+            box(930, 620, 1140, 760), box(785, 1430, 690, 460), box(1525, 1430, 690, 460)]
 
 def music():
     return tilted((545, 900, 800, 533, -5), (1455, 920, 800, 533, 5), (400, 1720, 520, 780, 5), (1000, 1740, 520, 780, -5),
@@ -73,10 +73,9 @@ def pets():
 # ---- shapes
 
 def stamps():
-    """Three by four stamps, with small coloured ones between them."""
-    places = [shape(x, y, 200, "stamp.gif", color) for (x, y), color in
-              zip([(667, 780), (1333, 780), (667, 1500), (1333, 1500), (667, 2220), (1333, 2220)], (1, 2, 7, 3, 2, 1))]
-    return places + [shape(x, y, 560, "stamp.gif") for y in (420, 1140, 1860, 2580) for x in (333, 1000, 1667)]
+    """Three by four stamps."""
+    return [shape(x, y, 600, "stamp.gif") for y in (435, 1145, 1855, 2565) for x in (345, 1000, 1655)]
+
 
 def cloud_nine():
     """Nine clouds and a few empty white ones."""
