@@ -53,7 +53,7 @@ def corner_of(place, wide):
 def corners(place, wide=False):
     height, width = size_of(place)
     left, top = corner_of(place, wide)
-    c, s = math.cos(math.radians(place.rotation)), math.sin(math.radians(place.rotation))
+    c, s = axes(place)
     return [(left + x * c - y * s, top + x * s + y * c) for x, y in ((0, 0), (width, 0), (width, height), (0, height))]
 
 
@@ -63,27 +63,35 @@ def overhang(place, size):
     return max(0, -min(xs), -min(ys)), max(0, max(xs) - size[0], max(ys) - size[1])
 
 
+def in_disk(across, down):
+    """Whether a point of a shape's square, both from 0 to 1, is taken for a part of the shape."""
+    return (across - 0.5) ** 2 + (down - 0.5) ** 2 < 0.2
+
+
+def axes(place):
+    return math.cos(math.radians(place.rotation)), math.sin(math.radians(place.rotation))
+
+
 def covers(place, x, y, wide):
-    """Whether the place covers a point; of a shape the disk in its square."""
     height, width = size_of(place)
     left, top = corner_of(place, wide)
-    c, s = math.cos(math.radians(place.rotation)), math.sin(math.radians(place.rotation))
+    c, s = axes(place)
     across, down = (x - left) * c + (y - top) * s, (y - top) * c - (x - left) * s
     if place.shape():
-        return (across / width - 0.5) ** 2 + (down / height - 0.5) ** 2 < 0.2
+        return in_disk(across / width, down / height)
     return 0 <= across < width and 0 <= down < height
 
 
 def points_of(place, wide):
     height, width = size_of(place)
     left, top = corner_of(place, wide)
-    c, s = math.cos(math.radians(place.rotation)), math.sin(math.radians(place.rotation))
-    for row in range(SAMPLES):
-        for column in range(SAMPLES):
-            x, y = (column + 0.5) / SAMPLES * width, (row + 0.5) / SAMPLES * height
-            if place.shape() and not covers(replace(place, left=0, top=0), x - (0 if not wide else width), y, wide):
-                continue
-            yield left + x * c - y * s, top + x * s + y * c
+    c, s = axes(place)
+    steps = [(at + 0.5) / SAMPLES for at in range(SAMPLES)]
+    for down in steps:
+        for across in steps:
+            if not place.shape() or in_disk(across, down):
+                x, y = across * width, down * height
+                yield left + x * c - y * s, top + x * s + y * c
 
 
 def covered_shares(view):
