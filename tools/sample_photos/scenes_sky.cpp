@@ -124,8 +124,8 @@ void fireworks(canvas & photo)
     clouds(photo, shore,
            {.amount = 0.4F, .size = 2.2F, .lit = hex(0x4a2f4a), .shaded = hex(0x0e1028), .seed = 461});
     burst(photo, {0.34F, 0.22F}, 0.2F, hex(0xffb03a), 463);
-    burst(photo, {0.14F, 0.42F}, 0.13F, hex(0xff4a4a), 465);
-    burst(photo, {0.55F, 0.44F}, 0.14F, hex(0x4aa0ff), 467);
+    burst(photo, {0.15F, 0.47F}, 0.14F, hex(0xff4a4a), 465);
+    burst(photo, {0.53F, 0.5F}, 0.15F, hex(0x4aa0ff), 467);
     burst(photo, {0.1F, 0.13F}, 0.1F, hex(0x7aff9a), 469);
     burst(photo, {0.59F, 0.12F}, 0.11F, hex(0xe070ff), 471);
     dice chance(473);
@@ -141,7 +141,10 @@ void fireworks(canvas & photo)
                   .mirror = 0.95F,
                   .depth = hex(0x060818),
                   .seed = 475});
-    crowd(photo, 0.87F, 0.055F, hex(0x05050b), 477);
+    glow(photo, {0.15F, 0.93F}, 0.4F, hex(0xff6a5a) * 0.42F);
+    glow(photo, {0.53F, 0.9F}, 0.4F, hex(0x5aa0ff) * 0.42F);
+    glow(photo, {0.34F, 0.8F}, 0.4F, hex(0xffb85a) * 0.45F);
+    crowd(photo, 0.885F, 0.06F, hex(0x05050b), 477);
     develop(photo, {.bloom = 0.7F, .vignette = 0.3F, .contrast = 0.15F, .grain = 0.028F, .seed = 26});
 }
 
@@ -167,7 +170,7 @@ void concert(canvas & photo)
         glow(photo, {x, 0.07F}, 0.07F, mix(light, hex(0xffffff), 0.5F) * 1.2F);
     }
     box(photo, {0.1F, 0.035F, 1.4F, 0.05F}, hex(0x050408));
-    box(photo, {0.2F, 0.655F, 1.3F, 0.72F}, hex(0x07050a));
+    box(photo, {0.2F, 0.655F, 1.3F, 0.69F}, hex(0x07050a));
     for (int player = 0; player < 4; ++player) {
         const float x = 0.45F + 0.2F * static_cast<float>(player);
         figure(photo, {x, 0.66F}, player == 1 ? 0.25F : 0.22F, player == 1 ? pose::holding_up : pose::walking,
@@ -177,7 +180,9 @@ void concert(canvas & photo)
             oval(photo, {x - 0.03F, 0.545F}, 0.034F, 0.022F, hex(0x3a1018), 1, 0.003F, -0.2F);
         }
     }
-    crowd(photo, 0.72F, 0.088F, hex(0x050308), 485);
+    for (const float x : {0.3F, 0.75F, 1.2F})
+        glow(photo, {x, 0.76F}, 0.42F, mix(hex(0xe04ac0), hex(0x4a7aff), x / 1.5F) * 0.75F);
+    crowd(photo, 0.76F, 0.085F, hex(0x050308), 485);
     develop(photo, {.bloom = 0.75F, .vignette = 0.35F, .contrast = 0.25F, .grain = 0.034F, .seed = 29});
 }
 
@@ -289,7 +294,7 @@ void tent_under_stars(canvas & photo)
     polygon(photo, {{0.98F, 0.7F}, {1.005F, 0.9F}, {0.945F, 0.9F}}, hex(0xffe8b0), 0.9F, 0.006F);
     limb(photo, {0.98F, 0.655F}, {0.77F, 0.9F}, 0.003F, 0.003F, hex(0x5a2a0a), 0.7F);
     limb(photo, {0.98F, 0.655F}, {1.175F, 0.9F}, 0.003F, 0.003F, hex(0x5a2a0a), 0.7F);
-    figure(photo, {0.69F, 0.925F}, 0.17F, pose::standing, hex(0x0a0806), 0.002F);
+    figure(photo, {0.865F, 0.945F}, 0.19F, pose::standing, hex(0x0a0806), 0.002F);
     grass(photo, -0.05F, 1.55F, 1.0F, 0.07F, 700, hex(0x050705), hex(0x2a2412), 515);
     develop(photo, {.bloom = 0.5F, .vignette = 0.35F, .contrast = 0.2F, .grain = 0.03F, .seed = 47});
 }
