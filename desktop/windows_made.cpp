@@ -1,7 +1,13 @@
 #include "desktop/windows_made.h"
 
 #include "ui_frmAbout.h"
+#include "ui_frmCaptionText.h"
+#include "ui_frmCaptions.h"
+#include "ui_frmCustom.h"
 #include "ui_frmFont.h"
+#include "ui_frmFrameName.h"
+#include "ui_frmFrames.h"
+#include "ui_frmIconName.h"
 #include "ui_frmImage.h"
 #include "ui_frmMain.h"
 #include "ui_frmPhotoCnt.h"
@@ -44,6 +50,12 @@ constexpr std::array makers{
     maker{"frmPictureList", made<QDialog, Ui::frmPictureList>},
     maker{"frmPictures", made<QDialog, Ui::frmPictures>},
     maker{"frmThemes", made<QDialog, Ui::frmThemes>},
+    maker{"frmCustom", made<QDialog, Ui::frmCustom>},
+    maker{"frmFrameName", made<QDialog, Ui::frmFrameName>},
+    maker{"frmFrames", made<QDialog, Ui::frmFrames>},
+    maker{"frmCaptions", made<QDialog, Ui::frmCaptions>},
+    maker{"frmIconName", made<QDialog, Ui::frmIconName>},
+    maker{"frmCaptionText", made<QDialog, Ui::frmCaptionText>},
     maker{"frmImage", made<QDialog, Ui::frmImage>},
     maker{"frmSize", made<QDialog, Ui::frmSize>},
     maker{"frmFont", made<QDialog, Ui::frmFont>},

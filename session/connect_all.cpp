@@ -20,6 +20,13 @@ void connect_all(windows & all)
     connect_quick_orientation(all.main);
     connect_quick_menu(all.main);
     connect_frmThemes(all);
+    connect_frmCustom(all);
+    connect_frmFrameName(all);
+    connect_frmFrames(all);
+    connect_frmCaptions(all);
+    connect_frmIconName(all);
+    connect_frmCaptionText(all);
+    connect_frame_menus(all);
     connect_frmImage(all);
     connect_frmPhotoCnt(all);
     connect_frmSelectPhotos(all);

@@ -204,6 +204,8 @@ struct frmMain : form {
     bool borders_free = true;
     std::string frame_set_name;
     bool use_list_of_frame = false;
+    bool frame_manage_mode = false;  ///< frame sets are managed, not chosen from
+    std::string icon_path;           ///< the picture that is to become an icon
     int16 next_design_number = 0;
 
     // The photos.

@@ -2,6 +2,12 @@
 
 #include "designs/frmThemes.h"
 #include "engine/frmImage.h"
+#include "frames/frmCaptionText.h"
+#include "frames/frmCaptions.h"
+#include "frames/frmCustom.h"
+#include "frames/frmFrameName.h"
+#include "frames/frmFrames.h"
+#include "frames/frmIconName.h"
 #include "photos/frmPhotoCnt.h"
 #include "photos/frmPhotoList.h"
 #include "photos/frmPictureList.h"
@@ -26,6 +32,12 @@ struct windows {
     frmPictureList picture_list;
     frmPictures pictures;
     frmThemes themes;
+    frmCustom custom;
+    frmFrameName frame_name;
+    frmFrames frames;
+    frmCaptions captions;
+    frmIconName icon_name;
+    frmCaptionText caption_text;
     frmImage image;
     frmSize size;
     frmFont font;
@@ -34,7 +46,8 @@ struct windows {
     /// Every window but the main one, in the order above.
     std::vector<form *> others()
     {
-        return {&photo_count, &select_photos, &photo_list, &picture_name, &picture_list, &pictures,
-                &themes,      &image,         &size,       &font,         &about};
+        return {&photo_count,  &select_photos, &photo_list, &picture_name, &picture_list, &pictures,
+                &themes,       &custom,        &frame_name, &frames,       &captions,     &icon_name,
+                &caption_text, &image,         &size,       &font,         &about};
     }
 };

@@ -19,3 +19,9 @@ public:
 private:
     std::map<std::string, std::map<std::string, std::string>> sections;  // names in lower case
 };
+
+/// The text of such a file with that value: put in the place of the one that the key has in the first section
+/// of the name, else added at that section's end; a section that isn't there is added at the end of the text.
+/// A line end inside the value becomes a blank.
+std::string with_profile_value(std::string_view text, std::string_view section, std::string_view key,
+                               std::string_view value);

@@ -151,12 +151,44 @@ void filled_session::add_photo_views(std::vector<window_view> & views)
          }});
 }
 
+// A set that is supplied with the program, as it is edited.
+void filled_session::add_frame_views(std::vector<window_view> & views)
+{
+    const auto edit = [this] { all.custom.edit_frame_name = "cardinals"; };
+    views.push_back({.name = "frmCustom_manager",
+                     .window = &all.custom,
+                     .prepare = [this] { all.main.frame_manage_mode = true; },
+                     .fill =
+                         [this] {
+                             all.main.frame_manage_mode = false;
+                             all.custom.lstFrames.select(1);
+                         }});
+    views.push_back({.name = "frmFrames", .window = &all.frames, .prepare = edit, .fill = {}});
+    views.push_back(
+        {.name = "frmFrames_rendering", .window = &all.frames, .prepare = edit, .fill = [this] {
+             for (button * each : {&all.frames.cmdSave, &all.frames.cmdCancel, &all.frames.cmdHelp})
+                 each->show(false);
+             all.frames.lblCount.set_caption("Generating number  12 of  36 frames");
+             all.frames.lblCount.show(true);
+         }});
+    for (const char * list : {"None", "Summer by the sea"})
+        views.push_back({.name = std::string("frmCaptions") + (list[0] == 'N' ? "" : "_with_list"),
+                         .window = &all.captions,
+                         .prepare =
+                             [this, edit, list] {
+                                 edit();
+                                 all.frames.cmbPhotos.set_text(list);
+                             },
+                         .fill = {}});
+}
+
 std::vector<window_view> filled_session::views()
 {
     std::vector<window_view> views;
     add_image_views(views);
     add_small_views(views);
     add_photo_views(views);
+    add_frame_views(views);
     for (form * each : all.others()) {
         const auto is_its = [&](const window_view & view) { return view.name == each->name(); };
         if (each != &all.image && std::none_of(views.begin(), views.end(), is_its))
