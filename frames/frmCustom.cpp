@@ -1,5 +1,6 @@
 #include "frames/frame_sets.h"
 #include "session/handlers.h"
+#include "support/list_faces.h"
 #include "support/show_help.h"
 
 // The frame sets, to choose one or to manage them.
@@ -9,42 +10,24 @@ namespace {
 // In 1/15 pixel.
 constexpr int manager_width = 5340, chooser_width = 4000, both_height = 6300;
 
-void load_chooser(frmCustom & window)
+list_buttons buttons_of(frmCustom & window)
 {
-    window.set_caption("S e l e c t   F r a m e   S e t");
-    window.cmdDone.set_caption("Ok");
-    window.cmdDone.enable(false);
-    window.cmdDelete.set_caption("Cancel");
-    window.cmdDelete.enable(true);
-    window.cmdEdit.show(false);
-    window.resize(chooser_width, both_height);
-}
-
-void load_manager(frmCustom & window)
-{
-    window.set_caption("M a n a g e   C u s t o m   F r a m e s");
-    window.cmdDone.set_caption("Done");
-    window.cmdDone.enable(true);
-    window.cmdDelete.set_caption("Delete");
-    window.cmdDelete.enable(false);
-    window.cmdEdit.show(true);
-    window.cmdEdit.enable(false);
-    window.resize(manager_width, both_height);
+    return {.done = window.cmdDone, .erase = window.cmdDelete, .edit = window.cmdEdit};
 }
 
 void load_custom(windows & all)
 {
+    frmCustom & window = all.custom;
     start_custom_frames(all.main);
-    if (all.main.frame_manage_mode)
-        load_manager(all.custom);
-    else
-        load_chooser(all.custom);
-}
-
-void lstFrames_click(frmCustom & window)
-{
-    for (button * each : {&window.cmdEdit, &window.cmdDelete, &window.cmdDone})
-        each->enable(true);
+    if (all.main.frame_manage_mode) {
+        window.set_caption("M a n a g e   C u s t o m   F r a m e s");
+        show_manager_face(buttons_of(window));
+        window.resize(manager_width, both_height);
+    } else {
+        window.set_caption("S e l e c t   F r a m e   S e t");
+        show_chooser_face(buttons_of(window));
+        window.resize(chooser_width, both_height);
+    }
 }
 
 void edit_selected(windows & all)
@@ -72,8 +55,7 @@ void delete_selected(windows & all)
         return;
     delete_folder(frame_set_folder(all.main, sets.text()));
     sets.remove_item(sets.list_index());
-    all.custom.cmdEdit.enable(false);
-    all.custom.cmdDelete.enable(false);
+    forbid_changes(buttons_of(all.custom));
 }
 
 void cmdDone_click(windows & all)
@@ -107,7 +89,7 @@ void connect_frmCustom(windows & all)
 {
     frmCustom & window = all.custom;
     window.on_load = [&all] { load_custom(all); };
-    window.lstFrames.on_click = [&window] { lstFrames_click(window); };
+    window.lstFrames.on_click = [&window] { allow_all(buttons_of(window)); };
     window.lstFrames.on_double_click = [&all] { lstFrames_double_click(all); };
     window.cmdDone.on_click = [&all] { cmdDone_click(all); };
     window.cmdDelete.on_click = [&all] { cmdDelete_click(all); };

@@ -17,6 +17,8 @@ void clear_stage(frmMain & main)
     main.set_back_color(about_background);
     main.matrix_both = main.matrix_rotate = main.matrix_resize = false;
     main.design_rotated = main.design_flipped = main.design_mirrored = false;
+    main.frames_design = main.use_list_of_frame = false;
+    main.frame_set_name.clear();  // a set of another collage would bring its photo list along
     main.lblBlanks.show(false);
     main.cmbBlanks.show(false);
     main.cmbBlanks.set_text("0");

@@ -2,6 +2,7 @@
 
 #include "frames/frame_sets.h"
 #include "support/paths.h"
+#include "support/platform_error.h"
 #include "support/text_file.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"

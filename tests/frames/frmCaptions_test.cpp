@@ -267,11 +267,14 @@ TEST(frmCaptions, a_caption_of_300_characters_is_kept)
 TEST(frmCaptions, opens_from_the_editor_and_its_help_has_a_topic)
 {
     captions_window session;
-    session.desk.on_modal<frmCaptions>([&](frmCaptions & window) {
-        window.cmdHelp.click();
-        window.on_key(key::f1);
+    session.edit("club", [&](frmFrames & editor) {
+        session.desk.on_modal<frmCaptions>([](frmCaptions & window) {
+            window.cmdHelp.click();
+            window.on_key(key::f1);
+        });
+        editor.cmdCaptions.click();
     });
-    session.edit("club", [](frmFrames & editor) { editor.cmdCaptions.click(); });
+    EXPECT_EQ(session.desk.opened_documents.size(), 2U);
     EXPECT_TRUE(session.desk.opened_documents.back().ends_with("custom_frames.htm"));
 }
 
