@@ -14,7 +14,7 @@
 namespace {
 
 // In 1/15 pixel.
-constexpr int plain_width = 8235, width_with_photo = 14295, both_height = 7950;
+constexpr int plain_width = 8235, width_with_photo = 14295, both_height = 7200;
 
 // In pixels.
 constexpr box upright_photo{0, 0, 260, 390}, photo_across{0, 0, 390, 260};

@@ -27,12 +27,12 @@ text_request request_of(const frame_look & look, const std::string & text, doubl
 
 int text_width(desktop & desk, const frame_look & look, const std::string & text, double size)
 {
-    return desk.draw_text(request_of(look, text, size)).width();
+    return desk.text_size(request_of(look, text, size)).width;
 }
 
 int line_height(desktop & desk, const frame_look & look, double size)
 {
-    return desk.draw_text(request_of(look, " ", size)).height();
+    return desk.text_size(request_of(look, " ", size)).height;
 }
 
 struct margins {

@@ -338,3 +338,17 @@ TEST(frmCaptionText, ok_stores_and_cancel_leaves)
     EXPECT_FALSE(session.window.loaded());
     EXPECT_EQ(session.main.txtCaption.text(), "Autumn");
 }
+
+TEST(frmCaptionText, opens_from_the_group_of_the_caption_unless_the_design_has_none)
+{
+    opened_session session;
+    session.desk.on_modal<frmCaptionText>([](frmCaptionText & window) {
+        window.txtCaption.set_text("Autumn");
+        window.cmdOk.click();
+    });
+    session.main.frmCaption.click();
+    EXPECT_EQ(session.main.txtCaption.text(), "Autumn");
+    session.main.txtCaption.enable(false);
+    session.main.frmCaption.click();
+    EXPECT_EQ(session.desk.shown_windows.size(), 1U);
+}
