@@ -93,8 +93,9 @@ TEST(with_profile_value, begins_a_section_in_an_empty_text)
 
 TEST(with_profile_value, takes_the_place_of_the_value_that_is_there)
 {
-    EXPECT_EQ(with_profile_value("[A]\r\nkey=0\r\n[b]\n ; KEY=x\n key = old\nKEY=second\n", "B", "Key", "new"),
-              "[A]\r\nkey=0\r\n[b]\r\n ; KEY=x\r\nKey=new\r\nKEY=second\r\n");
+    EXPECT_EQ(
+        with_profile_value("[A]\r\nkey=0\r\n[b]\n ; KEY=x\n key = old\nKEY=second\n", "B", "Key", "new"),
+        "[A]\r\nkey=0\r\n[b]\r\n ; KEY=x\r\nKey=new\r\nKEY=second\r\n");
 }
 
 TEST(with_profile_value, adds_a_key_at_the_end_of_its_section)
