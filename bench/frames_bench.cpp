@@ -1,8 +1,8 @@
 // Times the frame sets with the program's own text drawing: a preview of the editor after a change, painted
 // in its window, and a whole set of 36 captions.
 
+#include "bench/in_a_window.h"
 #include "desktop/binder.h"
-#include "desktop/looks.h"
 #include "desktop/windows_made.h"
 #include "frames/frame_sets.h"
 #include "session/connect_all.h"
@@ -12,8 +12,6 @@
 #include "tests/temporary_folder.h"
 
 #include <QApplication>
-
-#include <benchmark/benchmark.h>
 
 namespace {
 
@@ -81,9 +79,5 @@ BENCHMARK(set_of_36_captions)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 int main(int count, char ** words)
 {
-    QApplication application(count, words);
-    apply_looks(application);
-    benchmark::Initialize(&count, words);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return benchmarks_in_a_window(count, words);
 }

@@ -7,6 +7,8 @@
 #include "support/paths.h"
 #include "support/show_help.h"
 
+#include <algorithm>
+
 // The editor of a frame set.
 
 namespace {
@@ -14,6 +16,9 @@ namespace {
 // A new set begins with these.
 constexpr std::uint32_t deep_blue = 0x5F3A1F, ivory = 0xEAF1F4, gold = 0x6CB4DD, ink = 0x2E2419;
 constexpr const char * no_choice = "None";
+
+// What a number of captions can be; a set that was written by hand may say anything.
+constexpr double most_captions = 32767;
 
 // A form shows letters of this size, whatever size the captions will have.
 constexpr double shown_size = 13;
@@ -89,7 +94,8 @@ void read_settings(windows & all)
     editor.txtCaption.set_text(GetFrameSetting(main, "Caption Text"));
     editor.current_icon = GetFrameSetting(main, "Icon");
     choose_photo_list(editor, GetFrameSetting(main, "Picture List"));
-    editor.caption_count = nearest16(leading_number(GetFrameSetting(main, "Number of Captions")));
+    const double count = leading_number(GetFrameSetting(main, "Number of Captions"));
+    editor.caption_count = nearest16(std::clamp(count, 0.0, most_captions));
 }
 
 void show_buttons(frmFrames & editor)

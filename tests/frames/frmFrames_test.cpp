@@ -128,6 +128,15 @@ TEST(frmFrames, colours_that_are_no_numbers_are_black)
     });
 }
 
+TEST(frmFrames, a_number_of_captions_that_can_t_be_is_brought_near)
+{
+    editor_session session;
+    for (const auto & [text, count] : {std::pair{"-3", 0}, {"many", 0}, {"1e9", 32767}}) {
+        session.write_set("odd", std::string("Number of Captions=") + text + "\r\n");
+        session.edit("odd", [count](const frmFrames & editor) { EXPECT_EQ(editor.caption_count, count); });
+    }
+}
+
 TEST(frmFrames, every_change_shows_a_new_preview)
 {
     editor_session session;
