@@ -9,12 +9,15 @@
 #include "ui_frmFrames.h"
 #include "ui_frmIconName.h"
 #include "ui_frmImage.h"
+#include "ui_frmLettering.h"
 #include "ui_frmMain.h"
+#include "ui_frmMatrix.h"
 #include "ui_frmPhotoCnt.h"
 #include "ui_frmPhotoList.h"
 #include "ui_frmPictureList.h"
 #include "ui_frmPictureName.h"
 #include "ui_frmPictures.h"
+#include "ui_frmPuzzle.h"
 #include "ui_frmSelectPhotos.h"
 #include "ui_frmSize.h"
 #include "ui_frmThemes.h"
@@ -56,6 +59,9 @@ constexpr std::array makers{
     maker{"frmCaptions", made<QDialog, Ui::frmCaptions>},
     maker{"frmIconName", made<QDialog, Ui::frmIconName>},
     maker{"frmCaptionText", made<QDialog, Ui::frmCaptionText>},
+    maker{"frmMatrix", made<QDialog, Ui::frmMatrix>},
+    maker{"frmLettering", made<QDialog, Ui::frmLettering>},
+    maker{"frmPuzzle", made<QDialog, Ui::frmPuzzle>},
     maker{"frmImage", made<QDialog, Ui::frmImage>},
     maker{"frmSize", made<QDialog, Ui::frmSize>},
     maker{"frmFont", made<QDialog, Ui::frmFont>},

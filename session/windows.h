@@ -1,5 +1,8 @@
 #pragma once
 
+#include "designers/frmLettering.h"
+#include "designers/frmMatrix.h"
+#include "designers/frmPuzzle.h"
 #include "designs/frmThemes.h"
 #include "engine/frmImage.h"
 #include "frames/frmCaptionText.h"
@@ -38,6 +41,9 @@ struct windows {
     frmCaptions captions;
     frmIconName icon_name;
     frmCaptionText caption_text;
+    frmMatrix matrix;
+    frmLettering lettering;
+    frmPuzzle puzzle;
     frmImage image;
     frmSize size;
     frmFont font;
@@ -46,8 +52,9 @@ struct windows {
     /// Every window but the main one, in the order above.
     std::vector<form *> others()
     {
-        return {&photo_count,  &select_photos, &photo_list, &picture_name, &picture_list, &pictures,
-                &themes,       &custom,        &frame_name, &frames,       &captions,     &icon_name,
-                &caption_text, &image,         &size,       &font,         &about};
+        return {&photo_count, &select_photos, &photo_list,   &picture_name, &picture_list,
+                &pictures,    &themes,        &custom,       &frame_name,   &frames,
+                &captions,    &icon_name,     &caption_text, &matrix,       &lettering,
+                &puzzle,      &image,         &size,         &font,         &about};
     }
 };
