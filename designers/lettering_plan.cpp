@@ -19,8 +19,8 @@ constexpr int usual_top = 100, usual_left = 50;
 
 // By how much letters of 500 pixels leave their line, walked letter by letter.
 constexpr std::array serpent_shifts{0, 90, 45, -45, -90};
-constexpr std::array offset_shifts{90,  -45, 45, -60, 60, -30, 60, -75, 0,   90, -30, 90, -90,
-                                   60,  -45, 75, -90, 0,  60,  -60, 75, 0,   -90, 60, -45};
+constexpr std::array offset_shifts{90, -45, 45, -60, 60, -30, 60,  -75, 0, 90,  -30, 90, -90,
+                                   60, -45, 75, -90, 0,  60,  -60, 75,  0, -90, 60,  -45};
 constexpr double shifted_letter = 500;
 constexpr int shift_starts = 25;
 
@@ -67,7 +67,8 @@ int distance(int size)
 int size_by_width(const lettering_measure & text, int width, bool overlap)
 {
     const int gaps = text.longest - 1;
-    const int size = nearest((overlap ? width : width - gaps * first_gap) / static_cast<double>(text.longest));
+    const int size =
+        nearest((overlap ? width : width - gaps * first_gap) / static_cast<double>(text.longest));
     const int room = overlap ? nearest(size * 0.1 * gaps + width) : width - gaps * distance(size);
     return nearest(nearest(room - size * 0.2 * text.capitals) / static_cast<double>(text.longest));
 }
@@ -118,7 +119,8 @@ letter_walk::letter_walk(const lettering_choices & wanted, const random_source &
 
 void letter_walk::begin_line(std::size_t position)
 {
-    left = choices.center ? center_letters(text.text, position, area.width + 100, text.size, gap) : usual_left;
+    left =
+        choices.center ? center_letters(text.text, position, area.width + 100, text.size, gap) : usual_left;
 }
 
 int letter_walk::shift_at(std::size_t position) const
@@ -132,8 +134,8 @@ void letter_walk::add_letter(char letter, std::size_t position)
 {
     const int extra = is_capital(letter) ? nearest(text.size / 5.0) : 0;
     const int shift = extra != 0 ? nearest(shift_at(position) - extra * 0.9) : shift_at(position);
-    written.push_back(formatted(narrow(top + shift)) + ":" + formatted(narrow(left)) + ":0:" +
-                      formatted(narrow(text.size + extra)) + ":0:0:-1:0:alpha/char_" +
+    written.push_back(formatted(narrow(top + shift)) + ":" + formatted(narrow(left)) +
+                      ":0:" + formatted(narrow(text.size + extra)) + ":0:0:-1:0:alpha/char_" +
                       lower_case(std::string_view(&letter, 1)) + ".gif");
     left += extra + gap + text.size;
 }
@@ -173,8 +175,7 @@ lettering_measure measured(const lettering_choices & choices)
     if (text.longest == 0)
         return text;
     const poster_area area = work_area(choices.shape);
-    text.size =
-        std::min(size_by_width(text, area.width, choices.overlap), size_by_height(text, area.height));
+    text.size = std::min(size_by_width(text, area.width, choices.overlap), size_by_height(text, area.height));
     return text;
 }
 

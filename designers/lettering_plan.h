@@ -13,7 +13,7 @@
 /// How large the letters of a text come out.
 struct lettering_measure {
     std::string text{};  ///< with its breaks, a blank for each character without a picture
-    int letters = 0;   ///< characters with a picture
+    int letters = 0;     ///< characters with a picture
     int lines = 0;
     int longest = 0;   ///< characters of the longest line; a line's CR counts as its first
     int capitals = 0;  ///< on the longest line; of several the most

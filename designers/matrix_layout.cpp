@@ -65,8 +65,9 @@ course divided(int room, int count, int gap)
 // The span stays, so the gap gives way.
 void take_cell(course & along, int cell, const char * complaint, std::vector<std::string> & complaints)
 {
-    const int gap =
-        along.count < 2 ? along.gap : nearest((span_of(along) - along.count * 1.0 * cell) / (along.count - 1));
+    const int gap = along.count < 2
+                        ? along.gap
+                        : nearest((span_of(along) - along.count * 1.0 * cell) / (along.count - 1));
     if (gap < 0 && cell > along.cell)
         complaints.emplace_back(complaint);
     else
@@ -98,16 +99,17 @@ std::string joined_numbers(std::initializer_list<int> numbers)
 std::vector<std::string> grid_lines(const matrix_choices & choices, const matrix_layout & layout)
 {
     const int both = choices.photos == matrix_photos::both ? 1 : 0;
-    return {joined_numbers({layout.top, layout.left, layout.rows, layout.columns, both,
-                            choices.rotate ? 1 : 0, choices.resize ? 1 : 0, 0}),
-            joined_numbers(
-                {layout.gap_v, layout.gap_h, layout.cell_height, layout.cell_width, 0, -1, -1, 0})};
+    return {
+        joined_numbers({layout.top, layout.left, layout.rows, layout.columns, both, choices.rotate ? 1 : 0,
+                        choices.resize ? 1 : 0, 0}),
+        joined_numbers({layout.gap_v, layout.gap_h, layout.cell_height, layout.cell_width, 0, -1, -1, 0})};
 }
 
 std::vector<std::string> frame_lines(const framed_cell & cell)
 {
-    return {joined_numbers({cell.top, cell.left, cell.height, cell.width, 0, 0, 0, 0}) + cell.file,
-            joined_numbers({cell.photo_top, cell.photo_left, cell.photo_height, cell.photo_width, 0, 0, 0, 0})};
+    return {
+        joined_numbers({cell.top, cell.left, cell.height, cell.width, 0, 0, 0, 0}) + cell.file,
+        joined_numbers({cell.photo_top, cell.photo_left, cell.photo_height, cell.photo_width, 0, 0, 0, 0})};
 }
 
 framed_cell cell_at(const matrix_layout & layout, int row, int column)

@@ -12,10 +12,10 @@ namespace {
 
 constexpr int photos_to_a_double = 3;
 
-constexpr rgb_triple paper{.red = 255, .green = 255, .blue = 255}, outline{.red = 74, .green = 84, .blue = 98},
-    sky{.red = 176, .green = 204, .blue = 228}, sun{.red = 250, .green = 226, .blue = 160},
-    far_hill{.red = 132, .green = 164, .blue = 136}, near_hill{.red = 98, .green = 134, .blue = 108},
-    wood{.red = 176, .green = 138, .blue = 100};
+constexpr rgb_triple paper{.red = 255, .green = 255, .blue = 255},
+    outline{.red = 74, .green = 84, .blue = 98}, sky{.red = 176, .green = 204, .blue = 228},
+    sun{.red = 250, .green = 226, .blue = 160}, far_hill{.red = 132, .green = 164, .blue = 136},
+    near_hill{.red = 98, .green = 134, .blue = 108}, wood{.red = 176, .green = 138, .blue = 100};
 
 // ---- what lies where
 
@@ -43,8 +43,8 @@ std::vector<sample_piece> grid_pieces(const matrix_choices & choices, const grid
             const bool lies = both && photo % photos_to_a_double == 1 && has_right_neighbour(layer, column);
             const cell_span span = lies ? cell_span::twice : cell_span::single;
             const shake & by = shake_table.at(pieces.size() % shake_table.size());
-            const shaken cell = shaken_cell(layer, at, span, by,
-                                            {.resize = choices.resize, .rotate = choices.rotate}, lean);
+            const shaken cell =
+                shaken_cell(layer, at, span, by, {.resize = choices.resize, .rotate = choices.rotate}, lean);
             const cell_area area = photo_area(layer, at, span, cell);
             pieces.push_back({.top = area.top,
                               .left = area.left,
@@ -108,8 +108,7 @@ public:
         : piece(turned),
           cosine(std::cos(turned.rotation * std::numbers::pi / 180)),
           sine(std::sin(turned.rotation * std::numbers::pi / 180))
-    {
-    }
+    {}
     point operator()(point at) const
     {
         const double x = at.x - piece.left, y = at.y - piece.top;
@@ -156,8 +155,8 @@ void paint_pixel(std::uint8_t * bytes, const sample_piece & piece, const turn_ba
     int red = 0, green = 0, blue = 0, hits = 0;
     for (int i = 0; i < probes.count(); ++i) {
         const double step = static_cast<double>(divisor) / probes.side;
-        const point at = back({.x = corner.x + (i % probes.side + 0.5) * step,
-                               .y = corner.y + (i / probes.side + 0.5) * step});
+        const point at = back(
+            {.x = corner.x + (i % probes.side + 0.5) * step, .y = corner.y + (i / probes.side + 0.5) * step});
         if (!lies_on(piece, at))
             continue;
         const rgb_triple color = piece_color(piece, at, divisor);

@@ -7,10 +7,10 @@
 
 namespace {
 
-constexpr int few = 4;                // rows or columns below which pieces are held inside the area
-constexpr int many = 8;               // above which they are larger
-constexpr int spread_missing = 9;     // up to so many are spread evenly
-constexpr int smallest_piece = 30;    // a preview still shows knobs
+constexpr int few = 4;              // rows or columns below which pieces are held inside the area
+constexpr int many = 8;             // above which they are larger
+constexpr int spread_missing = 9;   // up to so many are spread evenly
+constexpr int smallest_piece = 30;  // a preview still shows knobs
 constexpr double held_inside = 0.95;
 
 // How a row or column follows the one before it, as a share of a piece's size.

@@ -21,8 +21,8 @@ form & window_of(windows & all, designer chosen)
     }
 }
 
-// The three that share the designed collages' stage begin like those. Borders that a scatter has tied are free
-// again, but for a matrix, which has none.
+// The three that share the designed collages' stage begin like those. Borders that a scatter has tied are
+// free again, but for a matrix, which has none.
 void prepare_stage(frmMain & main, designer chosen)
 {
     clear_stage(main);

@@ -4,7 +4,8 @@
 #include "support/paths.h"
 #include "support/text_file.h"
 
-void write_work_template(const frmMain & main, const std::string & name, const std::vector<std::string> & lines)
+void write_work_template(const frmMain & main, const std::string & name,
+                         const std::vector<std::string> & lines)
 {
     write_file(joined(joined(main.data_folder, "designs"), name), text_of(lines));
 }

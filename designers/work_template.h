@@ -9,7 +9,8 @@
 
 /// Replaces the template `name` below `designs` of the data folder. Raises 61, 70, 75, 76; the old one then
 /// stays.
-void write_work_template(const frmMain & main, const std::string & name, const std::vector<std::string> & lines);
+void write_work_template(const frmMain & main, const std::string & name,
+                         const std::vector<std::string> & lines);
 
 /// Brings the main window to its state for a new collage: no matrix, no frames, no shaking.
 void reset_for_design(frmMain & main);

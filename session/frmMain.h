@@ -199,9 +199,9 @@ struct frmMain : form {
     bool random_design = false;  ///< a plain design of the catalogue
     bool stretch_design = false;
     bool matrix_both = false, matrix_rotate = false, matrix_resize = false;
-    bool matrix_session = false;    ///< a matrix of the designer is in force
-    std::string matrix_size;        ///< rows and columns of the last one, "2x3"
-    lettering_choices lettering{};  ///< as its designer was left
+    bool matrix_session = false;                            ///< a matrix of the designer is in force
+    std::string matrix_size;                                ///< rows and columns of the last one, "2x3"
+    lettering_choices lettering{};                          ///< as its designer was left
     bool square_background = false, run_landscape = false;  ///< shape of the last full-size run
     bool frames_design = false, frames_inside = false;
     bool borders_free = true;

@@ -194,8 +194,8 @@ TEST(center_letters, counts_the_line_behind_the_position)
 {
     EXPECT_EQ(center_letters("ab\r\ncde", 0, 2000, 100, 10), 895);
     EXPECT_EQ(center_letters("ab\r\ncde", 3, 2000, 100, 10), 840);
-    EXPECT_EQ(center_letters("AB cd", 0, 2000, 100, 10), 710);  // 540 and two fifths
-    EXPECT_EQ(center_letters("AB cd", 0, 2000, 100, -30), 790); // 500, two fifths, less four overlaps
+    EXPECT_EQ(center_letters("AB cd", 0, 2000, 100, 10), 710);   // 540 and two fifths
+    EXPECT_EQ(center_letters("AB cd", 0, 2000, 100, -30), 790);  // 500, two fifths, less four overlaps
     EXPECT_EQ(center_letters("", 0, 2000, 100, 10), 1005);
 }
 

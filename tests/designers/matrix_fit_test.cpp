@@ -1,5 +1,6 @@
-#include "designers/matrix_borders.h"
 #include "designers/matrix_fit.h"
+
+#include "designers/matrix_borders.h"
 
 #include <gtest/gtest.h>
 
@@ -50,8 +51,9 @@ TEST(fit_borders, cuts_each_border_to_its_limit)
     EXPECT_EQ(border_limits_of(landscape), (border_limits{1400, 2200}));
     EXPECT_EQ(fitted_borders({.top = 2201, .bottom = 0, .left = 1401, .right = -1}, upright),
               (poster_borders{.top = 2200, .bottom = 0, .left = 1400, .right = 0}));
-    EXPECT_EQ(fitted_borders({.top = 2201, .bottom = 0, .left = 1401, .right = 9}, border_limits_of(landscape)),
-              (poster_borders{.top = 1400, .bottom = 0, .left = 1401, .right = 9}));
+    EXPECT_EQ(
+        fitted_borders({.top = 2201, .bottom = 0, .left = 1401, .right = 9}, border_limits_of(landscape)),
+        (poster_borders{.top = 1400, .bottom = 0, .left = 1401, .right = 9}));
 }
 
 TEST(fit_borders, of_two_that_are_too_wide_together_the_wider_one_gives_way)

@@ -42,8 +42,7 @@ TEST(matrix_lines, cells_and_corner_are_rounded_to_the_nearest_with_ties_to_even
                                  .gap_v = 15,
                                  .gap_h = 25};
     // 601.67 and 948.33; the corner would be at 50.5 and 59.5.
-    EXPECT_EQ(written(choices, run_size::full),
-              (lines{"50:60:3:3:0:0:0:0:", "15:25:948:602:0:-1:-1:0:"}));
+    EXPECT_EQ(written(choices, run_size::full), (lines{"50:60:3:3:0:0:0:0:", "15:25:948:602:0:-1:-1:0:"}));
 }
 
 TEST(matrix_lines, a_landscape_poster_is_wider_than_high)
@@ -64,8 +63,7 @@ TEST(matrix_lines, a_shaken_preview_has_room_around_it_and_the_full_size_has_not
     const matrix_choices choices{.rotate = true, .resize = true};
     EXPECT_EQ(written(choices, run_size::preview),
               (lines{"250:250:2:2:0:1:1:0:", "20:20:1240:740:0:-1:-1:0:"}));
-    EXPECT_EQ(written(choices, run_size::full),
-              (lines{"100:100:2:2:0:1:1:0:", "20:20:1390:890:0:-1:-1:0:"}));
+    EXPECT_EQ(written(choices, run_size::full), (lines{"100:100:2:2:0:1:1:0:", "20:20:1390:890:0:-1:-1:0:"}));
 }
 
 TEST(matrix_lines, the_room_for_shaking_shrinks_with_the_number_of_cells)
@@ -112,12 +110,13 @@ TEST(matrix_lines, the_smallest_border_says_how_much_all_four_grow)
 TEST(framed_matrix, each_upright_cell_has_a_frame_and_a_photo_on_it)
 {
     EXPECT_EQ(framed(3, 2, poster_shape::portrait, 4),
-              (lines{R"(100:100:920:607:0:0:0:0:frames\club\pframe01.jpg)", "137:136:727:540:0:0:0:0:",
-                     R"(100:1293:920:607:0:0:0:0:frames\club\pframe02.jpg)", "137:1329:727:540:0:0:0:0:",
-                     R"(1040:100:920:607:0:0:0:0:frames\club\pframe03.jpg)", "1077:136:727:540:0:0:0:0:",
-                     R"(1040:1293:920:607:0:0:0:0:frames\club\pframe04.jpg)", "1077:1329:727:540:0:0:0:0:",
-                     R"(1980:100:920:607:0:0:0:0:frames\club\pframe01.jpg)", "2017:136:727:540:0:0:0:0:",
-                     R"(1980:1293:920:607:0:0:0:0:frames\club\pframe02.jpg)", "2017:1329:727:540:0:0:0:0:"}));
+              (lines{R"(100:100:920:607:0:0:0:0:frames\club\pframe01.jpg)",
+                     "137:136:727:540:0:0:0:0:", R"(100:1293:920:607:0:0:0:0:frames\club\pframe02.jpg)",
+                     "137:1329:727:540:0:0:0:0:", R"(1040:100:920:607:0:0:0:0:frames\club\pframe03.jpg)",
+                     "1077:136:727:540:0:0:0:0:", R"(1040:1293:920:607:0:0:0:0:frames\club\pframe04.jpg)",
+                     "1077:1329:727:540:0:0:0:0:", R"(1980:100:920:607:0:0:0:0:frames\club\pframe01.jpg)",
+                     "2017:136:727:540:0:0:0:0:", R"(1980:1293:920:607:0:0:0:0:frames\club\pframe02.jpg)",
+                     "2017:1329:727:540:0:0:0:0:"}));
 }
 
 TEST(framed_matrix, cells_that_lie_wear_the_frames_that_lie)
@@ -166,10 +165,8 @@ TEST(framed_matrix, says_when_the_gap_between_rows_cannot_be_kept)
 
 TEST(framed_matrix, rows_that_overlap_stay_so_without_a_word_where_cells_shrink)
 {
-    const matrix_choices choices{.rows = 3,
-                                 .columns = 2,
-                                 .gap_h = -700,
-                                 .frames = frame_choice{.set = "club", .captions = 1}};
+    const matrix_choices choices{
+        .rows = 3, .columns = 2, .gap_h = -700, .frames = frame_choice{.set = "club", .captions = 1}};
     const matrix_layout layout = matrix_layout_of(choices, run_size::full);
     EXPECT_EQ(layout.cell_width, 1250);  // wider than high
     EXPECT_TRUE(layout.complaints.empty());

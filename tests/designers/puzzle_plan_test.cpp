@@ -74,7 +74,7 @@ TEST(puzzle_lines, four_pieces_a_photo_are_all_alike)
     const auto four = [](const char * corner) {
         return std::string(corner) + ":0:792:0:-1:-1:0:/puzzle/puzzle4.gif";
     };
-    const lines expected{four("127:280"), four("127:929"),  four("745:280"),  four("745:929"),
+    const lines expected{four("127:280"),  four("127:929"),  four("745:280"),  four("745:929"),
                          four("1363:280"), four("1363:929"), four("1981:280"), four("1981:929")};
     EXPECT_EQ(whole_puzzle({.rows = 4, .columns = 2, .pieces = puzzle_pieces::four}), expected);
     EXPECT_EQ(whole_puzzle({.rows = 4, .columns = 2, .edges = true, .pieces = puzzle_pieces::four}), expected)
@@ -89,9 +89,9 @@ TEST(puzzle_lines, a_single_row_or_column_is_the_first_and_not_the_last)
 
 TEST(piece_size, of_many_pieces_is_larger)
 {
-    EXPECT_EQ(piece_size({.rows = 8, .columns = 8}), 297);    // 237.5 * 1.25
-    EXPECT_EQ(piece_size({.rows = 12, .columns = 8}), 356);   // 237.5 * 1.5
-    EXPECT_EQ(piece_size({.rows = 1, .columns = 1}), 1805);   // the area's width, held inside
+    EXPECT_EQ(piece_size({.rows = 8, .columns = 8}), 297);   // 237.5 * 1.25
+    EXPECT_EQ(piece_size({.rows = 12, .columns = 8}), 356);  // 237.5 * 1.5
+    EXPECT_EQ(piece_size({.rows = 1, .columns = 1}), 1805);  // the area's width, held inside
     EXPECT_EQ(piece_size({.rows = 12, .columns = 8, .pieces = puzzle_pieces::four}), 273);
 }
 
@@ -120,8 +120,9 @@ TEST(puzzle_lines, for_more_than_nine_each_piece_is_left_out_by_chance)
 {
     const lines all = whole_puzzle({.rows = 4, .columns = 6});
     const puzzle_choices choices{.rows = 4, .columns = 6, .missing = 12};  // one of two
-    const lines left = puzzle_lines(choices, listed({0.4, 0.5, 0.6, 0.9, 0.49, 0.0, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7,
-                                                     0.7, 0.7, 0.7, 0.7, 0.7,  0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7}));
+    const lines left =
+        puzzle_lines(choices, listed({0.4, 0.5, 0.6, 0.9, 0.49, 0.0, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7,
+                                      0.7, 0.7, 0.7, 0.7, 0.7,  0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7}));
     EXPECT_EQ(left.size(), 21U);
     EXPECT_EQ(left[0], all[1]);
     EXPECT_EQ(left[3], all[6]);

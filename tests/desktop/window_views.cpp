@@ -182,6 +182,35 @@ void filled_session::add_frame_views(std::vector<window_view> & views)
                          .fill = {}});
 }
 
+// The designers as they look in the middle of the work.
+void filled_session::add_designer_views(std::vector<window_view> & views)
+{
+    views.push_back({.name = "frmMatrix_shaken", .window = &all.matrix, .prepare = {}, .fill = [this] {
+                         all.matrix.optLandscapePoster.select();
+                         all.matrix.optBoth.select();
+                         all.matrix.cmbRows.set_text("4");
+                         all.matrix.chkResize.tick(true);
+                         all.matrix.chkRotate.tick(true);
+                     }});
+    const auto letter = [this](const char * text, option_button & placing, option_button & shape) {
+        all.main.lettering.text = text;
+        all.lettering.txtLettering.set_text(text);
+        placing.select();
+        shape.select();
+    };
+    views.push_back({.name = "frmLettering", .window = &all.lettering, .prepare = {}, .fill = [this, letter] {
+                         letter("Summer\n2026", all.lettering.optAlign, all.lettering.optPortrait);
+                     }});
+    views.push_back(
+        {.name = "frmLettering_landscape", .window = &all.lettering, .prepare = {}, .fill = [this, letter] {
+             letter("Happy birthday, Grandmother!", all.lettering.optSerpent, all.lettering.optLandscape);
+         }});
+    views.push_back({.name = "frmPuzzle", .window = &all.puzzle, .prepare = {}, .fill = [this] {
+                         all.puzzle.chkEdges.tick(true);
+                         all.puzzle.chkBest.tick(true);
+                     }});
+}
+
 std::vector<window_view> filled_session::views()
 {
     std::vector<window_view> views;
@@ -189,6 +218,7 @@ std::vector<window_view> filled_session::views()
     add_small_views(views);
     add_photo_views(views);
     add_frame_views(views);
+    add_designer_views(views);
     for (form * each : all.others()) {
         const auto is_its = [&](const window_view & view) { return view.name == each->name(); };
         if (each != &all.image && std::none_of(views.begin(), views.end(), is_its))

@@ -37,6 +37,7 @@ private:
     void add_small_views(std::vector<window_view> & views);
     void add_photo_views(std::vector<window_view> & views);
     void add_frame_views(std::vector<window_view> & views);
+    void add_designer_views(std::vector<window_view> & views);
 };
 
 /// The window of a view while it lives: open, bound and shown.
