@@ -137,11 +137,11 @@ TEST(frmMatrix, borders_that_move_together_stop_at_their_own_limits)
     window.cmbLeft.set_text("150");
     EXPECT_EQ(session.borders(), "150 150 150 150");
     window.cmbTop.set_text("1500");
-    EXPECT_EQ(session.borders(), "1500 1500 1150 1400") << "left and right together leave room";
+    EXPECT_EQ(session.borders(), "1500 1500 900 1400") << "left and right are cut together";
     expect_states(window, "chkLock1");
     window.chkLock.tick(false);
     window.cmbTop.set_text("10");
-    EXPECT_EQ(session.borders(), "10 1500 1150 1400");
+    EXPECT_EQ(session.borders(), "10 1500 900 1400");
 }
 
 TEST(frmMatrix, a_border_beyond_its_limit_is_cut)

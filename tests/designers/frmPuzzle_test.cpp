@@ -84,7 +84,7 @@ TEST(frmPuzzle, writes_the_pieces_and_sets_the_design)
     session.window.cmbRows.set_text("1");
     session.window.cmbColumns.set_text("1");
     session.window.cmdOk.click();
-    EXPECT_EQ(session.lines_of("__puzzle"), lines{"548:98:0:1805:0:-1:-1:0:puzzle/puz_11.gif"});
+    EXPECT_EQ(session.lines_of("__puzzle"), lines{"500:50:0:1900:0:-1:-1:0:puzzle/puz_11.gif"});
     const frmMain & main = session.main;
     EXPECT_EQ(main.lblDesign.caption(), "Puzzle");
     EXPECT_EQ(main.lblDesign.tag, "Puzzle");

@@ -144,10 +144,10 @@ TEST(lettering_lines, a_second_line_stands_below_the_first)
 
 TEST(lettering_lines, each_line_is_centred_by_itself)
 {
-    // 619 high, 85 between: 40 lower than the middle of 2900. The CR isn't a letter of its line.
+    // 939 high, 85 between: 40 lower than the middle of 2900. The CR isn't a letter of its line.
     EXPECT_EQ(written({.text = "ab\nc", .center = true}),
-              (lines{letter_line("828:370", 619, 'a'), letter_line("828:1011", 619, 'b'),
-                     letter_line("1532:690", 619, 'c')}));
+              (lines{letter_line("508:50", 939, 'a'), letter_line("508:1011", 939, 'b'),
+                     letter_line("1532:530", 939, 'c')}));
 }
 
 TEST(lettering_lines, a_long_line_is_broken_and_its_rest_stands_below)

@@ -47,13 +47,13 @@ TEST(puzzle_lines, straight_edges_have_pieces_and_steps_of_their_own)
 
 TEST(puzzle_lines, a_landscape_poster_moves_pieces_right_by_their_own_size)
 {
-    // 2900 by 1900: 906 wide, 1188 high; 1128.6 and 860.7 when held inside.
+    // Pieces of 906 by 1188 are held inside 2900 by 1900: 861 and 1129.
     const lines all = whole_puzzle({.rows = 2, .columns = 4, .shape = landscape});
     ASSERT_EQ(all.size(), 8U);
-    EXPECT_EQ(all[0], piece_line("250:1163", 861, "11"));
-    EXPECT_EQ(all[1], piece_line("250:1712", 861, "12"));
-    EXPECT_EQ(all[2], piece_line("250:2328", 861, "11"));
-    EXPECT_EQ(all[4], piece_line("784:1163", 861, "21"));
+    EXPECT_EQ(all[0], piece_line("252:1065", 861, "11"));
+    EXPECT_EQ(all[1], piece_line("252:1614", 861, "12"));
+    EXPECT_EQ(all[2], piece_line("252:2230", 861, "11"));
+    EXPECT_EQ(all[4], piece_line("786:1065", 861, "21"));
 }
 
 TEST(puzzle_lines, even_and_odd_rows_follow_by_different_steps)
@@ -91,7 +91,7 @@ TEST(piece_size, of_many_pieces_is_larger)
 {
     EXPECT_EQ(piece_size({.rows = 8, .columns = 8}), 297);   // 237.5 * 1.25
     EXPECT_EQ(piece_size({.rows = 12, .columns = 8}), 356);  // 237.5 * 1.5
-    EXPECT_EQ(piece_size({.rows = 1, .columns = 1}), 1805);  // the area's width, held inside
+    EXPECT_EQ(piece_size({.rows = 1, .columns = 1}), 1900);  // the area's width
     EXPECT_EQ(piece_size({.rows = 12, .columns = 8, .pieces = puzzle_pieces::four}), 273);
 }
 
