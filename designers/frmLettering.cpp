@@ -5,6 +5,8 @@
 #include "session/handlers.h"
 #include "support/show_help.h"
 
+#include <algorithm>
+
 // The lettering designer.
 
 namespace {
@@ -12,57 +14,34 @@ namespace {
 // Pixels of the poster to one of the box that has its shape.
 constexpr int box_divisor = 7;
 
-poster_shape shape_of(const frmLettering & window)
+// The options of a set stand in the order of their enumerators; none selected is the first.
+template <typename Choice>
+Choice chosen(const option_set & options)
 {
-    if (window.optSquare.selected())
-        return poster_shape::square;
-    return window.optLandscape.selected() ? poster_shape::landscape : poster_shape::portrait;
+    const auto selected =
+        std::ranges::find_if(options, [](const option_button * each) { return each->selected(); });
+    return selected == options.end() ? Choice{} : static_cast<Choice>(selected - options.begin());
 }
 
-letter_placing placing_of(const frmLettering & window)
+template <typename Choice>
+void select(const option_set & options, Choice choice)
 {
-    if (window.optSerpent.selected())
-        return letter_placing::serpent;
-    return window.optOffset.selected() ? letter_placing::offset : letter_placing::align;
+    options.at(static_cast<std::size_t>(choice))->select();
 }
 
 lettering_choices lettering_of(const frmLettering & window)
 {
     return {.text = window.txtLettering.text(),
-            .placing = placing_of(window),
+            .placing = chosen<letter_placing>(window.placing_options),
             .overlap = window.chkOverlap.ticked(),
             .center = window.chkCenter.ticked(),
-            .shape = shape_of(window)};
+            .shape = chosen<poster_shape>(window.orientation_options)};
 }
 
 void shape_box(frmLettering & window)
 {
-    const poster_area poster = whole_poster(shape_of(window));
+    const poster_area poster = whole_poster(chosen<poster_shape>(window.orientation_options));
     window.txtLettering.move({.width = poster.width / box_divisor, .height = poster.height / box_divisor});
-}
-
-option_button & placing_option(frmLettering & window, letter_placing placing)
-{
-    switch (placing) {
-        case letter_placing::serpent:
-            return window.optSerpent;
-        case letter_placing::offset:
-            return window.optOffset;
-        default:
-            return window.optAlign;
-    }
-}
-
-option_button & shape_option(frmLettering & window, poster_shape shape)
-{
-    switch (shape) {
-        case poster_shape::landscape:
-            return window.optLandscape;
-        case poster_shape::square:
-            return window.optSquare;
-        default:
-            return window.optPortrait;
-    }
 }
 
 void text_changed(frmLettering & window)
@@ -77,8 +56,8 @@ void load_lettering(windows & all)
     window.txtLettering.set_text(last.text);
     window.chkCenter.tick(last.center);
     window.chkOverlap.tick(last.overlap);
-    placing_option(window, last.placing).select();
-    shape_option(window, last.shape).select();
+    select(window.placing_options, last.placing);
+    select(window.orientation_options, last.shape);
     text_changed(window);
 }
 

@@ -15,17 +15,6 @@ designer_session::designer_session()
     main.load();
 }
 
-void designer_session::will_choose_list()
-{
-    desk.on_modal<frmSelectPhotos>([this](frmSelectPhotos & chooser) {
-        set_photo_source_kind(main, photo_source::list);
-        main.txtPhotos.set_text("mine");
-        main.txtPhotos.tag = list;
-        main.photo_choice_cancelled = false;
-        chooser.unload();
-    });
-}
-
 void designer_session::will_cancel_photos()
 {
     desk.on_modal<frmSelectPhotos>([](frmSelectPhotos & chooser) { chooser.cmdCancel.click(); });

@@ -9,8 +9,6 @@
 struct designer_session : opened_session {
     designer_session();
 
-    /// The user's choice in the next photo chooser.
-    void will_choose_list();
     void will_cancel_photos();
 
     /// The lines of a template below `designs`; none when it isn't there.

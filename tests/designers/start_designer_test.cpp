@@ -44,7 +44,7 @@ struct flow : designer_session {
         if (chosen != designer::lettering)  // its two letters take the two photos
             desk.will_answer(answer::no);
         will_design(chosen);
-        will_choose_list();
+        will_choose_list(list);
         entry(chosen).click();
     }
 };
@@ -102,7 +102,7 @@ TEST(mnuMatrix, leads_to_the_finishing_stage_and_one_preview)
     flow session;
     session.desk.will_answer(answer::no);
     session.will_design_matrix();
-    session.will_choose_list();
+    session.will_choose_list(session.list);
     EXPECT_EQ(session.previews_of([&] { session.main.mnuMatrix.click(); }), 1);
     EXPECT_EQ(session.desk.shown_windows, (names{"frmMatrix", "frmSelectPhotos", "frmPhotoCnt"}));
     const frmMain & main = session.main;
