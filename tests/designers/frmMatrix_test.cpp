@@ -161,7 +161,7 @@ TEST(frmMatrix, every_change_draws_one_sample)
     frmMatrix & window = session.window;
     window.chkLock.tick(true);
     EXPECT_EQ(session.samples_of([&] { window.cmbRows.set_text("5"); }), 1);
-    EXPECT_EQ(session.samples_of([&] { window.cmbColumns.choose(0); }), 1);
+    EXPECT_EQ(session.samples_of([&] { window.cmbColumns.set_text("9"); }), 1);
     EXPECT_EQ(session.samples_of([&] { window.cmbTop.set_text("300"); }), 1);
     EXPECT_EQ(session.samples_of([&] { window.cmbHGap.set_text("30"); }), 1);
     EXPECT_EQ(session.samples_of([&] { window.cmbVGap.choose(5); }), 1);
