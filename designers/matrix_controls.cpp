@@ -17,7 +17,7 @@ namespace {
 constexpr int border_step = 50;
 
 // Pixels of the poster to one of the sample, on usual screens and on those of double density.
-constexpr int usual_divisor = 6, dense_divisor = 3;
+constexpr int usual_divisor = 6, dense_divisor = usual_divisor / 2;
 
 border_limits limits_of(const frmMatrix & window)
 {
@@ -91,9 +91,11 @@ void draw_sample(frmMatrix & window, const frmMain & main)
         return;
     const matrix_choices choices = matrix_choices_of(window);
     const poster_area poster = whole_poster(choices.poster);
-    window.picSample.move({.width = poster.width / usual_divisor, .height = poster.height / usual_divisor});
-    save_bmp(drawn_sample(choices, dense_divisor), joined(folder, "matrix_sample@2x.bmp"));
-    save_bmp(drawn_sample(choices, usual_divisor), joined(folder, "matrix_sample.bmp"));
+    const box place{.width = poster.width / usual_divisor, .height = poster.height / usual_divisor};
+    const bitmap dense = drawn_sample(choices, dense_divisor);
+    save_bmp(dense, joined(folder, "matrix_sample@2x.bmp"));
+    save_bmp(rescaled(dense, place.width, place.height), joined(folder, "matrix_sample.bmp"));
+    window.picSample.move(place);
     window.picSample.load(joined(folder, "matrix_sample.bmp"));
 }
 

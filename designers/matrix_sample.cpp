@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 namespace {
 
@@ -84,18 +85,21 @@ struct point {
 rgb_triple photo_color(const sample_piece & piece, point at)
 {
     const double u = at.x / piece.width, v = at.y / piece.height;
-    const double unit = std::min(piece.width, piece.height);
     if (v > 0.70 + 0.35 * (u - 0.9) * (u - 0.9))
         return near_hill;
     if (v > 0.56 + 0.8 * (u - 0.3) * (u - 0.3))
         return far_hill;
-    const double from_sun = std::hypot(at.x - 0.74 * piece.width, at.y - 0.27 * piece.height);
-    return from_sun < 0.12 * unit ? sun : sky;
+    const double right = at.x - 0.74 * piece.width, down = at.y - 0.27 * piece.height;
+    const double radius = 0.12 * std::min(piece.width, piece.height);
+    return right * right + down * down < radius * radius ? sun : sky;
 }
 
-rgb_triple piece_color(const sample_piece & piece, point at, int line)
+// Nothing outside the piece.
+std::optional<rgb_triple> piece_color(const sample_piece & piece, point at, int line)
 {
     const double to_edge = std::min({at.x, at.y, piece.width - at.x, piece.height - at.y});
+    if (to_edge < 0)
+        return std::nullopt;
     if (to_edge < line)
         return outline;
     return piece.kind == sample_kind::frame ? wood : photo_color(piece, at);
@@ -114,18 +118,17 @@ public:
         const double x = at.x - piece.left, y = at.y - piece.top;
         return {.x = x * cosine + y * sine, .y = y * cosine - x * sine};
     }
-    /// Rows and columns of the poster that the piece may reach.
+    /// Rows and columns of the poster that the piece reaches.
     struct bounds {
         double left, top, right, bottom;
     };
     bounds reach() const
     {
-        const double across = piece.width * cosine, down = piece.height * cosine;
-        const double swing = piece.height * sine, sink = piece.width * sine;
-        return {.left = piece.left + std::min(0.0, -swing),
+        const double swing = piece.height * -sine, sink = piece.width * sine;
+        return {.left = piece.left + std::min(0.0, swing),
                 .top = piece.top + std::min(0.0, sink),
-                .right = piece.left + across + std::max(0.0, -swing),
-                .bottom = piece.top + down + std::max(0.0, sink)};
+                .right = piece.left + piece.width * cosine + std::max(0.0, swing),
+                .bottom = piece.top + piece.height * cosine + std::max(0.0, sink)};
     }
 
 private:
@@ -133,63 +136,27 @@ private:
     double cosine, sine;
 };
 
-bool lies_on(const sample_piece & piece, point at)
-{
-    return at.x >= 0 && at.y >= 0 && at.x < piece.width && at.y < piece.height;
-}
-
-std::uint8_t mixed(int below, int above, int share, int of)
-{
-    return static_cast<std::uint8_t>((below * (of - share) + above * share) / of);
-}
-
-// The points of a pixel that are looked at: one, or four where slanted edges would be jagged.
-struct probing {
-    int side = 1;
-    int count() const { return side * side; }
-};
-
-void paint_pixel(std::uint8_t * bytes, const sample_piece & piece, const turn_back & back, point corner,
-                 int divisor, probing probes)
-{
-    int red = 0, green = 0, blue = 0, hits = 0;
-    for (int i = 0; i < probes.count(); ++i) {
-        const double step = static_cast<double>(divisor) / probes.side;
-        const point at = back(
-            {.x = corner.x + (i % probes.side + 0.5) * step, .y = corner.y + (i / probes.side + 0.5) * step});
-        if (!lies_on(piece, at))
-            continue;
-        const rgb_triple color = piece_color(piece, at, divisor);
-        red += color.red;
-        green += color.green;
-        blue += color.blue;
-        ++hits;
-    }
-    if (hits == 0)
-        return;
-    bytes[0] = mixed(bytes[0], blue / hits, hits, probes.count());
-    bytes[1] = mixed(bytes[1], green / hits, hits, probes.count());
-    bytes[2] = mixed(bytes[2], red / hits, hits, probes.count());
-}
-
 void paint_piece(bitmap & sample, const sample_piece & piece, int divisor)
 {
     const turn_back back(piece);
     const turn_back::bounds reach = back.reach();
-    const auto pixel_of = [&](double at, int limit) {
+    const auto pixel_of = [divisor](double at, int limit) {
         return std::clamp(static_cast<int>(std::floor(at / divisor)), 0, limit);
     };
-    const int left = pixel_of(reach.left, sample.width()),
-              right = pixel_of(reach.right + divisor, sample.width());
-    const int top = pixel_of(reach.top, sample.height()),
-              bottom = pixel_of(reach.bottom + divisor, sample.height());
-    const probing probes{.side = piece.rotation == 0 ? 1 : 2};
-    for (int y = top; y < bottom; ++y) {
+    const int left = pixel_of(reach.left, sample.width());
+    const int right = pixel_of(reach.right + divisor, sample.width());
+    const int bottom = pixel_of(reach.bottom + divisor, sample.height());
+    for (int y = pixel_of(reach.top, sample.height()); y < bottom; ++y) {
         const auto row = sample.row(sample.height() - 1 - y);
-        for (int x = left; x < right; ++x)
-            paint_pixel(&row[static_cast<std::size_t>(x) * pixel_bytes], piece, back,
-                        {.x = static_cast<double>(x) * divisor, .y = static_cast<double>(y) * divisor},
-                        divisor, probes);
+        for (int x = left; x < right; ++x) {
+            const point middle{.x = (x + 0.5) * divisor, .y = (y + 0.5) * divisor};
+            if (const auto color = piece_color(piece, back(middle), divisor)) {
+                const std::size_t first = static_cast<std::size_t>(x) * pixel_bytes;
+                row[first] = color->blue;
+                row[first + 1] = color->green;
+                row[first + 2] = color->red;
+            }
+        }
     }
 }
 
