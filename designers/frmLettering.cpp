@@ -3,6 +3,7 @@
 #include "designers/work_template.h"
 #include "designs/chosen_design.h"
 #include "session/handlers.h"
+#include "support/colors.h"
 #include "support/show_help.h"
 
 #include <algorithm>
@@ -13,6 +14,8 @@ namespace {
 
 // Pixels of the poster to one of the box that has its shape.
 constexpr int box_divisor = 7;
+
+constexpr std::uint32_t paper = 0xFFFFFF, ink = about_background;
 
 // The options of a set stand in the order of their enumerators; none selected is the first.
 template <typename Choice>
@@ -53,6 +56,8 @@ void load_lettering(windows & all)
 {
     frmLettering & window = all.lettering;
     const lettering_choices & last = all.main.lettering;
+    window.txtLettering.set_back_color(paper);
+    window.txtLettering.set_fore_color(ink);
     window.txtLettering.set_text(last.text);
     window.chkCenter.tick(last.center);
     window.chkOverlap.tick(last.overlap);

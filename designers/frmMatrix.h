@@ -54,6 +54,6 @@ struct frmMatrix : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdhelp{*this, "cmdhelp", "Help"};
 
-    frame_choice chosen_set{};  ///< counts while `chkFrames` is ticked
-    bool settling = false;      ///< the program sets the controls: their handlers do nothing
+    worn_frames chosen_set{};  ///< counts while `chkFrames` is ticked
+    bool settling = false;     ///< the program sets the controls: their handlers do nothing
 };

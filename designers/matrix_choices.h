@@ -16,7 +16,7 @@ struct poster_borders {
 };
 
 /// A frame set around each photo; `captions` is the count of its captions.
-struct frame_choice {
+struct worn_frames {
     std::string set{};
     int captions = 0;
 };
@@ -28,5 +28,5 @@ struct matrix_choices {
     matrix_photos photos = matrix_photos::portrait;
     poster_shape poster = poster_shape::portrait;  ///< upright or landscape
     bool rotate = false, resize = false;
-    std::optional<frame_choice> frames{};  ///< not with both orientations
+    std::optional<worn_frames> frames{};  ///< not with both orientations
 };

@@ -21,8 +21,7 @@ form & window_of(windows & all, designer chosen)
     }
 }
 
-// The three that share the designed collages' stage begin like those. Borders that a scatter has tied are
-// free again, but for a matrix, which has none.
+// Borders that a scatter has tied are free again; a matrix has none.
 void prepare_stage(frmMain & main, designer chosen)
 {
     clear_stage(main);
@@ -75,6 +74,8 @@ void enter_poster(frmMain & main, designer chosen)
     main.picSample.show(false);
     main.frmSpace.show(false);
     main.optSample.show(true);
+    if (chosen != designer::matrix)
+        main.picFrameColor.tag = "False";  // the last frame size would frame the square around each piece
     if (chosen != designer::lettering) {
         main.optNone.select();
         main.frmBorder.enable(false);

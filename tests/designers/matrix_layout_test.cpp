@@ -16,7 +16,7 @@ lines framed(int rows, int columns, poster_shape poster, int captions)
     return written({.rows = rows,
                     .columns = columns,
                     .poster = poster,
-                    .frames = frame_choice{.set = "club", .captions = captions}},
+                    .frames = worn_frames{.set = "club", .captions = captions}},
                    run_size::full);
 }
 
@@ -145,7 +145,7 @@ TEST(framed_matrix, one_row_or_column_has_no_gap_to_give)
 
 TEST(framed_matrix, says_when_the_gap_between_columns_cannot_be_kept)
 {
-    const matrix_choices choices{.frames = frame_choice{.set = "club", .captions = 1}};
+    const matrix_choices choices{.frames = worn_frames{.set = "club", .captions = 1}};
     const matrix_layout layout = matrix_layout_of(choices, run_size::full);
     EXPECT_EQ(layout.complaints, lines{"Should not happen 1 ?"});
     EXPECT_EQ(layout.gap_h, 20);
@@ -156,7 +156,7 @@ TEST(framed_matrix, says_when_the_gap_between_columns_cannot_be_kept)
 TEST(framed_matrix, says_when_the_gap_between_rows_cannot_be_kept)
 {
     const matrix_choices choices{.poster = poster_shape::landscape,
-                                 .frames = frame_choice{.set = "club", .captions = 1}};
+                                 .frames = worn_frames{.set = "club", .captions = 1}};
     const matrix_layout layout = matrix_layout_of(choices, run_size::full);
     EXPECT_EQ(layout.complaints, lines{"Shouldnothappen 2?"});
     EXPECT_EQ(layout.gap_v, 20);
@@ -166,7 +166,7 @@ TEST(framed_matrix, says_when_the_gap_between_rows_cannot_be_kept)
 TEST(framed_matrix, rows_that_overlap_stay_so_without_a_word_where_cells_shrink)
 {
     const matrix_choices choices{
-        .rows = 3, .columns = 2, .gap_h = -700, .frames = frame_choice{.set = "club", .captions = 1}};
+        .rows = 3, .columns = 2, .gap_h = -700, .frames = worn_frames{.set = "club", .captions = 1}};
     const matrix_layout layout = matrix_layout_of(choices, run_size::full);
     EXPECT_EQ(layout.cell_width, 1250);  // wider than high
     EXPECT_TRUE(layout.complaints.empty());
@@ -204,7 +204,7 @@ TEST(matrix_fault, cells_without_size_are_told)
 
 TEST(matrix_fault, a_template_has_lines_for_500_frames)
 {
-    const frame_choice set{.set = "club", .captions = 1};
+    const worn_frames set{.set = "club", .captions = 1};
     EXPECT_EQ(matrix_fault({.rows = 25, .columns = 20, .frames = set}), "");
     EXPECT_EQ(matrix_fault({.rows = 25, .columns = 21, .frames = set}),
               "A frame set has room for  500  photos.\r\nPlease choose fewer rows or columns.");

@@ -69,7 +69,7 @@ TEST(matrix_sample, a_single_column_has_no_double_cells)
 TEST(matrix_sample, shows_frames_below_their_photos)
 {
     const matrix_choices choices{
-        .rows = 3, .columns = 2, .frames = frame_choice{.set = "club", .captions = 1}};
+        .rows = 3, .columns = 2, .frames = worn_frames{.set = "club", .captions = 1}};
     const pieces all = sample_pieces(choices);
     ASSERT_EQ(all.size(), 12U);
     EXPECT_EQ(
