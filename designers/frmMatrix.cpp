@@ -122,22 +122,13 @@ void poster_changed(windows & all)
 
 // ---- frames
 
-// The chooser isn't offered yet: it counts as cancelled.
-bool frame_set_chosen(frmMain & main)
-{
-    main.frame_set_name.clear();
-    if (start_custom_frames(main).empty())
-        main.desk.message("You have no custom frames at this time.");
-    return !main.frame_set_name.empty();
-}
-
 // The box is ticked once the set is known, whatever happens on the way.
 void choose_frames(windows & all)
 {
     frmMatrix & window = all.matrix;
     const settling_controls quiet(window);
     window.chkFrames.tick(false);
-    if (!frame_set_chosen(all.main))
+    if (!offer_frame_sets(all.main) || !choose_frame_set(all.main))
         return;
     const double captions = leading_number(get_frame_field(all.main, "Number of Captions"));
     window.chosen_set = {.set = all.main.frame_set_name, .captions = nearest16(captions)};

@@ -26,8 +26,6 @@ void prepare_stage(frmMain & main, designer chosen)
 {
     clear_stage(main);
     main.random_design = false;
-    main.frames_design = main.use_list_of_frame = false;
-    main.frame_set_name.clear();
     main.lblDesign.tag.clear();
     main.collage_width = 2000;
     main.collage_height = 3000;

@@ -1,3 +1,4 @@
+#include "support/platform_error.h"
 #include "tests/designers/designer_session.h"
 
 namespace {
@@ -244,6 +245,83 @@ TEST(frmMatrix, without_a_frame_set_the_user_is_told)
     EXPECT_EQ(session.desk.next_message(), "You have no custom frames at this time.");
     expect_states(session.window, "chkFrames0");
     EXPECT_EQ(session.main.frame_set_name, "");
+}
+
+TEST(frmMatrix, cells_wear_the_chosen_frame_set)
+{
+    matrix_window session;
+    session.make_frame_set("club", 4);
+    session.desk.on_modal<frmCustom>([](frmCustom & chooser) {
+        chooser.lstFrames.select(0);
+        chooser.cmdDone.click();
+    });
+    session.window.chkRowLock.tick(false);
+    session.type(session.window.cmbRows, "3");
+    EXPECT_EQ(session.samples_of([&] { session.window.chkFrames.tick(true); }), 1);
+    expect_states(session.window, "chkFrames1");
+    session.ok();
+    const lines all = session.lines_of("__matrix_");
+    ASSERT_EQ(all.size(), 12U);
+    EXPECT_EQ(all[0], R"(100:100:920:607:0:0:0:0:frames\club\pframe01.jpg)");
+    EXPECT_EQ(all[11], "2017:1329:727:540:0:0:0:0:");
+    EXPECT_EQ(session.lines_of("__matrix"), all);
+    const frmMain & main = session.main;
+    EXPECT_EQ(main.lblDesign.caption(), "Custom Frame Matrix 3x2");
+    EXPECT_EQ(main.lblDesign.tag, "Frame_matrix");
+    EXPECT_EQ(main.frame_set_name, "club");
+    EXPECT_TRUE(main.frames_design);
+}
+
+TEST(frmMatrix, backing_out_of_the_frame_sets_unticks_the_box)
+{
+    matrix_window session;
+    session.make_frame_set("club", 4);
+    session.desk.on_modal<frmCustom>([](frmCustom & chooser) { chooser.cmdDelete.click(); });
+    session.window.chkFrames.tick(true);
+    expect_states(session.window, "chkFrames0");
+    session.ok();
+    EXPECT_EQ(session.main.lblDesign.tag, "Matrix grid");
+    EXPECT_EQ(session.main.frame_set_name, "");
+}
+
+TEST(frmMatrix, frames_taken_off_again_are_forgotten)
+{
+    matrix_window session;
+    session.make_frame_set("club", 4);
+    session.desk.on_modal<frmCustom>([](frmCustom & chooser) { chooser.lstFrames.double_click(0); });
+    session.window.chkFrames.tick(true);
+    session.window.chkFrames.tick(false);
+    session.ok();
+    EXPECT_EQ(session.lines_of("__matrix").size(), 2U);
+    EXPECT_EQ(session.main.frame_set_name, "");
+    EXPECT_FALSE(session.main.frames_design);
+}
+
+TEST(frmMatrix, a_frame_set_without_its_settings_leaves_the_box_unticked)
+{
+    matrix_window session;
+    session.folder.write("data/frames/by hand/captions", "");
+    session.desk.on_modal<frmCustom>([](frmCustom & chooser) { chooser.lstFrames.double_click(0); });
+    EXPECT_THROW(session.window.chkFrames.tick(true), platform_error);
+    expect_states(session.window, "chkFrames0");
+    EXPECT_FALSE(session.window.settling);
+}
+
+TEST(frmMatrix, gaps_that_frames_cannot_keep_are_told_for_both_templates)
+{
+    matrix_window session;
+    session.make_frame_set("club", 1);
+    for (const char * complaint : {"Should not happen 1 ?", "Shouldnothappen 2?"}) {
+        session.desk.on_modal<frmCustom>([](frmCustom & chooser) { chooser.lstFrames.double_click(0); });
+        session.window.chkFrames.tick(true);
+        session.ok();
+        EXPECT_EQ(session.desk.next_message(), complaint);
+        EXPECT_EQ(session.desk.next_message(), complaint);
+        session.window.load();
+        session.window.optLandscapePoster.select();
+        session.window.chkRowLock.tick(false);
+        session.type(session.window.cmbColumns, "2");
+    }
 }
 
 TEST(frmMatrix, frames_are_for_single_cells)

@@ -3,6 +3,7 @@
 #include "support/colors.h"
 #include "support/platform_error.h"
 #include "tests/designers/designer_session.h"
+#include "tests/pictures.h"
 
 namespace {
 
@@ -117,6 +118,39 @@ TEST(mnuMatrix, leads_to_the_finishing_stage_and_one_preview)
                   "frmSpace_ frmStyle_ chkOutline_ cmdMore_ lblBlanks_ cmbBlanks_ optPreview1 picSample^");
     EXPECT_FALSE(main.updating_controls);
     EXPECT_EQ(session.desk.busy_depth, 0);
+}
+
+TEST(mnuMatrix, of_frames_has_no_ornaments_and_cannot_be_saved)
+{
+    flow session;
+    session.make_frame_set("club", 2);
+    save_jpeg(plain(35, 52, {1, 2, 3}), session.folder.at("data/frames/club/pframe01.jpg"));
+    save_jpeg(plain(35, 52, {1, 2, 3}), session.folder.at("data/frames/club/pframe02.jpg"));
+    session.desk.on_modal<frmMatrix>([](frmMatrix & window) {
+        window.cmbRows.set_text("3");
+        window.cmbColumns.set_text("2");
+        window.chkFrames.tick(true);
+        window.cmdOk.click();
+    });
+    session.desk.on_modal<frmCustom>([](frmCustom & chooser) { chooser.lstFrames.double_click(0); });
+    session.will_choose_list(session.list);
+    EXPECT_EQ(session.previews_of([&] { session.main.mnuMatrix.click(); }), 1);
+    EXPECT_EQ(session.main.design_record.name, "Frame_matrix");
+    expect_states(session.main, "frmOrnaments_ frmBorder- mnuSaveDesign-");
+    EXPECT_TRUE(session.main.frames_design);
+    session.desk.on_modal<frmImage>([](frmImage & image) { image.unload(); });
+    session.main.cmdFlurn.click();
+    expect_states(session.main, "mnuSaveDesign-");
+}
+
+TEST(mnuMatrix, can_be_saved_once_its_flurn_is_made)
+{
+    flow session;
+    session.run(designer::matrix);
+    expect_states(session.main, "mnuSaveDesign-");
+    session.desk.on_modal<frmImage>([](frmImage & image) { image.unload(); });
+    session.main.cmdFlurn.click();
+    expect_states(session.main, "mnuSaveDesign+");
 }
 
 TEST(mnuLettering, has_an_outline_and_borders_and_no_ornaments)
