@@ -18,7 +18,7 @@ def fan():
     places = []
     for tilt in range(-30, 35, 10):
         angle = math.radians(tilt)
-        places.append(centred(1500 + 1900 * math.sin(angle), 2780 - 1900 * math.cos(angle), 620, 930, tilt))
+        places.append(centred(1500 + 1900 * math.sin(angle), 2780 - 1900 * math.cos(angle), 590, 885, tilt))
     return places
 
 
@@ -154,7 +154,7 @@ def bouquet():
     """Petals of portraits around one large photo, with two leaves below."""
     places = []
     for tilt, x, y in ((-30, 430, 1120), (30, 1570, 1120), (-15, 690, 640), (15, 1310, 640), (-35, 480, 1900), (35, 1520, 1900)):
-        places.append(centred(x, y, 520, 780, tilt))
+        places.append(centred(x, y, 490, 735, tilt))
     return places + [centred(660, 2500, 720, 500, 15), centred(1340, 2500, 720, 500, -15), centred(1000, 1400, 760, 1080, 0)]
 
 
