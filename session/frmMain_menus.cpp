@@ -8,8 +8,7 @@ namespace {
 // Their dialogs aren't offered yet; a divider is never to be chosen.
 void disable_unanswered(frmMain & main)
 {
-    for (menu_entry * each :
-         {&main.mnuSeparator, &main.mnuImport, &main.mnuEditDesigns, &main.mnuSaveDesign})
+    for (menu_entry * each : {&main.mnuSeparator, &main.mnuImport, &main.mnuEditDesigns, &main.mnuSaveDesign})
         each->enable(false);
 }
 
