@@ -4,6 +4,7 @@
 //     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
 //     seed_art icon IN.svg OUT.bmp W H        a Windows bitmap of that size, 24 bits
 //     seed_art smaller IN.jpg OUT.jpg QUALITY  the same picture in less bytes, as a JPEG of that quality
+//     seed_art shrunk IN OUT.jpg WIDTH        a picture or a screen, narrower, as a JPEG for a page
 //     seed_art unlike ONE.jpg OTHER.jpg LEVELS fails when they differ by more levels on average
 //     seed_art png IN.svg OUT.png W H         a PNG of that size, clear where nothing is drawn
 //     seed_art collage LAYOUT OUT.jpg W H FOLDER  a small collage of the photos of that folder
@@ -15,6 +16,7 @@
 #include <QSvgRenderer>
 
 #include <FreeImage.h>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -26,6 +28,7 @@ namespace {
 
 constexpr int mask_size = 800;
 constexpr int picture_quality = 92;
+constexpr int page_quality = 84;
 
 struct unloader {
     void operator()(FIBITMAP * image) const { FreeImage_Unload(image); }
@@ -87,6 +90,16 @@ void compress(const char * picture, const char * target, int quality)
 {
     const image_owner image(FreeImage_Load(FIF_JPEG, picture, 0));
     save(FIF_JPEG, image, target, quality | JPEG_OPTIMIZE);
+}
+
+void shrink(const char * picture, const char * target, int width)
+{
+    const QImage whole(QString::fromLocal8Bit(picture));
+    if (whole.isNull())
+        throw std::runtime_error(std::string(picture) + ": no picture");
+    const QImage narrow = whole.convertToFormat(QImage::Format_RGB32)
+                              .scaledToWidth(std::min(width, whole.width()), Qt::SmoothTransformation);
+    save(FIF_JPEG, in_colour(narrow), target, page_quality | JPEG_OPTIMIZE | JPEG_SUBSAMPLING_444);
 }
 
 void hold_against(const char * one, const char * other, double limit)
@@ -153,6 +166,8 @@ void render(int count, char ** arguments)
         render_icon(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "smaller" && count == 5)
         compress(arguments[2], arguments[3], std::stoi(arguments[4]));
+    else if (kind == "shrunk" && count == 5)
+        shrink(arguments[2], arguments[3], std::stoi(arguments[4]));
     else if (kind == "unlike" && count == 5)
         hold_against(arguments[2], arguments[3], std::stod(arguments[4]));
     else if (kind == "png" && count == 6)
@@ -164,7 +179,8 @@ void render(int count, char ** arguments)
     else
         throw std::runtime_error(
             "mask IN OUT, picture, icon or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
-            "PHOTOS, smaller IN OUT QUALITY, unlike ONE OTHER LEVELS, or white OUT SIZE");
+            "PHOTOS, smaller IN OUT QUALITY, shrunk IN OUT WIDTH, unlike ONE OTHER LEVELS, or white OUT "
+            "SIZE");
 }
 
 }  // namespace
