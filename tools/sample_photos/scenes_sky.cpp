@@ -100,7 +100,7 @@ void crowd(canvas & photo, float top, float size, colour color, unsigned seed)
             oval(photo, head, near * 0.28F, near * 0.36F, color, 1, 0.003F);
             limb(photo, head + point{-near * 0.3F, near * 0.75F}, head + point{near * 0.3F, near * 0.75F},
                  near * 0.28F, near * 0.28F, color, 1, 0.003F);
-            box(photo, {head.x - near * 0.56F, head.y + near * 0.7F, head.x + near * 0.56F, 1}, color, 1,
+            box(photo, {head.x - near * 0.64F, head.y + near * 0.7F, head.x + near * 0.64F, 1}, color, 1,
                 0.003F);
             if (chance.next() > 0.62F) {
                 const float side = chance.next() > 0.5F ? 1.0F : -1.0F;

@@ -179,8 +179,11 @@ void skier(canvas & photo)
     limb(photo, at(0.125F, -0.18F), at(0.185F, -0.2F), 0.022F, 0.017F, sleeve, 1, 0.003F);
     disc(photo, at(0.195F, -0.2F), 0.018F, hex(0x20242c));
     limb(photo, at(0.195F, -0.2F), at(0.03F, -0.02F), 0.003F, 0.003F, hex(0x2a2a30));
-    ball(photo, at(0.085F, -0.305F), 0.044F, hex(0xf0f0f4), 0.05F, 765);
-    limb(photo, at(0.1F, -0.302F), at(0.127F, -0.3F), 0.017F, 0.014F, hex(0xf0a020), 1, 0.002F);
+    oval(photo, at(0.1F, -0.283F), 0.024F, 0.028F, hex(0xd89a78), 1, 0.002F);
+    ball(photo, at(0.083F, -0.308F), 0.041F, hex(0xf0f0f4), 0.05F, 765);
+    limb(photo, at(0.06F, -0.306F), at(0.105F, -0.297F), 0.006F, 0.006F, hex(0x20242c), 1, 0.002F);
+    limb(photo, at(0.105F, -0.299F), at(0.121F, -0.293F), 0.0115F, 0.009F, hex(0x20242c), 1, 0.002F);
+    limb(photo, at(0.109F, -0.299F), at(0.121F, -0.294F), 0.0075F, 0.006F, hex(0xf09020), 1, 0.002F);
     develop(photo, {.bloom = 0.2F, .vignette = 0.25F, .contrast = 0.25F, .seed = 35});
 }
 
