@@ -127,6 +127,7 @@ const std::map<std::string, option_reader> & readers()
     static const std::map<std::string, option_reader> table = {
         {"--photos", read_photos},
         {"--design", text_into(&batch_arguments::design)},
+        {"--frames", text_into(&batch_arguments::frames)},
         {"--quick", read_quick},
         {"--orientation", read_orientation},
         {"--set", read_setting},
@@ -188,6 +189,7 @@ std::string usage()
 
   --photos DIR|LIST.pls|FILE...   a folder of JPEG files, a photo list, or the photos themselves
   --design NAME                   a design of the catalogue, as --list names it
+  --frames SET                    the set of custom frames for a design that wears one
   --quick block|scattered|matrix|shapes
                                   a layout made for these photos, three or more, instead of a design; the shape is
                                   set by --set cmbShapes=Stars

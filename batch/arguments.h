@@ -11,6 +11,7 @@ struct batch_arguments {
     task wanted = task::make;
     std::vector<std::string> photos;  ///< one folder, one list, or files
     std::string design;
+    std::string frames;       ///< the frame set that a frame design wears
     std::string quick;        ///< style instead of a design: "block", "scattered", "matrix", "shapes"
     std::string orientation;  ///< "portrait", "landscape", "square"; empty: the one the design was drawn for
     std::vector<std::pair<std::string, std::string>> settings;  ///< control and value, in the order given

@@ -72,3 +72,8 @@ bitmap batch_desktop::draw_text(const text_request & request)
 {
     return drawn_text(request);
 }
+
+picture_size batch_desktop::text_size(const text_request & request)
+{
+    return size_of_text(request);
+}

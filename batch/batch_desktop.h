@@ -36,6 +36,7 @@ public:
     picture_size screen_room() override { return {.width = 1280, .height = 960}; }
     std::vector<std::string> font_names() override;
     bitmap draw_text(const text_request & request) override;
+    picture_size text_size(const text_request & request) override;
 
 private:
     void clear_progress();

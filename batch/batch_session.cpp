@@ -6,6 +6,8 @@
 #include "designs/chosen_design.h"
 #include "engine/flurn_driver.h"
 #include "engine/flurn_file.h"
+#include "frames/frame_sets.h"
+#include "frames/frames_template.h"
 #include "photos/photo_list.h"
 #include "quick/quick_controls.h"
 #include "quick/quick_match.h"
@@ -78,6 +80,19 @@ void note_misfit(const design_record & design, poster_shape shape)
                      view == design_view::landscape ? "landscape" : "portrait");
 }
 
+// What the set or the design lacks has been told by a message.
+void wear_frame_set(frmMain & main, const std::string & set)
+{
+    if (main.design_record.design != "Frame")
+        return;
+    if (set.empty() || !file_exists(joined(frame_set_folder(main, set), "design.ini")))
+        throw bad_arguments{"\"" + main.design_record.name + "\" wears custom frames: --frames names a set"};
+    main.frame_set_name = set;
+    if (!build_frames_template(main))
+        throw bad_arguments{"\"" + main.design_record.name + "\" can't wear the frames \"" + set + "\""};
+    main.design_record.file = "__frames";
+}
+
 // Leaves the session as the design browser leaves it after its Ok.
 void choose_design(frmMain & main, const batch_arguments & arguments)
 {
@@ -90,6 +105,7 @@ void choose_design(frmMain & main, const batch_arguments & arguments)
     settle_caption_clear(main.design_record);
     const updating guard(main);  // the photos are not there yet, so there is nothing to preview
     make_room_for_background(main);
+    wear_frame_set(main, arguments.frames);
     take_design(main,
                 {.section = main.design_record.section, .name = main.design_record.name, .shape = shape});
 }

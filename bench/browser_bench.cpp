@@ -1,8 +1,8 @@
 // Times the turn of a page in the design browser over a catalogue of 100 designs, with samples of their full
 // size: the session alone, and in its window up to the point where the page is painted.
 
+#include "bench/in_a_window.h"
 #include "desktop/binder.h"
-#include "desktop/looks.h"
 #include "desktop/windows_made.h"
 #include "session/connect_all.h"
 #include "session/windows.h"
@@ -12,8 +12,6 @@
 #include "tests/temporary_folder.h"
 
 #include <QApplication>
-
-#include <benchmark/benchmark.h>
 
 namespace {
 
@@ -83,9 +81,5 @@ BENCHMARK(turn_page_in_window)->Unit(benchmark::kMillisecond);
 
 int main(int count, char ** words)
 {
-    QApplication application(count, words);
-    apply_looks(application);
-    benchmark::Initialize(&count, words);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return benchmarks_in_a_window(count, words);
 }

@@ -1,9 +1,9 @@
 // Times a change of a setting in the finishing stage, with 40 photos whose thumbnails are there: from the
 // change in the session to the new preview in the painted window.
 
+#include "bench/in_a_window.h"
 #include "designs/catalogue.h"
 #include "desktop/binder.h"
-#include "desktop/looks.h"
 #include "desktop/windows_made.h"
 #include "photos/photo_list.h"
 #include "session/connect_all.h"
@@ -15,7 +15,6 @@
 
 #include <QApplication>
 
-#include <benchmark/benchmark.h>
 #include <cstdio>
 #include <filesystem>
 
@@ -149,9 +148,5 @@ BENCHMARK_CAPTURE(collage_caption, over_a_background, over_a_background)->Unit(b
 
 int main(int count, char ** words)
 {
-    QApplication application(count, words);
-    apply_looks(application);
-    benchmark::Initialize(&count, words);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return benchmarks_in_a_window(count, words);
 }

@@ -3,6 +3,7 @@
 #include "designs/theme_sample.h"
 #include "designs/theme_steps.h"
 #include "frames/frame_sets.h"
+#include "frames/frames_template.h"
 #include "session/handlers.h"
 #include "support/show_help.h"
 
@@ -94,16 +95,20 @@ void load_themes(windows & all)
     window.optAll.select();
 }
 
-// True once the design wears a frame set. Their chooser isn't offered yet: it counts as cancelled.
-bool choose_frame_set(windows & all)
+// True once the design wears a frame set. The window closes when the user backs out, or when the set doesn't
+// go with the design.
+bool wears_frame_set(windows & all)
 {
     all.main.frames_design = all.main.use_list_of_frame = false;
-    all.main.frame_set_name.clear();
-    if (start_custom_frames(all.main).empty())
-        all.main.desk.message("You have no custom frames at this time.");
-    else
+    if (!offer_frame_sets(all.main))
+        return false;
+    if (!choose_frame_set(all.main) || !build_frames_template(all.main)) {
         all.themes.unload();
-    return false;
+        return false;
+    }
+    all.main.design_record.file = "__frames";
+    offer_list_of_frame_set(all.main);
+    return true;
 }
 
 chosen_design choice_of(frmThemes & window)
@@ -123,7 +128,7 @@ void cmdOk_click(windows & all)
     if (window.selected_index < 0)
         return;
     make_room_for_background(all.main);
-    if (all.main.design_record.design == "Frame" && !choose_frame_set(all))
+    if (all.main.design_record.design == "Frame" && !wears_frame_set(all))
         return;
     if (window.chkRandom.ticked() && window.optScatter.selected())
         all.main.chkRandom.show(false);

@@ -43,14 +43,16 @@ private:
     bool option_key(QRadioButton & option, int pressed);
     bool moved_about(int pressed);
     bool double_clicked(const QObject & watched);
+    bool return_pressed(const QObject & watched, int pressed);
+    void focus_moved(const QObject & watched, const QFocusEvent & event);
+    void pressed_on(const QObject & watched);
 
     form & bound;
     QWidget & window;
     window_hooks hooks;
     focus_keeper focus;
     QHash<QString, QWidget *> behind;  // what each covering control hides
-    QHash<QObject *, text_box *> boxes;
-    QHash<QObject *, label *> labels;
+    QHash<const QObject *, control *> shown_by;
     bool is_hidden = false;  // by its form
     int actions = 0;         // of the user, one inside the other
 };
@@ -99,10 +101,7 @@ void binding::bind_control(control & held)
     } else {
         found->setObjectName(QString::fromStdString(held.name()));
     }
-    if (auto * const text = dynamic_cast<text_box *>(&held))
-        boxes.insert(found, text);
-    if (auto * const text = dynamic_cast<label *>(&held))
-        labels.insert(found, text);
+    shown_by.insert(found, &held);
     bind_focus(held, *found);
     listen(held, *found, *this, [this, &held, found](const std::function<void()> & step) {
         act(step);
@@ -123,6 +122,12 @@ void binding::bind_focus(control & held, QObject & found)
             if (widget)
                 widget->setFocus(Qt::OtherFocusReason);
         };
+    if (auto * const line = qobject_cast<QLineEdit *>(&found))
+        if (auto * const text = dynamic_cast<text_box *>(&held))
+            text->on_select_all = [line = QPointer(line)] {
+                if (line)
+                    line->selectAll();
+            };
     auto * const entry = dynamic_cast<menu_entry *>(&held);
     auto * const action = qobject_cast<QAction *>(&found);
     if (entry && action && action->menu())
@@ -223,6 +228,8 @@ bool binding::eventFilter(QObject * watched, QEvent * event)
     }
     if (event->type() == QEvent::KeyPress) {
         const auto & pressed = static_cast<const QKeyEvent &>(*event);
+        if (return_pressed(*watched, pressed.key()))
+            return true;
         auto * const option = qobject_cast<QRadioButton *>(watched);
         if ((option || watched == &window) && moved_about(pressed.key()))
             return true;
@@ -230,16 +237,44 @@ bool binding::eventFilter(QObject * watched, QEvent * event)
     }
     if (event->type() == QEvent::MouseButtonDblClick)
         return double_clicked(*watched);
-    if (event->type() == QEvent::FocusIn && boxes.contains(watched)) {
-        const Qt::FocusReason reason = static_cast<const QFocusEvent *>(event)->reason();
-        if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
-            reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
-            act([box = boxes.value(watched)] { fire(box->on_enter); });
-    }
-    if (event->type() == QEvent::MouseButtonRelease && labels.contains(watched) &&
-        labels.value(watched)->on_click)
-        act([text = labels.value(watched)] { text->click(); });
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        focus_moved(*watched, static_cast<const QFocusEvent &>(*event));
+    if (event->type() == QEvent::MouseButtonRelease)
+        pressed_on(*watched);
     return false;
+}
+
+bool binding::return_pressed(const QObject & watched, int pressed)
+{
+    auto * const box = dynamic_cast<text_box *>(shown_by.value(&watched));
+    if (!box || !box->on_return || (pressed != Qt::Key_Return && pressed != Qt::Key_Enter))
+        return false;
+    act([box] { box->on_return(); });
+    return true;
+}
+
+// A window that is covered by another for a while, or that shows a menu, keeps its focus as far as the
+// session goes.
+void binding::focus_moved(const QObject & watched, const QFocusEvent & event)
+{
+    control * const held = shown_by.value(&watched);
+    const Qt::FocusReason reason = event.reason();
+    const bool by_user = reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+                         reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    if (held && by_user && event.gotFocus() && held->on_enter)
+        act([held] { held->on_enter(); });
+    if (held && (by_user || reason == Qt::OtherFocusReason) && event.lostFocus() && held->on_leave &&
+        bound.loaded())
+        act([held] { held->on_leave(); });
+}
+
+void binding::pressed_on(const QObject & watched)
+{
+    control * const held = shown_by.value(&watched);
+    if (auto * const text = dynamic_cast<label *>(held); text && text->on_click)
+        act([text] { text->click(); });
+    if (auto * const frame = dynamic_cast<group *>(held); frame && frame->on_click)
+        act([frame] { frame->click(); });
 }
 
 // Keys arrive here when no widget of the window took them; a text field takes its "?".

@@ -300,6 +300,11 @@ bitmap qt_desktop::draw_text(const text_request & request)
     return drawn_text(request);
 }
 
+picture_size qt_desktop::text_size(const text_request & request)
+{
+    return size_of_text(request);
+}
+
 int qt_desktop::run()
 {
     if (windows.empty())

@@ -33,6 +33,7 @@ public:
     picture_size screen_room() override;
     std::vector<std::string> font_names() override;
     bitmap draw_text(const text_request & request) override;
+    picture_size text_size(const text_request & request) override;
 
     /// Runs the application until the last window has gone, and gives its status.
     int run();

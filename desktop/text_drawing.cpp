@@ -18,6 +18,13 @@ QColor color_of(rgb_triple color)
     return {color.red, color.green, color.blue};
 }
 
+// At least one pixel: a text of marks without a width of their own is still a text.
+QSize measured(const QFontMetrics & metrics, const QString & text, int extra_width)
+{
+    const int width = std::min(widest_text, metrics.horizontalAdvance(text) + extra_width);
+    return {std::max(1, width), metrics.height()};
+}
+
 // The painter's rows count from the top and hold four bytes a pixel, blue first; the bitmap's count from the
 // bottom.
 bitmap bitmap_of(const QImage & painted)
@@ -44,8 +51,7 @@ bitmap drawn_text(const text_request & request)
         return {};
     const QFont font = pixel_font(request.font);
     const QFontMetrics metrics(font);
-    const int width = std::min(widest_text, metrics.horizontalAdvance(text) + request.extra_width);
-    QImage painted(std::max(1, width), metrics.height(), QImage::Format_RGB32);
+    QImage painted(measured(metrics, text, request.extra_width), QImage::Format_RGB32);
     painted.fill(color_of(request.background));
     QPainter painter(&painted);
     painter.setRenderHint(QPainter::TextAntialiasing);
@@ -54,6 +60,15 @@ bitmap drawn_text(const text_request & request)
     painter.drawText(0, metrics.ascent(), text);
     painter.end();
     return bitmap_of(painted);
+}
+
+picture_size size_of_text(const text_request & request)
+{
+    const QString text = shown(request.text);
+    if (text.isEmpty())
+        return {};
+    const QSize size = measured(QFontMetrics(pixel_font(request.font)), text, request.extra_width);
+    return {.width = size.width(), .height = size.height()};
 }
 
 std::vector<std::string> installed_fonts()

@@ -11,5 +11,8 @@
 /// No bitmap for an empty text.
 bitmap drawn_text(const text_request & request);
 
+/// The size of that bitmap.
+picture_size size_of_text(const text_request & request);
+
 /// The names of the installed fonts, in alphabetical order.
 std::vector<std::string> installed_fonts();

@@ -1,5 +1,6 @@
 #include "photos/saved_lists.h"
 #include "session/handlers.h"
+#include "support/list_faces.h"
 #include "support/paths.h"
 #include "support/show_help.h"
 
@@ -7,23 +8,9 @@
 
 namespace {
 
-void load_chooser(frmPictureList & window)
+list_buttons buttons_of(frmPictureList & window)
 {
-    window.cmdDone.set_caption("Ok");
-    window.cmdDone.enable(false);
-    window.cmdDelete.set_caption("Cancel");
-    window.cmdDelete.enable(true);
-    window.cmdEdit.show(false);
-}
-
-void load_manager(frmPictureList & window)
-{
-    window.cmdDone.set_caption("Done");
-    window.cmdDone.enable(true);
-    window.cmdDelete.set_caption("Delete");
-    window.cmdDelete.enable(false);
-    window.cmdEdit.show(true);
-    window.cmdEdit.enable(false);
+    return {.done = window.cmdDone, .erase = window.cmdDelete, .edit = window.cmdEdit};
 }
 
 void load_picture_list(windows & all)
@@ -31,15 +18,9 @@ void load_picture_list(windows & all)
     start_photo_list(all.main);
     all.picture_list.txtCounting.show(false);
     if (all.main.photo_list_edit_mode)
-        load_manager(all.picture_list);
+        show_manager_face(buttons_of(all.picture_list));
     else
-        load_chooser(all.picture_list);
-}
-
-void lstPictures_click(frmPictureList & window)
-{
-    for (button * each : {&window.cmdDelete, &window.cmdEdit, &window.cmdDone})
-        each->enable(true);
+        show_chooser_face(buttons_of(all.picture_list));
 }
 
 std::string selected_list(const windows & all)
@@ -77,8 +58,7 @@ void delete_selected(windows & all)
         return;
     delete_file(selected_list(all));
     window.lstPictures.remove_item(window.lstPictures.list_index());
-    window.cmdDelete.enable(false);
-    window.cmdEdit.enable(false);
+    forbid_changes(buttons_of(window));
 }
 
 void cmdDelete_click(windows & all)
@@ -120,7 +100,7 @@ void connect_frmPictureList(windows & all)
 {
     frmPictureList & window = all.picture_list;
     window.on_load = [&all] { load_picture_list(all); };
-    window.lstPictures.on_click = [&window] { lstPictures_click(window); };
+    window.lstPictures.on_click = [&window] { allow_all(buttons_of(window)); };
     window.lstPictures.on_double_click = [&all] { lstPictures_double_click(all); };
     window.cmdDone.on_click = [&all] { cmdDone_click(all); };
     window.cmdDelete.on_click = [&all] { cmdDelete_click(all); };

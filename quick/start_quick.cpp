@@ -14,7 +14,7 @@ namespace {
 
 constexpr int fewest_photos = 3;
 
-void clear_stage(frmMain & main)
+void forget_last_collage(frmMain & main)
 {
     const quick_state fresh;
     main.quick = fresh;
@@ -204,7 +204,7 @@ bool start_quick(frmMain & main)
 
 bool begin_quick(frmMain & main, const std::function<void()> & choose_photos)
 {
-    clear_stage(main);
+    forget_last_collage(main);
     if (!photos_chosen(main, choose_photos))
         return false;
     start_enable_true(main);

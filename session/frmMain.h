@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designers/lettering_choices.h"
 #include "designs/catalogue_state.h"
 #include "designs/design_record.h"
 #include "designs/location.h"
@@ -198,13 +199,17 @@ struct frmMain : form {
     bool random_design = false;  ///< a plain design of the catalogue
     bool stretch_design = false;
     bool matrix_both = false, matrix_rotate = false, matrix_resize = false;
-    bool matrix_session = false;
+    bool matrix_session = false;                            ///< a matrix of the designer is in force
+    std::string matrix_size;                                ///< rows and columns of the last one, "2x3"
+    lettering_choices lettering{};                          ///< as its designer was left
     bool square_background = false, run_landscape = false;  ///< shape of the last full-size run
     bool matrix_portrait = true;                            ///< the poster of the matrix designer
     bool frames_design = false, frames_inside = false;
     bool borders_free = true;
     std::string frame_set_name;
     bool use_list_of_frame = false;
+    bool frame_manage_mode = false;  ///< frame sets are managed, not chosen from
+    std::string icon_path;           ///< the picture that is to become an icon
     int16 next_design_number = 0;
 
     // The photos.

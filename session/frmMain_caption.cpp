@@ -63,6 +63,13 @@ void cmdFont_click(frmMain & main)
     refresh_after_change(main);
 }
 
+// A design may leave no room for a caption.
+void open_caption(frmMain & main)
+{
+    if (main.txtCaption.enabled())
+        main.desk.show_modal(main.all->caption_text);
+}
+
 }  // namespace
 
 void connect_caption(frmMain & main)
@@ -72,5 +79,6 @@ void connect_caption(frmMain & main)
     main.cmbSize.on_click = [&main] { take_size(main); };
     main.chkClear.on_change = [&main] { refresh_after_change(main); };
     main.optTop.on_click = main.optBottom.on_click = [&main] { refresh_after_change(main); };
+    main.frmCaption.on_click = [&main] { open_caption(main); };
     main.cmdFont.on_click = [&main] { cmdFont_click(main); };
 }

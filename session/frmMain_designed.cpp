@@ -3,24 +3,10 @@
 #include "session/handlers.h"
 #include "session/new_poster.h"
 #include "session/window_state.h"
-#include "support/colors.h"
 
 // " Designed flurn": a design of the catalogue, then the photos for it.
 
 namespace {
-
-void clear_stage(frmMain & main)
-{
-    main.picSplash.show(false);
-    main.quick_active = main.quick_first_pass = false;
-    main.quick_spacing_changed = main.quick_border = false;
-    main.set_back_color(about_background);
-    main.matrix_both = main.matrix_rotate = main.matrix_resize = false;
-    main.design_rotated = main.design_flipped = main.design_mirrored = false;
-    main.lblBlanks.show(false);
-    main.cmbBlanks.show(false);
-    main.cmbBlanks.set_text("0");
-}
 
 // A folder is in the table when its chooser closes. A choice cancelled for an earlier collage doesn't count.
 void ask_for_photos(frmMain & main)

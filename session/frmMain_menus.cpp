@@ -5,14 +5,6 @@
 
 namespace {
 
-// Their dialogs aren't offered yet; a divider is never to be chosen.
-void disable_unanswered(frmMain & main)
-{
-    for (menu_entry * each : {&main.mnuMatrix, &main.mnuLettering, &main.mnuPuzzle, &main.mnuSeparator,
-                              &main.mnuNewFrame, &main.mnuEditFrame, &main.mnuIcon})
-        each->enable(false);
-}
-
 void cleanup_memory(frmMain & main)
 {
     main.trace = " ZZ " + main.trace;
@@ -46,7 +38,7 @@ bool may_close(frmMain & main)
 
 void connect_menus(frmMain & main)
 {
-    disable_unanswered(main);
+    main.mnuSeparator.enable(false);  // a divider, never to be chosen
     main.mnuQuit.on_click = [&main] { mnuQuit_click(main); };
     main.on_query_unload = [&main] { return may_close(main); };
     main.mnuHelpTopics.on_click = [&main] { show_help(main, "help_main.htm"); };

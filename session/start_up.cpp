@@ -170,4 +170,5 @@ void clear_matrix_design(frmMain & main)
 {
     delete_file(joined(in_data(main, "designs"), "__matrix"));
     main.mnuSaveDesign.enable(false);
+    main.matrix_session = false;
 }

@@ -1,5 +1,7 @@
 #include "session/window_state.h"
 
+#include "support/colors.h"
+
 #include <array>
 
 namespace {
@@ -86,6 +88,21 @@ void show_menus(frmMain & main, bool show)
         each->show(show);
     main.menus_shown = show;
     main.set_caption(show ? "F l u r n s" : "F i n i s h i n g   t o u c h e s");
+}
+
+void clear_stage(frmMain & main)
+{
+    main.picSplash.show(false);
+    main.quick_active = main.quick_first_pass = false;
+    main.quick_spacing_changed = main.quick_border = false;
+    main.set_back_color(about_background);
+    main.matrix_both = main.matrix_rotate = main.matrix_resize = false;
+    main.stretch_design = main.design_rotated = main.design_flipped = main.design_mirrored = false;
+    main.frames_design = main.use_list_of_frame = false;
+    main.frame_set_name.clear();  // a set of another collage would bring its photo list along
+    main.lblBlanks.show(false);
+    main.cmbBlanks.show(false);
+    main.cmbBlanks.set_text("0");
 }
 
 void enable_all(frmMain & main)

@@ -1,9 +1,18 @@
 #pragma once
 
+#include "designers/frmLettering.h"
+#include "designers/frmMatrix.h"
+#include "designers/frmPuzzle.h"
 #include "designs/frmDesigns.h"
 #include "designs/frmNewDesign.h"
 #include "designs/frmThemes.h"
 #include "engine/frmImage.h"
+#include "frames/frmCaptionText.h"
+#include "frames/frmCaptions.h"
+#include "frames/frmCustom.h"
+#include "frames/frmFrameName.h"
+#include "frames/frmFrames.h"
+#include "frames/frmIconName.h"
 #include "photos/frmPhotoCnt.h"
 #include "photos/frmPhotoList.h"
 #include "photos/frmPictureList.h"
@@ -30,6 +39,15 @@ struct windows {
     frmThemes themes;
     frmNewDesign new_design;
     frmDesigns designs;
+    frmCustom custom;
+    frmFrameName frame_name;
+    frmFrames frames;
+    frmCaptions captions;
+    frmIconName icon_name;
+    frmCaptionText caption_text;
+    frmMatrix matrix;
+    frmLettering lettering;
+    frmPuzzle puzzle;
     frmImage image;
     frmSize size;
     frmFont font;
@@ -38,7 +56,9 @@ struct windows {
     /// Every window but the main one, in the order above.
     std::vector<form *> others()
     {
-        return {&photo_count, &select_photos, &photo_list, &picture_name, &picture_list, &pictures, &themes,
-                &new_design,  &designs,       &image,      &size,         &font,         &about};
+        return {&photo_count, &select_photos, &photo_list,   &picture_name, &picture_list, &pictures,
+                &themes,      &new_design,    &designs,      &custom,       &frame_name,   &frames,
+                &captions,    &icon_name,     &caption_text, &matrix,       &lettering,    &puzzle,
+                &image,       &size,          &font,         &about};
     }
 };

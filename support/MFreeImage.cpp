@@ -25,6 +25,27 @@ bitmap made(FIBITMAP * result)
     return bitmap(result);
 }
 
+// Masks are grey, and so is many an old photo.
+bool is_grey(const bitmap & image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const std::span<const std::uint8_t> row = image.row(y);
+        for (std::size_t at = 0; at + 2 < row.size(); at += pixel_bytes)
+            if (row[at] != row[at + 1] || row[at] != row[at + 2])
+                return false;
+    }
+    return true;
+}
+
+// The same pixels as with three equal channels, in about half the time.
+bitmap rescaled_grey(const bitmap & image, int width, int height)
+{
+    const bitmap channel(FreeImage_GetChannel(image.get(), FICC_RED));
+    if (!channel)
+        return {};
+    return in_24_bits(FreeImage_Rescale(channel.get(), width, height, FILTER_BILINEAR));
+}
+
 std::string encoded(const bitmap & image, FREE_IMAGE_FORMAT format, int flags)
 {
     const std::unique_ptr<FIMEMORY, void (*)(FIMEMORY *)> memory(FreeImage_OpenMemory(),
@@ -137,6 +158,8 @@ bitmap rescaled(const bitmap & image, int width, int height)
 {
     if (!image || width <= 0 || height <= 0)
         return {};
+    if (is_grey(image))
+        return rescaled_grey(image, width, height);
     return made(FreeImage_Rescale(image.get(), width, height, FILTER_BILINEAR));
 }
 

@@ -77,6 +77,8 @@ public:
     /// The text drawn in a bitmap as wide as the text and `extra_width`, as high as the text's line. No
     /// bitmap for an empty text.
     virtual bitmap draw_text(const text_request & request) = 0;
+    /// The size of that bitmap; nothing is drawn where the platform knows it beforehand.
+    virtual picture_size text_size(const text_request & request);
 };
 
 /// The busy pointer while it lives.

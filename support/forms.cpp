@@ -94,6 +94,11 @@ bool button::set_as_user(std::string_view)
     return true;
 }
 
+void group::click()
+{
+    fire(on_click);
+}
+
 void label::click()
 {
     fire(on_click);
@@ -185,6 +190,11 @@ bool option_button::set_as_user(std::string_view text)
     if (wanted && *wanted)
         select();
     return wanted.has_value() && *wanted;  // a user can't deselect an option
+}
+
+void text_box::select_all() const
+{
+    fire(on_select_all);
 }
 
 void text_box::set_text(std::string text)

@@ -65,6 +65,9 @@ public:
     std::function<void()> on_shown_change;
     std::function<void()> on_take_focus;  ///< likewise
 
+    /// The user moved the keyboard to it, or away from it.
+    std::function<void()> on_enter, on_leave;
+
 protected:
     void changed() const;
 
@@ -81,6 +84,8 @@ private:
 class group : public control {
 public:
     using control::control;
+    std::function<void()> on_click;  ///< beside the controls in it
+    void click();
 };
 
 class label : public control {
@@ -219,7 +224,10 @@ public:
     const font_style & font() const { return shown_font; }
     void set_font(const font_style & font);
     std::function<void()> on_change;
-    std::function<void()> on_enter;  ///< the focus came in
+    std::function<void()> on_return;  ///< the Enter key; without it that key is the window's
+    /// Marks all its text, so that what is typed next replaces it.
+    void select_all() const;
+    std::function<void()> on_select_all;  ///< set by whoever shows the box
     std::string value() const override { return shown_text; }
     bool set_as_user(std::string_view text) override;
 

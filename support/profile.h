@@ -23,3 +23,9 @@ private:
 /// The text behind "=" as such a file gives it: without blanks at its ends, without one pair of quotes, cut
 /// to `limit` - 1 bytes.
 std::string profile_text(std::string_view written, std::size_t limit = 255);
+
+/// The text of such a file with that value: put in the place of the one that the key has in the first section
+/// of the name, else added at that section's end; a section that isn't there is added at the end of the text.
+/// A line end inside the value becomes a blank.
+std::string with_profile_value(std::string_view text, std::string_view section, std::string_view key,
+                               std::string_view value);

@@ -17,6 +17,11 @@ Value taken(std::deque<Value> & queue, const std::string & what)
     return value;
 }
 
+double pixels_of(const text_request & request)
+{
+    return request.font.size * 96 / 72;
+}
+
 }  // namespace
 
 scripted_desktop::~scripted_desktop()
@@ -138,15 +143,24 @@ print_result scripted_desktop::print(const bitmap & image, page orientation)
     return next_print;
 }
 
+picture_size scripted_desktop::text_size(const text_request & request)
+{
+    if (request.text.empty())
+        return {};
+    const int step = static_cast<int>(std::lround(pixels_of(request) * 0.7));
+    return {.width = step * static_cast<int>(request.text.size()) + request.extra_width,
+            .height = static_cast<int>(std::lround(pixels_of(request)))};
+}
+
 bitmap scripted_desktop::draw_text(const text_request & request)
 {
     drawn_texts.push_back(request);
     if (request.text.empty())
         return {};
-    const double pixels = request.font.size * 96 / 72;
+    const double pixels = pixels_of(request);
     const int step = static_cast<int>(std::lround(pixels * 0.7));
-    const int height = static_cast<int>(std::lround(pixels));
-    bitmap image(step * static_cast<int>(request.text.size()) + request.extra_width, height);
+    const auto [width, height] = text_size(request);
+    bitmap image(width, height);
     fill(image, request.background);
     for (std::size_t i = 0; i < request.text.size(); ++i)
         if (request.text[i] != ' ')

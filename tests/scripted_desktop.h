@@ -73,6 +73,7 @@ public:
     std::vector<std::string> font_names() override { return fonts; }
     /// Draws each character but the blank as a bar of 0.6 by 0.8 of the size in pixels, 0.1 from the top.
     bitmap draw_text(const text_request & request) override;
+    picture_size text_size(const text_request & request) override;
 
 private:
     struct modal_play {

@@ -88,7 +88,7 @@ TEST(batch_arguments, what_is_missing_or_wrong_is_named)
 TEST(batch_arguments, the_usage_names_every_option)
 {
     for (const char * option :
-         {"--photos", "--design", "--quick", "--orientation", "--set", "--caption", "--size", "--random",
-          "--data", "--preview", "--answer", "--out", "--list", "--dump", "--help", "--version"})
+         {"--photos", "--design", "--frames", "--quick", "--orientation", "--set", "--caption", "--size",
+          "--random", "--data", "--preview", "--answer", "--out", "--list", "--dump", "--help", "--version"})
         EXPECT_NE(usage().find(option), std::string::npos) << option;
 }

@@ -23,8 +23,7 @@ hostile_package entry(const std::string & why, const std::string & name, std::ui
 {
     return {why,
             {manifest("$$$ icons\nx x.bmp\n"), {.name = name, .bytes = "evil", .unix_mode = mode}},
-            "This design package may not hold the entry '" + name +
-                "'.\r\nThe new design was not imported."};
+            "This design package may not hold the entry '" + name + "'.\r\nThe new design was not imported."};
 }
 
 // The refused command stands behind harmless ones: they aren't carried out either.

@@ -269,10 +269,61 @@ TEST(starter_designs, together_they_reach_every_road_of_the_engine)
     EXPECT_EQ(layers, (std::set<std::size_t>{1, 3}));
     EXPECT_GE(scatters, 2);
     EXPECT_EQ(values["Style"], (std::set<std::string>{"Place", "Fill", "Matrix"}));
-    EXPECT_EQ(values["Design"], (std::set<std::string>{"Block", "Scatter", "Theme"}));
+    EXPECT_EQ(values["Design"], (std::set<std::string>{"Block", "Scatter", "Theme", "Frame"}));
     EXPECT_EQ(values["Background"], (std::set<std::string>{"Portrait", "Landscape"}));
+    EXPECT_EQ(values.size(), 29u);  // every key of the catalogue
     for (const char * size : {"Adjust", "45", "Color", "None"})
         EXPECT_TRUE(values["Frames"].contains(size)) << size;
     EXPECT_TRUE(values["Soft Edge"].contains("Yes"));
     EXPECT_TRUE(values["Block"].contains("Yes"));
+}
+
+TEST(starter_designs, every_family_offers_a_choice)
+{
+    std::map<std::string, int> members;
+    std::set<std::string> counts;
+    for (const design & one : starters()) {
+        ++members[one["Design"]];
+        counts.insert(one["Count"]);
+    }
+    EXPECT_GE(members["Block"], 20);
+    EXPECT_GE(members["Scatter"], 20);
+    EXPECT_GE(members["Theme"], 16);
+    EXPECT_GE(members["Frame"], 8);
+    EXPECT_TRUE(counts.contains("3"));
+    EXPECT_TRUE(counts.contains("60"));
+}
+
+TEST(starter_designs, those_of_custom_frames_come_last_and_offer_both_orientations)
+{
+    bool framed = false;
+    std::set<std::string> orientations;
+    for (const design & one : starters()) {
+        EXPECT_FALSE(framed && one["Design"] != "Frame") << one["Name"];
+        framed = one["Design"] == "Frame";
+        if (framed)
+            orientations.insert(one["Background"]);
+    }
+    EXPECT_EQ(orientations, (std::set<std::string>{"Portrait", "Landscape"}));
+}
+
+TEST(starter_designs, a_photo_in_a_custom_frame_lies_within_it_and_has_its_orientation)
+{
+    for (const design & one : starters()) {
+        if (one["Design"] != "Frame")
+            continue;
+        const std::vector<place> places = places_of(one);
+        ASSERT_EQ(places.size() % 2, 0u) << one["Name"];
+        for (std::size_t i = 0; i < places.size(); i += 2) {
+            const place & frame = places[i];
+            const place & photo = places[i + 1];
+            EXPECT_EQ(frame.file, frame.height > frame.width ? "@/pframe" : "@/lframe") << one["Name"];
+            EXPECT_EQ(frame.height > frame.width, photo.height > photo.width) << one["Name"];
+            EXPECT_TRUE(photo.file.empty()) << one["Name"];
+            EXPECT_TRUE(frame.top < photo.top && frame.left < photo.left &&
+                        photo.top + photo.height < frame.top + frame.height &&
+                        photo.left + photo.width < frame.left + frame.width)
+                << one["Name"];
+        }
+    }
 }

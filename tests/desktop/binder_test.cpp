@@ -176,6 +176,63 @@ TEST(binder, coming_into_a_box_fires_its_enter_handler_and_code_that_puts_the_fo
     EXPECT_EQ(entries, 1);
 }
 
+TEST(binder, leaving_a_control_is_told_however_it_came_about_but_not_when_a_menu_covers_it)
+{
+    bound_form shown;
+    int exits = 0;
+    shown.held.txtName.on_leave = [&] { ++exits; };
+    for (const auto & [reason, told] : {std::pair{Qt::OtherFocusReason, 1},
+                                        {Qt::TabFocusReason, 2},
+                                        {Qt::PopupFocusReason, 2},
+                                        {Qt::ActiveWindowFocusReason, 2}}) {
+        shown.name->setFocus();
+        shown.other->setFocus(reason);
+        EXPECT_EQ(exits, told);
+    }
+}
+
+TEST(binder, a_button_tells_that_the_keyboard_came_to_it)
+{
+    bound_form shown;
+    int entries = 0;
+    shown.held.cmdGo.on_enter = [&] { ++entries; };
+    shown.go->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(entries, 1);
+}
+
+TEST(binder, the_enter_key_belongs_to_a_box_that_answers_it)
+{
+    bound_form shown;
+    int clicks = 0, returns = 0;
+    shown.held.cmdGo.on_click = [&] { ++clicks; };
+    shown.go->setDefault(true);
+    shown.name->setFocus();
+    QTest::keyClick(shown.name, Qt::Key_Return);
+    EXPECT_EQ(clicks, 1);
+    shown.held.txtName.on_return = [&] { ++returns; };
+    QTest::keyClick(shown.name, Qt::Key_Return);
+    QTest::keyClick(shown.name, Qt::Key_Enter);
+    EXPECT_EQ(returns, 2);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(binder, a_frame_is_clicked_beside_what_stands_in_it)
+{
+    bound_form shown;
+    int clicks = 0;
+    shown.held.frmAll.on_click = [&] { ++clicks; };
+    QTest::mouseClick(shown.all, Qt::LeftButton, {}, QPoint(2, shown.all->height() - 2));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(binder, a_box_marks_its_text_when_the_form_asks_for_it)
+{
+    bound_form shown;
+    shown.held.txtName.set_text("Summer");
+    shown.held.txtName.select_all();
+    EXPECT_EQ(shown.name->selectedText().toStdString(), "Summer");
+}
+
 TEST(binder, an_entry_is_chosen_by_mouse_and_by_keys)
 {
     bound_form shown;

@@ -14,6 +14,7 @@
 #include "window_views.h"
 
 #include <QApplication>
+#include <QImage>
 
 #include <cstdio>
 
@@ -69,6 +70,33 @@ void draw_stages(filled_session & session, const QString & folder)
             }
 }
 
+// A collage of a special designer, from its menu entry to the finished picture.
+void draw_designed(filled_session & session, menu_entry & entry, const QString & target)
+{
+    frmMain & main = session.all.main;
+    session.desk.on_modal<frmSelectPhotos>([](frmSelectPhotos & window) { window.cmdOk.click(); });
+    entry.click();
+    session.desk.on_modal<frmImage>([&](frmImage &) {
+        const QImage whole(QString::fromStdString(finished_path(main)));
+        if (!whole.scaledToWidth(400, Qt::SmoothTransformation).save(target))
+            std::fprintf(stderr, "%s can't be written\n", qPrintable(target));
+    });
+    main.cmdFlurn.click();
+}
+
+void draw_designed_collages(filled_session & session, const QString & folder)
+{
+    frmMain & main = session.all.main;
+    session.desk.on_modal<frmLettering>([](frmLettering & window) {
+        window.txtLettering.set_text("We\r\nlove\r\nsummer\r\n2026");
+        window.chkCenter.tick(true);
+        window.cmdOk.click();
+    });
+    draw_designed(session, main.mnuLettering, folder + QStringLiteral("/flurn_lettering.png"));
+    session.desk.on_modal<frmPuzzle>([](frmPuzzle & window) { window.cmdOk.click(); });
+    draw_designed(session, main.mnuPuzzle, folder + QStringLiteral("/flurn_puzzle.png"));
+}
+
 void draw_views(filled_session & session, const QString & folder)
 {
     for (const window_view & view : session.views()) {
@@ -101,5 +129,7 @@ int main(int count, char ** words)
     make_collage(session);
     draw_views(session, arguments[1]);
     draw_stages(session, arguments[1]);
+    filled_session fresh;
+    draw_designed_collages(fresh, arguments[1]);
     return 0;
 }

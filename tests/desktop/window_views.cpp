@@ -163,10 +163,70 @@ void filled_session::add_design_views(std::vector<window_view> & views)
                      .window = &all.designs,
                      .prepare =
                          [this] {
-                             all.designs.lstDesigns.set_items(
-                                 {"Summer wall", "Grandmother's birthday", "Three by four", "Stars at night"});
+                             all.designs.lstDesigns.set_items({"Summer wall", "Grandmother's birthday",
+                                                               "Three by four", "Stars at night"});
                          },
                      .fill = [this] { all.designs.lstDesigns.select(1); }});
+}
+
+// A set that is supplied with the program, as it is edited.
+void filled_session::add_frame_views(std::vector<window_view> & views)
+{
+    const auto edit = [this] { all.custom.edit_frame_name = "cardinals"; };
+    views.push_back({.name = "frmCustom_manager",
+                     .window = &all.custom,
+                     .prepare = [this] { all.main.frame_manage_mode = true; },
+                     .fill =
+                         [this] {
+                             all.main.frame_manage_mode = false;
+                             all.custom.lstFrames.select(1);
+                         }});
+    views.push_back({.name = "frmFrames", .window = &all.frames, .prepare = edit, .fill = {}});
+    views.push_back(
+        {.name = "frmFrames_rendering", .window = &all.frames, .prepare = edit, .fill = [this] {
+             for (button * each : {&all.frames.cmdSave, &all.frames.cmdCancel, &all.frames.cmdHelp})
+                 each->show(false);
+             all.frames.lblCount.set_caption("Generating number  12 of  36 frames");
+             all.frames.lblCount.show(true);
+         }});
+    for (const char * list : {"None", "Summer by the sea"})
+        views.push_back({.name = std::string("frmCaptions") + (list[0] == 'N' ? "" : "_with_list"),
+                         .window = &all.captions,
+                         .prepare =
+                             [this, edit, list] {
+                                 edit();
+                                 all.frames.cmbPhotos.set_text(list);
+                             },
+                         .fill = {}});
+}
+
+// The designers as they look in the middle of the work.
+void filled_session::add_designer_views(std::vector<window_view> & views)
+{
+    views.push_back({.name = "frmMatrix_shaken", .window = &all.matrix, .prepare = {}, .fill = [this] {
+                         all.matrix.optLandscapePoster.select();
+                         all.matrix.optBoth.select();
+                         all.matrix.cmbRows.set_text("4");
+                         all.matrix.chkResize.tick(true);
+                         all.matrix.chkRotate.tick(true);
+                     }});
+    const auto letter = [this](const char * text, option_button & placing, option_button & shape) {
+        all.main.lettering.text = text;
+        all.lettering.txtLettering.set_text(text);
+        placing.select();
+        shape.select();
+    };
+    views.push_back({.name = "frmLettering", .window = &all.lettering, .prepare = {}, .fill = [this, letter] {
+                         letter("Summer\n2026", all.lettering.optAlign, all.lettering.optPortrait);
+                     }});
+    views.push_back(
+        {.name = "frmLettering_landscape", .window = &all.lettering, .prepare = {}, .fill = [this, letter] {
+             letter("Happy birthday, Grandmother!", all.lettering.optSerpent, all.lettering.optLandscape);
+         }});
+    views.push_back({.name = "frmPuzzle", .window = &all.puzzle, .prepare = {}, .fill = [this] {
+                         all.puzzle.chkEdges.tick(true);
+                         all.puzzle.chkBest.tick(true);
+                     }});
 }
 
 std::vector<window_view> filled_session::views()
@@ -176,6 +236,8 @@ std::vector<window_view> filled_session::views()
     add_image_views(views);
     add_small_views(views);
     add_photo_views(views);
+    add_frame_views(views);
+    add_designer_views(views);
     for (form * each : all.others()) {
         const auto is_its = [&](const window_view & view) { return view.name == each->name(); };
         if (each != &all.image && std::none_of(views.begin(), views.end(), is_its))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../scripted_desktop.h"
+#include "../drawing_desktop.h"
 #include "../temporary_folder.h"
 #include "session/windows.h"
 
@@ -29,7 +29,7 @@ struct filled_session {
     std::string collage;  ///< a finished one to show, if there is one
     std::string preview;
     temporary_folder folder;
-    scripted_desktop desk;
+    drawing_desktop desk;
     windows all{desk, seeded_random(7)};
 
 private:
@@ -37,6 +37,8 @@ private:
     void add_small_views(std::vector<window_view> & views);
     void add_design_views(std::vector<window_view> & views);
     void add_photo_views(std::vector<window_view> & views);
+    void add_frame_views(std::vector<window_view> & views);
+    void add_designer_views(std::vector<window_view> & views);
 };
 
 /// The window of a view while it lives: open, bound and shown.

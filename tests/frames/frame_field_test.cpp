@@ -55,3 +55,55 @@ TEST(get_frame_field, raises_for_a_set_without_its_file)
     set.all.main.frame_set_name = "other";
     EXPECT_THROW(set.field("Icon"), platform_error);
 }
+
+// ---- the set that is edited
+
+namespace {
+
+struct edited_set : frame_set {
+    explicit edited_set(const std::string & bytes) : frame_set(bytes) { all.custom.edit_frame_name = "club"; }
+    std::string setting(std::string_view key) const { return GetFrameSetting(all.main, key); }
+};
+
+}  // namespace
+
+TEST(GetFrameSetting, finds_what_the_line_scan_misses)
+{
+    const edited_set set("[Frame Design]\r\nIcon = sun \r\npicture list=team\r\n");
+    EXPECT_EQ(set.setting("Icon"), "sun");
+    EXPECT_EQ(set.field("Icon"), "");
+    EXPECT_EQ(set.setting("Picture List"), "team");
+    EXPECT_EQ(set.field("Picture List"), "");
+}
+
+TEST(GetFrameSetting, cuts_a_long_value_that_the_line_scan_gives_whole)
+{
+    const std::string caption(300, 'x');
+    const edited_set set("[Frame Design]\r\nCaption Text=" + caption + "\r\n");
+    EXPECT_EQ(set.setting("Caption Text"), std::string(254, 'x'));
+    EXPECT_EQ(set.field("Caption Text"), caption);
+}
+
+TEST(GetFrameSetting, cuts_in_front_of_a_letter_that_doesn_t_fit_whole)
+{
+    const edited_set set("[Frame Design]\r\nA=" + std::string(253, 'x') +
+                         "\xC3\xA4yz\r\nB=" + std::string(252, 'x') + "\xC3\xA4\r\n");
+    EXPECT_EQ(set.setting("A"), std::string(253, 'x'));
+    EXPECT_EQ(set.setting("B"), std::string(252, 'x') + "\xC3\xA4");
+}
+
+TEST(GetFrameSetting, is_empty_without_the_key_or_the_file)
+{
+    edited_set set("[Other]\r\nIcon=sun\r\n");
+    EXPECT_EQ(set.setting("Icon"), "");
+    set.all.custom.edit_frame_name = "gone";
+    EXPECT_EQ(set.setting("Icon"), "");
+}
+
+TEST(SetFrameSetting, writes_a_long_value_whole_and_without_blanks)
+{
+    std::string design;
+    SetFrameSetting(design, "Caption Text", std::string(300, 'x'));
+    SetFrameSetting(design, "Icon", "None");
+    EXPECT_EQ(design, "[Frame Design]\r\nCaption Text=" + std::string(300, 'x') + "\r\nIcon=None\r\n");
+}

@@ -58,13 +58,7 @@ void quick_session::make_photos(int portrait, int landscape)
 
 void quick_session::will_choose_list()
 {
-    desk.on_modal<frmSelectPhotos>([this](frmSelectPhotos & chooser) {
-        set_photo_source_kind(main, photo_source::list);
-        main.txtPhotos.set_text("mine");
-        main.txtPhotos.tag = list;
-        main.photo_choice_cancelled = false;
-        chooser.unload();
-    });
+    opened_session::will_choose_list(list);
 }
 
 void quick_session::will_choose_folder()

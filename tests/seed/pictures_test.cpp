@@ -36,6 +36,47 @@ TEST(seed_pictures, the_white_sheet_is_large_and_white_all_over)
     }
 }
 
+TEST(seed_pictures, every_background_of_a_design_fills_its_poster_and_has_its_preview)
+{
+    std::ifstream catalogue(SEED_FOLDER "/designs.ini");
+    bool wide = false;
+    int found = 0;
+    for (std::string line; std::getline(catalogue, line);) {
+        if (line.starts_with("Background="))
+            wide = line.starts_with("Background=Landscape");
+        if (!line.starts_with("BG Image=") || !line.ends_with(".jpg\r"))
+            continue;
+        const std::string name = line.substr(9, line.size() - 10);
+        EXPECT_EQ(size_of("images/" + name), wide ? "3000x2000" : "2000x3000") << name;
+        EXPECT_EQ(size_of("images/preview/p_" + name), wide ? "450x300" : "300x450") << name;
+        ++found;
+    }
+    EXPECT_GE(found, 16);
+}
+
+TEST(seed_pictures, every_design_has_its_samples_and_a_second_one_where_it_turns)
+{
+    std::ifstream catalogue(SEED_FOLDER "/designs.ini");
+    std::string sample, own;
+    int found = 0;
+    for (std::string line; std::getline(catalogue, line);) {
+        line.pop_back();
+        if (line.starts_with("["))
+            sample.clear();
+        if (line.starts_with("Background="))
+            own = line.ends_with("Landscape") ? "450x300" : "300x450";
+        if (line.starts_with("Sample=")) {
+            sample = "samples/" + line.substr(7);
+            EXPECT_EQ(size_of(sample), own) << sample;
+            ++found;
+        }
+        if (line == "Turn BG=Yes" && !sample.empty()) {
+            EXPECT_EQ(size_of(sample + "_"), own == "450x300" ? "300x450" : "450x300") << sample;
+        }
+    }
+    EXPECT_GE(found, 72);
+}
+
 TEST(seed_pictures, backgrounds_fill_the_poster_and_have_their_previews)
 {
     EXPECT_EQ(size_of("images/autumn.jpg"), "2000x3000");

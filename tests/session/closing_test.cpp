@@ -6,6 +6,10 @@ void load_all(opened_session & session)
 {
     session.folder.write("data/designs.ini", "");
     session.all.pictures.edit_list_path = session.folder.write("data/piclists/Sea.pls", "");
+    session.folder.write("data/icons/icons", "");
+    session.folder.write("data/frames/club/captions", "");
+    session.all.custom.edit_frame_name = "club";
+    session.all.frames.cmbPhotos.set_text("None");
     session.main.load();
     for (form * each : session.all.others())
         each->load();

@@ -22,6 +22,17 @@ bool has_state(const control & each, char sign)
 
 }  // namespace
 
+void opened_session::will_choose_list(const std::string & path)
+{
+    desk.on_modal<frmSelectPhotos>([this, path](frmSelectPhotos & chooser) {
+        set_photo_source_kind(main, photo_source::list);
+        main.txtPhotos.set_text("mine");
+        main.txtPhotos.tag = path;
+        main.photo_choice_cancelled = false;
+        chooser.unload();
+    });
+}
+
 void expect_states(const form & window, std::string_view words)
 {
     std::istringstream stream{std::string(words)};

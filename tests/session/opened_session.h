@@ -33,6 +33,9 @@ struct opened_session {
         main.optPreview.select();
     }
 
+    /// The user's choice in the next photo chooser: a saved list.
+    void will_choose_list(const std::string & path);
+
     /// How many previews were made so far.
     int previews() const { return main.picSample.load_count(); }
 

@@ -185,6 +185,27 @@ TEST(rescaled, gives_exactly_the_size_and_leaves_the_source)
     EXPECT_FALSE(rescaled(bitmap(), 3, 3));
 }
 
+TEST(rescaled, gives_a_grey_picture_what_each_channel_of_a_coloured_one_gets)
+{
+    bitmap grey = noise(97, 61), coloured = noise(97, 61);
+    for (int y = 0; y < grey.height(); ++y)
+        for (int x = 0; x < grey.width(); ++x) {
+            const std::uint8_t level = seen(grey, x, y).green;
+            set_pixel(grey, x, y, {.red = level, .green = level, .blue = level});
+            const auto opposite = static_cast<std::uint8_t>(255 - level);
+            set_pixel(coloured, x, y, {.red = opposite, .green = level, .blue = level});
+        }
+    for (const picture_size size : {picture_size{40, 33}, {13, 61}, {97, 61}, {211, 150}}) {
+        const bitmap one = rescaled(grey, size.width, size.height);
+        const bitmap other = rescaled(coloured, size.width, size.height);
+        for (int y = 0; y < size.height; ++y)
+            for (int x = 0; x < size.width; ++x) {
+                const std::uint8_t level = seen(other, x, y).green;
+                ASSERT_EQ(seen(one, x, y), (rgb_triple{level, level, level})) << x << " " << y;
+            }
+    }
+}
+
 TEST(rescaled, reduces_by_averaging)
 {
     bitmap image(200, 1);

@@ -83,3 +83,29 @@ TEST(profile, a_missing_or_closed_file_has_no_values)
     const as_ordinary_user user;
     EXPECT_EQ(profile(folder.at("closed")).value("a", "b", "none"), "none");
 }
+
+// ---- values put in
+
+TEST(with_profile_value, begins_a_section_in_an_empty_text)
+{
+    EXPECT_EQ(with_profile_value("", "Frame Design", "Icon", "sun"), "[Frame Design]\r\nIcon=sun\r\n");
+}
+
+TEST(with_profile_value, takes_the_place_of_the_value_that_is_there)
+{
+    EXPECT_EQ(
+        with_profile_value("[A]\r\nkey=0\r\n[b]\n ; KEY=x\n key = old\nKEY=second\n", "B", "Key", "new"),
+        "[A]\r\nkey=0\r\n[b]\r\n ; KEY=x\r\nKey=new\r\nKEY=second\r\n");
+}
+
+TEST(with_profile_value, adds_a_key_at_the_end_of_its_section)
+{
+    EXPECT_EQ(with_profile_value("[a]\r\nx=1\r\n\r\n[b]\r\ny=2\r\n", "a", "z", "3"),
+              "[a]\r\nx=1\r\nz=3\r\n\r\n[b]\r\ny=2\r\n");
+    EXPECT_EQ(with_profile_value("[a]", "b", "z", ""), "[a]\r\n[b]\r\nz=\r\n");
+}
+
+TEST(with_profile_value, keeps_a_value_in_one_line)
+{
+    EXPECT_EQ(with_profile_value("", "a", "b", "c\r\nd"), "[a]\r\nb=c  d\r\n");
+}

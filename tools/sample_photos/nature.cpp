@@ -157,3 +157,53 @@ void ground(canvas & photo, float top, colour far, colour near, float grain, uns
         return ink{mix(far, near, close) * (1 + grain * (1.6F * coarse + 0.5F * fine))};
     });
 }
+
+void out_of_focus(canvas & photo, colour dark, colour light, unsigned seed)
+{
+    photo.lay({}, [&](point p) {
+        return ink{mix(dark, light, cloudy(p.x * 3.5F, p.y * 3.5F, 3, seed) * 1.5F - 0.25F)};
+    });
+    dice chance(seed);
+    for (int i = 0; i < 40; ++i)
+        bokeh(photo, {chance.between(0, photo.aspect()), chance.next()}, chance.between(0.02F, 0.075F), light,
+              chance.between(0.04F, 0.16F));
+    soften(photo, 0.02F);
+}
+
+void planks(canvas & photo, float top, colour dark, colour light, float pitch, unsigned seed)
+{
+    photo.lay({0, top, 100, 1}, [&](point p) {
+        const float board = p.y / pitch, within = board - std::floor(board);
+        const auto row = static_cast<unsigned>(board);
+        const float rings = cloudy(p.x * 2.5F + static_cast<float>(row) * 7.3F, p.y * 46, 5, seed + row);
+        const float joint = rise(0, 0.03F, within) * rise(1, 0.97F, within);
+        return ink{mix(dark, light, rings * 1.3F - 0.15F) *
+                   ((0.8F + 0.35F * hashed(static_cast<int>(row), 1, seed)) * (0.4F + 0.6F * joint))};
+    });
+}
+
+void stars(canvas & photo, float horizon, int count, unsigned seed)
+{
+    dice chance(seed);
+    for (int star = 0; star < count; ++star) {
+        const float bright = std::pow(chance.next(), 3.0F);
+        disc(photo, {chance.between(0, photo.aspect()), chance.between(0, horizon)},
+             0.0008F + 0.0014F * bright, mix(hex(0xbcd0ff), hex(0xfff2dc), chance.next()),
+             0.25F + 0.75F * bright, 0.0012F);
+    }
+}
+
+void ball(canvas & photo, point at, float radius, colour color, float rough, unsigned seed)
+{
+    fill(
+        photo, {at.x - radius, at.y - radius, at.x + radius, at.y + radius},
+        [&](point p) { return length(p - at) - radius; },
+        [&](point p) {
+            const point d = (p - at) * (1 / radius);
+            const float skin = cloudy(d.x * 3 + at.x * 40, d.y * 3 + at.y * 40, 4, seed) - 0.5F;
+            const float light = 0.9F - 0.3F * d.x * 0.5F - 0.35F * d.y - 0.25F * rise(0.55F, 1.0F, length(d));
+            const float shine = rise(0.5F, 0, length({d.x + 0.36F, d.y + 0.42F}));
+            return color * (light + rough * skin) + hex(0xfff4e0) * (0.28F * shine * shine);
+        },
+        radius * 0.03F);
+}

@@ -59,3 +59,14 @@ void figure(canvas & photo, point foot, float height, pose how, colour color, fl
 
 /// A ground that comes towards the camera: colours from far to near with a grain that grows.
 void ground(canvas & photo, float top, colour far, colour near, float grain, unsigned seed);
+
+/// What lies behind a close-up: soft spots of light.
+void out_of_focus(canvas & photo, colour dark, colour light, unsigned seed);
+
+/// Boards from `top` down, each `pitch` high.
+void planks(canvas & photo, float top, colour dark, colour light, float pitch, unsigned seed);
+
+void stars(canvas & photo, float horizon, int count, unsigned seed);
+
+/// A round thing lit from the upper left: fruit, baubles, scoops.
+void ball(canvas & photo, point at, float radius, colour color, float rough, unsigned seed);

@@ -46,3 +46,31 @@ void flower_close_up(canvas & photo);
 void birthday_cake(canvas & photo);
 void coffee_table(canvas & photo);
 void citrus_slices(canvas & photo);
+// The sky at night
+void northern_lights(canvas & photo);
+void fireworks(canvas & photo);
+void concert(canvas & photo);
+void sky_lanterns(canvas & photo);
+void tent_under_stars(canvas & photo);
+void ferris_wheel(canvas & photo);
+// Far away
+void savanna_elephants(canvas & photo);
+void palm_beach(canvas & photo);
+void tulip_fields(canvas & photo);
+void bridge_in_fog(canvas & photo);
+void harbour_houses(canvas & photo);
+// Indoors and at the table
+void pizza(canvas & photo);
+void market_fruit(canvas & photo);
+void ice_cream(canvas & photo);
+void reading_corner(canvas & photo);
+void christmas_tree(canvas & photo);
+void bicycle_at_the_wall(canvas & photo);
+// Sport and gardens
+void football(canvas & photo);
+void skier(canvas & photo);
+void surfer(canvas & photo);
+void wedding_couple(canvas & photo);
+void lavender_walk(canvas & photo);
+void cherry_blossom(canvas & photo);
+void butterfly(canvas & photo);

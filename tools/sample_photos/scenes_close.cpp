@@ -4,35 +4,6 @@
 
 #include <numbers>
 
-namespace {
-
-/// What lies behind a close-up: soft spots of light.
-void out_of_focus(canvas & photo, colour dark, colour light, unsigned seed)
-{
-    photo.lay({}, [&](point p) {
-        return ink{mix(dark, light, cloudy(p.x * 3.5F, p.y * 3.5F, 3, seed) * 1.5F - 0.25F)};
-    });
-    dice chance(seed);
-    for (int i = 0; i < 40; ++i)
-        bokeh(photo, {chance.between(0, photo.aspect()), chance.next()}, chance.between(0.02F, 0.075F), light,
-              chance.between(0.04F, 0.16F));
-    soften(photo, 0.02F);
-}
-
-void planks(canvas & photo, float top, colour dark, colour light, float pitch, unsigned seed)
-{
-    photo.lay({0, top, 100, 1}, [&](point p) {
-        const float board = p.y / pitch, within = board - std::floor(board);
-        const auto row = static_cast<unsigned>(board);
-        const float rings = cloudy(p.x * 2.5F + static_cast<float>(row) * 7.3F, p.y * 46, 5, seed + row);
-        const float joint = rise(0, 0.03F, within) * rise(1, 0.97F, within);
-        return ink{mix(dark, light, rings * 1.3F - 0.15F) *
-                   ((0.8F + 0.35F * hashed(static_cast<int>(row), 1, seed)) * (0.4F + 0.6F * joint))};
-    });
-}
-
-}  // namespace
-
 void flower_close_up(canvas & photo)
 {
     out_of_focus(photo, hex(0x1f3a1a), hex(0xa8c46a), 271);

@@ -2,6 +2,10 @@
 //
 //     seed_art mask IN.svg OUT.gif            800 by 800, grey levels
 //     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
+//     seed_art icon IN.svg OUT.bmp W H        a Windows bitmap of that size, 24 bits
+//     seed_art smaller IN.jpg OUT.jpg QUALITY  the same picture in less bytes, as a JPEG of that quality
+//     seed_art shrunk IN OUT.jpg WIDTH        a picture or a screen, narrower, as a JPEG for a page
+//     seed_art unlike ONE.jpg OTHER.jpg LEVELS fails when they differ by more levels on average
 //     seed_art png IN.svg OUT.png W H         a PNG of that size, clear where nothing is drawn
 //     seed_art collage LAYOUT OUT.jpg W H FOLDER  a small collage of the photos of that folder
 //     seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which is checked
@@ -12,7 +16,9 @@
 #include <QSvgRenderer>
 
 #include <FreeImage.h>
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
@@ -22,6 +28,7 @@ namespace {
 
 constexpr int mask_size = 800;
 constexpr int picture_quality = 92;
+constexpr int page_quality = 84;
 
 struct unloader {
     void operator()(FIBITMAP * image) const { FreeImage_Unload(image); }
@@ -74,6 +81,45 @@ void render_picture(const char * drawing, const char * target, int width, int he
     save(FIF_JPEG, in_colour(rendered(drawing, width, height)), target, picture_quality);
 }
 
+void render_icon(const char * drawing, const char * target, int width, int height)
+{
+    save(FIF_BMP, in_colour(rendered(drawing, width, height)), target, BMP_DEFAULT);
+}
+
+void compress(const char * picture, const char * target, int quality)
+{
+    const image_owner image(FreeImage_Load(FIF_JPEG, picture, 0));
+    save(FIF_JPEG, image, target, quality | JPEG_OPTIMIZE);
+}
+
+void shrink(const char * picture, const char * target, int width)
+{
+    const QImage whole(QString::fromLocal8Bit(picture));
+    if (whole.isNull())
+        throw std::runtime_error(std::string(picture) + ": no picture");
+    const QImage narrow = whole.convertToFormat(QImage::Format_RGB32)
+                              .scaledToWidth(std::min(width, whole.width()), Qt::SmoothTransformation);
+    save(FIF_JPEG, in_colour(narrow), target, page_quality | JPEG_OPTIMIZE | JPEG_SUBSAMPLING_444);
+}
+
+void hold_against(const char * one, const char * other, double limit)
+{
+    const image_owner left(FreeImage_Load(FIF_JPEG, one, 0)), right(FreeImage_Load(FIF_JPEG, other, 0));
+    if (!left || !right || FreeImage_GetWidth(left.get()) != FreeImage_GetWidth(right.get()) ||
+        FreeImage_GetHeight(left.get()) != FreeImage_GetHeight(right.get()))
+        throw std::runtime_error(std::string(one) + ": no two pictures of one size");
+    double sum = 0, count = 0;
+    for (unsigned y = 0; y < FreeImage_GetHeight(left.get()); ++y) {
+        const BYTE * from = FreeImage_GetScanLine(left.get(), static_cast<int>(y));
+        const BYTE * to = FreeImage_GetScanLine(right.get(), static_cast<int>(y));
+        for (unsigned x = 0; x < FreeImage_GetLine(left.get()); ++x, ++count)
+            sum += std::abs(from[x] - to[x]);
+    }
+    std::printf("%s: %.2f levels\n", other, sum / count);
+    if (sum > limit * count)
+        throw std::runtime_error(std::string(one) + " differs from " + other);
+}
+
 void render_collage(char ** arguments)
 {
     const QImage page = collage(arguments[2], arguments[6], std::stoi(arguments[4]), std::stoi(arguments[5]));
@@ -116,6 +162,14 @@ void render(int count, char ** arguments)
         render_mask(arguments[2], arguments[3]);
     else if (kind == "picture" && count == 6)
         render_picture(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    else if (kind == "icon" && count == 6)
+        render_icon(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    else if (kind == "smaller" && count == 5)
+        compress(arguments[2], arguments[3], std::stoi(arguments[4]));
+    else if (kind == "shrunk" && count == 5)
+        shrink(arguments[2], arguments[3], std::stoi(arguments[4]));
+    else if (kind == "unlike" && count == 5)
+        hold_against(arguments[2], arguments[3], std::stod(arguments[4]));
     else if (kind == "png" && count == 6)
         render_png(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "collage" && count == 7)
@@ -124,8 +178,9 @@ void render(int count, char ** arguments)
         render_white(arguments[2], std::stoi(arguments[3]));
     else
         throw std::runtime_error(
-            "mask IN OUT, picture or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
-            "PHOTOS, or white OUT SIZE");
+            "mask IN OUT, picture, icon or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
+            "PHOTOS, smaller IN OUT QUALITY, shrunk IN OUT WIDTH, unlike ONE OTHER LEVELS, or white OUT "
+            "SIZE");
 }
 
 }  // namespace

@@ -33,6 +33,11 @@ class Design:
         return lines + [f"{key}={value}" for key, value in self.keys.items()]
 
 
+def design(number, name, family, background, tip, description, layout, keys, style="Place"):
+    """A design whose file is named after its layout."""
+    return Design(number, name, layout.__name__, style, family, background, tip, description, layout(), keys)
+
+
 PLAIN_GROUND = {"BG Image": "Either"}
 FITTING = {"Match": "Yes"}
 ANY_SHAPE = {"Match": "No"}
@@ -47,7 +52,8 @@ RESERVED = [
     Design(4, "Frame_matrix", "__matrix", "Place", "Frame", "Both",
            keys={**FITTING, **PLAIN_GROUND, "Frames": "None", "Shadows": "No", "Block": "No", "Soft Edge": "No"}),
     Design(5, "Lettering", "__lettering", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND}),
-    Design(6, "Puzzle", "__puzzle", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND}),
+    # Its lines leave the frame to the window, and a hidden group would still frame the square round each piece.
+    Design(6, "Puzzle", "__puzzle", "Place", "Block", "Both", keys={**SHAPES, **PLAIN_GROUND, "Frames": "No"}),
 ]
 
 STARTERS = [

@@ -23,7 +23,7 @@ def gallery_wall():
 
 
 def thrown():
-    return scattered(PORTRAIT, (660, 440), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=3)
+    return scattered(PORTRAIT, (660, 440), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=3, hang=80)
 
 
 def picnic():
@@ -121,7 +121,7 @@ def celebration():
 def white_mats():
     return [box(170, 190, 780, 520), centred(1480, 500, 460, 690, 5), centred(420, 1250, 440, 660, -5),
             box(790, 990, 440, 660), centred(1620, 1240, 400, 600, -5), box(160, 1780, 740, 493),
-            centred(1460, 2060, 740, 493, 5), centred(410, 2635, 380, 500, 5), box(880, 2455, 930, 410)]
+            centred(1460, 2060, 740, 493, 5), centred(410, 2635, 380, 500, 5), box(880, 2420, 930, 480)]
 
 
 def daydream():

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "designs/poster_shape.h"
+
+#include <optional>
+#include <string>
+
+/// What the user chooses for a matrix. Pixels of the poster.
+
+/// How the photos lie; with `both` one that lies across the cells takes two of them.
+enum class matrix_photos { portrait, landscape, both };
+
+struct poster_borders {
+    int top = 100, bottom = 100, left = 100, right = 100;
+    bool operator==(const poster_borders &) const = default;
+};
+
+/// A frame set around each photo; `captions` is the count of its captions.
+struct worn_frames {
+    std::string set{};
+    int captions = 0;
+};
+
+struct matrix_choices {
+    int rows = 2, columns = 2;
+    poster_borders borders{};
+    int gap_v = 20, gap_h = 20;  ///< between rows, between columns; negative: they overlap
+    matrix_photos photos = matrix_photos::portrait;
+    poster_shape poster = poster_shape::portrait;  ///< upright or landscape
+    bool rotate = false, resize = false;
+    std::optional<worn_frames> frames{};  ///< not with both orientations
+};

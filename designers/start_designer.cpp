@@ -1,0 +1,116 @@
+#include "designers/start_designer.h"
+
+#include "designers/work_template.h"
+#include "designs/catalogue.h"
+#include "photos/chosen_photos.h"
+#include "session/new_poster.h"
+#include "session/window_state.h"
+#include "session/windows.h"
+
+namespace {
+
+form & window_of(windows & all, designer chosen)
+{
+    switch (chosen) {
+        case designer::matrix:
+            return all.matrix;
+        case designer::lettering:
+            return all.lettering;
+        default:
+            return all.puzzle;
+    }
+}
+
+// Borders that a scatter has tied are free again; a matrix has none.
+void prepare_stage(frmMain & main, designer chosen)
+{
+    clear_stage(main);
+    main.random_design = false;
+    main.lblDesign.tag.clear();
+    main.collage_width = 2000;
+    main.collage_height = 3000;
+    if (chosen == designer::matrix)
+        reset_for_design(main);
+    else
+        main.borders_free = true;
+}
+
+bool design_found(frmMain & main)
+{
+    const bool found = find_design(main, main.lblDesign.tag);
+    close_catalogue(main);
+    if (!found)
+        main.desk.message("should not happen 2 ?");
+    return found;
+}
+
+bool photos_chosen(frmMain & main, const std::function<void()> & choose_photos)
+{
+    main.chkMatch.enable(true);
+    main.chkMatch.show(true);
+    main.photo_choice_cancelled = false;
+    fire(choose_photos);
+    return !main.txtPhotos.tag.empty() && !main.photo_choice_cancelled;
+}
+
+// What is left of a quick style has no say, and letters and pieces have no ornaments.
+void forget_other_styles(frmMain & main, designer chosen)
+{
+    main.quick = {};
+    for (option_button * style : main.style_options)
+        style->select(false);
+    if (chosen != designer::matrix)
+        for (check_box * ornament : {&main.chkRounded, &main.chkCaption, &main.chkSoftEdge})
+            ornament->tick(false);
+}
+
+void enter_poster(frmMain & main, designer chosen)
+{
+    const updating quiet(main);
+    forget_other_styles(main, chosen);
+    new_poster(main);
+    main.picSample.show(false);
+    main.frmSpace.show(false);
+    main.optSample.show(true);
+    if (chosen != designer::matrix)
+        main.picFrameColor.tag = "False";  // the last frame size would frame the square around each piece
+    if (chosen != designer::lettering) {
+        main.optNone.select();
+        main.frmBorder.enable(false);
+    }
+    main.chkOutline.show(chosen != designer::matrix);
+    main.optPreview.select(false);  // still on from another collage, its click would not come
+}
+
+void menu_click(frmMain & main, designer chosen)
+{
+    start_designer(main, chosen, [&main] { main.desk.show_modal(main.all->select_photos); });
+}
+
+}  // namespace
+
+void start_designer(frmMain & main, designer chosen, const std::function<void()> & choose_photos)
+{
+    prepare_stage(main, chosen);
+    main.desk.show_modal(window_of(*main.all, chosen));
+    start_enable_true(main);
+    if (main.lblDesign.tag.empty() || !design_found(main))
+        return;
+    main.matrix_session = chosen == designer::matrix;
+    if (!photos_chosen(main, choose_photos)) {
+        main.matrix_session = false;
+        return;
+    }
+    main.cmdMore.show(false);
+    take_chosen_photos(main);
+    main.lblOutput.set_caption("");
+    enter_poster(main, chosen);
+    main.optPreview.select();
+}
+
+void connect_designer_menus(frmMain & main)
+{
+    main.mnuMatrix.on_click = [&main] { menu_click(main, designer::matrix); };
+    main.mnuLettering.on_click = [&main] { menu_click(main, designer::lettering); };
+    main.mnuPuzzle.on_click = [&main] { menu_click(main, designer::puzzle); };
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "session/frmMain.h"
+
+#include <string>
+#include <vector>
+
+/// What the designers have in common.
+
+/// Replaces the template `name` below `designs` of the data folder. Raises 61, 70, 75, 76; the old one then
+/// stays.
+void write_work_template(const frmMain & main, const std::string & name,
+                         const std::vector<std::string> & lines);
+
+/// Brings the main window to its state for a new collage: no matrix, no frames, no shaking.
+void reset_for_design(frmMain & main);

@@ -1,0 +1,95 @@
+#include "frames/frames_template.h"
+
+#include "frames/deal_frames.h"
+#include "frames/frame_field.h"
+#include "frames/frame_sets.h"
+#include "photos/saved_lists.h"
+#include "support/paths.h"
+#include "support/text_file.h"
+
+namespace {
+
+// The photo list that the set is tied to, empty for none.
+std::string list_of_set(const frmMain & main)
+{
+    const std::string list = get_frame_field(main, "Picture List");
+    return list == "None" ? std::string() : list;
+}
+
+// The orientation letters of the photos of a list.
+std::string order_of(const std::string & path)
+{
+    std::string letters;
+    for (line_source lines(path); !lines.at_end();)
+        letters += lines.read_line().substr(0, 1);
+    return lower_case(letters);
+}
+
+void read_rest(line_source & lines, std::vector<std::string> & into)
+{
+    while (!lines.at_end())
+        into.push_back(lines.read_line());
+}
+
+// The design's lines: of the supplied designs from its section on, of the user's own the whole file.
+std::vector<std::string> design_source(const frmMain & main)
+{
+    std::vector<std::string> source;
+    line_source supplied(joined(main.install_folder, "design_list"));
+    const std::string header = "[" + main.design_record.file + "]";
+    while (!supplied.at_end())
+        if (supplied.read_line() == header) {
+            read_rest(supplied, source);
+            return source;
+        }
+    const std::string own = joined(joined(main.data_folder, "designs"), main.design_record.file);
+    if (!file_exists(own)) {
+        main.desk.message("Could not find that template.");
+        return source;
+    }
+    line_source lines(own);
+    read_rest(lines, source);
+    return source;
+}
+
+frame_deal deal_of(const frmMain & main)
+{
+    const std::string folder = frame_set_folder(main, main.frame_set_name);
+    return {.set = main.frame_set_name, .order = {}, .has_frame = [folder](const std::string & file) {
+                return file_exists(joined(folder, file));
+            }};
+}
+
+}  // namespace
+
+bool build_frames_template(frmMain & main)
+{
+    frame_deal deal = deal_of(main);
+    const std::string list = list_of_set(main);
+    if (!list.empty() && !file_exists(saved_list_path(main, list))) {
+        main.desk.message("The file.pls index is missing for that photolist.");
+        return false;
+    }
+    if (!list.empty())
+        deal.order = order_of(saved_list_path(main, list));
+    const dealt_frames dealt = deal_frames(design_source(main), deal);
+    if (dealt.missing) {
+        main.lblDesign.set_tool_tip("");
+        main.desk.message("This photo list doesn't have any " +
+                          std::string(*dealt.missing == 'l' ? "landscape" : "portrait") + " photos.");
+        return false;
+    }
+    write_file(joined(main.data_folder, "designs/__frames"), text_of(dealt.lines));
+    return true;
+}
+
+void offer_list_of_frame_set(frmMain & main)
+{
+    const std::string list = list_of_set(main);
+    if (list.empty() || !file_exists(saved_list_path(main, list)))
+        return;
+    main.txtPhotos.tag = saved_list_path(main, list);
+    main.txtPhotos.set_text(list);
+    main.lblPhotos.set_caption("Photo List:");
+    set_photo_source_kind(main, photo_source::list);
+}

@@ -1,0 +1,91 @@
+// The icons of the frames: as the list names them, and as frames cut them out.
+#include "support/MFreeImage.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <map>
+#include <set>
+#include <string>
+
+namespace {
+
+std::string content(const std::string & path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Names and files of the list, cut at the first blank.
+std::map<std::string, std::string> listed()
+{
+    std::map<std::string, std::string> found;
+    std::ifstream file(BUILT_SEED "/icons/icons", std::ios::binary);
+    for (std::string line; std::getline(file, line);) {
+        EXPECT_TRUE(line.ends_with('\r')) << line;
+        line.pop_back();
+        const auto blank = line.find(' ');
+        EXPECT_TRUE(found.emplace(line.substr(0, blank), line.substr(blank + 1)).second) << line;
+    }
+    return found;
+}
+
+bool dropped(rgb_triple seen, rgb_triple key)
+{
+    const auto near = [](int one, int other) { return std::abs(one - other) <= 110; };
+    return near(seen.red, key.red) && near(seen.green, key.green) && near(seen.blue, key.blue);
+}
+
+}  // namespace
+
+TEST(icons, are_at_least_twelve_and_each_file_is_listed_once)
+{
+    std::set<std::string> files, there;
+    for (const auto & [name, file] : listed())
+        EXPECT_TRUE(files.insert(file).second) << file;
+    for (const auto & entry : std::filesystem::directory_iterator(BUILT_SEED "/icons"))
+        if (entry.path().extension() == ".bmp")
+            there.insert(entry.path().filename().string());
+    EXPECT_EQ(files, there);
+    EXPECT_GE(files.size(), 12u);
+}
+
+TEST(icons, are_small_windows_bitmaps_of_24_bits)
+{
+    for (const auto & [name, file] : listed()) {
+        const std::string path = BUILT_SEED "/icons/" + file, bytes = content(path);
+        ASSERT_GT(bytes.size(), 54u) << file;
+        EXPECT_TRUE(bytes.starts_with("BM")) << file;
+        EXPECT_EQ(bytes[28], 24) << file;
+        EXPECT_EQ(bytes[30], 0) << file << " is compressed";
+        const bitmap icon = load_picture(picture_format::bmp, path);
+        EXPECT_LE(icon.width(), 100) << file;
+        EXPECT_LE(icon.height(), 90) << file;
+    }
+}
+
+TEST(icons, stand_free_on_their_key_at_both_sizes)
+{
+    for (const auto & [name, file] : listed()) {
+        const bitmap icon = load_picture(picture_format::bmp, BUILT_SEED "/icons/" + file);
+        const bitmap smaller = rescaled(icon, icon.width() * 8 / 10, icon.height() * 8 / 10);
+        for (const bitmap * image : {&icon, &smaller}) {
+            const int corner = image == &icon ? 0 : 1;
+            const rgb_triple key = *pixel(*image, corner, corner);
+            EXPECT_EQ(key, (rgb_triple{255, 255, 255})) << file;
+            int drawn = 0;
+            for (int y = 0; y < image->height(); ++y)
+                for (int x = 0; x < image->width(); ++x) {
+                    const bool clear = dropped(*pixel(*image, x, y), key);
+                    drawn += clear ? 0 : 1;
+                    // The last columns and rows are not copied.
+                    const bool rim = x == 0 || y == 0 || x > image->width() - 4 || y > image->height() - 4;
+                    EXPECT_TRUE(clear || !rim) << file << " at " << x << ", " << y;
+                }
+            EXPECT_GT(drawn * 6, image->width() * image->height()) << file;
+        }
+    }
+}

@@ -1,0 +1,60 @@
+"""The supplied designs of tilted photos, from number 201 on."""
+from starter_designs import scatters
+from starter_designs.catalogue import ANY_SHAPE, FITTING, design
+
+TURNS = {**FITTING, "Turn BG": "Yes"}
+STAYS = {**FITTING, "Turn BG": "No"}
+WIDE = {**TURNS, "Borders": "No"}
+CARDS = {**ANY_SHAPE, "Block": "Yes", "Turn BG": "No"}
+
+SCATTERS = [
+    design(201, "Hand of cards", "Scatter", "Landscape", "Seven portraits in a fan",
+           "Seven portraits, held like a hand of cards.", scatters.fan, {**STAYS, "Flip": "No", "Borders": "No"}),
+    design(202, "Two hands", "Scatter", "Portrait", "Two fans of five portraits",
+           "Two fans of five portraits, one above and one below.", scatters.two_fans, {**STAYS, "Flip": "No"}),
+    design(203, "Waves", "Scatter", "Portrait", "Four waves of photos",
+           "Four waves run across the poster, six photos long.", scatters.waves, STAYS),
+    design(204, "With all my heart", "Scatter", "Portrait", "A heart of photos round a large one",
+           "Sixteen photos along the line of a heart, and the one that matters most inside.", scatters.heart_ring,
+           {**STAYS, "Flip": "No"}),
+    design(205, "Round dance", "Scatter", "Portrait", "Twelve photos round a large one",
+           "Twelve photos dance round a large one.", scatters.ring, STAYS),
+    design(206, "Pile of prints", "Scatter", "Portrait", "Nine large prints, one on the other",
+           "Nine large prints that lie one on the other, each still to be seen.", scatters.pile, STAYS),
+    design(207, "Card table", "Scatter", "Landscape", "Fifteen instant pictures on a table",
+           "Fifteen instant pictures with room to write on.", scatters.card_table, {**CARDS, "Borders": "No"}),
+    design(208, "Big five", "Scatter", "Portrait", "Five very large photos",
+           "Five very large photos, hardly askew.", scatters.big_five, STAYS),
+    design(209, "Four friends", "Scatter", "Portrait", "Four large portraits",
+           "Four large portraits that lean on each other.", scatters.four_friends, STAYS),
+    design(210, "Cascade", "Scatter", "Portrait", "Ten photos that tumble down",
+           "Ten photos tumble to and fro on their way down.", scatters.cascade, STAYS),
+    design(211, "Confetti", "Scatter", "Portrait", "Sixty small photos at every angle",
+           "Sixty small photos at every angle. Nobody will see them all at once.", scatters.confetti, TURNS),
+    design(212, "Forty winks", "Scatter", "Landscape", "Forty photos thrown on a wide page",
+           "Forty photos at every angle that cover a wide page.", scatters.forty, WIDE),
+    design(213, "Thirty days", "Scatter", "Portrait", "Thirty photos, gently askew",
+           "A month of photos, all of them gently askew.", scatters.thirty, TURNS),
+    design(214, "Sunday table", "Scatter", "Landscape", "Twenty photos spread on a wide table",
+           "Twenty photos, spread after lunch on a wide table.", scatters.twenty_wide, WIDE),
+    design(215, "Loose rows", "Scatter", "Portrait", "Twelve landscapes, a little askew",
+           "Twelve landscapes in pairs, a little askew, with air between them.", scatters.loose_rows, STAYS),
+    design(216, "Loose portraits", "Scatter", "Landscape", "Ten portraits, a little askew",
+           "Two rows of five portraits, none of them quite straight.", scatters.loose_portraits, {**STAYS, "Borders": "No"}),
+    design(217, "Whirl", "Scatter", "Portrait", "Photos that grow outwards from the middle",
+           "Eighteen photos that stand like the seeds of a flower: small in the middle, large at the rim.", scatters.spiral, STAYS),
+    design(218, "Bouquet", "Scatter", "Portrait", "A bunch of portraits round a large one",
+           "Six portraits like petals round a large one, and two landscapes for leaves.", scatters.bouquet, {**STAYS, "Flip": "No"}),
+    design(219, "Pinboard", "Scatter", "Portrait", "Fifteen photos that don't touch",
+           "Fifteen photos pinned to a board, none of them touching another.", scatters.pinboard, STAYS),
+    design(220, "Garlands", "Scatter", "Portrait", "Four strings of portraits",
+           "Four strings of four portraits that sag from edge to edge.", scatters.garlands, {**STAYS, "Flip": "No"}),
+    design(221, "Windy day", "Scatter", "Portrait", "All photos blown the same way",
+           "Eighteen photos, all blown the same way, the outer ones most.", scatters.windy_day, STAYS),
+    design(222, "Crossing", "Scatter", "Portrait", "Two rows of photos that cross",
+           "Two rows of photos that cross under a large one.", scatters.crossing, STAYS),
+    design(223, "Six notes", "Scatter", "Portrait", "Six large cards to write on",
+           "Six large cards with room for a few words below each photo.", scatters.six_cards, CARDS),
+    design(224, "Carousel", "Scatter", "Landscape", "Ten photos round a large one, on a wide page",
+           "Ten photos ride round a large one.", scatters.carousel, {**STAYS, "Borders": "No"}),
+]
