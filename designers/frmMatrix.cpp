@@ -155,6 +155,7 @@ void take_matrix(frmMain & main, const matrix_choices & choices)
 {
     const bool framed = choices.frames.has_value();
     main.matrix_size = size_text(choices);
+    main.matrix_portrait = choices.poster == poster_shape::portrait;
     main.matrix_both = choices.photos == matrix_photos::both;
     main.matrix_rotate = choices.rotate;
     main.matrix_resize = choices.resize;

@@ -5,11 +5,8 @@
 #include "frames/frame_sets.h"
 #include "session/windows.h"
 #include "support/paths.h"
-#include "support/platform_error.h"
 #include "support/replaced.h"
 #include "support/text_file.h"
-
-#include <filesystem>
 
 namespace {
 
@@ -79,7 +76,7 @@ void give_name(frmMain & main, const std::string & name)
     std::string & edited = main.all->custom.edit_frame_name;
     edited = unnamed_set;
     write_settings(main);
-    with_platform_errors([&] { std::filesystem::rename(folder_of_set(main), frame_set_folder(main, name)); });
+    rename_folder(folder_of_set(main), frame_set_folder(main, name));
     edited = name;
 }
 
