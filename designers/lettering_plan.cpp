@@ -13,7 +13,7 @@ namespace {
 
 constexpr int largest_gap = 22;
 constexpr int smallest_letter = 4;  // a preview still shows something of it
-constexpr int first_gap = 20, line_room = 65;
+constexpr int first_gap = 20, room_of_a_gap = 65;
 constexpr int largest_line_gap = 85, least_line_gap = 33, least_shifted_line_gap = 38;
 constexpr int usual_top = 100, usual_left = 50;
 
@@ -75,7 +75,7 @@ int size_by_width(const lettering_measure & text, int width, bool overlap)
 
 int size_by_height(const lettering_measure & text, int height)
 {
-    return nearest((height - (text.lines - 1) * line_room) / static_cast<double>(text.lines));
+    return nearest((height - (text.lines - 1) * room_of_a_gap) / static_cast<double>(text.lines));
 }
 
 int line_gap(int size, letter_placing placing)
