@@ -128,6 +128,8 @@ void display_content(const text_box & held, QPlainTextEdit & widget)
     if (widget.toPlainText() != text)
         widget.setPlainText(text);
     display_colors(held, widget, QPalette::Base, QPalette::Text);
+    display_colors(held, *widget.viewport(), QPalette::Base,
+                   QPalette::Text);  // a style sheet keeps it from following
     display_font(held, widget);
 }
 

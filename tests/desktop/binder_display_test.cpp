@@ -104,6 +104,15 @@ TEST(binder, colours_and_tool_tips_are_shown)
     EXPECT_EQ(shown.name->toolTip(), "Your name");
 }
 
+TEST(binder, a_large_box_is_filled_with_its_back_colour)
+{
+    bound_form shown;
+    shown.held.txtNote.set_back_color(0xF0FFE0);  // red is the low byte
+    shown.held.txtNote.set_fore_color(0x102030);
+    const QImage drawn = shown.note->grab().toImage();
+    EXPECT_EQ(drawn.pixelColor(drawn.rect().center()), QColor(0xE0, 0xFF, 0xF0));
+}
+
 TEST(binder, a_font_is_shown_at_96_dots_an_inch_and_no_larger_than_its_box_allows)
 {
     bound_form shown;
