@@ -23,5 +23,6 @@ void forget_set_aside(const frmMain & main);
 void put_back(const frmMain & main);
 
 /// Deletes what is left over: files of a design that was being saved or deleted, and files and folders under
-/// construction; puts folders back that a broken-off import was making new. Says nothing and raises nothing: what can't be removed stays.
+/// construction; puts folders back that a broken-off import was making new. Says nothing and raises nothing:
+/// what can't be removed stays.
 void remove_leftovers(const frmMain & main);

@@ -179,27 +179,28 @@ TEST(package_maker, tells_what_it_can_t_pack)
                        "[Design001]\nName=Supplied\n[Design600]\nName=Bare\nFile=saved600\nSystem=No\n"
                        "[Design601]\nName=Sly\nFile=../../x\n[Design602]\nName=System\nSystem=Yes\n");
     session.home.write("data/icons/icons", "sun sun.bmp\n");
-    const auto fault = [&](const std::string & design, const std::string & frame, const std::string & icon) {
-        package_request request{
-            .data_folder = session.main.data_folder, .designs = {}, .frames = {}, .icons = {}, .title = {}};
-        (design.empty() ? frame.empty() ? request.icons : request.frames
-                        : request.designs) = {design + frame + icon};
+    using names = std::vector<std::string>;
+    const auto fault = [&](const names & designs, const names & frames, const names & icons) {
         try {
-            package_bytes(request);
+            package_bytes({.data_folder = session.main.data_folder,
+                           .designs = designs,
+                           .frames = frames,
+                           .icons = icons,
+                           .title = {}});
         } catch (const not_packed & told) {
             return told.what;
         }
         return std::string("none");
     };
-    EXPECT_EQ(fault("Nobody's", "", ""), "the design \"Nobody's\" is none of your own");
-    EXPECT_EQ(fault("Supplied", "", ""), "the design \"Supplied\" is none of your own");
-    EXPECT_EQ(fault("System", "", ""), "the design \"System\" came with the program");
-    EXPECT_EQ(fault("Bare", "", ""), "the design \"Bare\" has no template of its own");
-    EXPECT_EQ(fault("Sly", "", ""), "the design \"Sly\" has no template of its own");
-    EXPECT_EQ(fault("", "None", ""), "the frame set \"None\" isn't there");
-    EXPECT_EQ(fault("", "", "moon"), "the icon \"moon\" isn't in the list");
-    EXPECT_EQ(fault("", "", "sun"), "the icon \"sun\" has no picture");
+    EXPECT_EQ(fault({"Nobody's"}, {}, {}), "the design \"Nobody's\" is none of your own");
+    EXPECT_EQ(fault({"Supplied"}, {}, {}), "the design \"Supplied\" is none of your own");
+    EXPECT_EQ(fault({"System"}, {}, {}), "the design \"System\" came with the program");
+    EXPECT_EQ(fault({"Bare"}, {}, {}), "the design \"Bare\" has no template of its own");
+    EXPECT_EQ(fault({"Sly"}, {}, {}), "the design \"Sly\" has no template of its own");
+    EXPECT_EQ(fault({}, {"None"}, {}), "the frame set \"None\" isn't there");
+    EXPECT_EQ(fault({}, {}, {"moon"}), "the icon \"moon\" isn't in the list");
+    EXPECT_EQ(fault({}, {}, {"sun"}), "the icon \"sun\" has no picture");
     session.home.write("data/designs/saved600", "0:0:9:9:0:0:0:0:user_images/gone.jpg\r\n");
-    EXPECT_EQ(fault("Bare", "", ""),
+    EXPECT_EQ(fault({"Bare"}, {}, {}),
               "the design \"Bare\" needs the picture user_images/gone.jpg, which isn't there");
 }
