@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// What a crash in the middle of saving, deleting or importing leaves behind, and its removal at the next
+/// What a crash in the middle of saving, deleting or importing something leaves behind, and its removal at the next
 /// start.
 
 /// Notes files, as paths below the data folder, that belong to a design only once the catalogue names them,
@@ -13,7 +13,7 @@
 void note_unfinished(const frmMain & main, const std::vector<std::string> & files);
 void forget_unfinished(const frmMain & main);
 
-/// Moves a folder that a package makes new out of the way, whole; nothing when it isn't there. `place` is a
+/// Moves a folder that goes, or is made anew, out of the way, whole; nothing when it isn't there. `place` is a
 /// path below the data folder. It comes back by put_back, unless forget_set_aside is called first. Raises 61,
 /// 70, 75.
 void set_aside(const frmMain & main, const std::string & place);

@@ -4,6 +4,7 @@
 #include "session/windows.h"
 #include "support/numbers.h"
 #include "support/paths.h"
+#include "support/text_file.h"
 
 namespace {
 
@@ -104,14 +105,15 @@ frame_look look_of(const frmMain & main)
 void render_portrait_frame(frmMain & main, const std::string & path)
 {
     const std::string & caption = main.all->frames.txtCaption.text();
-    save_jpeg(portrait_frame(main.desk, look_of(main), caption, work_folder(main)), path);
+    replace_file(path, jpeg_bytes(portrait_frame(main.desk, look_of(main), caption, work_folder(main))));
     render_landscape_frame(main, path);
 }
 
 void render_landscape_frame(frmMain & main, const std::string & path)
 {
     const std::string & caption = main.all->frames.txtCaption.text();
-    save_jpeg(landscape_frame(main.desk, look_of(main), caption, work_folder(main)), landscape_path(path));
+    replace_file(landscape_path(path),
+                 jpeg_bytes(landscape_frame(main.desk, look_of(main), caption, work_folder(main))));
 }
 
 void preview_frame(frmMain & main)

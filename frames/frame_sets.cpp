@@ -1,7 +1,10 @@
 #include "frames/frame_sets.h"
 
+#include "designs/unfinished.h"
 #include "session/windows.h"
+#include "support/inner_path.h"
 #include "support/paths.h"
+#include "support/platform_error.h"
 #include "support/text_file.h"
 
 namespace {
@@ -9,6 +12,14 @@ namespace {
 std::string sets_folder(const frmMain & main)
 {
     return joined(main.data_folder, "frames");
+}
+
+// A folder inside stays and fails the rest.
+void delete_folder(const std::string & path)
+{
+    for (const std::string & name : files_in(path))
+        delete_file(joined(path, name));
+    remove_folder(path);
 }
 
 }  // namespace
@@ -60,9 +71,18 @@ void new_custom_frame(frmMain & main)
     main.desk.show_modal(main.all->frames);
 }
 
-void delete_folder(const std::string & path)
+void delete_frame_set(const frmMain & main, const std::string & set)
 {
-    for (const std::string & name : files_in(path))
-        delete_file(joined(path, name));
-    remove_folder(path);
+    const std::string folder = frame_set_folder(main, set);
+    if (!is_plain_name(set) || !folders_in(folder).empty()) {
+        delete_folder(folder);
+        return;
+    }
+    try {
+        set_aside(main, joined("frames", set));
+        forget_set_aside(main);
+    } catch (const platform_error &) {
+        put_back(main);
+        throw;
+    }
 }

@@ -30,5 +30,6 @@ bool choose_frame_set(frmMain & main);
 /// 70, 75, 76.
 void new_custom_frame(frmMain & main);
 
-/// Deletes the files of a set and its folder; a folder inside it stays and fails the rest. Raises 70, 75, 76.
-void delete_folder(const std::string & path);
+/// Deletes a set: a crash on the way leaves all of it or nothing. A folder inside it stays, with the folder
+/// of the set, and raises 75. Raises 70, 75, 76.
+void delete_frame_set(const frmMain & main, const std::string & set);

@@ -53,7 +53,7 @@ void delete_selected(windows & all)
     list_box & sets = all.custom.lstFrames;
     if (sets.list_index() < 0)
         return;
-    delete_folder(frame_set_folder(all.main, sets.text()));
+    delete_frame_set(all.main, sets.text());
     sets.remove_item(sets.list_index());
     forbid_changes(buttons_of(all.custom));
 }

@@ -50,7 +50,7 @@ TEST_F(frame_sets_test, deleting_does_not_descend)
 {
     folder.write("frames/club/a", "");
     folder.write("frames/club/inner/b", "");
-    EXPECT_THROW(delete_folder(joined(folder.path(), "frames/club")), platform_error);
+    EXPECT_THROW(delete_frame_set(all.main, "club"), platform_error);
     EXPECT_FALSE(file_exists(joined(folder.path(), "frames/club/a")));
     EXPECT_TRUE(file_exists(joined(folder.path(), "frames/club/inner/b")));
 }
