@@ -3,6 +3,7 @@
 #include "support/inner_path.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
+#include "support/text_file.h"
 
 #include <algorithm>
 #include <array>
@@ -12,6 +13,7 @@ namespace {
 constexpr std::string_view title_start = "$$$ MSG ", folder_start = "$$$ NEW  ", payload_start = "$$$ NAME ",
                            icon_start = "$$$ icons", section_start = "$$$ designs.ini", section_end = "$$$";
 constexpr std::size_t payload_length = 6;
+constexpr std::size_t fields_of_a_location = 9;  // the last one is its picture
 
 // Where packages put files, and may have folders of their own.
 constexpr std::array<std::string_view, 9> shared_folders{
@@ -51,6 +53,20 @@ bool is_ours(std::string_view place)
     const std::string path = lower_case(place);
     return holds(own_files, path) || path.ends_with(".part") || path.starts_with("designs/__") ||
            path.starts_with("frames/_named_.not");
+}
+
+bool leads_out(std::string_view path)
+{
+    for (const std::string & name : split(with_platform_separators(path), path_separator, path.size() + 1))
+        if (name == "..")
+            return true;
+    return false;
+}
+
+std::string behind(std::string_view line, char sign)
+{
+    const std::size_t at = line.find(sign);
+    return at == std::string_view::npos ? std::string() : std::string(line.substr(at + 1));
 }
 
 std::string from_column(std::string_view line, std::size_t column)
@@ -148,6 +164,25 @@ text_lines unknown_commands(const text_lines & manifest)
         if (!reader.read() && reader.last_line().starts_with(section_end))
             unknown.push_back(reader.last_line());
     return unknown;
+}
+
+std::optional<std::string> way_out(const manifest_command & command)
+{
+    if (command.step != manifest_step::icon && command.step != manifest_step::section)
+        return std::nullopt;
+    const char sign = command.step == manifest_step::icon ? ' ' : '=';
+    for (const std::string & line : command.lines)
+        if (std::string path = behind(line, sign); leads_out(path))
+            return path;
+    return std::nullopt;
+}
+
+std::optional<std::string> way_out_of_template(const text_lines & lines)
+{
+    for (const std::string & line : lines)
+        if (std::string path = split(line, ':', fields_of_a_location).back(); leads_out(path))
+            return path;
+    return std::nullopt;
 }
 
 std::string first_folder(std::string_view place)

@@ -42,5 +42,11 @@ std::optional<std::string> folder_place(std::string_view target);
 /// them made it.
 bool stands_beside_ours(std::string_view place);
 
+/// The first path that an icon's line, or a value of a section, leads out of its folder by "..", as it is
+/// written; nothing when none does.
+std::optional<std::string> way_out(const manifest_command & command);
+/// The same for the pictures of a template.
+std::optional<std::string> way_out_of_template(const text_lines & lines);
+
 /// The first folder of a place: "designs" of "designs/heart".
 std::string first_folder(std::string_view place);

@@ -95,8 +95,17 @@ bool has_payload(const frmMain & main, const std::string & name)
     return is_plain_name(name) && file_exists(joined(unzipped(main), name));
 }
 
-// The target of the first command that may not act where it wants to. An import stops at a missing file: what
-// stands behind it is never carried out.
+// A template may name pictures by any path.
+std::optional<std::string> way_out_of_payload(const frmMain & main, const manifest_command & command,
+                                              const std::string & place)
+{
+    if (command.step != manifest_step::payload || first_folder(place) != "designs")
+        return std::nullopt;
+    return way_out_of_template(lines_of_file(joined(unzipped(main), command.text)));
+}
+
+// The first path of a command that may not act where it wants to, or that leads out of its folder. An import
+// stops at a missing file: what stands behind it is never carried out.
 std::optional<std::string> refused_target(const frmMain & main,
                                           const std::vector<manifest_command> & commands)
 {
@@ -117,10 +126,14 @@ std::optional<std::string> refused_target(const frmMain & main,
             if (place && !is_renewed(*place))
                 place = free_payload_place(main, command.target, own);
         } else {
+            if (std::optional<std::string> path = way_out(command))
+                return path;
             continue;
         }
         if (!place)
             return command.target;
+        if (std::optional<std::string> path = way_out_of_payload(main, command, *place))
+            return path;
     }
     return std::nullopt;
 }

@@ -62,6 +62,8 @@ private:
             look_at_icon(command);
         else if (command.step == manifest_step::section)
             look_at_section(command);
+        if (const std::optional<std::string> path = way_out(command))
+            problems.push_back("packages may not use " + in_quotes(*path));
     }
     void look_at_folder(const manifest_command & command)
     {
@@ -158,6 +160,17 @@ std::optional<std::string> unpacking_problem(const unpacking & unpacked)
     }
 }
 
+// The first picture that the command's file, a template, names outside.
+std::optional<std::string> picture_outside(const manifest_command & command, const text_lines & payload,
+                                           const std::string & unpacked)
+{
+    const std::optional<std::string> place = payload_place(command.target, {});
+    if (command.step != manifest_step::payload || !place || first_folder(*place) != "designs" ||
+        !holds(payload, command.text))
+        return std::nullopt;
+    return way_out_of_template(lines_of_file(joined(unpacked, command.text)));
+}
+
 }  // namespace
 
 text_lines manifest_problems(const text_lines & manifest, const text_lines & payload)
@@ -178,5 +191,9 @@ text_lines package_problems(const std::string & package)
     std::ranges::sort(payload);
     for (const std::string & folder : folders_in(work.path()))
         payload.push_back(folder + "/");
-    return manifest_problems(lines_of_file(manifest), payload);
+    text_lines problems = manifest_problems(lines_of_file(manifest), payload);
+    for (const manifest_command & command : commands_of_manifest(lines_of_file(manifest)))
+        if (const std::optional<std::string> path = picture_outside(command, payload, work.path()))
+            problems.push_back("packages may not use " + in_quotes(*path));
+    return problems;
 }

@@ -159,6 +159,32 @@ std::vector<hostile_package> folders_out_of_place()
             renewed("the begun set", "frames\\_named_.not")};
 }
 
+hostile_package written(const std::string & why, const std::string & lines, const std::string & path)
+{
+    return command(why, lines, path);
+}
+
+hostile_package drawn(const std::string & why, const std::string & location, const std::string & path)
+{
+    hostile_package package = command(why, "$$$ NAME ghijkl designs\\pictures", path);
+    package.entries.back().bytes = location;
+    return package;
+}
+
+std::vector<hostile_package> texts_that_lead_out()
+{
+    return {written("the picture of an icon", "$$$ icons\nspy ../../precious", "../../precious"),
+            written("the template of a design", "$$$ designs.ini 700\nName=Spy\nFile=../../precious",
+                    "../../precious"),
+            written("the sample of a design", "$$$ designs.ini 602\nSample=..\\..\\precious\n$$$",
+                    "..\\..\\precious"),
+            written("the background of a design", "$$$ designs.ini 602\nBG Image=user_images/../../a.jpg",
+                    "user_images/../../a.jpg"),
+            drawn("a picture of a template", "[x]\r\n0:0:9:9:0:0:0:0:images/../../precious\r\n",
+                  "images/../../precious"),
+            drawn("a mask of a template", "0:0:9:9:0:0:0:0:..\\mask.gif", "..\\mask.gif")};
+}
+
 void expect_refused(const std::vector<hostile_package> & packages)
 {
     for (const hostile_package & package : packages) {
@@ -191,6 +217,11 @@ TEST(hostile_packages, targets_out_of_place_are_refused_before_anything_is_done)
 TEST(hostile_packages, folders_out_of_place_are_never_made_new)
 {
     expect_refused(folders_out_of_place());
+}
+
+TEST(hostile_packages, texts_that_lead_out_are_refused_before_anything_is_done)
+{
+    expect_refused(texts_that_lead_out());
 }
 
 TEST(hostile_packages, a_payload_name_that_leads_elsewhere_is_a_missing_file)

@@ -48,6 +48,14 @@ TEST(package_check, tells_every_problem_of_a_manifest)
                           "no command uses the file 'unused'", "no command uses the file 'folder/'"}));
 }
 
+TEST(package_check, tells_of_texts_that_lead_out)
+{
+    EXPECT_EQ(problems(title + "$$$ icons\nspy ..\\x.bmp\n"), text_lines{"packages may not use '..\\x.bmp'"});
+    EXPECT_EQ(
+        problems(title + "$$$ designs.ini 650\n[Design650]\nName=Heart\nBG Image=user_images/../../x\n"),
+        text_lines{"packages may not use 'user_images/../../x'"});
+}
+
 TEST(package_check, a_folder_of_the_package_s_own_may_be_used_behind_its_making)
 {
     EXPECT_EQ(problems(title + "$$$ NEW  hearts\n$$$ NAME abcdef hearts\\a.jpg\n", {"abcdef"}), text_lines{});
@@ -64,6 +72,9 @@ TEST(package_check, tells_what_is_wrong_with_the_archive)
     EXPECT_EQ(problems_of_zip({{.name = "abcdef", .bytes = "x"}}), text_lines{"the manifest is missing"});
     EXPECT_EQ(problems_of_zip({{.name = "../x", .bytes = "x"}}),
               text_lines{"the entry '../x' is not allowed"});
+    EXPECT_EQ(problems_of_zip({{.name = "manifest", .bytes = title + "$$$ NAME abcdef designs\\heart\n"},
+                               {.name = "abcdef", .bytes = "0:0:9:9:0:0:0:0:user_images/../../x.jpg\r\n"}}),
+              text_lines{"packages may not use 'user_images/../../x.jpg'"});
     EXPECT_EQ(
         problems_of_zip({{.name = "manifest", .bytes = "$$$ MSG x\n"}, {.name = "abcdef", .bytes = "x"}}),
         text_lines{"no command uses the file 'abcdef'"});
