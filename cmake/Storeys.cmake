@@ -11,6 +11,14 @@ foreach(name IN LISTS storeys)
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
 endforeach()
 
+# Reads what most files include once a storey. A build that shows whether each file includes what it needs leaves it off.
+if(TESSALOOM_READ_ONCE)
+    foreach(name IN LISTS storeys)
+        target_precompile_headers(${name} PRIVATE <algorithm> <array> <filesystem> <functional> <map> <memory> <optional>
+                                                  <span> <string> <string_view> <utility> <vector>)
+    endforeach()
+endif()
+
 function(storey name)
     foreach(stem IN LISTS ARGN)
         string(REGEX REPLACE "\\.(h|cpp)$" "" base ${CMAKE_CURRENT_SOURCE_DIR}/${stem})
