@@ -38,9 +38,9 @@ def brick_wall():
 
 
 def golden_spiral():
-    """Squares of the sides 13, 8, 5, 3 and 2, and a last one of two by one."""
+    """Squares of the sides 13, 8, 5 and 3, and what is left inside them, two by three."""
     unit, left, top, gap = 136, 116, 72, 24
-    cells = [(0, 0, 13, 13), (5, 13, 8, 8), (0, 16, 5, 5), (0, 13, 3, 3), (3, 13, 2, 2), (3, 15, 2, 1)]
+    cells = [(0, 0, 13, 13), (5, 13, 8, 8), (0, 16, 5, 5), (0, 13, 3, 3), (3, 13, 2, 3)]
     return [box(left + x * unit + gap / 2, top + y * unit + gap / 2, w * unit - gap, h * unit - gap) for x, y, w, h in cells]
 
 
@@ -152,8 +152,8 @@ def diamond():
     places = []
     for line in range(9):
         count = 5 - abs(4 - line)
-        left = 1000 - (count * 360 + (count - 1) * 26) / 2
-        places += [box(left + x * 386, 185 + line * 295, 360, 269) for x in range(count)]
+        left = 1000 - (count * 342 + (count - 1) * 26) / 2
+        places += [box(left + x * 368, 205 + line * 290, 342, 264) for x in range(count)]
     return places
 
 
