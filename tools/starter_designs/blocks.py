@@ -203,3 +203,27 @@ def window_seat():
     cells = [(0, 0, 4, 4), (4, 0, 2, 2), (4, 2, 2, 2), (0, 4, 2, 2), (2, 4, 2, 2), (4, 4, 2, 2), (0, 6, 2, 2), (2, 6, 4, 4),
              (0, 8, 2, 2)]
     return raster(PORTRAIT, 70, 30, 6, 10, cells)
+
+
+def fortnight():
+    """Pairs of landscapes and rows of four portraits in turn: seven photos a week, twice."""
+    return rows(PORTRAIT, 70, 35, [(500, [1, 1]), (610, [1] * 4), (500, [1, 1]), (610, [1] * 4), (500, [1, 1])])
+
+
+def three_weeks():
+    return raster(LANDSCAPE, 60, 24, 7, 3, [(x, y, 1, 1) for y in range(3) for x in range(7)])
+
+
+def quilt():
+    return grid(168, 50, 7, 5, 10, 10, 372, 372)
+
+
+def class_photo():
+    """Ten by five upright cells on a wide page."""
+    return grid(40, 42, 5, 10, 14, 14, 372, 279)
+
+
+def big_window():
+    """A landscape of nine cells, the other twenty-seven around it."""
+    around = [(x, y, 1, 1) for y in range(6) for x in range(6) if not (x in (1, 2, 3) and y in (1, 2, 3))]
+    return raster(LANDSCAPE, 50, 22, 6, 6, [(1, 1, 3, 3)] + around)

@@ -53,6 +53,14 @@ THEMES = [
           {"Frames": "Color", "Frame Color": "Green", "Shadows": "No"}),
     theme(316, "Pets", "Portrait", "Paws, a dog, a cat and six photos",
           "Five photos of what they did today, and one of what they really look like.", themes.pets),
+    theme(317, "Family tree", "Portrait", "A tree with eleven photos",
+          "Ten photos in the crown of a tree, and the whole family before its trunk.", themes.family_tree),
+    theme(318, "Valentine", "Landscape", "A large heart and nine portraits",
+          "One portrait before a large heart, four more on each side.", themes.valentine),
+    theme(319, "Mountains", "Landscape", "Peaks, firs, a trail and ten photos",
+          "Ten photos above the peaks. The tent is already up.", themes.mountains, PRINTS),
+    theme(320, "Pumpkin night", "Portrait", "A moon, bats, pumpkins and seven photos",
+          "Seven photos between the moon and the lanterns. Mind the bats.", themes.pumpkin_night),
 ]
 
 FRAMES = [

@@ -147,7 +147,7 @@ def spiral():
     for at in reversed(range(18)):
         turn, reach = math.radians(137.5 * at), math.sqrt((at + 0.3) / 18)
         size = 400 + 14 * at
-        places.append(centred(1000 + 700 * reach * math.cos(turn), 1500 + 1220 * reach * math.sin(turn), size, size * 0.75,
+        places.append(centred(1000 + 640 * reach * math.cos(turn), 1500 + 1220 * reach * math.sin(turn), size, size * 0.75,
                               five(25 * math.sin(turn * 2))))
     return places
 
@@ -212,3 +212,31 @@ def carousel():
         angle = math.radians(36 * at - 90)
         places.append(centred(1500 + 1130 * math.cos(angle), 1000 + 660 * math.sin(angle), 560, 420, five(-20 * math.sin(2 * angle))))
     return places + [centred(1500, 1000, 1080, 760, -5)]
+
+
+def round_table():
+    """Six large photos on a wide page, three above and three below."""
+    tilts = [-5, 5, -10, 5, -5, 5]
+    return [centred(540 + 960 * (at % 3), 540 + 920 * (at // 3) + (20, -20)[at % 2], *((820, 560) if at % 2 == 0 else (560, 780)), tilts[at])
+            for at in range(6)]
+
+
+def five_cards():
+    """Two large landscapes and three portraits that lap over each other."""
+    return [centred(*spot) for spot in ((620, 620, 900, 600, -5), (2350, 640, 940, 627, 5), (560, 1390, 640, 900, 10),
+                                        (2430, 1400, 620, 880, -10), (1490, 1060, 880, 1240, 0))]
+
+
+def on_the_line():
+    """Eight photos in two rows, each a little askew."""
+    tilts = [-5, 5, -5, 5, 5, -5, 5, -5]
+    return [centred(400 + 733 * (at % 4), 530 + 940 * (at // 4) + (16, -16)[at % 2], *((470, 660), (620, 450))[(at + at // 4) % 2], tilts[at])
+            for at in range(8)]
+
+
+def travel_desk():
+    return scattered(LANDSCAPE, (800, 535), (GENTLE + [-15, 15] + GENTLE)[:14], seed=14, hang=90, rounds=6000)
+
+
+def half_a_hundred():
+    return scattered(PORTRAIT, (450, 302), (TILTS * 4)[:44] + [0, -5, 5, 0, 10, -10], seed=50, hang=70, rounds=9000)
