@@ -94,9 +94,9 @@ DISKS = {LARGE: (550, 450), SMALL: (450, 350)}  # the ring of a flower and the p
 
 def flower_garden():
     """A flower is petals of one colour, a ring and a photo in it; leaves fill the gaps."""
-    flowers = [(430, 460, LARGE, 1, 4), (1290, 370, SMALL, 4, 7), (1640, 1010, SMALL, 7, 4), (860, 1130, LARGE, 5, 4),
-               (330, 1640, SMALL, 2, 5), (1470, 1740, LARGE, 1, 4), (790, 2060, SMALL, 7, 4), (390, 2610, SMALL, 4, 7),
-               (1160, 2610, SMALL, 5, 7), (1670, 2470, SMALL, 2, 5)]
+    flowers = [(430, 460, LARGE, 1, 4), (1290, 370, SMALL, 4, 6), (1640, 1010, SMALL, 7, 4), (860, 1130, LARGE, 5, 4),
+               (330, 1640, SMALL, 2, 5), (1470, 1740, LARGE, 1, 4), (790, 2060, SMALL, 7, 4), (390, 2610, SMALL, 4, 6),
+               (1080, 2640, SMALL, 5, 7), (1690, 2470, SMALL, 2, 5)]
     leaves = [(900, 660), (330, 1080), (1180, 1560), (560, 1380), (1830, 1390), (1120, 2210), (500, 2270), (160, 2150), (790, 2800),
               (1820, 540), (1560, 2880), (810, 160), (1740, 150)]
     places = [shape(x, y, 280, f"leaf_{(1, 5)[index % 2]}.gif", 3) for index, (x, y) in enumerate(leaves)]
