@@ -184,6 +184,16 @@ class CheckDesigns(unittest.TestCase):
         self.change("design_list", "100:800:900:600", "100:400:900:600")
         self.assertEqual(self.problems(), [])
 
+    def test_a_photo_whose_middle_is_hidden(self):
+        self.change("design_list", "100:800:900:600", "400:100:300:600")
+        self.assertEqual([problem for problem in self.problems() if problem.startswith("Plain: portrait")],
+                         ["Plain: portrait: the middle of location 1 is hidden by 86%"])
+
+    def test_a_strip(self):
+        self.change("design_list", "1100:100:600:900", "1100:100:450:900")
+        self.assertEqual(self.problems(), [])
+        self.assert_one("design_list", "1100:100:450:900", "1100:100:449:900", "portrait: location 3 is a strip of 900 by 449")
+
     def test_missing_pictures(self):
         for name in PICTURES:
             (self.seed / name).unlink()

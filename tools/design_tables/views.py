@@ -82,11 +82,12 @@ def covers(place, x, y, wide):
     return 0 <= across < width and 0 <= down < height
 
 
-def points_of(place, wide):
+def points_of(place, wide, part):
+    """Points of a photo, or of the part of it from `part` to 1 - `part` each way."""
     height, width = size_of(place)
     left, top = corner_of(place, wide)
     c, s = axes(place)
-    steps = [(at + 0.5) / SAMPLES for at in range(SAMPLES)]
+    steps = [part + (1 - 2 * part) * (at + 0.5) / SAMPLES for at in range(SAMPLES)]
     for down in steps:
         for across in steps:
             if not place.shape() or in_disk(across, down):
@@ -94,8 +95,8 @@ def points_of(place, wide):
                 yield left + x * c - y * s, top + x * s + y * c
 
 
-def covered_shares(view):
-    """For each photo that something may hide, its index and the share that can't be seen."""
+def covered_shares(view, part=0.0):
+    """For each photo that something may hide, its index and the share that can't be seen, of all of it or of its middle."""
     width, height = view.size
     wide = width > height
     for at, place in enumerate(view.places):
@@ -103,7 +104,7 @@ def covered_shares(view):
             continue
         later = [other for other in view.places[at + 1:] if near(place, other, wide)]
         seen = hidden = 0
-        for x, y in points_of(place, wide):
+        for x, y in points_of(place, wide, part):
             seen += 1
             hidden += not (0 <= x < width and 0 <= y < height) or any(covers(other, x, y, wide) for other in later)
         yield at, hidden / max(1, seen)

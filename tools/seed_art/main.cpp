@@ -1,6 +1,6 @@
 // Renders the seed data's drawings. One picture a call, so that the build makes only what has changed.
 //
-//     seed_art mask IN.svg OUT.gif            800 by 800, grey levels
+//     seed_art mask IN.svg OUT.gif SIZE       a square of that side, grey levels
 //     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
 //     seed_art icon IN.svg OUT.bmp W H        a Windows bitmap of that size, 24 bits
 //     seed_art smaller IN.jpg OUT.jpg QUALITY  the same picture in less bytes, as a JPEG of that quality
@@ -26,7 +26,6 @@
 
 namespace {
 
-constexpr int mask_size = 800;
 constexpr int picture_quality = 92;
 constexpr int page_quality = 84;
 
@@ -69,9 +68,9 @@ void save(FREE_IMAGE_FORMAT format, const image_owner & image, const char * path
         throw std::runtime_error(std::string(path) + ": can't be written");
 }
 
-void render_mask(const char * drawing, const char * target)
+void render_mask(const char * drawing, const char * target, int size)
 {
-    const image_owner colour = in_colour(rendered(drawing, mask_size, mask_size));
+    const image_owner colour = in_colour(rendered(drawing, size, size));
     const image_owner grey(FreeImage_ConvertToGreyscale(colour.get()));
     save(FIF_GIF, grey, target, GIF_DEFAULT);
 }
@@ -158,8 +157,8 @@ void render_white(const char * target, int size)
 void render(int count, char ** arguments)
 {
     const std::string kind = count > 1 ? arguments[1] : "";
-    if (kind == "mask" && count == 4)
-        render_mask(arguments[2], arguments[3]);
+    if (kind == "mask" && count == 5)
+        render_mask(arguments[2], arguments[3], std::stoi(arguments[4]));
     else if (kind == "picture" && count == 6)
         render_picture(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "icon" && count == 6)
@@ -178,7 +177,7 @@ void render(int count, char ** arguments)
         render_white(arguments[2], std::stoi(arguments[3]));
     else
         throw std::runtime_error(
-            "mask IN OUT, picture, icon or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
+            "mask IN OUT SIZE, picture, icon or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
             "PHOTOS, smaller IN OUT QUALITY, shrunk IN OUT WIDTH, unlike ONE OTHER LEVELS, or white OUT "
             "SIZE");
 }

@@ -38,9 +38,9 @@ def brick_wall():
 
 
 def golden_spiral():
-    """Squares of the sides 13, 8, 5, 3 and 2, and a last one of two by one."""
+    """Squares of the sides 13, 8, 5 and 3, and what is left inside them, two by three."""
     unit, left, top, gap = 136, 116, 72, 24
-    cells = [(0, 0, 13, 13), (5, 13, 8, 8), (0, 16, 5, 5), (0, 13, 3, 3), (3, 13, 2, 2), (3, 15, 2, 1)]
+    cells = [(0, 0, 13, 13), (5, 13, 8, 8), (0, 16, 5, 5), (0, 13, 3, 3), (3, 13, 2, 3)]
     return [box(left + x * unit + gap / 2, top + y * unit + gap / 2, w * unit - gap, h * unit - gap) for x, y, w, h in cells]
 
 
@@ -152,8 +152,8 @@ def diamond():
     places = []
     for line in range(9):
         count = 5 - abs(4 - line)
-        left = 1000 - (count * 360 + (count - 1) * 26) / 2
-        places += [box(left + x * 386, 185 + line * 295, 360, 269) for x in range(count)]
+        left = 1000 - (count * 342 + (count - 1) * 26) / 2
+        places += [box(left + x * 368, 205 + line * 290, 342, 264) for x in range(count)]
     return places
 
 
@@ -203,3 +203,27 @@ def window_seat():
     cells = [(0, 0, 4, 4), (4, 0, 2, 2), (4, 2, 2, 2), (0, 4, 2, 2), (2, 4, 2, 2), (4, 4, 2, 2), (0, 6, 2, 2), (2, 6, 4, 4),
              (0, 8, 2, 2)]
     return raster(PORTRAIT, 70, 30, 6, 10, cells)
+
+
+def fortnight():
+    """Pairs of landscapes and rows of four portraits in turn: seven photos a week, twice."""
+    return rows(PORTRAIT, 70, 35, [(500, [1, 1]), (610, [1] * 4), (500, [1, 1]), (610, [1] * 4), (500, [1, 1])])
+
+
+def three_weeks():
+    return raster(LANDSCAPE, 60, 24, 7, 3, [(x, y, 1, 1) for y in range(3) for x in range(7)])
+
+
+def quilt():
+    return grid(168, 50, 7, 5, 10, 10, 372, 372)
+
+
+def class_photo():
+    """Ten by five upright cells on a wide page."""
+    return grid(40, 42, 5, 10, 14, 14, 372, 279)
+
+
+def big_window():
+    """A landscape of nine cells, the other twenty-seven around it."""
+    around = [(x, y, 1, 1) for y in range(6) for x in range(6) if not (x in (1, 2, 3) and y in (1, 2, 3))]
+    return raster(LANDSCAPE, 50, 22, 6, 6, [(1, 1, 3, 3)] + around)

@@ -38,6 +38,11 @@ def design(number, name, family, background, tip, description, layout, keys, sty
     return Design(number, name, layout.__name__, style, family, background, tip, description, layout(), keys)
 
 
+def on(ground):
+    """A background of starter_art, which the window then doesn't offer to change."""
+    return {"BG Image": f"{ground}.jpg"}
+
+
 PLAIN_GROUND = {"BG Image": "Either"}
 FITTING = {"Match": "Yes"}
 ANY_SHAPE = {"Match": "No"}
@@ -70,7 +75,7 @@ STARTERS = [
     Design(103, "Gallery wall", "gallery_wall", "Place", "Block", "Portrait",
            "Rows of different heights with air between the photos",
            "Four rows of photos with room around each, as in a gallery.",
-           layouts.gallery_wall(), {**FITTING, "Turn BG": "Yes"}),
+           layouts.gallery_wall(), {**FITTING, **on("white_wall"), "Turn BG": "Yes"}),
     Design(104, "Daydream", "daydream", "Place", "Block", "Portrait",
            "Soft photos that melt into each other",
            "Ten photos whose soft edges melt into each other, without frames and shadows.",
@@ -79,20 +84,20 @@ STARTERS = [
            "Photos at every angle that cover the whole poster",
            "A box of photos, emptied on the table. They lie at every angle and cover the whole poster.\n"
            "Try it with a white frame and a little shadow.",
-           layouts.thrown(), {**FITTING, "Turn BG": "Yes"}),
+           layouts.thrown(), {**FITTING, **on("oak"), "Turn BG": "Yes"}),
     Design(106, "Picnic", "picnic", "Place", "Scatter", "Landscape",
            "Photos spread on a wide blanket",
-           "Photos spread out on a wide blanket. Drawn for a landscape poster; it turns for a portrait one.",
-           layouts.picnic(), {**FITTING, "Turn BG": "Yes", "Borders": "No"}),
+           "Photos spread out on a wide blanket of red and white checks. Drawn for a landscape poster; it turns for a portrait one.",
+           layouts.picnic(), {**FITTING, **on("gingham"), "Turn BG": "Yes", "Borders": "No"}),
     Design(107, "Snapshots", "snapshots", "Place", "Scatter", "Portrait",
            "Instant pictures with room to write on",
            "Square pictures on cards, with room below each to write on.\n"
            "The frame colour is the colour of the card.",
-           layouts.polaroids(), {**ANY_SHAPE, "Block": "Yes", "Turn BG": "No"}),
+           layouts.polaroids(), {**ANY_SHAPE, **on("walnut_tall"), "Block": "Yes", "Turn BG": "No"}),
     Design(108, "White mats", "white_mats", "Place", "Theme", "Portrait",
            "Few photos in broad frames, some of them askew",
            "Nine photos in broad frames of a fixed size. Somebody should straighten a few of them.",
-           layouts.white_mats(), {**FITTING, "Frames": "45", "Turn BG": "Yes"}),
+           layouts.white_mats(), {**FITTING, **on("green_wall"), "Frames": "45", "Turn BG": "Yes"}),
     Design(109, "Contact sheet", "contact_sheet", "Fill", "Block", "Portrait",
            "Landscape photos in eight rows of four",
            "All photos in the same size, row by row, as they come from the camera.",
@@ -108,7 +113,7 @@ STARTERS = [
     Design(112, "Shaken wall", "shaken_wall", "Matrix", "Theme", "Portrait",
            "A grid of portraits that has been shaken",
            "Twenty portraits that once hung in straight rows. Then somebody slammed the door.",
-           layouts.shaken_wall(), {**FITTING, "Turn BG": "No"}),
+           layouts.shaken_wall(), {**FITTING, **on("wallpaper"), "Turn BG": "No"}),
     Design(113, "At the seaside", "seaside", "Place", "Theme", "Portrait",
            "Holiday photos between the sea and the sand",
            "Seven photos between the sea and the sand, and a postcard for those at home.",
@@ -125,19 +130,19 @@ STARTERS = [
                                     "Frames": "Color", "Frame Color": "Yellow", "Shadows": "Color"}),
     Design(116, "Best wishes", "best_wishes", "Place", "Theme", "Portrait",
            "Photos with a greeting",
-           "Seven photos and a line of writing. Change the greeting in the caption box.",
-           layouts.best_wishes(), {**FITTING, "Caption": "Best wishes", "Caption Clear": "Yes",
+           "Seven photos and a line of writing on a card of cream paper. Change the greeting in the caption box.",
+           layouts.best_wishes(), {**FITTING, **on("greeting"), "Caption": "Best wishes", "Caption Clear": "Yes",
                                    "Caption Color": "Red", "Turn BG": "No"}),
     Design(117, "Sweethearts", "sweethearts", "Place", "Block", "Portrait",
            "Hearts filled with photos, and small red and orange ones",
            "Ten hearts, each filled with a photo, and seven small ones in red and orange.",
-           layouts.sweethearts(), {**SHAPES, "Quick Shape": "Yes", "Turn BG": "Yes"}),
+           layouts.sweethearts(), {**SHAPES, **on("rose"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
     Design(118, "Flower garden", "flower_garden", "Place", "Block", "Portrait",
            "A photo in the heart of each flower",
            "Ten flowers of all colours with a photo in the heart of each.",
-           layouts.flower_garden(), {**SHAPES, "Quick Shape": "Yes", "Turn BG": "Yes"}),
+           layouts.flower_garden(), {**SHAPES, **on("lawn"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
     Design(119, "Celebration", "celebration", "Place", "Block", "Portrait",
            "Stars and circles among confetti",
            "Four stars and three circles filled with photos, among coloured confetti.",
-           layouts.celebration(), {**SHAPES, "Quick Shape": "Yes", "Turn BG": "Yes"}),
+           layouts.celebration(), {**SHAPES, **on("party"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
 ]

@@ -4,6 +4,7 @@ A slow hill climb over a coarse raster, from a fixed seed, so that the same tabl
 """
 import math
 import random
+from dataclasses import replace
 
 from starter_designs.place import centred
 
@@ -85,34 +86,95 @@ class Scatter:
                 self.items[index], self.spans[index] = new, span
             self.add(self.spans[index], 1)
 
-    def least_visible(self, order):
-        """The photo of which the smallest share shows when they are drawn in this order, and that share."""
-        owner = {}
-        for index in order:
-            owner.update(dict.fromkeys(self.spans[index], index))
-        shown = [0] * len(self.items)
-        for index in owner.values():
-            shown[index] += 1
-        shares = [shown[index] / max(1, len(self.spans[index])) for index in range(len(self.items))]
-        worst = min(range(len(shares)), key=shares.__getitem__)
-        return worst, shares[worst]
-
-    def in_drawing_order(self):
-        """From the rim inwards, so that the photos of the middle lie on top; then whoever hides most comes up."""
-        def from_rim(index):
+    def from_rim(self):
+        """From the rim inwards, so that the photos of the middle lie on top."""
+        def nearness(index):
             x, y = self.items[index][0] / self.size[0] - 0.5, self.items[index][1] / self.size[1] - 0.5
             return -max(abs(x), abs(y))
-        order = sorted(range(len(self.items)), key=from_rim)
-        best, best_share = order, self.least_visible(order)[1]
-        for _ in range(len(order) * 3):
-            worst, _ = self.least_visible(order)
-            at = order.index(worst)
-            order = order[:at] + order[at + 1:]
-            order.insert(min(at + 2, len(order)), worst)
-            share = self.least_visible(order)[1]
-            if share > best_share:
-                best, best_share = order, share
-        return [self.place(self.items[index]) for index in best]
+        return sorted(range(len(self.items)), key=nearness)
+
+    def in_drawing_order(self):
+        """An order in which every photo can be seen, its middle above all, both upright and turned."""
+        places = [self.place(item) for item in self.items]
+        hiding = hidings(places, self.size)
+        order = self.from_rim()
+        best = burden(order, hiding)
+        for _ in range(100 * len(order)):
+            tried = list(order)
+            tried.insert(self.chance.randrange(len(order)), tried.pop(self.chance.randrange(len(order))))
+            worth = burden(tried, hiding)
+            if worth <= best:
+                order, best = tried, worth
+        return [places[index] for index in order]
+
+
+POINTS = 9  # of a photo, each way; those from a third to two thirds are its middle
+
+
+def hidings(places, size):
+    """For each two photos which points of the first the second hides, as bits: the first view's, then the turned one's.
+    A photo with itself: the points that lie beyond the page."""
+    edge = size[1]
+    turns = [turned_place(place, edge) for place in places]
+    found = []
+    for at, place in enumerate(places):
+        row = []
+        for other, later in enumerate(places):
+            if at == other:
+                bits = points_beyond(place, size) | points_beyond(turns[at], size[::-1]) << POINTS ** 2
+            else:
+                bits = hidden_points(place, later) | hidden_points(turns[at], turns[other]) << POINTS ** 2
+            row.append(bits)
+        found.append(row)
+    return found
+
+
+def turned_place(place, edge):
+    """As the program turns a location."""
+    return replace(place, top=round(place.left - place.height * place.rotation * 0.0174), left=edge - (place.top + place.height),
+                   height=place.width, width=place.height)
+
+
+def points_beyond(place, size):
+    page = replace(place, top=0, left=0, height=size[1], width=size[0], rotation=0)
+    return ALL & ~hidden_points(place, page)
+
+
+def hidden_points(place, later):
+    c, s = math.cos(math.radians(place.rotation)), math.sin(math.radians(place.rotation))
+    lc, ls = math.cos(math.radians(later.rotation)), math.sin(math.radians(later.rotation))
+    reach = math.hypot(place.width, place.height) + math.hypot(later.width, later.height)
+    if math.dist((place.left, place.top), (later.left, later.top)) > reach:
+        return 0
+    bits = 0
+    for at in range(POINTS ** 2):
+        x, y = (at % POINTS + 0.5) / POINTS * place.width, (at // POINTS + 0.5) / POINTS * place.height
+        dx, dy = place.left + x * c - y * s - later.left, place.top + x * s + y * c - later.top
+        if 0 <= dx * lc + dy * ls < later.width and 0 <= dy * lc - dx * ls < later.height:
+            bits |= 1 << at
+    return bits
+
+
+def middle_points():
+    third = range(POINTS // 3, POINTS - POINTS // 3)
+    return sum(1 << (row * POINTS + column) for row in third for column in third)
+
+
+ALL, MIDDLE = (1 << POINTS ** 2) - 1, middle_points()
+
+
+def burden(order, hiding):
+    """How much is hidden beyond what may be: a fifth of a middle, two fifths of a photo. One that is hidden much counts
+    more than two that are hidden half as much."""
+    total = 0.0
+    for step, index in enumerate(order):
+        bits = hiding[index][index]
+        for later in order[step + 1:]:
+            bits |= hiding[index][later]
+        for view in (bits & ALL, bits >> POINTS ** 2):
+            middle, whole = (view & MIDDLE).bit_count() / MIDDLE.bit_count(), view.bit_count() / POINTS ** 2
+            total += 2 * max(0.0, middle - 0.2) ** 3 + 4 * max(0.0, whole - 0.4) ** 3
+    return total
 
 
 def scattered(size, photo, angles, seed, hang=110, rounds=6000):

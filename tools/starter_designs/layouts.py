@@ -23,11 +23,11 @@ def gallery_wall():
 
 
 def thrown():
-    return scattered(PORTRAIT, (660, 440), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=3, hang=80)
+    return scattered(PORTRAIT, (630, 420), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=3, hang=80)
 
 
 def picnic():
-    return scattered(LANDSCAPE, (660, 440), ALL_TILTS + [-15, -10, -10, -5, -5, 0, 5, 5, 10, 10, 15, 0], seed=11)
+    return scattered(LANDSCAPE, (620, 415), ALL_TILTS + [-15, -10, -10, -5, -5, 0, 5, 5, 10, 10, 15, 0], seed=11)
 
 
 def polaroids():
@@ -53,7 +53,7 @@ def three_bands():
 
 
 def shaken_wall():
-    return grid(290, 200, 5, 4, 30, 30, 470, 370, rotate=1, resize=1)
+    return grid(90, 142, 5, 4, 25, 25, 525, 410, rotate=1, resize=1)
 
 
 def seaside():
@@ -79,49 +79,52 @@ def starry_night():
 
 def sweethearts():
     """Hearts in four rows, the small coloured ones between them."""
-    large = [(x, y) for row, y in enumerate((420, 1130, 1840, 2550))
+    large = [(x, y) for row, y in enumerate((420, 1140, 1860, 2580))
              for x in ((400, 1000, 1600) if row % 2 == 0 else (700, 1300))]
-    small = [(1000, 775, 1), (1000, 1485, 7), (1000, 2195, 1), (240, 1090, 7), (1760, 1090, 1), (240, 2510, 1),
-             (1760, 2510, 7)]
-    return [shape(x, y, 240, "heart.gif", color) for x, y, color in small] + [
-        shape(x, y, 620, "heart.gif") for x, y in large]
+    small = [(700, 780, 1), (1300, 780, 7), (1000, 1500, 1), (400, 1500, 7), (1600, 1500, 7), (700, 2220, 7), (1300, 2220, 1),
+             (200, 1140, 1), (1800, 1140, 1), (200, 2580, 7), (1800, 2580, 7)]
+    return [shape(x, y, 150, "heart.gif", color) for x, y, color in small] + [
+        shape(x, y, 560, "heart.gif") for x, y in large]
+
+
+# A mask is scaled once for each size, which takes longer than to draw a shape. So the sizes are few.
+LARGE, SMALL = 800, 600
+DISKS = {LARGE: (550, 450), SMALL: (450, 350)}  # the ring of a flower and the photo in it
 
 
 def flower_garden():
-    """A flower is petals of one colour, a dark ring and a photo in it; leaves fill the gaps."""
-    flowers = [(430, 460, 760, 1), (1290, 380, 640, 4), (1650, 1010, 620, 7), (860, 1120, 800, 5), (330, 1640, 600, 2),
-               (1480, 1720, 780, 1), (800, 2080, 620, 7), (400, 2610, 660, 4), (1180, 2590, 640, 5),
-               (1720, 2470, 480, 2)]
-    leaves = [(900, 700, 330), (1240, 800, 260), (330, 1130, 380), (1190, 1580, 250), (560, 1340, 230),
-              (1830, 1380, 260), (1140, 2180, 260), (540, 2310, 230), (170, 2130, 330), (800, 2760, 260),
-              (1830, 480, 270), (1500, 2200, 240), (1480, 2870, 210), (790, 210, 240), (1730, 160, 240)]
-    places = [shape(x, y, size, f"leaf_{index % 6 + 1}.gif", 3) for index, (x, y, size) in enumerate(leaves)]
-    for x, y, size, color in flowers:
-        middle = round(size * 0.56)
-        places += [shape(x, y, size, "flower.gif", color), shape(x, y, middle + 30, "circle.gif", 6),
-                   shape(x, y, middle, "circle.gif")]
+    """A flower is petals of one colour, a ring and a photo in it; leaves fill the gaps."""
+    flowers = [(430, 460, LARGE, 1, 4), (1290, 370, SMALL, 4, 6), (1640, 1010, SMALL, 7, 4), (860, 1130, LARGE, 5, 4),
+               (330, 1640, SMALL, 2, 5), (1470, 1740, LARGE, 1, 4), (790, 2060, SMALL, 7, 4), (390, 2610, SMALL, 4, 6),
+               (1080, 2640, SMALL, 5, 7), (1690, 2470, SMALL, 2, 5)]
+    leaves = [(900, 660), (330, 1080), (1180, 1560), (560, 1380), (1830, 1390), (1120, 2210), (500, 2270), (160, 2150), (790, 2800),
+              (1820, 540), (1560, 2880), (810, 160), (1740, 150)]
+    places = [shape(x, y, 280, f"leaf_{(1, 5)[index % 2]}.gif", 3) for index, (x, y) in enumerate(leaves)]
+    for x, y, size, color, ring in flowers:
+        outer, inner = DISKS[size]
+        places += [shape(x, y, size, "flower.gif", color), shape(x, y, outer, "circle.gif", ring),
+                   shape(x, y, inner, "circle.gif")]
     return places
 
 
 def celebration():
-    """Stars, clouds and circles for photos, and small coloured ones like confetti."""
-    photos = [(480, 480, 860, "star.gif"), (1480, 560, 760, "circle.gif"), (1000, 1250, 980, "star.gif"),
-              (380, 1500, 640, "circle.gif"), (1640, 1610, 640, "circle.gif"), (560, 2280, 900, "star.gif"),
-              (1420, 2420, 880, "star.gif")]
-    colors = [1, 4, 2, 7, 3, 5]
-    confetti = [(950, 160, 170), (1010, 640, 150), (1860, 190, 190), (120, 150, 170), (130, 960, 200), (560, 960, 150),
-                (1520, 1110, 170), (1840, 1090, 190), (180, 2000, 180), (830, 1830, 170), (1220, 1850, 190),
-                (1650, 2050, 150), (980, 2740, 200), (160, 2790, 220), (1880, 2860, 190), (1880, 2060, 180),
-                (620, 2830, 150), (1000, 2130, 140)]
-    dots = [shape(x, y, size, "star.gif" if index % 2 else "circle.gif", colors[index % 6])
-            for index, (x, y, size) in enumerate(confetti)]
+    """Stars and circles for photos, and small coloured ones like confetti."""
+    photos = [(480, 480, 900, "star.gif"), (1510, 480, 660, "circle.gif"), (1000, 1230, 900, "star.gif"),
+              (390, 1560, 660, "circle.gif"), (1610, 1640, 660, "circle.gif"), (560, 2380, 900, "star.gif"),
+              (1430, 2450, 900, "star.gif")]
+    colors = [1, 4, 7, 3, 5, 4]
+    confetti = [(990, 150), (1010, 560), (1880, 150), (110, 130), (130, 960), (470, 1080), (1560, 930), (1830, 1150),
+                (110, 2010), (760, 1740), (1210, 1760), (1870, 2080), (990, 2720), (130, 2860), (1890, 2860), (1000, 2060),
+                (640, 2880), (1150, 2900)]
+    dots = [shape(x, y, 160, "star.gif" if index % 2 else "circle.gif", colors[index % 6])
+            for index, (x, y) in enumerate(confetti)]
     return dots + [shape(x, y, size, mask) for x, y, size, mask in photos]
 
 
 def white_mats():
     return [box(170, 190, 780, 520), centred(1480, 500, 460, 690, 5), centred(420, 1250, 440, 660, -5),
             box(790, 990, 440, 660), centred(1620, 1240, 400, 600, -5), box(160, 1780, 740, 493),
-            centred(1460, 2060, 740, 493, 5), centred(410, 2635, 380, 500, 5), box(880, 2420, 930, 480)]
+            centred(1460, 2060, 740, 493, 5), centred(410, 2635, 380, 500, 5), box(880, 2400, 930, 520)]
 
 
 def daydream():

@@ -18,18 +18,18 @@ def fan():
     places = []
     for tilt in range(-30, 35, 10):
         angle = math.radians(tilt)
-        places.append(centred(1500 + 1900 * math.sin(angle), 2780 - 1900 * math.cos(angle), 590, 885, tilt))
+        places.append(centred(1500 + 1950 * math.sin(angle), 2790 - 1950 * math.cos(angle), 520, 780, tilt))
     return places
 
 
 def two_fans():
-    """A hand of five above, one of five below that points down."""
+    """A hand of five above, one of five below that points down, and the card that was played."""
     places = []
-    for middle, sign in ((1660, 1), (1340, -1)):
-        for tilt in range(-30, 35, 15):
+    for middle, sign in ((2390, 1), (610, -1)):
+        for tilt in range(-20, 25, 10):
             angle = math.radians(tilt)
-            places.append(centred(1000 + 980 * math.sin(angle), middle - sign * 940 * math.cos(angle), 580, 870, tilt * sign))
-    return places
+            places.append(centred(1000 + 1700 * math.sin(angle), middle - sign * 1700 * math.cos(angle), 490, 735, tilt * sign))
+    return places + [centred(1000, 1500, 640, 427, -5)]
 
 
 def waves():
@@ -43,26 +43,28 @@ def waves():
     return places
 
 
-def heart_line(count, steps=2000):
-    """Points at even distances along a heart about (0, 0), from its cleft on."""
+def heart_line(count, cleft, steps=2000):
+    """Points at even distances along a heart about (0, 0); the first and the last leave `cleft` pixels to its cleft."""
     line = []
     for at in range(steps + 1):
         t = 2 * math.pi * at / steps
         line.append((47 * 16 * math.sin(t) ** 3,
                      -74 * (13 * math.cos(t) - 5 * math.cos(2 * t) - 2 * math.cos(3 * t) - math.cos(4 * t))))
     lengths = [math.dist(one, other) for one, other in zip(line, line[1:])]
-    found, walked, gap = [], 0.0, sum(lengths) / count
+    found, walked, gap = [], 0.0, (sum(lengths) - 2 * cleft) / (count - 1)
     for point, length in zip(line, lengths):
-        if walked <= len(found) * gap < walked + length:
+        if len(found) < count and walked + length >= cleft + len(found) * gap:
             found.append(point)
         walked += length
     return found
 
 
 def heart_ring():
-    """Sixteen photos along a heart and a large one inside."""
-    places = [centred(1000 + x, 1330 + y, 440, 330, (-15, 10, -5, 15, -10, 5)[at % 6]) for at, (x, y) in enumerate(heart_line(16))]
-    return places + [centred(1000, 1290, 720, 540, -5)]
+    """Seventeen photos along a heart, leaning as its two sides do, and a large one inside."""
+    tilts = [-10, 10, -5, 10, -10, 5, -5, 10]
+    places = [centred(1000 + x, 1340 + y, 420, 315, tilt)
+              for (x, y), tilt in zip(heart_line(17, 470), tilts + [0] + [-tilt for tilt in reversed(tilts)])]
+    return places + [centred(1000, 1500, 760, 570, -5)]
 
 
 def ring():
@@ -101,20 +103,20 @@ def four_friends():
 
 
 def cascade():
-    """Ten photos that tumble to and fro on their way down."""
+    """Eight photos that tumble to and fro on their way down."""
     places = []
-    for at in range(10):
-        x = 1000 + 460 * math.sin(at * 0.8 - 1.3)
-        places.append(centred(x, 330 + 260 * at, 800, 600, five(-22 * math.cos(at * 0.8 - 1.3))))
+    for at in range(8):
+        y = 360 + 325 * at
+        places.append(centred(1000 + 400 * math.sin(y / 330 - 1.7), y, 760, 507, five(-20 * math.cos(y / 330 - 1.7))))
     return places
 
 
 def confetti():
-    return scattered(PORTRAIT, (430, 290), TILTS * 4 + [0, -5, 5, 10], seed=49, hang=70, rounds=9000)
+    return scattered(PORTRAIT, (410, 275), TILTS * 4 + [0, -5, 5, 10], seed=49, hang=70, rounds=9000)
 
 
 def forty():
-    return scattered(LANDSCAPE, (540, 360), (TILTS * 3)[:36] + [0, 0, -5, 5], seed=21, hang=60, rounds=9000)
+    return scattered(LANDSCAPE, (505, 338), (TILTS * 3)[:36] + [0, 0, -5, 5], seed=21, hang=60, rounds=9000)
 
 
 def thirty():
@@ -128,13 +130,13 @@ def twenty_wide():
 def loose_rows():
     """Twelve landscapes in rows, each a little askew, with air between them."""
     tilts = [-5, 5, 5, -5, -5, 5, 5, -5, 5, -5, -5, 5]
-    return [centred(520 + 960 * (at % 2) + (14, -10, 6)[at % 3], 300 + 480 * (at // 2) + (-10, 12)[at % 2], 760, 400, tilts[at])
+    return [centred(520 + 960 * (at % 2) + (14, -10, 6)[at % 3], 300 + 480 * (at // 2) + (-10, 12)[at % 2], 690, 420, tilts[at])
             for at in range(12)]
 
 
 def loose_portraits():
     """Ten portraits in two rows."""
-    tilts = [-5, 5, -5, 10, -5, 5, -10, 5, -5, 5]
+    tilts = [-5, 5, -5, 5, -5, 5, -5, 5, -5, 5]
     return [centred(330 + 585 * (at % 5) + (10, -8, 12)[at % 3], 520 + 960 * (at // 5) + (-16, 14)[at % 2], 460, 740, tilts[at])
             for at in range(10)]
 
@@ -145,7 +147,7 @@ def spiral():
     for at in reversed(range(18)):
         turn, reach = math.radians(137.5 * at), math.sqrt((at + 0.3) / 18)
         size = 400 + 14 * at
-        places.append(centred(1000 + 700 * reach * math.cos(turn), 1500 + 1220 * reach * math.sin(turn), size, size * 0.75,
+        places.append(centred(1000 + 640 * reach * math.cos(turn), 1500 + 1220 * reach * math.sin(turn), size, size * 0.75,
                               five(25 * math.sin(turn * 2))))
     return places
 
@@ -210,3 +212,31 @@ def carousel():
         angle = math.radians(36 * at - 90)
         places.append(centred(1500 + 1130 * math.cos(angle), 1000 + 660 * math.sin(angle), 560, 420, five(-20 * math.sin(2 * angle))))
     return places + [centred(1500, 1000, 1080, 760, -5)]
+
+
+def round_table():
+    """Six large photos on a wide page, three above and three below."""
+    tilts = [-5, 5, -10, 5, -5, 5]
+    return [centred(540 + 960 * (at % 3), 540 + 920 * (at // 3) + (20, -20)[at % 2], *((820, 560) if at % 2 == 0 else (560, 780)), tilts[at])
+            for at in range(6)]
+
+
+def five_cards():
+    """Two large landscapes and three portraits that lap over each other."""
+    return [centred(*spot) for spot in ((620, 620, 900, 600, -5), (2350, 640, 940, 627, 5), (560, 1390, 640, 900, 10),
+                                        (2430, 1400, 620, 880, -10), (1490, 1060, 880, 1240, 0))]
+
+
+def on_the_line():
+    """Eight photos in two rows, each a little askew."""
+    tilts = [-5, 5, -5, 5, 5, -5, 5, -5]
+    return [centred(400 + 733 * (at % 4), 530 + 940 * (at // 4) + (16, -16)[at % 2], *((470, 660), (620, 450))[(at + at // 4) % 2], tilts[at])
+            for at in range(8)]
+
+
+def travel_desk():
+    return scattered(LANDSCAPE, (800, 535), (GENTLE + [-15, 15] + GENTLE)[:14], seed=14, hang=90, rounds=6000)
+
+
+def half_a_hundred():
+    return scattered(PORTRAIT, (450, 302), (TILTS * 4)[:44] + [0, -5, 5, 0, 10, -10], seed=50, hang=70, rounds=9000)
