@@ -6,6 +6,7 @@
 #include "designs/chosen_design.h"
 #include "frames/frame_field.h"
 #include "frames/frame_sets.h"
+#include "frames/frames_template.h"
 #include "session/handlers.h"
 #include "support/show_help.h"
 
@@ -131,7 +132,10 @@ void choose_frames(windows & all)
     if (!offer_frame_sets(all.main) || !choose_frame_set(all.main))
         return;
     const double captions = leading_number(get_frame_field(all.main, "Number of Captions"));
-    window.chosen_set = {.set = all.main.frame_set_name, .captions = nearest16(captions)};
+    const auto order = photo_order_of_set(all.main);
+    if (!order)
+        return;
+    window.chosen_set = {.set = all.main.frame_set_name, .captions = nearest16(captions), .order = *order};
     window.chkFrames.tick(true);
 }
 
@@ -182,6 +186,8 @@ void cmdOk_click(windows & all)
     write_matrix_design(all.matrix, all.main, run_size::preview);
     write_matrix_design(all.matrix, all.main, run_size::full);
     take_matrix(all.main, choices);
+    if (choices.frames)
+        offer_list_of_frame_set(all.main);
     all.matrix.unload();
 }
 

@@ -15,10 +15,11 @@ struct poster_borders {
     bool operator==(const poster_borders &) const = default;
 };
 
-/// A frame set around each photo; `captions` is the count of its captions.
+/// A frame set around each photo.
 struct worn_frames {
     std::string set{};
-    int captions = 0;
+    int captions = 0;     ///< how many it has
+    std::string order{};  ///< the orientation letters of the photos of its list; empty for one without a list
 };
 
 struct matrix_choices {

@@ -1,6 +1,7 @@
 #include "designers/matrix_layout.h"
 
 #include "designers/poster_area.h"
+#include "frames/deal_frames.h"
 #include "support/numbers.h"
 
 #include <algorithm>
@@ -127,6 +128,16 @@ framed_cell cell_at(const matrix_layout & layout, int row, int column)
     return cell;
 }
 
+// With a list the caption of the cell's photo, as it comes to cells of that shape; else the next in turn.
+// Frame 00 is the one of the default caption.
+int caption_of(const worn_frames & frames, std::string & order, char letter, std::size_t cell)
+{
+    const int photo = take_next_photo(order, letter);
+    if (photo > 0)
+        return photo <= frames.captions ? photo : 0;
+    return frames.captions > 0 ? static_cast<int>(cell) % frames.captions + 1 : 0;
+}
+
 bool are_too_small(const matrix_layout & layout)
 {
     return std::min(layout.cell_height, layout.cell_width) < smallest_cell ||
@@ -175,13 +186,13 @@ std::vector<framed_cell> framed_cells(const matrix_choices & choices, const matr
     std::vector<framed_cell> cells;
     if (!choices.frames)
         return cells;
-    const int captions = choices.frames->captions;
+    std::string order = choices.frames->order;
     for (int row = 0; row < layout.rows; ++row)
         for (int column = 0; column < layout.columns; ++column) {
-            // A set without captions has the frame of its default caption alone.
-            const int number = captions > 0 ? static_cast<int>(cells.size()) % captions + 1 : 0;
-            framed_cell & cell = cells.emplace_back(cell_at(layout, row, column));
+            framed_cell cell = cell_at(layout, row, column);
+            const int number = caption_of(*choices.frames, order, cell.file.front(), cells.size());
             cell.file = "frames\\" + choices.frames->set + "\\" + cell.file + formatted(number, 2) + ".jpg";
+            cells.push_back(std::move(cell));
         }
     return cells;
 }

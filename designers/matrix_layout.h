@@ -30,7 +30,8 @@ struct framed_cell {
     std::string file{};  ///< of the frame, below the data folder
 };
 
-/// All cells, row by row, frames dealt in turn. Empty without a frame set.
+/// All cells, row by row, frames dealt in turn, or with the captions of the photos that go there when the set
+/// has a photo list. Empty without a frame set.
 std::vector<framed_cell> framed_cells(const matrix_choices & choices, const matrix_layout & layout);
 
 /// The template: a grid, or a frame and a photo for each cell. Raises overflow (6) beyond 16 bits.

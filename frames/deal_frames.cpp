@@ -18,26 +18,10 @@ char upper(char letter)
     return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
-// The place of the next photo of that letter that has no location yet; when all have one, all are free again.
-std::size_t next_photo(std::string & order, char letter)
-{
-    const std::size_t at = order.find(letter);
-    if (at != nowhere)
-        return at;
-    std::ranges::replace(order, upper(letter), letter);
-    return order.find(letter);
-}
-
 // The number of the caption for a location, 0 for none.
 int caption_for(frame_deal & deal, char letter, int in_turn)
 {
-    if (deal.order.empty())
-        return in_turn;
-    const std::size_t photo = next_photo(deal.order, letter);
-    if (photo == nowhere)
-        return 0;
-    deal.order[photo] = upper(letter);
-    return static_cast<int>(photo) + 1;
+    return deal.order.empty() ? in_turn : take_next_photo(deal.order, letter);
 }
 
 std::string dealt_line(const frame_deal & deal, std::string_view place, char letter, int caption)
@@ -55,6 +39,17 @@ int next_caption(const frame_deal & deal, int caption)
 }
 
 }  // namespace
+
+int take_next_photo(std::string & order, char letter)
+{
+    if (order.find(letter) == nowhere)
+        std::ranges::replace(order, upper(letter), letter);
+    const std::size_t photo = order.find(letter);
+    if (photo == nowhere)
+        return 0;
+    order[photo] = upper(letter);
+    return static_cast<int>(photo) + 1;
+}
 
 dealt_frames deal_frames(const std::vector<std::string> & source, frame_deal deal)
 {

@@ -22,6 +22,10 @@ struct dealt_frames {
     std::optional<char> missing;
 };
 
+/// The number, from 1 up, of the next photo of that letter in `order`, 0 for none. It has a capital from then
+/// on; when all have one, all are free again.
+int take_next_photo(std::string & order, char letter);
+
 /// Deals out frames in the order of their captions, from the last to the first again, or, with a list, to
 /// each location the caption of the next photo of its orientation that has none yet. A line without "@", or
 /// with it at the start, stays as it is, and so does all that follows the next section's header.

@@ -52,27 +52,34 @@ std::vector<std::string> design_source(const frmMain & main)
     return source;
 }
 
-frame_deal deal_of(const frmMain & main)
+frame_deal deal_of(const frmMain & main, const std::string & order)
 {
     const std::string folder = frame_set_folder(main, main.frame_set_name);
-    return {.set = main.frame_set_name, .order = {}, .has_frame = [folder](const std::string & file) {
+    return {.set = main.frame_set_name, .order = order, .has_frame = [folder](const std::string & file) {
                 return file_exists(joined(folder, file));
             }};
 }
 
 }  // namespace
 
+std::optional<std::string> photo_order_of_set(frmMain & main)
+{
+    const std::string list = list_of_set(main);
+    if (list.empty())
+        return std::string();
+    const std::string path = saved_list_path(main, list);
+    if (file_exists(path))
+        return order_of(path);
+    main.desk.message("The file.pls index is missing for that photolist.");
+    return std::nullopt;
+}
+
 bool build_frames_template(frmMain & main)
 {
-    frame_deal deal = deal_of(main);
-    const std::string list = list_of_set(main);
-    if (!list.empty() && !file_exists(saved_list_path(main, list))) {
-        main.desk.message("The file.pls index is missing for that photolist.");
+    const auto order = photo_order_of_set(main);
+    if (!order)
         return false;
-    }
-    if (!list.empty())
-        deal.order = order_of(saved_list_path(main, list));
-    const dealt_frames dealt = deal_frames(design_source(main), deal);
+    const dealt_frames dealt = deal_frames(design_source(main), deal_of(main, *order));
     if (dealt.missing) {
         main.lblDesign.set_tool_tip("");
         main.desk.message("This photo list doesn't have any " +

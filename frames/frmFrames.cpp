@@ -173,7 +173,7 @@ void connect_frmFrames(windows & all)
     editor.on_load = [&all] { load_frames(all); };
     editor.on_query_unload = [&editor] { return !editor.rendering; };
     editor.cmdFont.on_click = [&all] { cmdFont_click(all); };
-    editor.frmFont_sample.on_click = [&all] { show_change(all); };
+    editor.frameFont.on_click = [&all] { show_change(all); };
     editor.txtCaption.on_change = editor.txtCaption.on_leave = [&all] { show_change(all); };
     editor.cmbIcons.on_click = [&all] { cmbIcons_click(all); };
     editor.cmdCaptions.on_click = [&all] { all.main.desk.show_modal(all.captions); };

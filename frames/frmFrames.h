@@ -18,7 +18,7 @@ struct frmFrames : form {
     button cmdInside{*this, "cmdInside", "Inside Color"};
     picture picFont_BG{*this, "picFont_BG"};  ///< the caption band
     button cmdCaption{*this, "cmdCaption", "Caption Color"};
-    group frmFont_sample{*this, "frmFont_sample"};
+    group frameFont{*this, "frameFont"};
     picture picFont_FG{*this, "picFont_FG"};  ///< the letters
     button cmdFont{*this, "cmdFont", "Font"};
     text_box lblFont{*this, "lblFont"};  ///< holds the font of the captions, and shows its name in it

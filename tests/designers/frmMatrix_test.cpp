@@ -272,6 +272,33 @@ TEST(frmMatrix, cells_wear_the_chosen_frame_set)
     EXPECT_TRUE(main.frames_design);
 }
 
+TEST(frmMatrix, a_frame_set_with_a_photo_list_goes_with_its_photos)
+{
+    matrix_window session;
+    session.folder.write("data/frames/club/design.ini",
+                         "[Frame Design]\r\nPicture List=mine\r\nNumber of Captions=2\r\n");
+    session.desk.on_modal<frmCustom>([](frmCustom & chooser) { chooser.lstFrames.double_click(0); });
+    session.window.chkRowLock.tick(false);
+    session.type(session.window.cmbRows, "3");
+    session.window.chkFrames.tick(true);
+    EXPECT_TRUE(session.main.txtPhotos.tag.empty()) << "who cancels keeps his photos";
+    session.ok();
+    EXPECT_EQ(session.lines_of("__matrix_").at(2), R"(100:1293:920:607:0:0:0:0:frames\club\pframe01.jpg)")
+        << "the list's one upright photo comes again";
+    EXPECT_EQ(session.main.txtPhotos.tag, session.list) << "the photo chooser opens with it";
+    EXPECT_EQ(session.main.txtPhotos.text(), "mine");
+}
+
+TEST(frmMatrix, a_frame_set_whose_photo_list_is_gone_is_not_worn)
+{
+    matrix_window session;
+    session.folder.write("data/frames/club/design.ini", "[Frame Design]\r\nPicture List=gone\r\n");
+    session.desk.on_modal<frmCustom>([](frmCustom & chooser) { chooser.lstFrames.double_click(0); });
+    session.window.chkFrames.tick(true);
+    EXPECT_EQ(session.desk.next_message(), "The file.pls index is missing for that photolist.");
+    expect_states(session.window, "chkFrames0");
+}
+
 TEST(frmMatrix, backing_out_of_the_frame_sets_unticks_the_box)
 {
     matrix_window session;

@@ -137,6 +137,24 @@ TEST(framed_matrix, a_set_without_captions_wears_the_frame_of_its_default_captio
     EXPECT_TRUE(all[2].ends_with("frame00.jpg")) << all[2];
 }
 
+TEST(framed_matrix, captions_of_a_photo_list_go_with_its_photos)
+{
+    const auto numbers = [](const std::string & order, int captions) {
+        const matrix_choices choices{
+            .rows = 3,
+            .columns = 2,
+            .frames = worn_frames{.set = "club", .captions = captions, .order = order}};
+        std::string text;
+        for (const framed_cell & cell : framed_cells(choices, matrix_layout_of(choices, run_size::full)))
+            text += cell.file.substr(12, 1) + cell.file.substr(18, 2) + " ";
+        return text;
+    };
+    EXPECT_EQ(numbers("lppl", 4), "p02 p03 p02 p03 p02 p03 ")
+        << "upright cells get upright photos, over and over";
+    EXPECT_EQ(numbers("lplpp", 4), "p02 p04 p00 p02 p04 p00 ") << "the fifth photo has no caption of its own";
+    EXPECT_EQ(numbers("ll", 2), "p01 p02 p01 p02 p01 p02 ") << "in turn where the list has no such photo";
+}
+
 TEST(framed_matrix, one_row_or_column_has_no_gap_to_give)
 {
     EXPECT_EQ(framed(1, 1, poster_shape::portrait, 1),

@@ -159,7 +159,7 @@ TEST(frmFrames, every_change_shows_a_new_preview)
         session.desk.will_choose_color(std::nullopt);
         EXPECT_EQ(previews_of([&] { editor.cmdOutside.click(); }), 0);
         EXPECT_EQ(previews_of([&] { editor.cmbIcons.choose(0); }), 1);
-        EXPECT_EQ(previews_of([&] { editor.frmFont_sample.click(); }), 1);
+        EXPECT_EQ(previews_of([&] { editor.frameFont.click(); }), 1);
         EXPECT_EQ(previews_of([&] { editor.txtCaption.set_text("another"); }), 1);
         EXPECT_EQ(previews_of([&] { editor.txtCaption.on_leave(); }), 1);
     });

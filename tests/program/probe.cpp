@@ -2,11 +2,12 @@
 // shipped program when the environment asks for it. It only looks; every event comes from outside.
 //
 // A request is a line on the local socket TESSALOOM_PROBE. "look" is answered by a line of JSON: every
-// visible widget and menu entry that has a name or a text, with its place on the screen. "see X Y W H" is
-// answered by a digest of the pixels that the screen shows there. "standstill" is answered by the longest
-// time, in milliseconds, in which the program let no event through since it was asked last.
+// visible widget, menu entry and entry of a list that has a name or a text, with its place on the screen.
+// "see X Y W H" is answered by a digest of the pixels that the screen shows there. "standstill" is answered
+// by the longest time, in milliseconds, in which the program let no event through since it was asked last.
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QCryptographicHash>
@@ -68,6 +69,23 @@ void add_entries(const Bar & bar, QJsonArray & found)
         }
 }
 
+// What a list shows, each entry by its text.
+void add_rows(const QAbstractItemView & list, QJsonArray & found)
+{
+    if (!list.model() || list.viewport()->visibleRegion().isEmpty())
+        return;
+    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row) {
+        const QModelIndex entry = list.model()->index(row, 0, list.rootIndex());
+        const QRect where = list.visualRect(entry) & list.viewport()->rect();
+        if (where.isEmpty())
+            continue;
+        QJsonObject one = placed({}, entry.data().toString(), on_screen(*list.viewport(), where));
+        one["enabled"] = list.isEnabled();
+        one["selected"] = list.selectionModel()->isSelected(entry);
+        found.append(one);
+    }
+}
+
 void add_widget(const QWidget & widget, QJsonArray & found)
 {
     if (const auto * const bar = qobject_cast<const QMenuBar *>(&widget))
@@ -107,6 +125,8 @@ QByteArray looked()
         for (const QWidget * widget : window->findChildren<QWidget *>())
             if (widget->isVisible() && !widget->visibleRegion().isEmpty())
                 add_widget(*widget, found);
+        for (const QAbstractItemView * list : window->findChildren<QAbstractItemView *>())
+            add_rows(*list, found);  // its entries may cover all of it
         answer = {{"window", window->objectName()},
                   {"class", window->metaObject()->className()},
                   {"title", window->windowTitle()},
