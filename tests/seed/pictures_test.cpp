@@ -47,8 +47,13 @@ TEST(seed_pictures, every_background_of_a_design_fills_its_poster_and_has_its_pr
         const std::string name = design["BG Image"];
         if (name.ends_with(".jpg")) {
             const bool wide = design["Background"] == "Landscape", turns = design["Turn BG"] == "Yes";
-            EXPECT_EQ(size_of("images/" + name), turns ? "2400x2400" : wide ? "3000x2000" : "2000x3000") << name;
-            EXPECT_EQ(size_of("images/preview/p_" + name), turns ? "360x360" : wide ? "450x300" : "300x450")
+            EXPECT_EQ(size_of("images/" + name), turns  ? "2400x2400"
+                                                 : wide ? "3000x2000"
+                                                        : "2000x3000")
+                << name;
+            EXPECT_EQ(size_of("images/preview/p_" + name), turns  ? "360x360"
+                                                           : wide ? "450x300"
+                                                                  : "300x450")
                 << name;
             ++found;
         }

@@ -311,7 +311,7 @@ def shelves(size):
     wide, high = size
     below, above = washed(size, "#5f7565", light="#dcecd8", shine=0.5, shade=0.28, at=(0.5, 0.25))
     parts = []
-    for left, right, y in ((380, 2620, 1104), (110, 2890, 1738)):
+    for left, right, y in ((210, 2790, 1104), (110, 2890, 1738)):
         parts += [rectangle(left + 30, y + 44, right - left - 40, 60, fill="#000000", fill_opacity="0.16"),
                   rectangle(left, y, right - left, 46, fill="#b98a58"), rectangle(left, y, right - left, 10, fill="#d9ae7c"),
                   rectangle(left, y + 40, right - left, 8, fill="#83592f")]
@@ -320,7 +320,7 @@ def shelves(size):
     pot += [path(f"M0,-10 C{reach * 0.2:.0f},-90 {reach * 0.8:.0f},-130 {reach},{-150 + abs(reach) * 0.5:.0f} C{reach * 0.9:.0f},-90 "
                  f"{reach * 0.4:.0f},-40 0,-10Z", fill=tone) for reach, tone in ((-120, "#4f8a4c"), (120, "#5c9a55"), (-60, "#6fae63"),
                                                                           (70, "#4f8a4c"), (10, "#82bf70"))]
-    parts += [placed(pot, 400 + 80, 984, 0.98), placed(pot, 2530, 984, 0.98)]
+    parts += [placed(pot, 345, 987, 0.98), placed(pot, 2655, 987, 0.98)]
     return drawing(wide, high, below + parts + above)
 
 
