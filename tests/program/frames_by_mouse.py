@@ -38,6 +38,8 @@ def make_list(p):
     p.click('cmdSave')
     p.window('QMessageBox')
     p.click('Yes')
+    p.window('frmPictureList')
+    p.click('cmdDone')
     p.window('frmMain')
     return lines_of(p, 'piclists', 'holiday.pls')
 
