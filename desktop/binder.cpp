@@ -33,6 +33,7 @@ private:
     void bind_focus(control & held, QObject & found);
     void show_control(control & held, QObject & widget);
     void show_widget(control & held, QWidget & widget);
+    void give_first_focus();
     void show_window();
     void follow_growth();
     void hide_or_show();
@@ -75,7 +76,25 @@ binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
     show_window();
     if (QWidget * const grown = growing_widget(window))
         new growth_watcher(*grown, [this] { follow_growth(); });  // owned by the widget
-    if (auto * const first = window.findChild<QWidget *>(window.property("firstFocus").toString()))
+    give_first_focus();
+}
+
+// A frame that goes with the last of what stands in it.
+void show_frame_around(const QWidget & widget)
+{
+    QWidget * const frame = widget.parentWidget();
+    if (!frame || !frame->property("hidesEmpty").toBool())
+        return;
+    const auto inside = frame->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    frame->setVisible(
+        std::any_of(inside.begin(), inside.end(), [](const QWidget * each) { return !each->isHidden(); }));
+}
+
+// A search for no name would find any widget.
+void binding::give_first_focus()
+{
+    const QString name = window.property("firstFocus").toString();
+    if (auto * const first = name.isEmpty() ? nullptr : window.findChild<QWidget *>(name))
         first->setFocus(Qt::OtherFocusReason);
 }
 
@@ -154,6 +173,7 @@ void binding::show_widget(control & held, QWidget & widget)
         focus.before_loss(widget);
     display(held, widget);
     widget.setVisible(visible);
+    show_frame_around(widget);
     if (QWidget * const hidden = behind.value(widget.objectName()))
         if (control * const covered = bound.find(hidden->objectName().toStdString()))
             show_widget(*covered, *hidden);

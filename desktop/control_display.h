@@ -14,6 +14,7 @@
 ///   verbatim   true: the caption is a text of the user's, shown with any "&" that it holds
 ///   oneStop    true: of the options of its set the Tab key stops at the selected one alone
 ///   keepsRoom  true: while hidden it keeps its room in the layout
+///   hidesEmpty on a frame around widgets: true: it goes with the last of them that shows
 ///   grows      on the window: the name of a widget with a size of its own that takes more where its content
 ///   needs
 ///              it (larger letters); what is placed right of it or below it moves, and the window grows with

@@ -45,15 +45,18 @@ struct listener {
     }
 
     // A box that loses the focus tells of the entry that its text stands for, as if it had been chosen: that
-    // text is the control's already, and choosing it again means nothing.
+    // text is the control's already, and choosing it again means nothing. Nor is what is typed completed: who
+    // wants 60 would get an entry 600.
     void operator()(combo_box & held, QComboBox & widget) const
     {
         QObject::connect(&widget, &QComboBox::activated, &owner,
                          [run = act, &held](int index) { run([&held, index] { held.choose(index); }); });
-        if (widget.lineEdit())
-            QObject::connect(
-                widget.lineEdit(), &QLineEdit::textEdited, &owner,
-                [run = act, &held](const QString & text) { run([&] { held.set_text(bytes_of(text)); }); });
+        if (!widget.lineEdit())
+            return;
+        widget.setCompleter(nullptr);
+        QObject::connect(
+            widget.lineEdit(), &QLineEdit::textEdited, &owner,
+            [run = act, &held](const QString & text) { run([&] { held.set_text(bytes_of(text)); }); });
     }
 
     void operator()(text_box & held, QLineEdit & widget) const

@@ -149,7 +149,6 @@ void load_captions(windows & all)
     const bool has_list = list != "None";
     empty_window(window);
     window.resize(has_list ? width_with_photo : plain_width, both_height);
-    window.frmPhoto.show(has_list);
     window.imgCaption.show(has_list);
     if (has_list)
         read_list(all, list);

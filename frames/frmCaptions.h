@@ -22,7 +22,6 @@ struct frmCaptions : form {
 
     std::deque<label> lblCaptions;
     std::deque<text_box> txtCaptions;
-    group frmPhoto{*this, "frmPhoto"};        ///< room for a photo of either orientation
     picture imgCaption{*this, "imgCaption"};  ///< the photo of `current_box`
     button cmdInsert{*this, "cmdInsert", "Insert"};
     button cmdRemove{*this, "cmdRemove", "Remove"};

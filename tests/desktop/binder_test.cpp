@@ -110,6 +110,18 @@ TEST(binder, choosing_an_entry_fires_the_click_handler_and_typing_the_typing_han
     EXPECT_EQ(typings, 1);
 }
 
+TEST(binder, what_is_typed_into_a_list_is_not_completed)
+{
+    bound_form shown;
+    shown.held.cmbSize.set_items({"100", "600"});
+    shown.size->setFocus();
+    shown.size->lineEdit()->selectAll();
+    QTest::keyClicks(shown.size->lineEdit(), "60");
+    QTest::keyClick(shown.size->lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ(shown.held.cmbSize.text(), "60");
+    EXPECT_EQ(shown.size->currentText(), "60");
+}
+
 TEST(binder, leaving_a_list_whose_text_was_set_or_typed_is_no_choice)
 {
     bound_form shown;

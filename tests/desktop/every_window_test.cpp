@@ -75,6 +75,14 @@ TEST_P(every_window, is_no_larger_than_a_small_screen)
     });
 }
 
+TEST_P(every_window, gives_the_keyboard_to_nothing_that_does_not_take_it)
+{
+    look_at_each([](form &, QWidget & window) {
+        const QWidget * const focus = window.focusWidget();
+        EXPECT_TRUE(!focus || focus->focusPolicy() != Qt::NoFocus) << focus->objectName().toStdString();
+    });
+}
+
 TEST_P(every_window, lets_the_tab_key_follow_the_eye)
 {
     look_at_each([](form & held, QWidget & window) { EXPECT_EQ(tab_order_faults(held, window), faults()); });

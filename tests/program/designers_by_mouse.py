@@ -85,6 +85,24 @@ def make_matrix(p):
     flurn(p, (2000, 3000), 'matrix_flurn')
 
 
+def write_caption(p):
+    """A click beside the controls of the caption's group opens a window for it."""
+    at = p.widget('frmCaption')
+    p.tool('mousemove', '--sync', str(at['x'] + at['width'] // 2), str(at['y'] + at['height'] - 4))
+    p.tool('click', '1')
+    p.window('frmCaptionText')
+    is_enabled(p, 'cmdClear', False)
+    p.type('By the sea')
+    kept(p, 'caption_text')
+    p.click('cmdClear')
+    shows(p, 'txtCaption', '')
+    is_enabled(p, 'cmdClear', False)
+    p.type_into('txtCaption', 'Our summer')
+    p.click('cmdOk')
+    p.window('frmMain')
+    shows(p, 'txtCaption', 'Our summer')
+
+
 def make_lettering(p):
     p.click('mnuLettering')
     p.window('frmLettering')
@@ -108,6 +126,7 @@ def make_lettering(p):
     same(letters, ['alpha/char_%s.gif' % letter for letter in 'summer2026'], 'the letters')
     changed_preview(p, lambda: p.click('chkOutline'), 'chkOutline')
     changed_preview(p, lambda: p.click('optMedium'), 'optMedium')
+    changed_preview(p, lambda: write_caption(p), 'a caption')
     kept(p, 'lettering_finishing')
     flurn(p, (3000, 2000), 'lettering_flurn')
     p.click('mnuLettering')

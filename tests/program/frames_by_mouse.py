@@ -38,6 +38,8 @@ def make_list(p):
     p.click('cmdSave')
     p.window('QMessageBox')
     p.click('Yes')
+    p.window('frmPictureList')
+    p.click('cmdDone')
     p.window('frmMain')
     return lines_of(p, 'piclists', 'holiday.pls')
 
@@ -235,17 +237,19 @@ def numbers_by_photo(p, photos, frames):
         same(int(frame[6:8]), photo if photo <= 4 else 0, 'number of ' + frame)
 
 
-def wear_in_matrix(p, photos):
+def wear_in_matrix(p, photos, orientation, gap, size):
     p.click('mnuMatrix')
     p.window('frmMatrix')
+    p.click('opt%sPhotos' % orientation)
+    p.click('opt%sPoster' % orientation)
     p.click('chkFrames')
     choose_set(p)
     p.window('frmMatrix')
     stands(p, 'chkFrames', True)
     choose(p, 'cmbRows', '3')
     shows(p, 'cmbColumns', '3')
-    p.type_into('cmbVGap', '150')
-    kept(p, 'frame_matrix')
+    p.type_into(gap, '150')
+    kept(p, 'frame_matrix_' + orientation)
     p.click('cmdOk')
     take_list(p)
     shows(p, 'lblDesign', 'Custom Frame Matrix 3x3')
@@ -253,9 +257,10 @@ def wear_in_matrix(p, photos):
     same(len(lines), 18, 'two lines for each cell')
     frames = frames_of(p, '__matrix_')
     same(len(frames), 9, 'frames of the matrix')
+    same({frame[0] for frame in frames}, {orientation[0].lower()}, 'shape of the frames')
     numbers_by_photo(p, photos, frames)
-    kept(p, 'frame_matrix_finishing')
-    made_flurn(p, (2000, 3000), lambda: p.click('cmdFlurn'), 'frame_matrix_flurn')
+    kept(p, 'frame_matrix_finishing_' + orientation)
+    made_flurn(p, size, lambda: p.click('cmdFlurn'), 'frame_matrix_flurn_' + orientation)
 
 
 def change_and_delete(p):
@@ -295,7 +300,8 @@ def play(p):
     wear_in_design(p, 'optPortrait', 'Framed family', (2000, 3000))
     numbers_by_photo(p, photos, frames_of(p, '__frames'))
     wear_in_design(p, 'optLandscape', 'Framed medley', (3000, 2000))
-    wear_in_matrix(p, photos)
+    wear_in_matrix(p, photos, 'Portrait', 'cmbVGap', (2000, 3000))
+    wear_in_matrix(p, photos, 'Landscape', 'cmbHGap', (3000, 2000))
     change_and_delete(p)
     p.click('mnuFile')
     p.click('mnuQuit')
