@@ -98,7 +98,7 @@ def take_in(p, package):
     p.window('QFileDialog')
     p.type_into('fileNameEdit', package)
     p.keys('Return')
-    told(p, '\r\nMy summer has been successfully imported.\r\n', lambda: p.click('OK'))
+    told(p, '\nMy summer has been successfully imported.\n', lambda: p.click('OK'))
     p.window('frmMain')
     check(not os.path.exists(package), 'the package is still there')
 
