@@ -6,6 +6,18 @@
 
 #include <string>
 
+/// Chooses "Save last Flurn" and types that.
+inline void save_as(scripted_desktop & desk, frmMain & main, const std::string & name,
+                    const std::string & description)
+{
+    desk.on_modal<frmNewDesign>([=](frmNewDesign & window) {
+        window.txtName.set_text(name);
+        window.txtDescription.set_text(description);
+        window.OKButton.click();
+    });
+    main.mnuSaveDesign.click();
+}
+
 /// A session behind a full-size run of a quick style: its template, its picture, a small catalogue.
 struct own_designs_session : opened_session {
     own_designs_session()
@@ -29,15 +41,9 @@ struct own_designs_session : opened_session {
         paste(image, plain(width / 2, height, {30, 30, 200}), width - width / 2, 0, plain_copy);
         save_jpeg(image, at("tmp/finished.jpg"));
     }
-    /// Chooses "Save last Flurn" and types that.
     void save(const std::string & name, const std::string & description = {})
     {
-        desk.on_modal<frmNewDesign>([=](frmNewDesign & window) {
-            window.txtName.set_text(name);
-            window.txtDescription.set_text(description);
-            window.OKButton.click();
-        });
-        main.mnuSaveDesign.click();
+        save_as(desk, main, name, description);
     }
     /// Chooses "Edit designs" and plays the user there.
     void edit(const std::function<void(frmDesigns &)> & play)

@@ -6,6 +6,7 @@
 #include "session/connect_all.h"
 #include "support/paths.h"
 #include "support/text_file.h"
+#include "tests/designs/own_designs.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 
@@ -36,12 +37,7 @@ struct keeping_session : four_photos {
     }
     void save(const std::string & name, const std::string & description = {})
     {
-        desk.on_modal<frmNewDesign>([=](frmNewDesign & window) {
-            window.txtName.set_text(name);
-            window.txtDescription.set_text(description);
-            window.OKButton.click();
-        });
-        main.mnuSaveDesign.click();
+        save_as(desk, main, name, description);
     }
     /// The design as it comes out at full size.
     bitmap rendered(const std::string & name)
