@@ -44,6 +44,48 @@ def focused_on(program, name):
     raise AssertionError('the Tab key never comes to ' + name)
 
 
+def welcomed(program):
+    """Answers the welcome of the first start."""
+    program.window('QMessageBox')
+    program.keys('Return')
+    program.window('frmMain')
+
+
+def folder_by_mouse(program):
+    program.window('frmSelectPhotos')
+    program.click('cmdCards')
+    program.window('QFileDialog')
+    program.type_into('fileNameEdit', program.photos)
+    program.keys('Return')
+
+
+def name_by_keys(program, path):
+    program.window('QFileDialog')
+    focused_on(program, 'fileNameEdit')
+    program.keys('ctrl+a')
+    program.type(path)
+    program.keys('Return')
+
+
+def folder_by_keys(program):
+    program.window('frmSelectPhotos')
+    program.shortcut('cmdCards')
+    name_by_keys(program, program.photos)
+
+
+def quit_by_mouse(program):
+    program.click('mnuFile')
+    program.click('mnuQuit')
+    ended(program)
+
+
+def quit_by_keys(program):
+    program.shortcut('mnuFile')
+    program.window('QMenu')
+    program.shortcut('mnuQuit')
+    ended(program)
+
+
 def save_each_way(program, way):
     """Saves the collage that is open in three sizes, and over a file with each answer to the question."""
     full, web, custom, second = (os.path.join(program.folder, name + '.jpg')

@@ -2,7 +2,8 @@
 """The same collage in the built program by keyboard alone."""
 import sys
 
-from collage import changed_preview, ended, focused_on, run, save_each_way
+from collage import (changed_preview, focused_on, folder_by_keys, name_by_keys, quit_by_keys, run, save_each_way,
+                     welcomed)
 from screen import until
 
 
@@ -12,16 +13,6 @@ def choose_design(p):
     p.shortcut('optBlock')
     focused_on(p, 'optDesign_0')
     p.keys('Down', 'Up', 'Return')
-
-
-def choose_folder(p):
-    p.window('frmSelectPhotos')
-    p.shortcut('cmdCards')
-    p.window('QFileDialog')
-    focused_on(p, 'fileNameEdit')
-    p.keys('ctrl+a')
-    p.type(p.photos)
-    p.keys('Return')
 
 
 def choose(p, name, *keys):
@@ -67,11 +58,7 @@ def save(p, kind, path, custom=None):
 
 
 def name_file(p, path):
-    p.window('QFileDialog')
-    focused_on(p, 'fileNameEdit')
-    p.keys('ctrl+a')
-    p.type(path)
-    p.keys('Return')
+    name_by_keys(p, path)
 
 
 def answer(p, text):
@@ -84,11 +71,9 @@ def answer(p, text):
 
 
 def play(p):
-    p.window('QMessageBox')
-    p.keys('Return')
-    p.window('frmMain')
+    welcomed(p)
     choose_design(p)
-    choose_folder(p)
+    folder_by_keys(p)
     p.window('frmMain')
     p.widget('cmdFlurn')
     until(p.finished, 'the first preview')
@@ -99,10 +84,7 @@ def play(p):
     p.keys('Escape')
     p.window('frmMain')
     p.shortcut('cmdCancel')
-    p.shortcut('mnuFile')
-    p.window('QMenu')
-    p.shortcut('mnuQuit')
-    ended(p)
+    quit_by_keys(p)
 
 
 run(play)

@@ -2,7 +2,7 @@
 """A collage from a design and a folder of photos in the built program, by mouse: made, changed, saved in three sizes."""
 import sys
 
-from collage import changed_preview, ended, run, save_each_way
+from collage import changed_preview, folder_by_mouse, quit_by_mouse, run, save_each_way, welcomed
 from screen import until
 
 
@@ -12,14 +12,6 @@ def choose_design(p):
     p.click('optBlock')
     p.click('optDesign_0')
     p.click('cmdOk')
-
-
-def choose_folder(p):
-    p.window('frmSelectPhotos')
-    p.click('cmdCards')
-    p.window('QFileDialog')
-    p.type_into('fileNameEdit', p.photos)
-    p.keys('Return')
 
 
 def change_settings(p):
@@ -59,11 +51,9 @@ def answer(p, text):
 
 
 def play(p):
-    p.window('QMessageBox')
-    p.keys('Return')
-    p.window('frmMain')
+    welcomed(p)
     choose_design(p)
-    choose_folder(p)
+    folder_by_mouse(p)
     p.window('frmMain')
     p.widget('cmdFlurn')
     until(p.finished, 'the first preview')
@@ -73,9 +63,7 @@ def play(p):
     p.click('cmdClose')
     p.window('frmMain')
     p.click('cmdCancel')
-    p.click('mnuFile')
-    p.click('mnuQuit')
-    ended(p)
+    quit_by_mouse(p)
 
 
 run(play)

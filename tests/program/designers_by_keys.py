@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """A matrix, a lettering and a puzzle in the built program by keyboard alone."""
-from collage import check, ended, focused_on, run
+from collage import check, focused_on, folder_by_keys, quit_by_keys, run, welcomed
 from designs import in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told
 
 
@@ -12,13 +12,7 @@ def enter(p, name, text):
 
 
 def choose_folder(p):
-    p.window('frmSelectPhotos')
-    p.shortcut('cmdCards')
-    p.window('QFileDialog')
-    focused_on(p, 'fileNameEdit')
-    p.keys('ctrl+a')
-    p.type(p.photos)
-    p.keys('Return')
+    folder_by_keys(p)
     in_finishing_stage(p)
 
 
@@ -103,16 +97,11 @@ def make_puzzle(p):
 
 
 def play(p):
-    p.window('QMessageBox')
-    p.keys('Return')
-    p.window('frmMain')
+    welcomed(p)
     make_matrix(p)
     make_lettering(p)
     make_puzzle(p)
-    p.shortcut('mnuFile')
-    p.window('QMenu')
-    p.shortcut('mnuQuit')
-    ended(p)
+    quit_by_keys(p)
 
 
 run(play)

@@ -1,16 +1,12 @@
 #!/usr/bin/env python3
 """A matrix, a lettering and a puzzle in the built program by mouse: chosen, laid out, filled with photos, finished."""
-from collage import changed_preview, check, ended, run
+from collage import changed_preview, check, folder_by_mouse, quit_by_mouse, run, welcomed
 from designs import (changed_file, choose, in_finishing_stage, is_enabled, kept, lines_of, made_flurn, sample_of, same,
                      shows, stands, told)
 
 
 def choose_folder(p):
-    p.window('frmSelectPhotos')
-    p.click('cmdCards')
-    p.window('QFileDialog')
-    p.type_into('fileNameEdit', p.photos)
-    p.keys('Return')
+    folder_by_mouse(p)
     in_finishing_stage(p)
 
 
@@ -171,15 +167,11 @@ def make_puzzle(p):
 
 
 def play(p):
-    p.window('QMessageBox')
-    p.keys('Return')
-    p.window('frmMain')
+    welcomed(p)
     make_matrix(p)
     make_lettering(p)
     make_puzzle(p)
-    p.click('mnuFile')
-    p.click('mnuQuit')
-    ended(p)
+    quit_by_mouse(p)
 
 
 run(play)

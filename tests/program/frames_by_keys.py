@@ -2,7 +2,7 @@
 """A frame set in the built program by keyboard alone: made, chosen for a matrix, changed, deleted."""
 import os
 
-from collage import check, ended, focused_on, run
+from collage import check, focused_on, folder_by_keys, quit_by_keys, run, welcomed
 from designs import in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told
 from screen import until
 
@@ -84,13 +84,7 @@ def wear_in_matrix(p):
     p.window('frmMatrix')
     stands(p, 'chkFrames', True)
     p.keys('Return')
-    p.window('frmSelectPhotos')
-    p.shortcut('cmdCards')
-    p.window('QFileDialog')
-    focused_on(p, 'fileNameEdit')
-    p.keys('ctrl+a')
-    p.type(p.photos)
-    p.keys('Return')
+    folder_by_keys(p)
     in_finishing_stage(p)
     shows(p, 'lblDesign', 'Custom Frame Matrix 2x2')
     same([line.rsplit('\\', 1)[1] for line in lines_of(p, 'designs', '__matrix_')[::2]],
@@ -120,16 +114,11 @@ def change_and_delete(p):
 
 
 def play(p):
-    p.window('QMessageBox')
-    p.keys('Return')
-    p.window('frmMain')
+    welcomed(p)
     make_set(p)
     wear_in_matrix(p)
     change_and_delete(p)
-    p.shortcut('mnuFile')
-    p.window('QMenu')
-    p.shortcut('mnuQuit')
-    ended(p)
+    quit_by_keys(p)
 
 
 run(play)

@@ -4,7 +4,7 @@ design and in a matrix, changed, deleted."""
 import os
 import struct
 
-from collage import check, ended, run
+from collage import check, quit_by_mouse, run, welcomed
 from designs import (choose, in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told)
 from screen import until
 
@@ -290,9 +290,7 @@ def change_and_delete(p):
 
 
 def play(p):
-    p.window('QMessageBox')
-    p.keys('Return')
-    p.window('frmMain')
+    welcomed(p)
     photos = make_list(p)
     make_icons(p)
     make_set(p)
@@ -303,9 +301,7 @@ def play(p):
     wear_in_matrix(p, photos, 'Portrait', 'cmbVGap', (2000, 3000))
     wear_in_matrix(p, photos, 'Landscape', 'cmbHGap', (3000, 2000))
     change_and_delete(p)
-    p.click('mnuFile')
-    p.click('mnuQuit')
-    ended(p)
+    quit_by_mouse(p)
 
 
 run(play)

@@ -4,7 +4,7 @@ again from its package, and made into a collage once more."""
 import os
 import subprocess
 
-from collage import check, ended, run
+from collage import check, folder_by_mouse, quit_by_mouse, run, welcomed
 from designs import in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, told
 from screen import until
 
@@ -16,11 +16,7 @@ def entry(p, name):
 
 
 def choose_folder(p):
-    p.window('frmSelectPhotos')
-    p.click('cmdCards')
-    p.window('QFileDialog')
-    p.type_into('fileNameEdit', p.photos)
-    p.keys('Return')
+    folder_by_mouse(p)
     in_finishing_stage(p)
 
 
@@ -104,9 +100,7 @@ def take_in(p, package):
 
 
 def play(p):
-    p.window('QMessageBox')
-    p.keys('Return')
-    p.window('frmMain')
+    welcomed(p)
     before = lines_of(p, 'designs.ini')
     make_quick_flurn(p)
     layout = keep(p)
@@ -119,9 +113,7 @@ def play(p):
     file = next(line[len('File='):] for line in section if line.startswith('File='))
     same(lines_of(p, 'designs', file), layout, 'the template that came back')
     make_flurn_of_it(p, 'imported_flurn')
-    p.click('mnuFile')
-    p.click('mnuQuit')
-    ended(p)
+    quit_by_mouse(p)
 
 
 run(play)

@@ -31,8 +31,13 @@ class Program:
         for mark in ('3_1_install', '4_2_install'):
             if os.path.exists(os.path.join(self.app, mark)):
                 os.remove(os.path.join(self.app, mark))
-        self.start_display()
-        self.start_program(plugins)
+        self.display = self.process = None
+        try:
+            self.start_display()
+            self.start_program(plugins)
+        except BaseException:
+            self.close()
+            raise
 
     def start_display(self):
         read, write = os.pipe()
@@ -52,16 +57,25 @@ class Program:
             [os.path.join(self.app, 'tessaloom')], stderr=subprocess.DEVNULL,
             env=dict(self.environment, QT_QPA_PLATFORM='xcb', QT_PLUGIN_PATH=plugins, QT_QPA_GENERIC_PLUGINS='probe',
                      TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8'))
-        until(lambda: os.path.exists(self.socket_path), 'the program')
-        self.probe = socket.socket(socket.AF_UNIX)
-        self.probe.settimeout(PATIENCE)
-        self.probe.connect(self.socket_path)
+        self.probe = until(self.reached, 'the program')
         self.answers = self.probe.makefile('r')
         self.focused = None
 
+    def reached(self):
+        """The line to the probe, once it listens: its socket is there a moment before."""
+        line = socket.socket(socket.AF_UNIX)
+        line.settimeout(PATIENCE)
+        try:
+            line.connect(self.socket_path)
+        except OSError:
+            line.close()
+            return None
+        return line
+
     def close(self):
-        self.process.kill()
-        self.display.kill()
+        for started in (self.process, self.display):
+            if started:
+                started.kill()
         shutil.rmtree(self.folder, ignore_errors=True)
 
     # ---- what is seen
