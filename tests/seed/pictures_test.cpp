@@ -2,6 +2,8 @@
 #include "support/MFreeImage.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -23,6 +25,54 @@ std::string size_of(const std::string & name)
     return size ? std::to_string(size->width) + "x" + std::to_string(size->height) : "none";
 }
 
+using design = std::map<std::string, std::string>;
+
+std::string value(const design & one, const std::string & key)
+{
+    const auto found = one.find(key);
+    return found == one.end() ? "" : found->second;
+}
+
+std::vector<design> catalogue()
+{
+    std::ifstream file(SEED_FOLDER "/designs.ini");
+    std::vector<design> designs;
+    for (std::string line; std::getline(file, line);) {
+        line.pop_back();
+        if (line.starts_with("["))
+            designs.emplace_back();
+        if (const auto sign = line.find('='); sign != std::string::npos)
+            designs.back()[line.substr(0, sign)] = line.substr(sign + 1);
+    }
+    return designs;
+}
+
+/// The light that a channel of a picture stands for, 0 to 1.
+double light(std::uint8_t level)
+{
+    return std::pow(level / 255.0, 2.2);
+}
+
+/// Of the strip at the top, in its middle half.
+double brightness_behind_a_caption(const std::string & name)
+{
+    const bitmap ground = load_picture(picture_format::jpeg, built(name));
+    double sum = 0;
+    int count = 0;
+    for (int y = ground.height() * 90 / 100; y < ground.height() * 97 / 100; ++y)  // row 0 is at the bottom
+        for (int x = ground.width() / 4; x < ground.width() * 3 / 4; ++x, ++count) {
+            const rgb_triple seen = pixel(ground, x, y).value();
+            sum += 0.2126 * light(seen.red) + 0.7152 * light(seen.green) + 0.0722 * light(seen.blue);
+        }
+    return sum / count;
+}
+
+/// As pages of the net are judged: 1 for none, 21 for black on white.
+double contrast(double one, double other)
+{
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
+}
+
 }  // namespace
 
 TEST(seed_pictures, the_white_sheet_is_large_and_white_all_over)
@@ -40,33 +90,36 @@ TEST(seed_pictures, the_white_sheet_is_large_and_white_all_over)
 // One that turns is stretched either way, so it is square.
 TEST(seed_pictures, every_background_of_a_design_fills_its_poster_and_has_its_preview)
 {
-    std::ifstream catalogue(SEED_FOLDER "/designs.ini");
-    std::map<std::string, std::string> design;
     int found = 0;
-    const auto check = [&] {
-        const std::string name = design["BG Image"];
-        if (name.ends_with(".jpg")) {
-            const bool wide = design["Background"] == "Landscape", turns = design["Turn BG"] == "Yes";
-            EXPECT_EQ(size_of("images/" + name), turns  ? "2400x2400"
-                                                 : wide ? "3000x2000"
-                                                        : "2000x3000")
-                << name;
-            EXPECT_EQ(size_of("images/preview/p_" + name), turns  ? "360x360"
-                                                           : wide ? "450x300"
-                                                                  : "300x450")
-                << name;
-            ++found;
-        }
-        design.clear();
-    };
-    for (std::string line; std::getline(catalogue, line);) {
-        line.pop_back();
-        if (line.starts_with("["))
-            check();
-        if (const auto sign = line.find('='); sign != std::string::npos)
-            design[line.substr(0, sign)] = line.substr(sign + 1);
+    for (const design & one : catalogue()) {
+        const std::string name = value(one, "BG Image");
+        if (!name.ends_with(".jpg"))
+            continue;
+        const bool wide = value(one, "Background") == "Landscape", turns = value(one, "Turn BG") == "Yes";
+        EXPECT_EQ(size_of("images/" + name), turns ? "2400x2400" : wide ? "3000x2000" : "2000x3000") << name;
+        EXPECT_EQ(size_of("images/preview/p_" + name), turns  ? "360x360"
+                                                       : wide ? "450x300"
+                                                              : "300x450")
+            << name;
+        ++found;
     }
-    check();
+    EXPECT_GE(found, 70);
+}
+
+// A caption begins at the top, white, or red where the catalogue asks for it.
+TEST(seed_pictures, a_caption_has_the_color_that_is_read_best_on_its_background)
+{
+    constexpr double red = 0.2126, white = 1;
+    int found = 0;
+    for (const design & one : catalogue()) {
+        const std::string name = value(one, "BG Image");
+        if (!name.ends_with(".jpg"))
+            continue;
+        const double ground = brightness_behind_a_caption("images/preview/p_" + name);
+        const bool wants_red = contrast(red, ground) > contrast(white, ground);
+        EXPECT_EQ(!value(one, "Caption Color").empty(), wants_red) << name << ", " << ground;
+        ++found;
+    }
     EXPECT_GE(found, 70);
 }
 

@@ -38,9 +38,15 @@ def design(number, name, family, background, tip, description, layout, keys, sty
     return Design(number, name, layout.__name__, style, family, background, tip, description, layout(), keys)
 
 
+# Grounds on which a white caption, as the window begins with, would hardly be seen; the catalogue can ask for red only.
+LIGHT = frozenset("""sage sage_tall blush linen white_wall white_wall_tall whitewash_wide rose rose_tall brook sunflower windy_sky
+                  bouquet_paper open_album crossroads dance_floor stock_page spiral_sheet high_sea greeting autumn birthday
+                  wedding baby spring summer travel garden music pets family_tree valentine mountains""".split())
+
+
 def on(ground):
     """A background of starter_art, which the window then doesn't offer to change."""
-    return {"BG Image": f"{ground}.jpg"}
+    return {"BG Image": f"{ground}.jpg", **({"Caption Color": "Red"} if ground in LIGHT else {})}
 
 
 PLAIN_GROUND = {"BG Image": "Either"}
@@ -121,18 +127,18 @@ STARTERS = [
     Design(114, "Autumn walk", "autumn", "Place", "Theme", "Portrait",
            "Photos among falling leaves",
            "Seven photos on a page of falling leaves.",
-           layouts.autumn(), {**FITTING, "BG Image": "autumn.jpg", **FIXED, "Borders": "No",
+           layouts.autumn(), {**FITTING, **on("autumn"), **FIXED, "Borders": "No",
                               "Shadow Color": "Black"}),
     Design(115, "Starry night", "starry_night", "Place", "Theme", "Landscape",
            "Photos under the stars, with yellow frames",
            "Seven photos under the night sky. Their frames are as yellow as the moon.",
-           layouts.starry_night(), {**FITTING, "BG Image": "starry_night.jpg", **FIXED, "Borders": "No",
+           layouts.starry_night(), {**FITTING, **on("starry_night"), **FIXED, "Borders": "No",
                                     "Frames": "Color", "Frame Color": "Yellow", "Shadows": "Color"}),
     Design(116, "Best wishes", "best_wishes", "Place", "Theme", "Portrait",
            "Photos with a greeting",
            "Seven photos and a line of writing on a card of cream paper. Change the greeting in the caption box.",
            layouts.best_wishes(), {**FITTING, **on("greeting"), "Caption": "Best wishes", "Caption Clear": "Yes",
-                                   "Caption Color": "Red", "Turn BG": "No"}),
+                                   "Turn BG": "No"}),
     Design(117, "Sweethearts", "sweethearts", "Place", "Block", "Portrait",
            "Hearts filled with photos, and small red and orange ones",
            "Ten hearts, each filled with a photo, and seven small ones in red and orange.",

@@ -15,7 +15,7 @@ SCATTERS = [
     design(203, "Waves", "Scatter", "Portrait", "Four waves of photos",
            "Four waves run across the sea, six photos long.", scatters.waves, {**STAYS, **on("high_sea")}),
     design(204, "With all my heart", "Scatter", "Portrait", "A heart of photos round a large one",
-           "Seventeen photos along the line of a heart, and the one that matters most inside.", scatters.heart_ring,
+           "Nineteen photos along the line of a heart, and the one that matters most inside.", scatters.heart_ring,
            {**STAYS, **on("rose_tall"), "Flip": "No"}),
     design(205, "Round dance", "Scatter", "Portrait", "Twelve photos round a large one",
            "Twelve photos dance round a large one.", scatters.ring, {**STAYS, **on("dance_floor")}),

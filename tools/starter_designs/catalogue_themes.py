@@ -6,7 +6,7 @@ PRINTS = {"Frames": "14", "Shadows": "14"}  # a fixed shadow takes the size of t
 
 
 def theme(number, name, background, tip, description, layout, keys=None):
-    page = {**FITTING, "BG Image": f"{layout.__name__}.jpg", "Turn BG": "No", "Flip": "No", "Borders": "No"}
+    page = {**FITTING, **on(layout.__name__), "Turn BG": "No", "Flip": "No", "Borders": "No"}
     return design(number, name, "Theme", background, tip, description, layout, {**page, **(keys or {})})
 
 
@@ -34,7 +34,7 @@ THEMES = [
     theme(307, "Winter", "Portrait", "Snow, firs and seven photos",
           "Seven photos in falling snow. The snowman looks at them all.", themes.winter),
     theme(308, "Christmas", "Portrait", "A garland, parcels and seven photos",
-          "Seven photos between the garland and the parcels.", themes.christmas, {"Caption Color": "Red"}),
+          "Seven photos between the garland and the parcels.", themes.christmas),
     theme(309, "Round the world", "Landscape", "A map, a route and seven photos",
           "Seven photos on a map of lands that nobody has seen, with the route that leads there.", themes.travel, PRINTS),
     theme(310, "Garden", "Portrait", "A fence, sunflowers and seven photos",

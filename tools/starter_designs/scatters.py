@@ -60,11 +60,15 @@ def heart_line(count, cleft, steps=2000):
 
 
 def heart_ring():
-    """Seventeen photos along a heart, leaning as its two sides do, and a large one inside."""
-    tilts = [-10, 10, -5, 10, -10, 5, -5, 10]
-    places = [centred(1000 + x, 1340 + y, 420, 315, tilt)
-              for (x, y), tilt in zip(heart_line(17, 470), tilts + [0] + [-tilt for tilt in reversed(tilts)])]
-    return places + [centred(1000, 1500, 760, 570, -5)]
+    """Nineteen photos along a heart, leaning as its two sides do, and a large one inside."""
+    tilts = [-10, 10, -5, 10, -10, 5, -5, 10, -5]
+    def apart(x, y):
+        """The two next to the tip would lie on each other."""
+        return x if abs(x) < 20 or y < 800 else math.copysign(max(abs(x), 205), x)
+    places = [centred(1000 + apart(x, y), 1340 + y, 390, 292, tilt)
+              for (x, y), tilt in zip(heart_line(19, 470), tilts + [0] + [-tilt for tilt in reversed(tilts)])]
+    from_tip = sorted(places, key=lambda place: -place.top)
+    return from_tip + [centred(1000, 1340, 780, 585, -5)]
 
 
 def ring():
