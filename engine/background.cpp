@@ -70,7 +70,9 @@ bitmap small_background(const frmMain & main)
 {
     const bitmap image =
         has_own_background(main) ? small_own_background(main) : loaded(main.txtBGimage.text());
-    return preview_background(image, shape_of(main));
+    if (!image)
+        return {};
+    return continued(preview_background(image, shape_of(main)), main.collage_width, main.collage_height);
 }
 
 bitmap full_background(const frmMain & main)

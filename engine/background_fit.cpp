@@ -2,6 +2,8 @@
 
 #include "support/paths.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int short_side = 300, long_side = 450;
@@ -60,6 +62,20 @@ bitmap squared(const bitmap & image)
     }
     const int top = nearest((height - width) / 2.0);
     return copied(image, 0, top, width, top + width);
+}
+
+bitmap continued(const bitmap & image, int width, int height)
+{
+    const int own_width = image.width(), own_height = image.height();
+    bitmap larger(std::max(width, own_width), std::max(height, own_height));
+    paste(larger, image, 0, 0, plain_copy);
+    const bitmap column = copied(image, own_width - 1, 0, own_width, own_height);
+    for (int left = own_width; left < larger.width(); ++left)
+        paste(larger, column, left, 0, plain_copy);
+    const bitmap row = copied(larger, 0, own_height - 1, larger.width(), own_height);
+    for (int top = own_height; top < larger.height(); ++top)
+        paste(larger, row, 0, top, plain_copy);
+    return larger;
 }
 
 bitmap preview_background(const bitmap & image, collage_shape shape)

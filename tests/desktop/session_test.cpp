@@ -72,6 +72,8 @@ struct session_test : testing::Test {
     {
         frmMain & main = all.main;
         main.picSplash.show(false);
+        main.lblBlanks.show(false);
+        main.cmbBlanks.show(false);
         main.set_back_color(about_background);
         ASSERT_TRUE(find_design(main, design));
         close_catalogue(main);

@@ -308,6 +308,18 @@ TEST(lay_background, blends_the_users_picture)
     EXPECT_NEAR(half.blue, (220 + 128) / 2, 4);
 }
 
+TEST(lay_background, leaves_no_strip_beside_the_picture_of_a_preview)
+{
+    collage_fixture run;
+    run.main.optBGimage.select();
+    run.main.cmbBlend.set_text("100");
+    run.main.txtBGimage.set_text(run.picture("sea.jpg", blue, 60, 90));
+    const bitmap canvas = background_of(run, 308, 457, run_size::preview);
+    EXPECT_EQ(letter_at(canvas, 307, 456), 'b');
+    EXPECT_EQ(letter_at(canvas, 0, 456), 'b');
+    EXPECT_EQ(letter_at(canvas, 307, 0), 'b');
+}
+
 TEST(lay_background, covers_the_collage_and_not_its_bleed)
 {
     collage_fixture run;
