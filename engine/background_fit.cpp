@@ -69,12 +69,12 @@ bitmap continued(const bitmap & image, int width, int height)
     const int own_width = image.width(), own_height = image.height();
     bitmap larger(std::max(width, own_width), std::max(height, own_height));
     paste(larger, image, 0, 0, plain_copy);
-    const bitmap column = copied(image, own_width - 1, 0, own_width, own_height);
-    for (int left = own_width; left < larger.width(); ++left)
-        paste(larger, column, left, 0, plain_copy);
-    const bitmap row = copied(larger, 0, own_height - 1, larger.width(), own_height);
-    for (int top = own_height; top < larger.height(); ++top)
-        paste(larger, row, 0, top, plain_copy);
+    for (int i = 0; own_width + i < larger.width() && i < own_width; ++i)
+        paste(larger, copied(image, own_width - 1 - i, 0, own_width - i, own_height), own_width + i, 0,
+              plain_copy);
+    for (int i = 0; own_height + i < larger.height() && i < own_height; ++i)
+        paste(larger, copied(larger, 0, own_height - 1 - i, larger.width(), own_height - i), 0,
+              own_height + i, plain_copy);
     return larger;
 }
 

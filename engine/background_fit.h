@@ -26,6 +26,6 @@ bitmap squared(const bitmap & image);
 enum class collage_shape { portrait, landscape, square };
 bitmap preview_background(const bitmap & image, collage_shape shape);
 
-/// The picture with its last column and row repeated up to that size: a preview's collage is a few pixels
-/// larger than the picture behind it. A picture that is as large comes back as it is.
+/// The picture mirrored beyond its right and lower edge up to that size, twice its own at most: a preview's
+/// collage is larger than the picture behind it. A picture that is as large comes back as it is.
 bitmap continued(const bitmap & image, int width, int height);

@@ -69,9 +69,9 @@ TEST(background_fit, a_picture_goes_on_to_the_edges_of_a_larger_preview)
     EXPECT_EQ(larger.height(), 42);
     EXPECT_TRUE(same(copied(larger, 0, 0, 30, 40), image));
     for (int left = 30; left < 33; ++left)
-        EXPECT_TRUE(same(copied(larger, left, 0, left + 1, 40), copied(image, 29, 0, 30, 40)));
+        EXPECT_TRUE(same(copied(larger, left, 0, left + 1, 40), copied(image, 59 - left, 0, 60 - left, 40)));
     for (int top = 40; top < 42; ++top)
-        EXPECT_TRUE(same(copied(larger, 0, top, 33, top + 1), copied(larger, 0, 39, 33, 40)));
+        EXPECT_TRUE(same(copied(larger, 0, top, 33, top + 1), copied(larger, 0, 79 - top, 33, 80 - top)));
     EXPECT_TRUE(same(continued(image, 20, 40), image)) << "a smaller preview is the canvas's affair";
 }
 
