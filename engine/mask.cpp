@@ -38,6 +38,25 @@ void put(std::uint8_t * bytes, rgb_triple color)
     bytes[2] = color.red;
 }
 
+/// Tells the parts of a mask pixel by pixel. Most pixels are like the one before, so that is asked first.
+class part_teller {
+public:
+    explicit part_teller(rgb_triple ground_color) : ground(ground_color), last(ground_color) {}
+    mask_part operator()(const std::uint8_t * bytes)
+    {
+        const rgb_triple seen = color_at(bytes);
+        if (seen != last) {
+            last = seen;
+            part = part_of_mask(seen, ground);
+        }
+        return part;
+    }
+
+private:
+    rgb_triple ground, last;
+    mask_part part = part_of_mask(ground, ground);
+};
+
 /// Walks the part of the mask that lies on the canvas; `colors_of(y)` gives, for a row of the mask, what
 /// gives the colour of a pixel that is neither ground nor key.
 template <typename Colors>
@@ -45,7 +64,7 @@ void paint(bitmap & canvas, const bitmap & mask, int column, int row, Colors col
 {
     if (!canvas || !mask)
         return;
-    const rgb_triple ground = color_at(mask.row(0).data());
+    part_teller part_at(color_at(mask.row(0).data()));
     const int first_x = std::max(0, -column), end_x = std::min(mask.width(), canvas.width() - column);
     const int first_y = std::max(0, -row), end_y = std::min(mask.height(), canvas.height() - row);
     for (int y = first_y; y < end_y; ++y) {
@@ -54,7 +73,7 @@ void paint(bitmap & canvas, const bitmap & mask, int column, int row, Colors col
         const auto color = colors_of(y);
         for (int x = first_x; x < end_x; ++x) {
             const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(x) * pixel_bytes;
-            switch (const mask_part part = part_of_mask(color_at(from + at), ground)) {
+            switch (const mask_part part = part_at(from + at)) {
                 case mask_part::ground:
                     break;
                 case mask_part::white_key:
