@@ -178,11 +178,12 @@ exit_status make(open_session & running, const batch_arguments & arguments)
 }  // namespace
 
 open_session::open_session(const batch_arguments & arguments, const batch_folders & folders)
-    : desk(arguments.answers_yes ? answer::yes : answer::no), all(desk, chance_of(arguments))
+    : scratch(folders.scratch),
+      desk(arguments.answers_yes ? answer::yes : answer::no),
+      all(desk, chance_of(arguments))
 {
     all.main.install_folder = folders.install_folder;
-    prepare_data_folder(all.main, folders.data);
-    supply_package_folders(all.main);
+    share_data_folder(all.main, folders.data, scratch.path());
     connect_all(all);
     all.main.load();
     desk.progress = [this] { return all.main.txtDoing.text(); };

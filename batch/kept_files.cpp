@@ -36,7 +36,7 @@ void keep_work_files(const frmMain & main, const std::string & folder)
 {
     make_folders(folder);
     const auto keep = [&](const char * name, const wanted_names & wanted) {
-        keep_files(joined(main.data_folder, name), joined(folder, name), wanted);
+        keep_files(work_path(main, name), joined(folder, name), wanted);
     };
     keep("designs", [](const std::string & name) { return name.starts_with("__"); });
     keep("piclists", [](const std::string & name) { return name == "last_photos.pls"; });

@@ -3,9 +3,11 @@
 #include "batch/batch_desktop.h"
 #include "batch/batch_session.h"
 #include "session/windows.h"
+#include "support/scratch_folder.h"
 
 /// A session as the program with a window has it, up to the point where the window would be shown.
 struct open_session {
+    scratch_folder scratch;
     batch_desktop desk;
     windows all;
     /// Throws end_of_program when start-up is blocked; raises what start-up raises.

@@ -30,7 +30,7 @@ line_kind read_catalogue_line(frmMain & main, const std::string & line)
 
 std::string catalogue_path(const frmMain & main)
 {
-    return joined(main.data_folder, "designs.ini");
+    return work_path(main, "designs.ini");
 }
 
 void open_catalogue(frmMain & main)

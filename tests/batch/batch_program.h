@@ -15,7 +15,8 @@ class batch_program : public testing::Test {
 protected:
     temporary_folder place;
     batch_folders folders{.install_folder = BUILT_SEED,
-                          .data = {.use_public_folder = true, .public_folder = place.at("data/home")}};
+                          .data = {.use_public_folder = true, .public_folder = place.at("data/home")},
+                          .scratch = joined(place.path(), "scratch")};
 
     std::string photos(int count = 6) const
     {

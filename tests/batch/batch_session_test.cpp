@@ -79,12 +79,13 @@ TEST_F(batch_program, makes_a_quick_style_at_full_size_for_the_settings_given)
 {
     start_once();
     testing::internal::CaptureStderr();
+    const std::string kept = joined(place.path(), "kept");
     ASSERT_EQ(run({"--photos", photos(), "--quick", "shapes", "--set", "cmbShapes=Stars", "--set",
-                   "cmbSpace=40", "--orientation", "landscape", "--out", out()}),
+                   "cmbSpace=40", "--orientation", "landscape", "--keep", kept, "--out", out()}),
               exit_status::made);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     EXPECT_EQ(size_of(out()).width, 3000);
-    const std::string layout = read_file(joined(folders.data.public_folder, "designs/__quick"));
+    const std::string layout = read_file(joined(kept, "designs/__quick"));
     EXPECT_TRUE(layout.ends_with(":star.gif\r\n")) << layout;
 }
 

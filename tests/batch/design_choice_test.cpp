@@ -41,11 +41,12 @@ TEST_F(design_choice, a_design_whose_template_is_missing_makes_nothing)
 {
     start_once();
     const std::string catalogue = joined(folders.data.public_folder, "designs.ini");
-    replace_file(catalogue,
-                 read_file(catalogue) +
-                     "\r\n[Design600]\r\nName=Lost\r\nFile=design600\r\nStyle=Place\r\nDesign=Saved\r\n"
-                     "Background=Portrait\r\n\r\n[Design601]\r\nName=Nowhere\r\nFile=not_in_the_list\r\n"
-                     "Style=Place\r\nDesign=Block\r\nBackground=Portrait\r\n");
+    replace_file(
+        catalogue,
+        read_file(catalogue) +
+            "\r\n[Design600]\r\nName=Lost\r\nFile=design600\r\nSystem=No\r\nStyle=Place\r\nDesign=Saved\r\n"
+            "Background=Portrait\r\n\r\n[Design601]\r\nName=Nowhere\r\nFile=not_in_the_list\r\n"
+            "Style=Place\r\nDesign=Block\r\nBackground=Portrait\r\n");
     for (const char * name : {"Lost", "Nowhere"})
         for (const std::vector<std::string> & size :
              {std::vector<std::string>{"--preview"}, {"--size", "600"}}) {
@@ -63,10 +64,11 @@ TEST_F(design_choice, a_template_that_breaks_off_makes_nothing)
     const std::string data = folders.data.public_folder;
     replace_file(joined(data, "designs/design600"),
                  "0:0:900:900:0:0:0:0:\r\n1000:0:900:900:0:0:0:0:\r\n1000:1000:900\r\n");
-    replace_file(joined(data, "designs.ini"),
-                 read_file(joined(data, "designs.ini")) +
-                     "\r\n[Design600]\r\nName=Torn\r\nFile=design600\r\nStyle=Place\r\nDesign=Saved\r\n"
-                     "Background=Portrait\r\n");
+    replace_file(
+        joined(data, "designs.ini"),
+        read_file(joined(data, "designs.ini")) +
+            "\r\n[Design600]\r\nName=Torn\r\nFile=design600\r\nSystem=No\r\nStyle=Place\r\nDesign=Saved\r\n"
+            "Background=Portrait\r\n");
     const std::string complaint = told(
         {"--photos", photos(), "--design", "Torn", "--size", "600", "--out", out()}, exit_status::not_made);
     EXPECT_NE(complaint.find("CAUGHT AN ERROR"), std::string::npos) << complaint;

@@ -121,6 +121,7 @@ TEST_F(given_photos, one_that_may_not_be_read_is_named)
     ::chmod(place.path().c_str(), 0777);
     ::chmod(closed.c_str(), 0);
     ASSERT_EQ(::system(("chmod -R a+rwX '" + place.at("data") + "'").c_str()), 0);
+    folders.scratch = joined(place.path(), "scratch_of_the_user");
     const as_ordinary_user user;
     EXPECT_EQ(said_of({closed, good}), closed + " is left out: it can't be read.\n");
 }

@@ -149,6 +149,24 @@ TEST_F(output_file, a_write_protected_picture_is_told_beforehand)
     EXPECT_EQ(read_file(held), "picture");
 }
 
+TEST_F(output_file, nothing_of_the_user_s_beside_it_is_touched)
+{
+    folder.write("elsewhere", "mine");
+    for (const char * name : {"a.jpg.part", "a.jpg~", ".a.jpg.part"})
+        folder.write(name, "mine");
+    fs::create_symlink("elsewhere", folder.at("b.jpg.part"));
+    std::vector<std::string> expected = names();
+    expected.emplace_back("a.jpg");
+    expected.emplace_back("b.jpg");
+    std::ranges::sort(expected);
+    write_output(folder.at("a.jpg"), "picture");
+    write_output(folder.at("b.jpg"), "picture");
+    EXPECT_EQ(names(), expected);
+    EXPECT_EQ(read_file(folder.at("elsewhere")), "mine");
+    EXPECT_EQ(read_file(folder.at("a.jpg.part")), "mine");
+    EXPECT_TRUE(fs::is_symlink(folder.at("b.jpg.part")));
+}
+
 TEST_F(output_file, a_full_disk_leaves_the_old_picture_and_nothing_beside_it)
 {
     folder.write("a.jpg", "old");
