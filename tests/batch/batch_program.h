@@ -10,13 +10,33 @@
 #include <string>
 #include <vector>
 
-/// The supplied data, a data folder of its own and a folder of small photos of both orientations.
+/// The supplied data, a data folder that all tests share, as all jobs do, and a folder of small photos of
+/// both orientations.
 class batch_program : public testing::Test {
 protected:
     temporary_folder place;
-    batch_folders folders{.install_folder = BUILT_SEED,
-                          .data = {.use_public_folder = true, .public_folder = place.at("data/home")},
-                          .scratch = joined(place.path(), "scratch")};
+    batch_folders folders = folders_of(shared_data_folder());
+
+    batch_folders folders_of(const std::string & data) const
+    {
+        return {.install_folder = BUILT_SEED,
+                .data = {.use_public_folder = true, .public_folder = data},
+                .scratch = joined(place.path(), "scratch")};
+    }
+    static const std::string & shared_data_folder()
+    {
+        static const temporary_folder shared;
+        static const std::string data = shared.at("data/home");
+        return data;
+    }
+    /// A data folder for a test that changes it.
+    void use_data_of_its_own()
+    {
+        folders = folders_of(place.at("data/home"));
+        start_once();
+    }
+    /// The welcome of a first start is over.
+    void SetUp() override { start_once(); }
 
     std::string photos(int count = 6) const
     {
@@ -62,8 +82,14 @@ protected:
             return fault.what;
         }
     }
-    /// The welcome of a first start is over.
-    void start_once() const { printed({"--list"}); }
+
+private:
+    void start_once() const
+    {
+        testing::internal::CaptureStderr();
+        printed({"--list"});
+        testing::internal::GetCapturedStderr();
+    }
 };
 
 /// The rows and cells of a printed table.

@@ -77,7 +77,6 @@ TEST_F(batch_program, makes_every_quick_style_as_a_preview_in_each_orientation)
 
 TEST_F(batch_program, makes_a_quick_style_at_full_size_for_the_settings_given)
 {
-    start_once();
     testing::internal::CaptureStderr();
     const std::string kept = joined(place.path(), "kept");
     ASSERT_EQ(run({"--photos", photos(), "--quick", "shapes", "--set", "cmbShapes=Stars", "--set",
@@ -109,7 +108,6 @@ TEST_F(batch_program, the_same_seed_gives_the_same_quick_collage)
 
 TEST_F(batch_program, too_few_photos_for_a_quick_style_are_told)
 {
-    start_once();
     testing::internal::CaptureStderr();
     EXPECT_EQ(run({"--photos", photos(2), "--quick", "block", "--out", out()}), exit_status::not_made);
     EXPECT_EQ(
@@ -176,6 +174,7 @@ TEST_F(batch_program, a_collage_that_failed_leaves_its_work_files_as_well)
 
 TEST_F(batch_program, an_output_that_can_t_be_used_is_told_before_anything_is_begun)
 {
+    folders = folders_of(place.at("data/home"));
     const std::vector<std::string> words = {"--photos", photos(), "--design", "Mosaic wall", "--out"};
     const auto with = [&](const std::string & target) {
         std::vector<std::string> all = words;
@@ -285,7 +284,6 @@ TEST_F(batch_program, missing_photos_alone_make_nothing)
 TEST_F(batch_program, a_full_disk_while_saving_is_told_and_leaves_the_old_picture)
 {
     const std::string folder = photos();
-    start_once();  // the data folder is there before the disk fills up
     write_file(out(), "an older picture");
     ASSERT_EQ(run({"--photos", folder, "--design", "Mosaic wall", "--preview", "--out",
                    joined(place.path(), "p.jpg")}),

@@ -39,7 +39,7 @@ TEST_F(design_choice, a_design_of_frames_asks_for_a_set_that_is_there)
 
 TEST_F(design_choice, a_design_whose_template_is_missing_makes_nothing)
 {
-    start_once();
+    use_data_of_its_own();
     const std::string catalogue = joined(folders.data.public_folder, "designs.ini");
     replace_file(
         catalogue,
@@ -60,7 +60,7 @@ TEST_F(design_choice, a_design_whose_template_is_missing_makes_nothing)
 
 TEST_F(design_choice, a_template_that_breaks_off_makes_nothing)
 {
-    start_once();
+    use_data_of_its_own();
     const std::string data = folders.data.public_folder;
     replace_file(joined(data, "designs/design600"),
                  "0:0:900:900:0:0:0:0:\r\n1000:0:900:900:0:0:0:0:\r\n1000:1000:900\r\n");

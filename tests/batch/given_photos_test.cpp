@@ -51,7 +51,6 @@ TEST_F(given_photos, folders_lists_and_files_may_be_mixed)
     const std::string jpeg = photo("one.jpeg"), upper = photo("TWO.JPEG");
     const std::string list = place.write("some.PLS", "P " + jpeg + "\r\nL " + a + "\r\n\r\n");
     photo("b/left.jpeg");  // a folder gives its .jpg files
-    start_once();
     EXPECT_EQ(said_of({place.at("b"), upper, list, place.at("a")}), "");
     EXPECT_EQ(used(), (std::vector<std::string>{b2, b10, upper, jpeg, a, a}));
 }
@@ -74,7 +73,6 @@ TEST_F(given_photos, what_can_t_be_used_is_named_and_left_out)
     make_folder(place.at("bare"));
     make_folder(place.at("folder.jpg"));
     const std::string list = place.write("list.pls", "L " + place.at("gone.jpg") + "\r\nL " + good + "\r\n");
-    start_once();
     EXPECT_EQ(said_of({empty, text, place.at("png.jpg"), place.at("none.jpg"), place.at("bare"),
                        place.at("folder.jpg"), place.at("no.pls"), list}),
               place.at("bare") + " has no .jpg files.\n" + place.at("folder.jpg") + " has no .jpg files.\n" +
@@ -90,7 +88,6 @@ TEST_F(given_photos, of_a_folder_and_of_a_list_the_others_are_used)
 {
     const std::string one = photo("p/1.jpg"), three = photo("p/3.jpg");
     const std::string two = place.write("p/2.jpg", "no picture");
-    start_once();
     EXPECT_EQ(said_of({place.at("p")}), two + " is left out: it is no JPEG picture.\n");
     EXPECT_EQ(used(), (std::vector<std::string>{one, three}));
     const std::string list = place.write("l.pls", "L " + three + "\r\nL " + two + "\r\nL " + one + "\r\n");
@@ -103,7 +100,6 @@ TEST_F(given_photos, a_quick_style_counts_those_that_can_be_used)
 {
     photos(3);
     place.write("photos/9.jpg", "no picture");
-    start_once();
     EXPECT_EQ(told({"--photos", place.at("photos"), "--quick", "block", "--preview", "--out", out()},
                    exit_status::made),
               place.at("photos/9.jpg") + " is left out: it is no JPEG picture.\n");
@@ -117,9 +113,9 @@ TEST_F(given_photos, a_quick_style_counts_those_that_can_be_used)
 TEST_F(given_photos, one_that_may_not_be_read_is_named)
 {
     const std::string good = photo("good.jpg"), closed = photo("closed.jpg");
-    start_once();
     ::chmod(place.path().c_str(), 0777);
     ::chmod(closed.c_str(), 0);
+    use_data_of_its_own();
     ASSERT_EQ(::system(("chmod -R a+rwX '" + place.at("data") + "'").c_str()), 0);
     folders.scratch = joined(place.path(), "scratch_of_the_user");
     const as_ordinary_user user;
@@ -136,7 +132,6 @@ TEST_F(given_photos, one_that_is_too_wide_is_named)
     bytes.replace(frame + 7, 2, "\x9C\x40");
     const std::string wide = place.write("wide.jpg", bytes);
     const std::string good = photo("good.jpg");
-    start_once();
     EXPECT_EQ(said_of({wide, good}),
               wide + " is left out: it has more than 32767 pixels in one direction.\n");
 }
@@ -161,7 +156,6 @@ TEST_F(given_photos, more_than_there_is_room_for_are_named)
     const std::string one = photo("p/000.jpg");
     for (int i = 1; i <= 501; ++i)
         copy_file(one, place.at("p/" + std::to_string(i) + ".jpg"));
-    start_once();
     EXPECT_EQ(said_of({place.at("p")}),
               place.at("p") + " has more than 499 photos; the others are left out.\n");
     EXPECT_EQ(used().size(), 499U);

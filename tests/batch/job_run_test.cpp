@@ -30,7 +30,6 @@ TEST_F(job_run, each_job_gives_what_it_gives_alone)
          line("a.jpg", folder + "\tMosaic wall\t\tchkRandom=1\tSummer\t5") +
          line("b.jpg", folder + "\t\tmatrix\tchkRotate=1\t\t6") +
          line("c.jpg", folder + "\tMosaic wall\t\tchkRandom=1\tSummer\t5"));
-    start_once();
     EXPECT_EQ(told_of_jobs(exit_status::made), "line 2: " + out("a.jpg") + " made\nline 3: " + out("b.jpg") +
                                                    " made\nline 4: " + out("c.jpg") +
                                                    " made\n3 made, 0 there before, 0 not made\n");
@@ -49,7 +48,6 @@ TEST_F(job_run, what_is_there_is_done_unless_it_is_wanted_again)
 {
     list("out\tphotos\tdesign\n" + line("a.jpg", photos() + "\tMosaic wall") +
          line("b.jpg", photos() + "\tMosaic wall"));
-    start_once();
     write_file(out("a.jpg"), "made before");
     EXPECT_EQ(told_of_jobs(exit_status::made), "line 2: " + out("a.jpg") +
                                                    " is there\nline 3: " + out("b.jpg") +
@@ -65,7 +63,6 @@ TEST_F(job_run, the_rest_goes_on_after_one_that_fails)
          line("b.jpg", joined(photos(), "1.jpg") + "\t\tblock") +
          line("nowhere/c.jpg", photos() + "\tMosaic wall") + line("d.jpg", photos() + "\tMosaic wall"));
     make_folder(out("e.jpg"));
-    start_once();
     const std::string told = told_of_jobs(exit_status::not_made);
     for (const std::string & expected :
          {"line 2: " + out("a.jpg") + " NOT made\n", "line 4: " + out("nowhere/c.jpg") + " NOT made\n",
