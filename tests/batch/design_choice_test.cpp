@@ -1,0 +1,76 @@
+#include "tests/batch/batch_program.h"
+
+#include <algorithm>
+
+namespace {
+
+using design_choice = batch_program;
+
+}  // namespace
+
+TEST_F(design_choice, the_session_s_own_entries_are_neither_listed_nor_made)
+{
+    const auto rows = table_of(printed({"--list"}));
+    for (const char * name :
+         {"Match", "Quick matrix", "Matrix grid", "Lettering", "Puzzle", "Frame_matrix"}) {
+        EXPECT_TRUE(std::ranges::none_of(rows, [&](const auto & row) { return row[1] == name; })) << name;
+        for (const std::vector<std::string> & frames : {std::vector<std::string>{}, {"--frames", "soccer"}}) {
+            std::vector<std::string> words = {"--photos", photos(), "--design", name, "--out", out()};
+            words.insert(words.end(), frames.begin(), frames.end());
+            EXPECT_EQ(refusal(words),
+                      "\"" + std::string(name) +
+                          "\" is a name that the program keeps for itself: its layout is written by a quick "
+                          "style or a designer of the window; --list shows the designs");
+        }
+    }
+    EXPECT_FALSE(file_exists(out()));
+}
+
+TEST_F(design_choice, a_design_of_frames_asks_for_a_set_that_is_there)
+{
+    const std::string fault = "\"Framed wall\" wears custom frames: --frames names a set";
+    EXPECT_EQ(refusal({"--photos", photos(), "--design", "Framed wall", "--out", out()}), fault);
+    EXPECT_EQ(refusal({"--photos", photos(), "--design", "Framed wall", "--frames", "nix", "--out", out()}),
+              fault);
+    EXPECT_EQ(run({"--photos", photos(), "--design", "Framed wall", "--frames", "soccer", "--preview",
+                   "--out", out()}),
+              exit_status::made);
+}
+
+TEST_F(design_choice, a_design_whose_template_is_missing_makes_nothing)
+{
+    start_once();
+    const std::string catalogue = joined(folders.data.public_folder, "designs.ini");
+    replace_file(
+        catalogue,
+        read_file(catalogue) +
+            "\r\n[Design600]\r\nName=Lost\r\nFile=design600\r\nSystem=No\r\nStyle=Place\r\nDesign=Saved\r\n"
+            "Background=Portrait\r\n\r\n[Design601]\r\nName=Nowhere\r\nFile=not_in_the_list\r\n"
+            "Style=Place\r\nDesign=Block\r\nBackground=Portrait\r\n");
+    for (const char * name : {"Lost", "Nowhere"})
+        for (const std::vector<std::string> & size :
+             {std::vector<std::string>{"--preview"}, {"--size", "600"}}) {
+            std::vector<std::string> words = {"--photos", photos(), "--design", name, "--out", out()};
+            words.insert(words.end(), size.begin(), size.end());
+            const std::string complaint = told(words, exit_status::not_made);
+            EXPECT_FALSE(complaint.empty()) << name;
+            EXPECT_FALSE(file_exists(out())) << name << " " << size.front();
+        }
+}
+
+TEST_F(design_choice, a_template_that_breaks_off_makes_nothing)
+{
+    start_once();
+    const std::string data = folders.data.public_folder;
+    replace_file(joined(data, "designs/design600"),
+                 "0:0:900:900:0:0:0:0:\r\n1000:0:900:900:0:0:0:0:\r\n1000:1000:900\r\n");
+    replace_file(
+        joined(data, "designs.ini"),
+        read_file(joined(data, "designs.ini")) +
+            "\r\n[Design600]\r\nName=Torn\r\nFile=design600\r\nSystem=No\r\nStyle=Place\r\nDesign=Saved\r\n"
+            "Background=Portrait\r\n");
+    const std::string complaint = told(
+        {"--photos", photos(), "--design", "Torn", "--size", "600", "--out", out()}, exit_status::not_made);
+    EXPECT_NE(complaint.find("CAUGHT AN ERROR"), std::string::npos) << complaint;
+    EXPECT_FALSE(file_exists(out()));
+}
