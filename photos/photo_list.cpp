@@ -184,6 +184,7 @@ void remove_photo(frmMain & main, int index)
 
 void count_photos(frmMain & main)
 {
+    clear_thumbnail_places(main);
     orientation_counts counts;
     for (int index = 0; index <= main.table.last_photo;) {
         show_progress(main, index);

@@ -49,10 +49,10 @@ class Display:
 class Program:
     """A program that was started, with a home of its own, or in the home and on the display of another one."""
 
-    def __init__(self, app, plugins, beside=None):
+    def __init__(self, app, plugins, beside=None, home=None):
         self.app = app
         self.beside = beside
-        self.folder = beside.folder if beside else tempfile.mkdtemp(prefix='tessaloom_')
+        self.folder = home or (beside.folder if beside else tempfile.mkdtemp(prefix='tessaloom_'))
         self.data = os.path.join(self.folder, '.local', 'share', 'tessaloom4')
         self.display = self.process = None
         try:
