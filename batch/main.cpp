@@ -10,6 +10,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -38,6 +40,15 @@ int complain(exit_status status, const std::string & text)
     return static_cast<int>(status);
 }
 
+// A stream that the caller has closed must not come back as a file of the session's: what is written there
+// fails.
+void hold_standard_streams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(stream, F_GETFD) == -1)
+            ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
 // Text is drawn without a display, the same wherever the program is started: what a desktop exports for its
 // windows has no say here.
 void leave_the_desktop()
@@ -62,6 +73,7 @@ exit_status with_output_told(exit_status status)
 
 int main(int count, char ** words)
 {
+    hold_standard_streams();
     remove_scratch_folders_on_signals();
     // What the toolkit has to say of its surroundings is of no use here: standard error holds the session's
     // messages.
