@@ -3,9 +3,11 @@
 #include "designs/browser_page.h"
 #include "designs/catalogue.h"
 #include "designs/chosen_design.h"
+#include "designs/template_path.h"
 #include "frames/frame_sets.h"
 #include "frames/frames_template.h"
 #include "support/paths.h"
+#include "support/platform_error.h"
 
 #include <cstdio>
 
@@ -82,6 +84,9 @@ void check_design(frmMain & main, const batch_arguments & arguments)
     if (wears_frames(main) && (arguments.frames.empty() ||
                                !file_exists(joined(frame_set_folder(main, arguments.frames), "design.ini"))))
         throw bad_arguments{"\"" + arguments.design + "\" wears custom frames: --frames names a set"};
+    if (!keep_template(main))
+        throw platform_error(error_number::permission_denied,
+                             "Another program is changing this design: try again.", arguments.design);
 }
 
 void choose_design(frmMain & main, const batch_arguments & arguments)
