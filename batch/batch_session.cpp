@@ -3,6 +3,7 @@
 #include "batch/design_choice.h"
 #include "batch/given_photos.h"
 #include "batch/kept_files.h"
+#include "batch/missing_pictures.h"
 #include "batch/open_session.h"
 #include "batch/output_file.h"
 #include "batch/settings.h"
@@ -107,16 +108,21 @@ bool went_well(const std::function<void()> & step)
     }
 }
 
-// The template and the photos that the last run took. Its messages have told what went wrong; a template that
-// has no places at all is passed over without a word.
-bool shows_photos(const open_session & running)
+// Whether the last run has laid what was asked for. Its messages have told what went wrong, but a template
+// without places and a picture of the design that is gone are passed over without a word.
+bool is_whole(const open_session & running)
 {
+    const frmMain & main = running.all.main;
     if (running.desk.told_of_an_error())
         return false;
-    if (running.all.main.run.image_number > 1)
+    const std::string missing = missing_picture(main);
+    if (main.run.image_number <= 1)
+        std::fprintf(stderr,
+                     "None of the photos found a place: the template of this design is missing or empty.\n");
+    else if (!missing.empty())
+        std::fprintf(stderr, "A picture of this collage is missing: %s\n", missing.c_str());
+    else
         return true;
-    std::fprintf(stderr,
-                 "None of the photos found a place: the template of this design is missing or empty.\n");
     return false;
 }
 
@@ -126,7 +132,7 @@ exit_status make_full_size(open_session & running, const batch_arguments & argum
     running.desk.on_modal = [&](form & window) {
         const bitmap & image = running.all.main.run.canvas;
         const int own = std::max(image.width(), image.height());
-        if (&window == &running.all.image && shows_photos(running))
+        if (&window == &running.all.image && is_whole(running))
             saved = went_well(
                 [&] { write_output(arguments.out, flurn_bytes(image, arguments.size.value_or(own))); });
     };
@@ -157,7 +163,7 @@ exit_status make_small(open_session & running, const batch_arguments & arguments
         make_preview(main);
     else
         gen_sample(main);
-    const bool saved = file_exists(picture) && shows_photos(running) && went_well([&] {
+    const bool saved = file_exists(picture) && is_whole(running) && went_well([&] {
                            write_output(arguments.out, bytes_of_preview(picture, arguments.size));
                        });
     return saved ? exit_status::made : exit_status::not_made;

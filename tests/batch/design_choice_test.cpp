@@ -74,3 +74,42 @@ TEST_F(design_choice, a_template_that_breaks_off_makes_nothing)
     EXPECT_NE(complaint.find("CAUGHT AN ERROR"), std::string::npos) << complaint;
     EXPECT_FALSE(file_exists(out()));
 }
+
+TEST_F(design_choice, a_picture_of_the_design_that_is_gone_is_named)
+{
+    use_data_of_its_own();
+    const std::string data = folders.data.public_folder;
+    replace_file(joined(data, "designs/design600"),
+                 "0:0:900:900:0:0:0:0:\r\n1000:0:900:900:0:0:0:0:user_images/gone.jpg\r\n");
+    replace_file(joined(data, "designs/design601"),
+                 "0:0:900:900:0:0:0:0:\r\n900:0:0:900:0:0:0:0:gone.gif\r\n");
+    std::string catalogue = read_file(joined(data, "designs.ini"));
+    for (const char * number : {"600", "601"})
+        catalogue += "\r\n[Design" + std::string(number) + "]\r\nName=Bare " + number + "\r\nFile=design" +
+                     number + "\r\nSystem=No\r\nStyle=Place\r\nDesign=Theme\r\nBackground=Portrait\r\n";
+    replace_file(joined(data, "designs.ini"), catalogue);
+    for (const auto & [name, picture] :
+         {std::pair{"Bare 600", "user_images/gone.jpg"}, {"Bare 601", "gone.gif"}})
+        for (const std::vector<std::string> & size :
+             {std::vector<std::string>{"--preview"}, {"--size", "600"}}) {
+            std::vector<std::string> words = {"--photos", photos(), "--design", name, "--out", out()};
+            words.insert(words.end(), size.begin(), size.end());
+            const std::string complaint = told(words, exit_status::not_made);
+            EXPECT_NE(complaint.find("A picture of this collage is missing: " + std::string(picture) + "\n"),
+                      std::string::npos)
+                << complaint;
+            EXPECT_FALSE(file_exists(out()));
+        }
+}
+
+TEST_F(design_choice, a_background_that_is_gone_is_named)
+{
+    const std::string gone = place.at("gone.jpg");
+    const std::vector<std::string> words = {
+        "--photos", photos(), "--design",     "Mosaic wall", "--preview",         "--out",
+        out(),      "--set",  "optBGimage=1", "--set",       "txtBGimage=" + gone};
+    EXPECT_NE(told(words, exit_status::not_made).find("A picture of this collage is missing: " + gone + "\n"),
+              std::string::npos);
+    save_jpeg(plain(200, 300, {.blue = 90}), gone);
+    EXPECT_EQ(run(words), exit_status::made);
+}
