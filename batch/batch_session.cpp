@@ -65,7 +65,7 @@ bool start_quick_style(frmMain & main, const batch_arguments & arguments)
 {
     {
         const updating guard(main);  // one picture at the end instead of one a setting
-        if (!begin_quick(main, [&] { take_photos(main, arguments.photos); }))
+        if (!begin_quick(main, [&] { take_photos(main, arguments.photos, arguments.out); }))
             return false;
         style_option(main, arguments.quick).select();
         orientation_option(main, arguments.orientation).select();
@@ -88,7 +88,7 @@ bool start_design(frmMain & main, const batch_arguments & arguments)
     if (arguments.photos.empty()) {
         apply_without_photos(main);
     } else {
-        take_photos(main, arguments.photos);
+        take_photos(main, arguments.photos, arguments.out);
         start_designed(main);
     }
     apply_settings(main, arguments);

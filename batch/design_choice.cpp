@@ -46,8 +46,12 @@ bool wears_frames(const frmMain & main)
 // What the set or the design lacks has been told by a message.
 void wear_frame_set(frmMain & main, const std::string & set)
 {
-    if (!wears_frames(main))
+    if (!wears_frames(main)) {
+        if (!set.empty())
+            std::fprintf(stderr, "%s wears no custom frames; it is made without \"%s\".\n",
+                         main.design_record.name.c_str(), set.c_str());
         return;
+    }
     main.frame_set_name = set;
     if (!build_frames_template(main))
         throw bad_arguments{"\"" + main.design_record.name + "\" can't wear the frames \"" + set + "\""};

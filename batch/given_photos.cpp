@@ -1,5 +1,6 @@
 #include "batch/given_photos.h"
 
+#include "batch/arguments.h"
 #include "photos/photo_list.h"
 #include "photos/pls_line.h"
 #include "support/paths.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 
 namespace {
 
@@ -87,6 +89,15 @@ paths usable(const paths & photos)
     return kept;
 }
 
+// A poster among the photos would be a photo of the next one, and a photo in the poster's place be lost.
+void check_is_none_of(const paths & photos, const std::string & out)
+{
+    std::error_code missing;
+    for (const std::string & photo : photos)
+        if (std::filesystem::equivalent(photo, out, missing))
+            throw bad_arguments{"\"" + out + "\" is one of the photos and would be replaced by the collage"};
+}
+
 void use_folder(frmMain & main, const std::string & folder, const paths & photos)
 {
     std::ranges::copy(photos, main.table.photos.begin());
@@ -119,7 +130,7 @@ void use_selection(frmMain & main, const paths & photos)
 
 }  // namespace
 
-void take_photos(frmMain & main, const std::vector<std::string> & given)
+void take_photos(frmMain & main, const std::vector<std::string> & given, const std::string & out)
 {
     paths words, found;
     for (const std::string & path : given) {
@@ -130,6 +141,7 @@ void take_photos(frmMain & main, const std::vector<std::string> & given)
     if (photos.empty())
         throw platform_error(error_number::file_not_found, "There is no photo that could be used.",
                              words.front());
+    check_is_none_of(photos, out);
     if (words.size() == 1 && folder_exists(words.front()))
         use_folder(main, words.front(), photos);
     else if (words.size() == 1 && is_list(words.front()))

@@ -110,6 +110,8 @@ void apply_setting(frmMain & main, const std::string & name, const std::string &
     if (!found->enabled())
         std::fprintf(stderr, "%s is disabled for this design; it is set all the same.\n", name.c_str());
     found->set_as_user(value);
+    if (const auto * list = dynamic_cast<const combo_box *>(found); list != nullptr && list->text() != value)
+        std::fprintf(stderr, "%s takes %s for %s.\n", name.c_str(), list->text().c_str(), value.c_str());
 }
 
 std::string escaped(const std::string & text)

@@ -37,6 +37,14 @@ TEST_F(design_choice, a_design_of_frames_asks_for_a_set_that_is_there)
               exit_status::made);
 }
 
+TEST_F(design_choice, a_set_that_a_design_doesn_t_wear_is_noted)
+{
+    EXPECT_NE(noted({"--photos", photos(), "--design", "Mosaic wall", "--frames", "soccer", "--preview",
+                     "--out", out()})
+                  .find("Mosaic wall wears no custom frames; it is made without \"soccer\".\n"),
+              std::string::npos);
+}
+
 TEST_F(design_choice, a_design_whose_template_is_missing_makes_nothing)
 {
     use_data_of_its_own();

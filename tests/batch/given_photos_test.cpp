@@ -2,7 +2,7 @@
 #include "tests/batch/batch_program.h"
 
 #include <algorithm>
-#include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace {
@@ -149,6 +149,18 @@ TEST_F(given_photos, without_one_that_can_be_used_nothing_is_made)
         }
         EXPECT_FALSE(file_exists(out()));
     }
+}
+
+TEST_F(given_photos, none_of_them_is_replaced_by_the_collage)
+{
+    const std::string one = photo("p/1.jpg"), two = photo("p/2.jpg");
+    const std::string before = read_file(two);
+    std::filesystem::create_symlink("p/2.jpg", place.at("link.jpg"));
+    for (const std::string & target : {two, place.at("link.jpg")})
+        EXPECT_EQ(
+            refusal({"--photos", place.at("p"), "--design", "Mosaic wall", "--preview", "--out", target}),
+            "\"" + target + "\" is one of the photos and would be replaced by the collage");
+    EXPECT_TRUE(read_file(two) == before);
 }
 
 TEST_F(given_photos, more_than_there_is_room_for_are_named)

@@ -50,10 +50,13 @@ def tells_when_standard_output_fails(place):
 def takes_back_what_broke_off(place):
     kept = place.folder / 'kept'
     kept.write_bytes(b'before')
-    limit = f'ulimit -f 20; trap "" XFSZ; exec tessaloom-batch --photos photos --design "Mosaic wall" --preview --out -'
+    limit = 'ulimit -f 20; trap "" XFSZ; exec tessaloom-batch --photos photos --design "Mosaic wall" --preview --out -'
     _, told = place.run(['sh', '-c', f'{limit} >> kept'], status=NOT_MADE)
     assert 'The disk is full' in told, told
     assert kept.read_bytes() == b'before'
+    place.run('tessaloom-batch --photos photos --design "Mosaic wall" --preview --out - >> kept')
+    place.batch(*WALL, '--out', 'wall.jpg')
+    assert kept.read_bytes() == b'before' + (place.folder / 'wall.jpg').read_bytes()
 
 
 def needs_no_display(place):
