@@ -164,6 +164,16 @@ TEST_F(batch_program, the_work_files_are_kept_where_they_are_asked_for)
     EXPECT_EQ(read_file(joined(kept, "piclists/last_photos.pls")), "L " + joined(folder, "1.jpg") + "\r\n");
 }
 
+TEST_F(batch_program, the_work_files_of_a_full_size_are_its_own)
+{
+    const std::string kept = joined(place.path(), "kept");
+    ASSERT_EQ(run({"--photos", photos(), "--design", "Framed wall", "--frames", "soccer", "--keep", kept,
+                   "--out", out()}),
+              exit_status::made);
+    EXPECT_TRUE(read_file(joined(kept, "tmp/finished.jpg")) == read_file(out()));
+    EXPECT_FALSE(read_file(joined(kept, "designs/__frames")).empty());
+}
+
 TEST_F(batch_program, a_collage_that_failed_leaves_its_work_files_as_well)
 {
     const std::string kept = joined(place.path(), "kept");
