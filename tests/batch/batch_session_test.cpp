@@ -117,6 +117,15 @@ TEST_F(batch_program, too_few_photos_for_a_quick_style_are_told)
     EXPECT_FALSE(file_exists(out()));
 }
 
+TEST_F(batch_program, a_run_that_draws_nothing_says_so)
+{
+    const std::string complaint =
+        told({"--photos", photos(), "--quick", "block", "--set", "optSample=1", "--preview", "--out", out()},
+             exit_status::not_made);
+    EXPECT_NE(complaint.find("These settings make no picture.\n"), std::string::npos) << complaint;
+    EXPECT_FALSE(file_exists(out()));
+}
+
 TEST_F(batch_program, the_size_is_that_of_the_long_side)
 {
     ASSERT_EQ(run({"--photos", photos(), "--design", "Mosaic wall", "--orientation", "landscape", "--size",
