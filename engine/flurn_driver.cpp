@@ -3,6 +3,7 @@
 #include "engine/photo_steps.h"
 #include "engine/quick_template.h"
 #include "engine/run_steps.h"
+#include "photos/left_out.h"
 #include "photos/thumbnails.h"
 #include "session/window_state.h"
 #include "session/windows.h"
@@ -142,7 +143,9 @@ void full_run(frmMain & main, borrowed_settings & before)
     offer_saving(main);
     read_new_template(main, run_size::full);
     bend_template(main, run_size::full);
-    if (went_through(main, [&] { make_collage(main, before); }))
+    const bool is_made = went_through(main, [&] { make_collage(main, before); });
+    tell_left_out(main);
+    if (is_made)
         show_collage(main);
     else
         take_failure(main, before);
