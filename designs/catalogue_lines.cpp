@@ -75,6 +75,17 @@ void append(text_lines & lines, std::span<const std::string> more)
     lines.insert(lines.end(), more.begin(), more.end());
 }
 
+// As it stands, or as a list shows it.
+bool is_named(const listed_design & design, std::string_view name)
+{
+    return design.name == name || profile_text(design.name) == name;
+}
+
+int number_of_section(std::string_view section)
+{
+    return nearest(leading_number(section.substr(header_start.size() - 1)));
+}
+
 bool has_header(const text_lines & catalogue, const std::string & header)
 {
     return std::ranges::any_of(
@@ -151,18 +162,33 @@ text_lines saved_section(const design_to_save & design)
     return lines;
 }
 
-std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name)
+std::vector<listed_design> designs_of_users(const text_lines & catalogue)
 {
     constexpr std::string_view key = "Name=";
+    std::vector<listed_design> designs;
     double number = 0;
     for (const std::string & line : catalogue) {
         number = number_of_header(line, 3).value_or(number);
-        if (number <= end_of_supplied || !line.starts_with(key))
-            continue;
-        const std::string_view own = std::string_view(line).substr(key.size());
-        if (own == name || profile_text(own) == name)
-            return nearest(number);
+        if (number > end_of_supplied && line.starts_with(key))
+            designs.push_back(
+                {.section = "Design" + formatted(nearest(number), 3), .name = line.substr(key.size())});
     }
+    return told_apart(std::move(designs));
+}
+
+std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name)
+{
+    for (const listed_design & design : designs_of_users(catalogue))
+        if (is_named(design, name))
+            return number_of_section(design.section);
+    return std::nullopt;
+}
+
+std::optional<int> number_of_design(const text_lines & catalogue, const listed_design & wanted)
+{
+    for (const listed_design & design : designs_of_users(catalogue))
+        if (design.section == wanted.section && is_named(design, wanted.name))
+            return number_of_section(design.section);
     return std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/design_name.h"
 #include "support/numbers.h"
 
 #include <optional>
@@ -41,6 +42,12 @@ text_lines saved_section(const design_to_save & design);
 /// The number of the first design of that name in a section above 499: the name as it stands, or as a list
 /// shows it.
 std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name);
+
+/// The number of that very design, if its section is one above 499 and still has its name.
+std::optional<int> number_of_design(const text_lines & catalogue, const listed_design & design);
+
+/// The designs in sections above 499, in the order of the catalogue.
+std::vector<listed_design> designs_of_users(const text_lines & catalogue);
 
 /// The sections of that number.
 text_lines section_of(const text_lines & catalogue, int number);

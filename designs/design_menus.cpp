@@ -18,9 +18,18 @@ void mnuSaveDesign_click(windows & all)
         all.main.desk.show_modal(all.new_design);
 }
 
+void show_own_designs(windows & all)
+{
+    all.designs.designs = own_designs(all.main);
+    std::vector<std::string> shown;
+    for (const listed_design & design : all.designs.designs)
+        shown.push_back(design.shown);
+    all.designs.lstDesigns.set_items(std::move(shown));
+}
+
 void mnuEditDesigns_click(windows & all)
 {
-    all.designs.lstDesigns.set_items(own_designs(all.main));
+    show_own_designs(all);
     if (all.designs.lstDesigns.items().empty())
         all.main.desk.message("    You don't have any designs to edit.    ");
     else

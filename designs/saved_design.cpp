@@ -76,9 +76,12 @@ bool check_design_name(frmMain & main, const std::string & name)
     return !taken;
 }
 
-bool is_design_name(std::string_view name)
+bool check_name_text(frmMain & main, std::string_view name)
 {
-    return !profile_text(name).empty();
+    const bool is_fit = is_one_line(name);
+    if (!is_fit)
+        main.desk.message("A design's name can't hold line breaks or other control characters.");
+    return is_fit && !profile_text(name).empty();
 }
 
 void delete_if_exists(const std::string & path)
@@ -104,25 +107,25 @@ void save_design(frmMain & main, const std::string & name, const std::string & d
     reset_catalogue(main);
 }
 
-std::vector<std::string> own_designs(const frmMain & main)
+std::vector<listed_design> own_designs(const frmMain & main)
 {
     const profile designs(catalogue_path(main));
-    std::vector<std::string> names;
+    std::vector<listed_design> own;
     for (int number = first_listed; number < end_of_listed; ++number) {
         const std::string section = "Design" + formatted(number, 3);
         const std::string name = designs.value(section, "Name");
         if (!name.empty() && designs.value(section, "System") != "Yes")
-            names.push_back(name);
+            own.push_back({.section = section, .name = name});
     }
-    return names;
+    return told_apart(std::move(own));
 }
 
-bool delete_design(frmMain & main, const std::string & name)
+bool delete_design(frmMain & main, const listed_design & design)
 {
     close_catalogue(main);
     const std::string path = catalogue_path(main);
     const text_lines catalogue = lines_of_file(path);
-    const std::optional<int> number = number_of_design(catalogue, name);
+    const std::optional<int> number = number_of_design(catalogue, design);
     if (!number)
         return false;
     const text_lines files = files_of_design(catalogue, *number);
