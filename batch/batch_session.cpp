@@ -18,6 +18,7 @@
 #include "session/windows.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
+#include "support/scratch_folder.h"
 #include "support/text_file.h"
 
 #include <cstdio>
@@ -31,14 +32,16 @@ random_source chance_of(const batch_arguments & arguments)
 
 // A session as the program with a window has it, up to the point where the window would be shown.
 struct session {
+    scratch_folder scratch;
     batch_desktop desk;
     windows all;
     session(const batch_arguments & arguments, const batch_folders & folders)
-        : desk(arguments.answers_yes ? answer::yes : answer::no), all(desk, chance_of(arguments))
+        : scratch(folders.scratch),
+          desk(arguments.answers_yes ? answer::yes : answer::no),
+          all(desk, chance_of(arguments))
     {
         all.main.install_folder = folders.install_folder;
-        prepare_data_folder(all.main, folders.data);
-        supply_package_folders(all.main);
+        share_data_folder(all.main, folders.data, scratch.path());
         connect_all(all);
         all.main.load();
         desk.progress = [this] { return all.main.txtDoing.text(); };
@@ -280,7 +283,7 @@ exit_status make_full_size(session & running, const batch_arguments & arguments)
 exit_status make_small(session & running, const batch_arguments & arguments)
 {
     frmMain & main = running.all.main;
-    const std::string picture = joined(main.data_folder, "tmp/finished.jpg");
+    const std::string picture = work_path(main, "tmp/finished.jpg");
     delete_file(picture);
     if (main.quick_active)
         make_preview(main);

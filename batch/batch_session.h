@@ -8,10 +8,11 @@
 /// Exit statuses of the batch program.
 enum class exit_status { made = 0, not_made = 1, bad_arguments = 2 };
 
-/// Where the program lies and where the session keeps its data.
+/// Where the program lies, where the user's data is read, and where scratch folders are made.
 struct batch_folders {
     std::string install_folder;
     folder_choice data;
+    std::string scratch;
 };
 
 /// Runs a whole session without a window: start-up, photos, design, settings, collage. Prints what was asked

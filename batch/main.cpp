@@ -3,6 +3,7 @@
 #include "desktop/program_folders.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
+#include "support/scratch_folder.h"
 
 #include <QGuiApplication>
 
@@ -21,7 +22,8 @@ exit_status run(const std::vector<std::string> & words)
         std::printf("tessaloom-batch %s\n", TESSALOOM_VERSION);
         return exit_status::made;
     }
-    batch_folders folders{.install_folder = program_folder(), .data = data_folder_choice()};
+    batch_folders folders{
+        .install_folder = program_folder(), .data = data_folder_choice(), .scratch = scratch_place()};
     if (arguments.data_folder)
         folders.data = {.use_public_folder = true, .public_folder = absolute_path(*arguments.data_folder)};
     return run_batch(arguments, folders);
@@ -37,6 +39,7 @@ int complain(exit_status status, const std::string & text)
 
 int main(int count, char ** words)
 {
+    remove_scratch_folders_on_signals();
     // What the toolkit has to say of its surroundings is of no use here: standard error holds the session's
     // messages.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});

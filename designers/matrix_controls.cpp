@@ -86,7 +86,7 @@ matrix_choices matrix_choices_of(const frmMatrix & window)
 
 void draw_sample(frmMatrix & window, const frmMain & main)
 {
-    const std::string folder = joined(main.data_folder, "tmp");
+    const std::string folder = work_path(main, "tmp");
     if (!folder_exists(folder))
         return;
     const matrix_choices choices = matrix_choices_of(window);

@@ -7,7 +7,7 @@
 void write_work_template(const frmMain & main, const std::string & name,
                          const std::vector<std::string> & lines)
 {
-    write_file(joined(joined(main.data_folder, "designs"), name), text_of(lines));
+    write_file(work_path(main, "designs/" + name), text_of(lines));
 }
 
 void reset_for_design(frmMain & main)

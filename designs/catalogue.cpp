@@ -45,7 +45,7 @@ bool walked_to(frmMain & main, Wanted is_wanted)
 
 std::string catalogue_path(const frmMain & main)
 {
-    return joined(main.data_folder, "designs.ini");
+    return work_path(main, "designs.ini");
 }
 
 void open_catalogue(frmMain & main)

@@ -32,12 +32,12 @@ design_to_save::layout layout_of(const frmMain & main)
 
 std::string working_template(const frmMain & main)
 {
-    return joined(main.data_folder, is_quick(main) ? "designs/__quick" : "designs/__matrix");
+    return work_path(main, is_quick(main) ? "designs/__quick" : "designs/__matrix");
 }
 
 design_to_save::part save_sample(frmMain & main, design_to_save & design, const std::string & path)
 {
-    const bitmap collage = load_picture(picture_format::jpeg, joined(main.data_folder, "tmp/finished.jpg"));
+    const bitmap collage = load_picture(picture_format::jpeg, work_path(main, "tmp/finished.jpg"));
     if (!collage) {
         delete_if_exists(path);
         return design_to_save::part::absent;
@@ -131,7 +131,7 @@ bool delete_design(frmMain & main, const listed_design & design)
     const text_lines files = files_of_design(catalogue, *number);
     // The files go when no design needs them any more, not before.
     note_unfinished(main, files);
-    const std::string rewritten = joined(main.data_folder, "tmp/designs.ini");
+    const std::string rewritten = work_path(main, "tmp/designs.ini");
     replace_file(rewritten, text_of(without_design(catalogue, *number)));
     move_file(rewritten, path);
     for (const std::string & file : files)

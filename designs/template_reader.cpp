@@ -3,6 +3,7 @@
 #include "designs/bent_location.h"
 #include "designs/location_line.h"
 #include "designs/location_mixing.h"
+#include "designs/template_path.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
 
@@ -37,11 +38,10 @@ line_source section_of_design_list(const frmMain & main)
 line_source opened_template(const frmMain & main, run_size size)
 {
     const ::design_record & design = main.design_record;
-    const std::string folder = joined(main.data_folder, "designs");
     if (design.file == "__matrix" && size == run_size::full)
-        return line_source(joined(folder, "__matrix_"));
+        return line_source(template_path(main, "__matrix_"));
     if (is_work_file(design.file) || design.system == "No" || design.design == "Frame")
-        return line_source(joined(folder, design.file));
+        return line_source(template_path(main, design.file));
     return section_of_design_list(main);
 }
 

@@ -12,12 +12,19 @@ namespace {
 
 constexpr int nt_platform = 2;
 
-bool wants_public_folder()
+platform_version this_platform()
 {
     const QOperatingSystemVersion version = QOperatingSystemVersion::current();
-    if (version.type() == QOperatingSystemVersion::Windows)
-        return is_nt_six({.platform_id = nt_platform, .major = version.majorVersion()});
-    return !folder_writable(program_folder());
+    const bool is_nt = version.type() == QOperatingSystemVersion::Windows;
+    return is_nt ? platform_version{.platform_id = nt_platform, .major = version.majorVersion()}
+                 : platform_version{};
+}
+
+// A relative path would lead elsewhere from each folder that the program is started in: it counts as none.
+QString data_home()
+{
+    const QString home = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return QDir::isAbsolutePath(home) ? home : QDir::homePath() + QStringLiteral("/.local/share");
 }
 
 }  // namespace
@@ -29,9 +36,7 @@ std::string program_folder()
 
 folder_choice data_folder_choice()
 {
-    const QString home = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return {.use_public_folder = wants_public_folder(),
-            .public_folder = joined(bytes_of(home), "tessaloom4")};
+    return choose_data_folder(this_platform(), program_folder(), joined(bytes_of(data_home()), "tessaloom4"));
 }
 
 std::string pictures_folder()

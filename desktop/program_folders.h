@@ -9,8 +9,8 @@
 /// The folder of the program file, links followed: an installed program is reached through a link in `bin`.
 std::string program_folder();
 
-/// The user's own data folder, `tessaloom4` under the user's data home, is used on a platform of that one
-/// version, and elsewhere when the program's folder can't be written.
+/// The user's own data folder is `tessaloom4` under the user's data home; choose_data_folder says when it is
+/// used.
 folder_choice data_folder_choice();
 
 /// The user's pictures folder, or the home folder when there is none: where choosers open first.

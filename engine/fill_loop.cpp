@@ -46,7 +46,7 @@ void start_shaking(frmMain & main)
 
 void open_saved_matrix(frmMain & main, grid_walk & walk)
 {
-    const std::string path = joined(main.data_folder, "tmp/saved_matrix");
+    const std::string path = work_path(main, "tmp/saved_matrix");
     delete_file(path);
     if (main.matrix_resize || main.matrix_rotate || main.matrix_both)
         walk.saved.emplace(path, line_writer::mode::fresh);

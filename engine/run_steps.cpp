@@ -197,7 +197,7 @@ void finish_canvas(frmMain & main)
 
 std::string finished_path(const frmMain & main)
 {
-    return joined(main.data_folder, "tmp/finished.jpg");
+    return work_path(main, "tmp/finished.jpg");
 }
 
 bool went_through(frmMain & main, const std::function<void()> & work)

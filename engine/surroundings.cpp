@@ -160,7 +160,7 @@ void prepare_caption(frmMain & main)
 
 void add_caption(frmMain & main)
 {
-    const std::string folder = joined(main.data_folder, "tmp");
+    const std::string folder = work_path(main, "tmp");
     const bitmap drawn = drawn_caption(main);
     // Without its work folder a collage goes without its caption.
     if (!drawn || !folder_exists(folder))

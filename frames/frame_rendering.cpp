@@ -53,7 +53,7 @@ std::string landscape_path(const std::string & path)
 
 std::string work_folder(const frmMain & main)
 {
-    return joined(main.data_folder, "tmp");
+    return work_path(main, "tmp");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "frames/frames_template.h"
 
+#include "designs/template_path.h"
 #include "frames/deal_frames.h"
 #include "frames/frame_field.h"
 #include "frames/frame_sets.h"
@@ -42,7 +43,7 @@ std::vector<std::string> design_source(const frmMain & main)
             read_rest(supplied, source);
             return source;
         }
-    const std::string own = joined(joined(main.data_folder, "designs"), main.design_record.file);
+    const std::string own = template_path(main, main.design_record.file);
     if (!file_exists(own)) {
         main.desk.message("Could not find that template.");
         return source;
@@ -86,7 +87,7 @@ bool build_frames_template(frmMain & main)
                           std::string(*dealt.missing == 'l' ? "landscape" : "portrait") + " photos.");
         return false;
     }
-    write_file(joined(main.data_folder, "designs/__frames"), text_of(dealt.lines));
+    write_file(work_path(main, "designs/__frames"), text_of(dealt.lines));
     return true;
 }
 

@@ -149,7 +149,7 @@ void append_photos(const std::string & list, const std::vector<std::string> & ph
 
 std::string last_photos_path(const frmMain & main)
 {
-    return joined(main.data_folder, "piclists/last_photos.pls");
+    return work_path(main, "piclists/last_photos.pls");
 }
 
 bool check_last_list(frmMain & main)

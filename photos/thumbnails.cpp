@@ -31,11 +31,11 @@ bool written(Step step)
     }
 }
 
-bool cleared_place(const std::string & thumbnail)
+// What lies there stays until a new one takes its place: others may be reading it.
+bool has_place(const std::string & thumbnail)
 {
     const std::string folder = folder_of(thumbnail);
     return written([&] {
-               delete_file(thumbnail);
                if (!folder_exists(folder))
                    make_folder(folder);
            }) &&
@@ -46,9 +46,10 @@ bool cleared_place(const std::string & thumbnail)
 std::string made_thumbnail(const std::string & photo, const std::string & thumbnail)
 {
     const bitmap small = small_picture(photo);
-    if (!small)
+    if (small && written([&] { save_jpeg(small, thumbnail); }))
         return thumbnail;
-    return written([&] { save_jpeg(small, thumbnail); }) ? thumbnail : photo;
+    written([&] { delete_file(thumbnail); });  // an older one would show another picture
+    return small ? photo : thumbnail;
 }
 
 }  // namespace
@@ -63,7 +64,7 @@ std::string chk_sample_thumb(frmMain & main, const std::string & photo)
             return thumbnail;
         main.desk.message(photo + " IS NEWER");
     }
-    if (!cleared_place(thumbnail))
+    if (!has_place(thumbnail))
         return photo;
     return beside(main.desk, [&] { return made_thumbnail(photo, thumbnail); });
 }

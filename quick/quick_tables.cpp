@@ -18,7 +18,7 @@ void with_table(const frmMain & main, std::string_view name, const std::function
 
 void write_quick_template(const frmMain & main, const std::vector<std::string> & lines)
 {
-    write_file(joined(joined(main.data_folder, "designs"), "__quick"), text_of(lines));
+    write_file(work_path(main, "designs/__quick"), text_of(lines));
 }
 
 blank_run start_blanks(frmMain & main)

@@ -1,6 +1,7 @@
 #include "session/frmMain.h"
 
 #include "support/numbers.h"
+#include "support/paths.h"
 
 namespace {
 
@@ -61,6 +62,16 @@ frmMain::frmMain(desktop & shown_on, random_source chance, windows * all_windows
     lblPhotos.tag = "0";
     design_locations.clear();
     scratch_locations.clear();
+}
+
+std::string work_path(const frmMain & main, std::string_view name)
+{
+    return joined(owns_data_folder(main) ? main.data_folder : main.work_folder, name);
+}
+
+bool owns_data_folder(const frmMain & main)
+{
+    return main.work_folder.empty();
 }
 
 photo_source photo_source_kind(const frmMain & main)

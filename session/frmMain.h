@@ -12,6 +12,7 @@
 #include "photos/photo_table.h"
 #include "quick/quick_state.h"
 #include "support/desktop.h"
+#include "support/folder_lock.h"
 #include "support/forms.h"
 #include "support/random.h"
 
@@ -185,6 +186,9 @@ struct frmMain : form {
 
     // Folders, without a separator at their end.
     std::string data_folder, install_folder;
+    std::string
+        work_folder;  ///< for the session's own files; empty: the data folder, which is the session's alone
+    folder_lock data_lock;                   ///< held as long as the data folder is this session's
     std::string pictures_folder;             ///< the user's own, set by the program
     std::string image_folder, photo_folder;  ///< where the choosers last were
 
@@ -270,6 +274,13 @@ private:
     frmMain & main;
     bool before;
 };
+
+/// The path of a file or folder that belongs to the session and not to the user's data: `tmp`, templates that
+/// start with two underscores, the list of a selection, and the catalogue as the session reads it.
+std::string work_path(const frmMain & main, std::string_view name);
+
+/// True when the data folder is this session's alone, so that it may write there.
+bool owns_data_folder(const frmMain & main);
 
 /// Kind of the photo source, kept in the tag of `lblPhotos`.
 photo_source photo_source_kind(const frmMain & main);

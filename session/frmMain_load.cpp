@@ -1,4 +1,5 @@
 #include "designs/unfinished.h"
+#include "photos/photo_list.h"
 #include "session/handlers.h"
 #include "session/start_up.h"
 #include "session/window_state.h"
@@ -19,7 +20,7 @@ void keep_size(frmMain & main)
 void reset_photos(frmMain & main)
 {
     // The list of the last session does not survive a restart.
-    delete_file(joined(joined(main.data_folder, "piclists"), "last_photos.pls"));
+    delete_file(last_photos_path(main));
     set_photo_source_kind(main, photo_source::none);
     main.image_folder = main.photo_folder = main.pictures_folder;
 }
@@ -103,7 +104,8 @@ void hide_background_picture(frmMain & main)
 
 void load_main(frmMain & main)
 {
-    remove_leftovers(main);
+    if (owns_data_folder(main))
+        remove_leftovers(main);
     set_output_message();
     main.cmbFrame.set_text("10");
     main.cmbShadow.set_text("10");

@@ -1,5 +1,6 @@
 #include "desktop/guarded.h"
 #include "desktop/looks.h"
+#include "desktop/open_window.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_desktop.h"
 #include "session/connect_all.h"
@@ -27,10 +28,19 @@ void start(windows & all)
 {
     all.main.install_folder = program_folder();
     prepare_data_folder(all.main, data_folder_choice());
-    supply_package_folders(all.main);
     connect_all(all);
     all.main.picSplash.load(joined(all.main.install_folder, "images/splash.png"));
     all.main.desk.show(all.main);
+}
+
+// Two windows on one folder would take each other's work away.
+int give_way(qt_desktop & desk, const std::string & data_folder)
+{
+    raise_open_window(data_folder);
+    desk.message("Tessaloom is open already, with the data folder\r\n" + data_folder +
+                     "\r\n\r\nPlease go on in its window, or close that one first.",
+                 {});
+    return 1;
 }
 
 int run(qt_desktop & desk)
@@ -39,12 +49,15 @@ int run(qt_desktop & desk)
     const shown_windows until_here(desk);
     try {
         with_platform_errors([&all] { start(all); });
+    } catch (const data_folder_in_use & taken) {
+        return give_way(desk, taken.data_folder);
     } catch (const end_of_program & end) {
         return end.status;
     } catch (const platform_error & error) {
         desk.message(run_time_error(code(error), told(error)), {});
         return 1;
     }
+    const open_window reachable(all.main.data_folder, raise_own_window);
     return desk.run();
 }
 

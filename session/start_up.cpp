@@ -1,14 +1,25 @@
 #include "session/start_up.h"
 
+#include "session/supplied_catalogue.h"
 #include "support/archive.h"
 #include "support/numbers.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
+#include "support/text_file.h"
+
+#include <algorithm>
+#include <array>
+#include <thread>
 
 namespace {
 
 constexpr int nt_family = 2;
 constexpr std::string_view release_marker = "3_1_install";
+constexpr std::array public_folders{"tmp",      "designs",     "descriptions", "samples",
+                                    "piclists", "user_images", "frames"};
+constexpr std::array package_folders{"alpha", "puzzle"};
+constexpr std::chrono::minutes longest_filling{1};
+constexpr std::chrono::milliseconds filling_pause{20};
 
 std::string in_data(const frmMain & main, std::string_view name)
 {
@@ -48,7 +59,8 @@ void supply_catalogue(frmMain & main)
         return;
     if (folder_exists(path))
         end_with(main, "Error 27:    " + path + "    is a folder.");
-    copy_seed_file(main, "designs.ini", "designs.ini");
+    copy_file(seed_catalogue_path(main), path);
+    copy_file(path, in_data(main, supplied_catalogue));
 }
 
 void supply_folder(frmMain & main, std::string_view name)
@@ -59,6 +71,50 @@ void supply_folder(frmMain & main, std::string_view name)
     if (file_exists(path))
         end_with(main, "Error 28:    " + path + "    is a file.");
     copy_seed_folder(main, name);
+}
+
+bool is_own_folder(const frmMain & main)
+{
+    return main.data_folder == main.install_folder;
+}
+
+bool lacks_package_folder(const frmMain & main, const char * name)
+{
+    return folder_exists(in_install(main, name)) && !folder_exists(in_data(main, name));
+}
+
+std::string chosen_folder(const frmMain & main, const folder_choice & choice)
+{
+    return choice.use_public_folder ? choice.public_folder : main.install_folder;
+}
+
+outcome settle_data_folder(frmMain & main, const folder_choice & choice)
+{
+    main.data_folder = chosen_folder(main, choice);
+    return choice.use_public_folder ? make_data_subfolder(main, main.data_folder, 21) : outcome::was_there;
+}
+
+void fill_data_folder(frmMain & main, const folder_choice & choice)
+{
+    if (choice.use_public_folder) {
+        prepare_public_folder(main);
+    } else {
+        check_base_folders(main);
+        check_install_marker(main);
+    }
+    supply_package_folders(main);
+}
+
+// Nothing is left to be made in it.
+bool is_filled(const frmMain & main)
+{
+    const auto has_folder = [&](const char * name) { return folder_exists(in_data(main, name)); };
+    const auto lacks = [&](const char * name) {
+        return !is_own_folder(main) && lacks_package_folder(main, name);
+    };
+    return file_exists(in_data(main, release_marker)) && file_exists(in_data(main, "designs.ini")) &&
+           std::ranges::all_of(public_folders, has_folder) && has_folder("icons") &&
+           std::ranges::none_of(package_folders, lacks);
 }
 
 void delete_supplied_frames(frmMain & main)
@@ -78,21 +134,52 @@ bool is_nt_six(const platform_version & version)
 folder_choice choose_data_folder(const platform_version & version, const std::string & install_folder,
                                  const std::string & public_folder)
 {
-    const bool apart =
-        version.platform_id == nt_family ? is_nt_six(version) : !folder_writable(install_folder);
-    return {.use_public_folder = apart, .public_folder = public_folder};
+    const bool is_portable = file_exists(joined(install_folder, "portable"));
+    const bool keeps_apart = version.platform_id != nt_family || is_nt_six(version);
+    return {.use_public_folder = keeps_apart && !is_portable, .public_folder = public_folder};
 }
 
 void prepare_data_folder(frmMain & main, const folder_choice & choice)
 {
-    main.data_folder = main.install_folder;
-    if (choice.use_public_folder) {
-        main.data_folder = choice.public_folder;
-        prepare_public_folder(main);
-    } else {
-        check_base_folders(main);
-        check_install_marker(main);
+    main.work_folder.clear();
+    main.data_lock = {};
+    const outcome made = settle_data_folder(main, choice);
+    std::optional<folder_lock> own = folder_lock::taken(main.data_folder, "lock");
+    if (!own)
+        throw data_folder_in_use{main.data_folder};
+    main.data_lock = std::move(*own);
+    if (made == outcome::made)
+        first_run_notice(main);
+    const folder_lock filling = filling_lock(main, longest_filling);
+    fill_data_folder(main, choice);
+    take_newer_designs(main);
+}
+
+void share_data_folder(frmMain & main, const folder_choice & choice, const std::string & work_folder)
+{
+    main.data_folder = chosen_folder(main, choice);
+    if (!is_filled(main)) {
+        if (settle_data_folder(main, choice) == outcome::made)
+            first_run_notice(main);
+        const folder_lock filling = filling_lock(main, longest_filling);
+        fill_data_folder(main, choice);
     }
+    main.work_folder = work_folder;
+    for (const char * name : {"tmp", "designs", "piclists"})
+        make_folders(joined(work_folder, name));
+    write_file(joined(work_folder, "designs.ini"), text_of(newer_catalogue(main)));
+}
+
+folder_lock filling_lock(frmMain & main, std::chrono::milliseconds longest)
+{
+    for (auto waited = filling_pause; waited <= longest; waited += filling_pause) {
+        if (std::optional<folder_lock> taken = folder_lock::taken(main.data_folder, "filling"))
+            return std::move(*taken);
+        main.desk.pump();
+        std::this_thread::sleep_for(filling_pause);
+    }
+    end_with(main, "Another program is still preparing the data folder\r\n" + main.data_folder +
+                       "\r\nPlease try again when it has finished.");
 }
 
 outcome make_data_subfolder(frmMain & main, const std::string & path, int code)
@@ -117,11 +204,8 @@ void prepare_public_folder(frmMain & main)
 {
     if (!file_exists(in_data(main, release_marker)))
         delete_file(in_data(main, "designs.ini"));
-    if (make_data_subfolder(main, main.data_folder, 21) == outcome::made)
-        first_run_notice(main);
     int code = 22;
-    for (const char * name :
-         {"tmp", "designs", "descriptions", "samples", "piclists", "user_images", "frames"})
+    for (const char * name : public_folders)
         make_data_subfolder(main, in_data(main, name), code++);
     supply_catalogue(main);
     supply_folder(main, "icons");
@@ -159,16 +243,18 @@ void first_run_notice(frmMain & main)
 
 void supply_package_folders(frmMain & main)
 {
-    if (main.data_folder == main.install_folder)
-        return;
-    for (const char * name : {"alpha", "puzzle"})
-        if (folder_exists(in_install(main, name)) && !folder_exists(in_data(main, name)))
-            copy_seed_folder(main, name);
+    if (is_own_folder(main))
+        for (const char * name : {"tmp", "samples", "piclists", "user_images"})
+            make_folders(in_data(main, name));
+    else
+        for (const char * name : package_folders)
+            if (lacks_package_folder(main, name))
+                copy_seed_folder(main, name);
 }
 
 void clear_matrix_design(frmMain & main)
 {
-    delete_file(joined(in_data(main, "designs"), "__matrix"));
+    delete_file(work_path(main, "designs/__matrix"));
     main.mnuSaveDesign.enable(false);
     main.matrix_session = false;
 }

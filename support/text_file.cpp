@@ -5,7 +5,9 @@
 #include "support/platform_error.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <fcntl.h>
 #include <optional>
@@ -105,10 +107,31 @@ std::optional<mode_t> rights_of(const std::string & path)
     return found.st_mode & 07777;
 }
 
+constexpr std::size_t longest_name = 255;  // of a file, in bytes, on the usual file systems
+constexpr int hexadecimal = 16;
+
+std::string in_hexadecimal(unsigned long number)
+{
+    char digits[2 * sizeof number];
+    const auto written = std::to_chars(digits, digits + sizeof digits, number, hexadecimal);
+    return {digits, written.ptr};
+}
+
+// A name beside `path` that no other step of this program has, nor one of another that runs at the same time:
+// two that write the same file never write into each other's.
+std::string path_beside(const std::string & path)
+{
+    static std::atomic<unsigned long> count{0};
+    const std::string own = "." + in_hexadecimal(static_cast<unsigned long>(::getpid())) + "-" +
+                            in_hexadecimal(count++) + std::string(part_ending);
+    const std::size_t name = path.size() - name_of(path).size();
+    return path.substr(0, name) + path.substr(name, longest_name - own.size()) + own;
+}
+
 void write_whole(const std::string & path, std::string_view bytes, durability wanted,
                  std::optional<mode_t> rights)
 {
-    descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC);
+    descriptor file(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
     if (rights)
         file.give_mode(*rights);
     file.write_all(bytes);
@@ -127,7 +150,7 @@ void rename_over(const std::string & from, const std::string & to)
 void swap_in(const std::string & path, std::string_view bytes, durability wanted)
 {
     const std::optional<mode_t> rights = rights_of(path);
-    const std::string beside = path + std::string(part_ending);
+    const std::string beside = path_beside(path);
     try {
         write_whole(beside, bytes, wanted, rights);
         rename_over(beside, path);

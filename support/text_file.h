@@ -54,7 +54,8 @@ private:
 /// All bytes of a file. Raises 53, 70, 75.
 std::string read_file(const std::string & path);
 
-/// Ends the name of a file that is being written beside the one it will replace.
+/// Ends the name of a file that is being written beside the one it will replace. What stands in front of it
+/// is the other's name and something that no two writers share.
 inline constexpr std::string_view part_ending = ".part";
 
 /// Puts `bytes` at `path` in one step: written beside it, flushed to the disk and renamed over it, so that a

@@ -53,12 +53,12 @@ def stamp(path):
 
 
 def sample_of(p):
-    return os.path.join(p.app, 'tmp', 'matrix_sample.bmp')
+    return os.path.join(p.data, 'tmp', 'matrix_sample.bmp')
 
 
 def lines_of(p, *names):
     """The lines of a file of the data folder, line ends taken off."""
-    with open(os.path.join(p.app, *names), newline='') as file:
+    with open(os.path.join(p.data, *names), newline='') as file:
         text = file.read()
     check(text == '' or text.endswith('\r\n'), '%s has no line end' % (names,))
     return text.split('\r\n')[:-1]
@@ -91,7 +91,7 @@ def made_flurn(p, size, start, name):
             p.keys('alt+n')
         return seen.get('window') == 'frmImage' and seen['active']
     until(there, 'the finished collage')
-    path = os.path.join(p.app, 'tmp', 'finished.jpg')
+    path = os.path.join(p.data, 'tmp', 'finished.jpg')
     same(p.picture_of(path), size, 'size of ' + name)
     keep = os.environ.get('TESSALOOM_SCREENS')
     if keep:

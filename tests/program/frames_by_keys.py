@@ -57,7 +57,7 @@ def make_set(p):
     p.type('Sea')
     p.keys('Return')
     p.window('frmMain')
-    check(not os.path.exists(os.path.join(p.app, 'away')), 'a set lies beside its folder')
+    check(not os.path.exists(os.path.join(p.data, 'away')), 'a set lies beside its folder')
     check('Number of Captions=3' in lines_of(p, 'frames', 'Sea', 'design.ini'), 'the captions are not counted')
 
 
@@ -110,7 +110,7 @@ def change_and_delete(p):
     is_enabled(p, 'cmdDelete', False)
     p.keys('Escape')
     p.window('frmMain')
-    check(not os.path.exists(os.path.join(p.app, 'frames', 'Sea')), 'the set is still there')
+    check(not os.path.exists(os.path.join(p.data, 'frames', 'Sea')), 'the set is still there')
 
 
 def play(p):

@@ -86,7 +86,7 @@ def make_icons(p):
             told(p, 'New icon file imported with the name:  ' + file, lambda: p.click('OK'))
         p.window('frmMain')
         same(lines_of(p, 'icons', 'icons')[-1], name + ' ' + file, 'the list of icons')
-        check(os.path.exists(os.path.join(p.app, 'icons', file)), file + ' is missing')
+        check(os.path.exists(os.path.join(p.data, 'icons', file)), file + ' is missing')
 
 
 def changed_frame(p, act, what):
@@ -182,10 +182,10 @@ def check_set(p):
           'Caption Text=Summer 2026', 'Icon=gleam', 'Picture List=holiday', 'Number of Captions=4'], 'the settings')
     same(lines_of(p, 'frames', 'Our summer', 'captions'),
          ['Jumping for joy', '', 'Up and away', 'Seven candles'] + [''] * 32, 'the captions')
-    check('_named_.not' not in os.listdir(os.path.join(p.app, 'frames')), 'the unnamed set is still there')
+    check('_named_.not' not in os.listdir(os.path.join(p.data, 'frames')), 'the unnamed set is still there')
     for number in range(5):
         for letter, size in (('p', (347, 520)), ('l', (520, 347))):
-            path = os.path.join(p.app, 'frames', 'Our summer', '%sframe%02d.jpg' % (letter, number))
+            path = os.path.join(p.data, 'frames', 'Our summer', '%sframe%02d.jpg' % (letter, number))
             same(p.picture_of(path), size, path)
 
 
@@ -286,7 +286,7 @@ def change_and_delete(p):
     is_enabled(p, 'cmdDelete', False)
     p.click('cmdDone')
     p.window('frmMain')
-    check(not os.path.exists(os.path.join(p.app, 'frames', 'Our summer')), 'the set is still there')
+    check(not os.path.exists(os.path.join(p.data, 'frames', 'Our summer')), 'the set is still there')
 
 
 def play(p):

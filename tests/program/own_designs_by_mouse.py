@@ -44,7 +44,7 @@ def keep(p):
          ['[Design600]', 'Name=My summer', 'Ratio=2x3', 'File=saved600', 'System=No', 'Design=Saved', 'Style=Place',
           'Match=Yes', 'Turn BG=No', 'Background=Portrait', 'Sample=saved600.jpg', 'Description=saved600'],
          'the section')
-    same(p.picture_of(os.path.join(p.app, 'samples', 'saved600.jpg')), (300, 450), 'the sample')
+    same(p.picture_of(os.path.join(p.data, 'samples', 'saved600.jpg')), (300, 450), 'the sample')
     same(lines_of(p, 'descriptions', 'saved600'), ['Twelve photos of the summer'], 'the description')
     return lines_of(p, 'designs', 'saved600')
 
@@ -52,7 +52,7 @@ def keep(p):
 def pack(p):
     package = os.path.join(p.folder, 'summer.zip')
     program = os.path.join(p.app, 'tessaloom-pack')
-    subprocess.run([program, '--data', p.app, '--design', 'My summer', '--out', package], check=True)
+    subprocess.run([program, '--data', p.data, '--design', 'My summer', '--out', package], check=True)
     subprocess.run([program, '--check', package], check=True)
     return package
 
@@ -83,7 +83,7 @@ def delete(p, before):
     p.window('frmMain')
     same([line for line in lines_of(p, 'designs.ini') if line], [line for line in before if line], 'the catalogue')
     for folder, name in (('designs', 'saved600'), ('samples', 'saved600.jpg'), ('descriptions', 'saved600')):
-        check(not os.path.exists(os.path.join(p.app, folder, name)), name + ' is still there')
+        check(not os.path.exists(os.path.join(p.data, folder, name)), name + ' is still there')
     entry(p, 'mnuEditDesigns')
     told(p, "    You don't have any designs to edit.    ", lambda: p.click('OK'))
     p.window('frmMain')

@@ -22,41 +22,56 @@ def until(what, told):
     raise AssertionError('waited in vain for ' + told)
 
 
-class Program:
-    def __init__(self, app, plugins):
-        self.folder = tempfile.mkdtemp(prefix='tessaloom_')
-        self.app = os.path.join(self.folder, 'app')
-        shutil.copytree(app, self.app)
-        # As it is before its first start, which leaves these marks.
-        for mark in ('3_1_install', '4_2_install'):
-            if os.path.exists(os.path.join(self.app, mark)):
-                os.remove(os.path.join(self.app, mark))
-        self.display = self.process = None
-        try:
-            self.start_display()
-            self.start_program(plugins)
-        except BaseException:
-            self.close()
-            raise
+def slow_disk(plugins):
+    """What makes a program wait for its disk; nothing where it isn't asked for."""
+    pause = os.environ.get('TESSALOOM_SLOW_DISK')
+    return {'LD_PRELOAD': os.path.join(plugins, 'slow_disk.so'), 'TESSALOOM_SLOW_DISK': pause} if pause else {}
 
-    def start_display(self):
+
+class Display:
+    """A screen that no one else has."""
+
+    def __init__(self):
         read, write = os.pipe()
-        self.display = subprocess.Popen(
+        self.server = subprocess.Popen(
             ['Xvfb', '-displayfd', str(write), '-screen', '0', '1600x1200x24', '-nolisten', 'tcp'],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as told:
             number = told.readline().strip()  # the whole line: a pipe closed in its middle ends the display
-        self.environment = dict(os.environ, DISPLAY=':' + number, HOME=self.folder, XDG_RUNTIME_DIR=self.folder)
-        for name in ('QT_SCALE_FACTOR', 'XDG_DATA_HOME', 'WAYLAND_DISPLAY'):
-            self.environment.pop(name, None)
+        self.name = ':' + number
+
+    def close(self):
+        self.server.kill()
+        self.server.wait()
+
+
+class Program:
+    """A program that was started, with a home of its own, or in the home and on the display of another one."""
+
+    def __init__(self, app, plugins, beside=None, home=None):
+        self.app = app
+        self.beside = beside
+        self.folder = home or (beside.folder if beside else tempfile.mkdtemp(prefix='tessaloom_'))
+        self.data = os.path.join(self.folder, '.local', 'share', 'tessaloom4')
+        self.display = self.process = None
+        try:
+            self.display = beside.display if beside else Display()
+            self.environment = dict(os.environ, DISPLAY=self.display.name, HOME=self.folder,
+                                    XDG_RUNTIME_DIR=self.folder, TMPDIR=self.folder)
+            for name in ('QT_SCALE_FACTOR', 'XDG_DATA_HOME', 'WAYLAND_DISPLAY'):
+                self.environment.pop(name, None)
+            self.start_program(plugins)
+        except BaseException:
+            self.close()
+            raise
 
     def start_program(self, plugins):
-        self.socket_path = os.path.join(self.folder, 'probe')
+        self.socket_path = tempfile.mktemp(prefix='probe_', dir=self.folder)
         self.process = subprocess.Popen(
             [os.path.join(self.app, 'tessaloom')], stderr=subprocess.DEVNULL,
             env=dict(self.environment, QT_QPA_PLATFORM='xcb', QT_PLUGIN_PATH=plugins, QT_QPA_GENERIC_PLUGINS='probe',
-                     TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8'))
+                     TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8', **slow_disk(plugins)))
         self.probe = until(self.reached, 'the program')
         self.answers = self.probe.makefile('r')
         self.focused = None
@@ -73,9 +88,13 @@ class Program:
         return line
 
     def close(self):
-        for started in (self.process, self.display):
-            if started:
-                started.kill()
+        if self.process:
+            self.process.kill()
+            self.process.wait()
+        if self.beside:
+            return
+        if self.display:
+            self.display.close()
         shutil.rmtree(self.folder, ignore_errors=True)
 
     # ---- what is seen
@@ -128,7 +147,7 @@ class Program:
 
     def finished(self):
         """A digest of the picture that the session made last; empty while there is none."""
-        path = os.path.join(self.app, 'tmp', 'finished.jpg')
+        path = os.path.join(self.data, 'tmp', 'finished.jpg')
         try:
             with open(path, 'rb') as file:
                 return hashlib.sha1(file.read()).hexdigest()

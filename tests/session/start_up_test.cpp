@@ -1,5 +1,7 @@
 #include "session/start_up.h"
 
+#include "designs/catalogue.h"
+#include "session/handlers.h"
 #include "session/windows.h"
 #include "support/archive.h"
 #include "support/paths.h"
@@ -10,6 +12,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace fs = std::filesystem;
 
@@ -51,6 +54,10 @@ struct fresh_program {
     }
 
     void start() { prepare_data_folder(main, {.use_public_folder = true, .public_folder = data}); }
+    void share()
+    {
+        share_data_folder(main, {.use_public_folder = true, .public_folder = data}, folder.at("work"));
+    }
     bool has(const std::string & name) const { return fs::exists(joined(data, name)); }
     std::string text(const std::string & name) const { return read_file(joined(data, name)); }
 
@@ -60,6 +67,15 @@ struct fresh_program {
     frmMain & main = all.main;
     std::string data = folder.at("home/share/tessaloom4");
 };
+
+// What lies in a folder and when it was changed last.
+std::map<std::string, fs::file_time_type> stamps_of(const std::string & place)
+{
+    std::map<std::string, fs::file_time_type> stamps;
+    for (const auto & entry : fs::recursive_directory_iterator(place))
+        stamps[entry.path().string()] = entry.last_write_time();
+    return stamps;
+}
 
 const std::string welcome =
     "\r\nWelcome to Tessaloom\r\n\r\n\r\nThis appears to be the first time you have used this application "
@@ -93,21 +109,20 @@ TEST(choose_data_folder, goes_by_the_version_on_that_family_even_when_the_folder
     EXPECT_FALSE(choose_data_folder({2, 10}, "/nowhere at all", "p").use_public_folder);
 }
 
-TEST(choose_data_folder, goes_elsewhere_by_whether_the_program_folder_can_be_written)
+TEST(choose_data_folder, keeps_the_data_apart_even_where_the_program_folder_can_be_written)
 {
     const temporary_folder program;
-    fs::permissions(program.path(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
-                                        fs::perms::others_exec);
-    const as_ordinary_user user;
     const folder_choice choice = choose_data_folder({}, program.path(), "/shared/data");
     EXPECT_TRUE(choice.use_public_folder);
     EXPECT_EQ(choice.public_folder, "/shared/data");
 }
 
-TEST(choose_data_folder, keeps_a_writable_program_folder)
+TEST(choose_data_folder, keeps_it_with_the_program_where_that_is_portable)
 {
     const temporary_folder program;
+    program.write("portable", "");
     EXPECT_FALSE(choose_data_folder({}, program.path(), "p").use_public_folder);
+    EXPECT_FALSE(choose_data_folder({2, 6}, program.path(), "p").use_public_folder);
 }
 
 TEST(start_up, a_first_start_welcomes_once_and_brings_everything_into_being)
@@ -157,10 +172,11 @@ TEST(start_up, a_catalogue_without_the_marker_of_this_release_gives_way_to_the_s
 TEST(start_up, a_catalogue_with_the_marker_stays)
 {
     fresh_program program;
-    program.folder.write("home/share/tessaloom4/designs.ini", "mine");
+    const std::string mine = "[Design001]\r\nName=mine\r\n";
+    program.folder.write("home/share/tessaloom4/designs.ini", mine);
     program.folder.write("home/share/tessaloom4/3_1_install", "");
     program.start();
-    EXPECT_EQ(program.text("designs.ini"), "mine");
+    EXPECT_EQ(program.text("designs.ini"), mine);
     EXPECT_FALSE(program.has("4_2_install"));
 }
 
@@ -240,6 +256,134 @@ TEST(start_up, the_program_folder_as_data_folder_gets_its_three_folders_and_the_
     EXPECT_TRUE(file_exists(joined(program.main.install_folder, "3_1_install")));
     EXPECT_FALSE(fs::exists(program.data));
     prepare_data_folder(program.main, {.use_public_folder = false, .public_folder = program.data});
+}
+
+TEST(start_up, the_program_folder_as_data_folder_has_the_work_folders_that_a_package_can_not_bring)
+{
+    fresh_program program;
+    prepare_data_folder(program.main, {.use_public_folder = false, .public_folder = program.data});
+    program.desk.next_message();
+    for (const char * name : {"tmp", "samples", "piclists", "user_images"})
+        EXPECT_TRUE(folder_exists(joined(program.main.install_folder, name))) << name;
+}
+
+TEST(start_up, a_second_session_is_kept_away_from_a_data_folder_as_long_as_the_first_one_lasts)
+{
+    fresh_program program;
+    program.start();
+    program.desk.next_message();
+    const std::string work = program.folder.write("home/share/tessaloom4/tmp/designs.ini", "the first one's");
+    {
+        windows second{program.desk, listed({})};
+        second.main.install_folder = program.main.install_folder;
+        try {
+            prepare_data_folder(second.main, {.use_public_folder = true, .public_folder = program.data});
+            ADD_FAILURE() << "two sessions have one data folder";
+        } catch (const data_folder_in_use & taken) {
+            EXPECT_EQ(taken.data_folder, program.data);
+        }
+    }
+    EXPECT_EQ(read_file(work), "the first one's");
+    program.main.data_lock = {};
+    windows next{program.desk, listed({})};
+    next.main.install_folder = program.main.install_folder;
+    prepare_data_folder(next.main, {.use_public_folder = true, .public_folder = program.data});
+}
+
+TEST(start_up, designs_of_a_newer_program_come_to_a_catalogue_that_the_user_has_added_to)
+{
+    fresh_program program;
+    program.start();
+    program.desk.next_message();
+    const std::string mine = "\r\n[Design600]\r\nName=mine\r\nSystem=No\r\n";
+    program.folder.write("home/share/tessaloom4/designs.ini", program.text("designs.ini") + mine);
+    program.folder.write("program/designs.ini",
+                         "[Design001]\r\nName=supplied\r\n\r\n[Design002]\r\nName=newer\r\n");
+    program.start();
+    EXPECT_EQ(program.text("designs.ini"),
+              "[Design001]\r\nName=supplied\r\n\r\n[Design002]\r\nName=newer\r\n" + mine);
+    EXPECT_EQ(program.text("designs.supplied"),
+              read_file(joined(program.main.install_folder, "designs.ini")));
+}
+
+TEST(start_up, a_portable_program_takes_newer_designs_from_the_second_copy_of_the_supplied_catalogue)
+{
+    fresh_program program;
+    program.folder.write("program/designs.seed",
+                         "[Design001]\r\nName=supplied\r\n\r\n[Design002]\r\nName=newer\r\n");
+    prepare_data_folder(program.main, {.use_public_folder = false, .public_folder = {}});
+    program.desk.next_message();
+    EXPECT_EQ(read_file(joined(program.main.install_folder, "designs.ini")),
+              "[Design001]\r\nName=supplied\r\n\r\n[Design002]\r\nName=newer\r\n");
+}
+
+TEST(shared_data, a_missing_data_folder_is_filled_and_a_filled_one_not_touched)
+{
+    fresh_program program;
+    program.share();
+    EXPECT_EQ(program.desk.next_message(), welcome);
+    EXPECT_EQ(program.text("3_1_install"), "scatter");
+    EXPECT_EQ(program.main.data_folder, program.data);
+    const auto before = stamps_of(program.data);
+    program.folder.write("program/designs.ini", "[Design002]\r\nName=newer\r\n");
+    program.share();
+    load_main(program.main);
+    EXPECT_EQ(stamps_of(program.data), before);
+}
+
+TEST(shared_data, is_read_while_another_session_has_it)
+{
+    fresh_program program;
+    program.start();
+    program.desk.next_message();
+    program.folder.write("home/share/tessaloom4/piclists/last_photos.pls", "the first one's");
+    windows second{program.desk, listed({})};
+    second.main.install_folder = program.main.install_folder;
+    share_data_folder(second.main, {.use_public_folder = true, .public_folder = program.data},
+                      program.folder.at("work"));
+    load_main(second.main);
+    EXPECT_EQ(program.text("piclists/last_photos.pls"), "the first one's");
+    EXPECT_TRUE(find_design(second.main, "supplied"));
+}
+
+TEST(shared_data, keeps_the_catalogue_as_it_was_with_the_designs_of_a_newer_program)
+{
+    fresh_program program;
+    program.share();
+    program.desk.next_message();
+    program.folder.write("program/designs.ini",
+                         "[Design001]\r\nName=supplied\r\n\r\n[Design002]\r\nName=newer\r\n");
+    program.share();
+    program.folder.write("home/share/tessaloom4/designs.ini", "somebody else's by now");
+    EXPECT_TRUE(find_design(program.main, "newer"));
+    EXPECT_FALSE(owns_data_folder(program.main));
+}
+
+TEST(shared_data, waits_for_the_program_that_is_filling_it)
+{
+    fresh_program program;
+    fs::create_directories(program.data);
+    std::optional<folder_lock> filling = folder_lock::taken(program.data, "filling");
+    ASSERT_TRUE(filling);
+    program.desk.on_pump(3, [&] {
+        EXPECT_FALSE(program.has("tmp"));
+        filling.reset();
+    });
+    program.share();
+    EXPECT_FALSE(filling);
+    EXPECT_TRUE(program.has("tmp"));
+}
+
+TEST(shared_data, does_not_wait_for_ever_for_that_program)
+{
+    fresh_program program;
+    program.folder.at("busy/x");
+    program.main.data_folder = program.folder.at("busy");
+    const auto filling = folder_lock::taken(program.main.data_folder, "filling");
+    EXPECT_THROW(filling_lock(program.main, std::chrono::milliseconds(40)), end_of_program);
+    EXPECT_EQ(program.desk.next_message(), "Another program is still preparing the data folder\r\n" +
+                                               program.main.data_folder +
+                                               "\r\nPlease try again when it has finished.");
 }
 
 TEST(start_up, codes_of_the_program_folder_are_30_to_32)

@@ -7,6 +7,8 @@
 
 #include <cerrno>
 #include <gtest/gtest.h>
+#include <regex>
+#include <thread>
 
 namespace {
 
@@ -18,12 +20,18 @@ std::string named(file_step step)
     return words[static_cast<int>(step)];
 }
 
+// What a writer adds to the name of a file under construction to have it for itself is left out.
+std::string without_own_part(const std::string & name)
+{
+    return std::regex_replace(name, std::regex("\\.[0-9a-f]+-[0-9a-f]+\\.part$"), ".part");
+}
+
 template <typename Act>
 names steps_of(Act act)
 {
     names steps;
     const gated_files gate([&](file_step step, const std::string & path) {
-        steps.push_back(named(step) + " " + name_of(path));
+        steps.push_back(named(step) + " " + without_own_part(name_of(path)));
         return 0;
     });
     act();
@@ -79,6 +87,38 @@ TEST(file_steps, nothing_is_asked_once_the_gate_is_gone)
     EXPECT_EQ(asked_gate(file_step::write, "x"), 0);
     replace_file(folder.at("a"), "x");
     EXPECT_EQ(read_file(folder.at("a")), "x");
+}
+
+TEST(replace_file, writers_of_one_file_never_write_into_each_other)
+{
+    const temporary_folder folder;
+    const std::string path = folder.at("a");
+    const auto write_often = [&](char sign) {
+        for (int i = 0; i < 50; ++i)
+            write_file(path, std::string(20000, sign));
+    };
+    std::thread other([&] { write_often('x'); });
+    write_often('y');
+    other.join();
+    const std::string held = read_file(path);
+    EXPECT_EQ(held, std::string(20000, held.front()));
+    EXPECT_EQ(files_in(folder.path()), names{"a"});
+}
+
+TEST(replace_file, leaves_a_file_alone_that_is_named_as_one_under_construction)
+{
+    const temporary_folder folder;
+    folder.write("a.part", "the user's own");
+    replace_file(folder.at("a"), "new");
+    EXPECT_EQ(read_file(folder.at("a.part")), "the user's own");
+}
+
+TEST(replace_file, takes_a_name_as_long_as_names_may_be)
+{
+    const temporary_folder folder;
+    const std::string path = folder.at(std::string(255, 'n'));
+    replace_file(path, "new");
+    EXPECT_EQ(read_file(path), "new");
 }
 
 TEST(remove_tree, takes_a_folder_with_all_in_it_and_of_a_link_only_the_link)
