@@ -1,5 +1,6 @@
 #include "designs/catalogue_lines.h"
 
+#include "designs/design_lines.h"
 #include "support/inner_path.h"
 #include "support/letter_case.h"
 #include "support/profile.h"
@@ -86,6 +87,34 @@ int number_of_section(std::string_view section)
     return nearest(leading_number(section.substr(header_start.size() - 1)));
 }
 
+// What two designs have in common that show the same: name and files. Nothing for one without a template.
+std::optional<text_lines> name_and_files(std::span<const std::string> section)
+{
+    design_record design;
+    for (const std::string & line : section)
+        read_design_line(design, line);
+    if (design.name.empty() || design.file.empty())
+        return std::nullopt;
+    return text_lines{design.name, design.file, design.sample, design.description};
+}
+
+// The numbers of the user's designs with that name and those files, in the order of the catalogue.
+std::vector<int> numbers_of_copies(const text_lines & catalogue, const text_lines & section)
+{
+    std::vector<int> numbers;
+    const std::optional<text_lines> wanted = name_and_files(section);
+    auto header = std::ranges::find_if(catalogue, is_header);
+    while (wanted && header != catalogue.end()) {
+        const auto next = std::find_if(header + 1, catalogue.end(), is_header);
+        const double number = *number_of_header(*header);
+        const bool is_plain = header->substr(0, header_length) == design_header(nearest(number));
+        if (number > end_of_supplied && is_plain && name_and_files(std::span(header, next)) == wanted)
+            numbers.push_back(nearest(number));
+        header = next;
+    }
+    return numbers;
+}
+
 bool has_header(const text_lines & catalogue, const std::string & header)
 {
     return std::ranges::any_of(
@@ -102,6 +131,18 @@ text_lines with_section_instead(const text_lines & catalogue, const std::string 
     append(merged, section);
     line = std::find_if(line + 1, catalogue.end(), is_header);
     merged.insert(merged.end(), line, catalogue.end());
+    return merged;
+}
+
+// The same design once more: in the place of the first, and of no other.
+text_lines with_section_once(const text_lines & catalogue, std::span<const int> copies,
+                             const text_lines & section)
+{
+    text_lines merged = with_section_instead(catalogue, design_header(copies.front()),
+                                             with_one_header(section, copies.front()));
+    for (const int copy : copies.subspan(1))
+        if (copy != copies.front())
+            merged = without_design(merged, copy);
     return merged;
 }
 
@@ -225,6 +266,9 @@ std::optional<text_lines> with_section(const text_lines & catalogue, double numb
     // No number above three digits has a section; those below have the number nearest to what was written.
     const int wanted = nearest(std::clamp(number, 0.0, 1000.0));
     const std::string header = design_header(wanted);
+    if (wanted > last_own_number)
+        if (const std::vector<int> copies = numbers_of_copies(catalogue, section); !copies.empty())
+            return with_section_once(catalogue, copies, section);
     const text_lines headed = with_one_header(section, wanted);
     if (has_header(catalogue, header))
         return with_section_instead(catalogue, header, headed);

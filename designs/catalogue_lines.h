@@ -64,6 +64,7 @@ bool names_file(const text_lines & catalogue, std::string_view path);
 
 /// The catalogue with a section of that number in its place: instead of one of the same number, in front of
 /// the first one above it, else at the end under a number of the program's choosing, from 601 up, that is
-/// free. Each way the section has exactly one header, its own or one made here. Nothing when no number up to
-/// 998 is left.
+/// free. A number above 998 says that the section replaces none: only the same design, one of the user's with
+/// that name and those files, makes room for it, and further copies of it go. Each way the section has
+/// exactly one header, its own or one made here. Nothing when no number up to 998 is left.
 std::optional<text_lines> with_section(const text_lines & catalogue, double number, text_lines section);
