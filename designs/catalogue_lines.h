@@ -1,6 +1,7 @@
 #pragma once
 
 #include "designs/design_name.h"
+#include "designs/finished_flurn.h"
 #include "support/numbers.h"
 
 #include <optional>
@@ -26,7 +27,7 @@ bool holds_name(const text_lines & catalogue, std::string_view name);
 
 /// What a new section is made of.
 struct design_to_save {
-    enum class layout { quick, quick_shape, matrix };
+    using layout = saved_layout;
     enum class page { portrait, landscape };
     enum class part { absent, present };
     int number = 0;

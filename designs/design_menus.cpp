@@ -1,4 +1,5 @@
 #include "designs/catalogue.h"
+#include "designs/last_flurn.h"
 #include "designs/package_import.h"
 #include "designs/saved_design.h"
 #include "session/handlers.h"
@@ -9,7 +10,7 @@ namespace {
 
 void mnuSaveDesign_click(windows & all)
 {
-    if (all.main.square_background)
+    if (last_flurn(all.main).how.is_square)
         all.main.desk.message("We can't save designs on a square background.  Sorry.");
     else if (GetNextDesign(all.main).empty())
         all.main.desk.message(

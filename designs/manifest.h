@@ -24,7 +24,7 @@ struct manifest_command {
 
 /// What a manifest may hold.
 inline constexpr std::size_t most_commands = 20000, most_new_folders = 200, most_sections = 998;
-inline constexpr std::size_t longest_line = 4096, longest_title = 200, longest_description = 65536;  // bytes
+inline constexpr std::size_t longest_line = 4096, longest_title = 200;  // bytes
 
 /// The lines of a manifest. A byte-order mark in front of the first one is none of its letters.
 text_lines manifest_lines(std::string bytes);

@@ -16,8 +16,8 @@ bool check_design_name(frmMain & main, const std::string & name);
 /// break or another control character, which could be pasted, is no name either; the user is told.
 bool check_name_text(frmMain & main, std::string_view name);
 
-/// Keeps the layout of the last collage as the design `next_design_number`: template, sample picture,
-/// description, section. The working template is gone afterwards; it stays when a step before fails. Raises
+/// Keeps the layout of the last finished Flurn as the design `next_design_number`: template, sample picture,
+/// description, section. Its working template is gone afterwards; it stays when a step before fails. Raises
 /// 53 when it was never written, 61, 70.
 void save_design(frmMain & main, const std::string & name, const std::string & description);
 

@@ -1,5 +1,6 @@
 #include "engine/flurn_driver.h"
 
+#include "designs/last_flurn.h"
 #include "engine/photo_steps.h"
 #include "engine/quick_template.h"
 #include "engine/run_steps.h"
@@ -117,6 +118,7 @@ void make_collage(frmMain & main, borrowed_settings & before)
         return;  // cancelled
     finish_canvas(main);
     keep_collage(main);
+    keep_last_flurn(main);
     main.image_to_show = finished_path(main);
 }
 

@@ -1,5 +1,6 @@
 #include "designs/package_rules.h"
 
+#include "designs/description.h"
 #include "support/text_file.h"
 
 #include <gtest/gtest.h>

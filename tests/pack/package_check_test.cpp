@@ -1,6 +1,7 @@
 #include "pack/package_check.h"
 
 #include "support/text_file.h"
+#include "tests/designs/package_session.h"
 #include "tests/small_files.h"
 #include "tests/temporary_folder.h"
 
@@ -81,4 +82,47 @@ TEST(package_check, tells_what_is_wrong_with_the_archive)
     EXPECT_EQ(
         problems_of_zip({{.name = "manifest", .bytes = "$$$ MSG x\n"}, {.name = "abcdef", .bytes = "x"}}),
         text_lines{"no command uses the file 'abcdef'"});
+}
+
+// One check for both: what the import refuses the checker names, and what it takes the checker lets pass.
+TEST(package_check, finds_in_every_package_what_the_import_finds)
+{
+    struct row {
+        std::string manifest;
+        std::vector<zip_entry> files;
+        bool is_taken;
+    };
+    const zip_entry file{.name = "abcdef", .bytes = "x"};
+    const row rows[] = {
+        {title + "$$$ NAME abcdef designs\\x\n", {file}, true},
+        {"\xEF\xBB\xBF" + title + "$$$ NAME abcdef designs\\x\n", {file}, true},
+        {title + "$$$ NAME abcdef designs.ini\n", {file}, false},
+        {title + "$$$ NAME ghijkl designs\\x\n", {}, false},
+        {title + "$$$ NAME abcdef designs\\x\n$$$ NAME abcdef designs\\y\n", {file}, false},
+        {title + "$$$ NEW  designs.bbb\n", {}, false},
+        {title + "$$$ NEW  hearts\n", {}, true},
+        {title + "$$$ icons\nx ../x.bmp\n", {}, false},
+        {title + "$$$ designs.ini 600\n[Design600]\nName=a\tb\n$$$\n", {}, false},
+        {title + "$$$ designs.ini 600\n[Design600]\nName=" + std::string(5000, 'x') + "\n$$$\n", {}, false},
+        {"$$$ MSG " + std::string(201, 'x') + "\n", {}, false},
+        {title + "$$$ NAME abcdef designs\\x\n",
+         {{.name = "abcdef", .bytes = "0:0:0:0:0:0:0:0:../x"}},
+         false},
+        {title, {{.name = "../x", .bytes = "x"}}, false},
+        {title, {{.name = "aux", .bytes = "x"}}, false},
+        {title + "$$$ NAME abcdef descriptions\\x\n",
+         {{.name = "abcdef", .bytes = std::string(65537, 'x')}},
+         false},
+    };
+    for (const row & each : rows) {
+        SCOPED_TRACE(each.manifest.substr(0, 200));
+        package_session session;
+        session.import_manifest(each.manifest, each.files);
+        const bool is_imported =
+            session.desk.next_message() == "\r\nHearts has been successfully imported.\r\n";
+        EXPECT_EQ(is_imported, each.is_taken);
+        std::vector<zip_entry> entries{{.name = "manifest", .bytes = each.manifest}};
+        entries.insert(entries.end(), each.files.begin(), each.files.end());
+        EXPECT_EQ(problems_of_zip(entries).empty(), each.is_taken);
+    }
 }
