@@ -4,6 +4,8 @@
 #include "support/paths.h"
 #include "support/profile.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int first_saved = 600;
@@ -24,6 +26,19 @@ line_kind read_catalogue_line(frmMain & main, const std::string & line)
     }
     main.catalogue.next_section = *section;
     return line_kind::of_the_next;
+}
+
+// Reads from the top until the record is the wanted one; false when there is none.
+template <typename Wanted>
+bool walked_to(frmMain & main, Wanted is_wanted)
+{
+    bool more = read_design(main, catalogue_start::first);
+    while (!is_wanted()) {
+        if (!more)
+            return false;
+        more = read_design(main, catalogue_start::next);
+    }
+    return true;
 }
 
 }  // namespace
@@ -69,13 +84,37 @@ bool read_design(frmMain & main, catalogue_start start)
 
 bool find_design(frmMain & main, std::string_view name)
 {
-    bool more = read_design(main, catalogue_start::first);
-    while (main.design_record.name != name) {
-        if (!more)
-            return false;
-        more = read_design(main, catalogue_start::next);
-    }
-    return true;
+    return walked_to(main, [&] { return main.design_record.name == name; });
+}
+
+bool find_section(frmMain & main, std::string_view section, std::string_view name)
+{
+    return walked_to(
+        main, [&] { return main.design_record.section == section && main.design_record.name == name; });
+}
+
+std::vector<listed_design> listed_designs(frmMain & main)
+{
+    std::vector<listed_design> designs;
+    walked_to(main, [&] {
+        if (!main.design_record.section.empty())
+            designs.push_back({.section = main.design_record.section, .name = main.design_record.name});
+        return false;
+    });
+    return told_apart(std::move(designs));
+}
+
+found_design find_shown_design(frmMain & main, std::string_view text)
+{
+    const listed_design * found = nullptr;
+    const std::vector<listed_design> designs = listed_designs(main);
+    for (const listed_design & design : designs)
+        if (design.shown == text || (found == nullptr && design.section == text))
+            found = &design;
+    if (found != nullptr)
+        return find_section(main, found->section, found->name) ? found_design::one : found_design::none;
+    const bool is_shared = std::ranges::find(designs, text, &listed_design::name) != designs.end();
+    return is_shared ? found_design::several : found_design::none;
 }
 
 std::string GetNextDesign(frmMain & main)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/design_name.h"
 #include "session/frmMain.h"
 
 #include <string>
@@ -29,6 +30,21 @@ bool read_design(frmMain & main, catalogue_start start);
 /// Reads from the top until "Name=" equals `name`. False when the catalogue has no such design; the caller
 /// words it, and the record is that of the last section. Raises 53, 70.
 bool find_design(frmMain & main, std::string_view name);
+
+/// Reads the section of that name ("Design602") from the top, if its design has that name. False when there
+/// is none; the record is then that of the last section. Raises 53, 70.
+bool find_section(frmMain & main, std::string_view section, std::string_view name);
+
+/// All designs, in the order of the catalogue. The record is then that of the last section. Raises 53, 70.
+std::vector<listed_design> listed_designs(frmMain & main);
+
+/// What a text that a list showed stands for.
+enum class found_design { one, none, several };
+
+/// Reads the design that is shown so: its name where no other design has it, the name with its number ("Heart
+/// (602)"), or its section ("Design602"). `several` for a name that more than one design has: none is read.
+/// Raises 53, 70.
+found_design find_shown_design(frmMain & main, std::string_view text);
 
 /// The first free section from "Design600" to "Design998", its number kept in `main.next_design_number`;
 /// empty when all are taken.

@@ -1,5 +1,6 @@
 #include "designs/catalogue_lines.h"
 
+#include "designs/design_lines.h"
 #include "support/inner_path.h"
 #include "support/letter_case.h"
 #include "support/profile.h"
@@ -75,6 +76,45 @@ void append(text_lines & lines, std::span<const std::string> more)
     lines.insert(lines.end(), more.begin(), more.end());
 }
 
+// As it stands, or as a list shows it.
+bool is_named(const listed_design & design, std::string_view name)
+{
+    return design.name == name || profile_text(design.name) == name;
+}
+
+int number_of_section(std::string_view section)
+{
+    return nearest(leading_number(section.substr(header_start.size() - 1)));
+}
+
+// What two designs have in common that show the same: name and files. Nothing for one without a template.
+std::optional<text_lines> name_and_files(std::span<const std::string> section)
+{
+    design_record design;
+    for (const std::string & line : section)
+        read_design_line(design, line);
+    if (design.name.empty() || design.file.empty())
+        return std::nullopt;
+    return text_lines{design.name, design.file, design.sample, design.description};
+}
+
+// The numbers of the user's designs with that name and those files, in the order of the catalogue.
+std::vector<int> numbers_of_copies(const text_lines & catalogue, const text_lines & section)
+{
+    std::vector<int> numbers;
+    const std::optional<text_lines> wanted = name_and_files(section);
+    auto header = std::ranges::find_if(catalogue, is_header);
+    while (wanted && header != catalogue.end()) {
+        const auto next = std::find_if(header + 1, catalogue.end(), is_header);
+        const double number = *number_of_header(*header);
+        const bool is_plain = header->substr(0, header_length) == design_header(nearest(number));
+        if (number > end_of_supplied && is_plain && name_and_files(std::span(header, next)) == wanted)
+            numbers.push_back(nearest(number));
+        header = next;
+    }
+    return numbers;
+}
+
 bool has_header(const text_lines & catalogue, const std::string & header)
 {
     return std::ranges::any_of(
@@ -91,6 +131,18 @@ text_lines with_section_instead(const text_lines & catalogue, const std::string 
     append(merged, section);
     line = std::find_if(line + 1, catalogue.end(), is_header);
     merged.insert(merged.end(), line, catalogue.end());
+    return merged;
+}
+
+// The same design once more: in the place of the first, and of no other.
+text_lines with_section_once(const text_lines & catalogue, std::span<const int> copies,
+                             const text_lines & section)
+{
+    text_lines merged = with_section_instead(catalogue, design_header(copies.front()),
+                                             with_one_header(section, copies.front()));
+    for (const int copy : copies.subspan(1))
+        if (copy != copies.front())
+            merged = without_design(merged, copy);
     return merged;
 }
 
@@ -151,18 +203,33 @@ text_lines saved_section(const design_to_save & design)
     return lines;
 }
 
-std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name)
+std::vector<listed_design> designs_of_users(const text_lines & catalogue)
 {
     constexpr std::string_view key = "Name=";
+    std::vector<listed_design> designs;
     double number = 0;
     for (const std::string & line : catalogue) {
         number = number_of_header(line, 3).value_or(number);
-        if (number <= end_of_supplied || !line.starts_with(key))
-            continue;
-        const std::string_view own = std::string_view(line).substr(key.size());
-        if (own == name || profile_text(own) == name)
-            return nearest(number);
+        if (number > end_of_supplied && line.starts_with(key))
+            designs.push_back(
+                {.section = "Design" + formatted(nearest(number), 3), .name = line.substr(key.size())});
     }
+    return told_apart(std::move(designs));
+}
+
+std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name)
+{
+    for (const listed_design & design : designs_of_users(catalogue))
+        if (is_named(design, name))
+            return number_of_section(design.section);
+    return std::nullopt;
+}
+
+std::optional<int> number_of_design(const text_lines & catalogue, const listed_design & wanted)
+{
+    for (const listed_design & design : designs_of_users(catalogue))
+        if (design.section == wanted.section && is_named(design, wanted.name))
+            return number_of_section(design.section);
     return std::nullopt;
 }
 
@@ -199,6 +266,9 @@ std::optional<text_lines> with_section(const text_lines & catalogue, double numb
     // No number above three digits has a section; those below have the number nearest to what was written.
     const int wanted = nearest(std::clamp(number, 0.0, 1000.0));
     const std::string header = design_header(wanted);
+    if (wanted > last_own_number)
+        if (const std::vector<int> copies = numbers_of_copies(catalogue, section); !copies.empty())
+            return with_section_once(catalogue, copies, section);
     const text_lines headed = with_one_header(section, wanted);
     if (has_header(catalogue, header))
         return with_section_instead(catalogue, header, headed);

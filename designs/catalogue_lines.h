@@ -1,5 +1,7 @@
 #pragma once
 
+#include "designs/design_name.h"
+#include "designs/finished_flurn.h"
 #include "support/numbers.h"
 
 #include <optional>
@@ -25,7 +27,7 @@ bool holds_name(const text_lines & catalogue, std::string_view name);
 
 /// What a new section is made of.
 struct design_to_save {
-    enum class layout { quick, quick_shape, matrix };
+    using layout = saved_layout;
     enum class page { portrait, landscape };
     enum class part { absent, present };
     int number = 0;
@@ -42,6 +44,12 @@ text_lines saved_section(const design_to_save & design);
 /// shows it.
 std::optional<int> number_of_design(const text_lines & catalogue, std::string_view name);
 
+/// The number of that very design, if its section is one above 499 and still has its name.
+std::optional<int> number_of_design(const text_lines & catalogue, const listed_design & design);
+
+/// The designs in sections above 499, in the order of the catalogue.
+std::vector<listed_design> designs_of_users(const text_lines & catalogue);
+
 /// The sections of that number.
 text_lines section_of(const text_lines & catalogue, int number);
 
@@ -57,6 +65,7 @@ bool names_file(const text_lines & catalogue, std::string_view path);
 
 /// The catalogue with a section of that number in its place: instead of one of the same number, in front of
 /// the first one above it, else at the end under a number of the program's choosing, from 601 up, that is
-/// free. Each way the section has exactly one header, its own or one made here. Nothing when no number up to
-/// 998 is left.
+/// free. A number above 998 says that the section replaces none: only the same design, one of the user's with
+/// that name and those files, makes room for it, and further copies of it go. Each way the section has
+/// exactly one header, its own or one made here. Nothing when no number up to 998 is left.
 std::optional<text_lines> with_section(const text_lines & catalogue, double number, text_lines section);

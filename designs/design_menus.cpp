@@ -1,4 +1,5 @@
 #include "designs/catalogue.h"
+#include "designs/last_flurn.h"
 #include "designs/package_import.h"
 #include "designs/saved_design.h"
 #include "session/handlers.h"
@@ -9,7 +10,7 @@ namespace {
 
 void mnuSaveDesign_click(windows & all)
 {
-    if (all.main.square_background)
+    if (last_flurn(all.main).how.is_square)
         all.main.desk.message("We can't save designs on a square background.  Sorry.");
     else if (GetNextDesign(all.main).empty())
         all.main.desk.message(
@@ -18,9 +19,18 @@ void mnuSaveDesign_click(windows & all)
         all.main.desk.show_modal(all.new_design);
 }
 
+void show_own_designs(windows & all)
+{
+    all.designs.designs = own_designs(all.main);
+    std::vector<std::string> shown;
+    for (const listed_design & design : all.designs.designs)
+        shown.push_back(design.shown);
+    all.designs.lstDesigns.set_items(std::move(shown));
+}
+
 void mnuEditDesigns_click(windows & all)
 {
-    all.designs.lstDesigns.set_items(own_designs(all.main));
+    show_own_designs(all);
     if (all.designs.lstDesigns.items().empty())
         all.main.desk.message("    You don't have any designs to edit.    ");
     else

@@ -9,16 +9,18 @@ namespace {
 void cmdDelete_click(windows & all)
 {
     frmDesigns & window = all.designs;
-    const std::string name = window.lstDesigns.text();
+    const int index = window.lstDesigns.list_index();
+    const listed_design design = window.designs.at(static_cast<std::size_t>(index));
     if (all.main.desk.ask({.title = "D e l e t e   D e s i g n",
-                           .text = "Deleting the " + name + " design... Ok?",
+                           .text = "Deleting the " + design.shown + " design... Ok?",
                            .offered = answers::yes_no}) != answer::yes)
         return;
-    if (!delete_design(all.main, name)) {
+    if (!delete_design(all.main, design)) {
         all.main.desk.message("Didn't find the design to be deleted.  Might be a problem?");
         return;
     }
-    window.lstDesigns.remove_item(window.lstDesigns.list_index());
+    window.designs.erase(window.designs.begin() + index);
+    window.lstDesigns.remove_item(index);
     window.cmdDelete.enable(false);
     if (window.lstDesigns.items().empty())
         window.unload();

@@ -15,7 +15,7 @@ void load_new_design(frmNewDesign & window)
 void OKButton_click(windows & all)
 {
     const std::string & name = all.new_design.txtName.text();
-    if (!is_design_name(name) || !check_design_name(all.main, name))
+    if (!check_name_text(all.main, name) || !check_design_name(all.main, name))
         return;
     save_design(all.main, name, all.new_design.txtDescription.text());
     all.main.mnuSaveDesign.enable(false);

@@ -115,7 +115,7 @@ chosen_design choice_of(frmThemes & window)
 {
     const option_button & slot = slot_of(window, window.selected_index);
     return {.section = slot.tag,
-            .name = slot.caption(),
+            .name = window.design_names.at(static_cast<std::size_t>(window.selected_index)),
             .shape = window.optLandscape.selected() ? poster_shape::landscape : poster_shape::portrait,
             .rotated = window.chkRandom.ticked(),
             .flipped = window.chkFlip.ticked(),

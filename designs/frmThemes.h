@@ -34,7 +34,8 @@ struct frmThemes : form {
 
     group frmDesigns{*this, "frmDesigns", "  Available Designs  "};
     option_set design_options;
-    /// Caption: the name, tag: the section; a slot without a caption is empty.
+    /// Caption: the name, with the number where others have the same, tag: the section; a slot without a
+    /// caption is empty.
     std::array<option_button, slot_count> optDesign =
         design_slots(std::make_index_sequence<static_cast<std::size_t>(slot_count)>());
     button cmdPage_minus{*this, "cmdPage_minus", "<  Page"};
@@ -53,6 +54,8 @@ struct frmThemes : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 
+    /// The names of the designs in the slots, as they stand in the catalogue.
+    std::array<std::string, slot_count> design_names;
     int16 selected_index = -1;  ///< of the selected slot, -1 for none
     /// The first design of the next page once a page is listed, or of the page listed when none follows.
     int16 page_start = 0;

@@ -1,7 +1,8 @@
 #include "designs/package_import.h"
 
 #include "designs/catalogue.h"
-#include "designs/manifest.h"
+#include "designs/package_lists.h"
+#include "designs/package_rules.h"
 #include "designs/unfinished.h"
 #include "support/archive.h"
 #include "support/inner_path.h"
@@ -95,19 +96,21 @@ bool has_payload(const frmMain & main, const std::string & name)
     return is_plain_name(name) && file_exists(joined(unzipped(main), name));
 }
 
-// A template may name pictures by any path.
-std::optional<std::string> way_out_of_payload(const frmMain & main, const manifest_command & command,
-                                              const std::string & place)
+package_payload payload_of(const frmMain & main)
 {
-    if (command.step != manifest_step::payload || first_folder(place) != "designs")
-        return std::nullopt;
-    return way_out_of_template(lines_of_file(joined(unzipped(main), command.text)));
+    const std::string folder = unzipped(main);
+    package_payload payload{.names = files_in(folder), .bytes = [folder](const std::string & name) {
+                                return read_file(joined(folder, name));
+                            }};
+    std::erase(payload.names, "manifest");
+    return payload;
 }
 
-// The first path of a command that may not act where it wants to, or that leads out of its folder. An import
-// stops at a missing file: what stands behind it is never carried out.
-std::optional<std::string> refused_target(const frmMain & main,
-                                          const std::vector<manifest_command> & commands)
+// The first command that may not act where it wants to, here in this data folder: a link, a file or a folder
+// of the user's may be in its way. An import stops at a missing file: what stands behind it is never carried
+// out.
+std::optional<package_refusal> refused_here(const frmMain & main,
+                                            const std::vector<manifest_command> & commands)
 {
     package_folders own = owned_folders(main), renewed;
     const auto is_renewed = [&](const std::string & place) {
@@ -126,31 +129,53 @@ std::optional<std::string> refused_target(const frmMain & main,
             if (place && !is_renewed(*place))
                 place = free_payload_place(main, command.target, own);
         } else {
-            if (std::optional<std::string> path = way_out(command))
-                return path;
             continue;
         }
         if (!place)
-            return command.target;
-        if (std::optional<std::string> path = way_out_of_payload(main, command, *place))
-            return path;
+            return refused_path(command.line, command.target);
     }
     return std::nullopt;
 }
 
-void tell_refused(frmMain & main, const std::string & target)
+std::optional<package_refusal> refusal_of(const frmMain & main, const text_lines & manifest,
+                                          const std::vector<manifest_command> & commands)
 {
-    main.desk.message("This import package may not use '" + shown_in_message(target) +
-                      "'.\r\n\r\nImport has been stoppped.");
+    const std::vector<package_refusal> refusals =
+        package_refusals(manifest, payload_of(main), owned_folders(main));
+    std::optional<package_refusal> here = refused_here(main, commands);
+    if (refusals.empty() || (here && here->line < refusals.front().line))
+        return here;
+    if (refusals.front().what == package_refusal::kind::missing)
+        return std::nullopt;  // the import tells when it comes there
+    return refusals.front();
+}
+
+void tell_refused(frmMain & main, const package_refusal & refusal)
+{
+    main.desk.message("This import package " + refusal.why + " (line " + std::to_string(refusal.line) +
+                      " of its manifest).\r\n\r\nImport has been stoppped.");
 }
 
 // ---- the commands
+
+// The target may lie on another disk, where a link of the user's leads: then the file is copied there.
+void move_anywhere(const std::string & from, const std::string & to)
+{
+    try {
+        move_file(from, to);
+    } catch (const platform_error & error) {
+        if (error.number != error_number::path_access)
+            throw;
+        copy_file(from, to);
+        delete_file(from);
+    }
+}
 
 progress make_new_folder(frmMain & main, const manifest_command & command)
 {
     const std::optional<std::string> place = free_folder_place(main, command.target, owned_folders(main));
     if (!place) {
-        tell_refused(main, command.target);
+        tell_refused(main, refused_path(command.line, command.target));
         return progress::stopped;
     }
     if (stands_beside_ours(*place))
@@ -170,49 +195,33 @@ progress move_payload(frmMain & main, const manifest_command & command)
     }
     const std::optional<std::string> place = free_payload_place(main, command.target, owned_folders(main));
     if (!place) {
-        tell_refused(main, command.target);
+        tell_refused(main, refused_path(command.line, command.target));
         return progress::stopped;
     }
-    move_file(joined(unzipped(main), command.text), in_data(main, *place));
+    move_anywhere(joined(unzipped(main), command.text), in_data(main, *place));
     return progress::going_on;
 }
 
-// The file under construction takes the place of the old one, which is kept as the one backup: a copy, so
-// that the file itself is never missing.
-void swap_in(const std::string & path, const std::string & fresh, const std::string & backup)
+progress merge_section(frmMain & main, package_lists & lists, const manifest_command & command)
 {
-    copy_file(path, backup);
-    move_file(fresh, path);
+    if (lists.merge(command))
+        return progress::going_on;
+    main.desk.message(
+        "You are limited to 400 Designs.\r\nYou will need to remove one before you can save another.");
+    return progress::stopped;
 }
 
-void add_icon(frmMain & main, const std::string & line)
+void add_icon(frmMain & main, package_lists & lists, const manifest_command & command)
 {
-    const std::string list = in_data(main, "icons/icons"), fresh = list + ".new";
-    text_lines lines = lines_of_file(list);
-    if (std::ranges::find(lines, line) == lines.end())
-        lines.push_back(line);
-    replace_file(fresh, text_of(lines));
-    swap_in(list, fresh, list + ".bbb");
-}
-
-progress merge_section(frmMain & main, const manifest_command & command)
-{
-    close_catalogue(main);
-    const std::optional<text_lines> merged =
-        with_section(lines_of_file(catalogue_path(main)), command.number, command.lines);
-    if (!merged) {
-        main.desk.message(
-            "You are limited to 400 Designs.\r\nYou will need to remove one before you can save another.");
-        return progress::stopped;
-    }
-    const std::string fresh = in_data(main, "designs.new");
-    replace_file(fresh, text_of(*merged));
-    swap_in(catalogue_path(main), fresh, in_data(main, "designs.bbb"));
-    return progress::going_on;
+    if (command.lines.empty())
+        main.desk.message("Missing icon line!");
+    else
+        lists.add_icon(command.lines.front());
 }
 
 // Carries out the commands in turn; gives the title, or nothing when the import stopped.
-std::optional<std::string> carry_out(frmMain & main, const std::vector<manifest_command> & commands)
+std::optional<std::string> carry_out(frmMain & main, package_lists & lists,
+                                     const std::vector<manifest_command> & commands)
 {
     std::string title = "Unamed import";
     progress state = progress::going_on;
@@ -224,11 +233,9 @@ std::optional<std::string> carry_out(frmMain & main, const std::vector<manifest_
         else if (command.step == manifest_step::payload)
             state = move_payload(main, command);
         else if (command.step == manifest_step::section)
-            state = merge_section(main, command);
-        else if (!command.lines.empty())
-            add_icon(main, command.lines.front());
+            state = merge_section(main, lists, command);
         else
-            main.desk.message("Missing icon line!");
+            add_icon(main, lists, command);
         if (state == progress::stopped)
             return std::nullopt;
     }
@@ -239,7 +246,9 @@ std::optional<std::string> carried_out_whole(frmMain & main, const std::vector<m
 {
     put_back(main);
     try {
-        std::optional<std::string> title = carry_out(main, commands);
+        package_lists lists(main);
+        std::optional<std::string> title = carry_out(main, lists, commands);
+        lists.write();
         forget_set_aside(main);
         return title;
     } catch (const platform_error &) {
@@ -277,25 +286,47 @@ bool unpack(frmMain & main, const std::string & package)
     return unpacked.ended == unpacking::end::whole;
 }
 
-void import_unpacked(frmMain & main, const std::string & package)
+// The package is used up, but where it lies on a medium that can't be written.
+void use_up(const std::string & package)
 {
-    const std::string manifest = joined(unzipped(main), "manifest");
-    const bool is_complete = file_exists(manifest);
-    const std::vector<manifest_command> commands =
-        commands_of_manifest(is_complete ? lines_of_file(manifest) : text_lines());
-    if (const std::optional<std::string> refused = refused_target(main, commands)) {
-        tell_refused(main, *refused);
+    try {
+        delete_file(package);
+    } catch (const platform_error &) {
         return;
     }
-    delete_file(package);
-    if (!is_complete) {
+}
+
+void import_commands(frmMain & main, const std::vector<manifest_command> & commands,
+                     const std::string & package)
+{
+    const std::optional<std::string> title = carried_out_whole(main, commands);
+    use_up(package);
+    if (title)
+        main.desk.message("\r\n" + *title + " has been successfully imported.\r\n");
+}
+
+void import_unpacked(frmMain & main, const std::string & package)
+{
+    const std::string path = joined(unzipped(main), "manifest");
+    if (!file_exists(path)) {
+        use_up(package);
         main.desk.message(
             "This design package is incomplete.\r\nIt is missing the manifest file.\r\n"
             "The new design was not imported.");
         return;
     }
-    if (const std::optional<std::string> title = carried_out_whole(main, commands))
-        main.desk.message("\r\n" + *title + " has been successfully imported.\r\n");
+    const text_lines manifest = manifest_lines(read_file(path));
+    const std::vector<manifest_command> commands = commands_of_manifest(manifest);
+    if (const std::optional<package_refusal> refusal = refusal_of(main, manifest, commands))
+        tell_refused(main, *refusal);
+    else
+        import_commands(main, commands, package);
+}
+
+// The package stays when the disk or a folder is the trouble: it can be imported again when that is mended.
+void tell_failed(frmMain & main, const platform_error & error)
+{
+    main.desk.message(told(error) + "\r\n\r\nThe new design was not imported.");
 }
 
 }  // namespace
@@ -308,7 +339,13 @@ void import_package(frmMain & main)
                                                                       .extension = {}});
     if (!package || package->empty())
         return;
-    const busy pointer(main.desk);
-    if (unpack(main, *package))
-        import_unpacked(main, *package);
+    try {
+        with_platform_errors([&] {
+            const busy pointer(main.desk);
+            if (unpack(main, *package))
+                import_unpacked(main, *package);
+        });
+    } catch (const platform_error & error) {
+        tell_failed(main, error);
+    }
 }

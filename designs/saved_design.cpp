@@ -2,6 +2,7 @@
 
 #include "designs/catalogue.h"
 #include "designs/catalogue_lines.h"
+#include "designs/last_flurn.h"
 #include "designs/unfinished.h"
 #include "support/paths.h"
 #include "support/profile.h"
@@ -12,37 +13,15 @@ namespace {
 constexpr int first_listed = 500, end_of_listed = 800;
 constexpr picture_size wide_sample{.width = 450, .height = 300}, high_sample{.width = 300, .height = 450};
 
-bool is_quick(const frmMain & main)
+design_to_save::part save_sample(const flurn_to_save & flurn, design_to_save & design,
+                                 const std::string & path)
 {
-    return main.lblDesign.caption().starts_with("Quick ");
-}
-
-bool is_landscape(const frmMain & main)
-{
-    return is_quick(main) ? main.run_landscape : !main.matrix_portrait;
-}
-
-design_to_save::layout layout_of(const frmMain & main)
-{
-    if (!is_quick(main))
-        return design_to_save::layout::matrix;
-    const bool shaped = main.optShapes.selected() && main.cmbShapes.text() != "Squares";
-    return shaped ? design_to_save::layout::quick_shape : design_to_save::layout::quick;
-}
-
-std::string working_template(const frmMain & main)
-{
-    return work_path(main, is_quick(main) ? "designs/__quick" : "designs/__matrix");
-}
-
-design_to_save::part save_sample(frmMain & main, design_to_save & design, const std::string & path)
-{
-    const bitmap collage = load_picture(picture_format::jpeg, work_path(main, "tmp/finished.jpg"));
+    const bitmap collage = load_picture(picture_format::jpeg, flurn.picture);
     if (!collage) {
         delete_if_exists(path);
         return design_to_save::part::absent;
     }
-    const bool is_wide = is_landscape(main);
+    const bool is_wide = flurn.how.is_landscape;
     const picture_size size = is_wide ? wide_sample : high_sample;
     design.background = is_wide ? design_to_save::page::landscape : design_to_save::page::portrait;
     replace_file(path, jpeg_bytes(rescaled(collage, size.width, size.height)));
@@ -57,6 +36,15 @@ design_to_save::part save_description(const std::string & text, const std::strin
     }
     replace_file(path, text_of(lines_of_text(text + "\n")));
     return design_to_save::part::present;
+}
+
+// A working template that a later preview has made is that of another layout.
+void use_up(frmMain & main, const std::string & layout)
+{
+    const std::string working = working_template(main);
+    if (file_exists(working) && read_file(working) == layout)
+        delete_file(working);
+    forget_last_flurn(main);
 }
 
 // The catalogue read anew, so that no walk goes on in what was there before.
@@ -76,9 +64,12 @@ bool check_design_name(frmMain & main, const std::string & name)
     return !taken;
 }
 
-bool is_design_name(std::string_view name)
+bool check_name_text(frmMain & main, std::string_view name)
 {
-    return !profile_text(name).empty();
+    const bool is_fit = is_one_line(name);
+    if (!is_fit)
+        main.desk.message("A design's name can't hold line breaks or other control characters.");
+    return is_fit && !profile_text(name).empty();
 }
 
 void delete_if_exists(const std::string & path)
@@ -90,39 +81,40 @@ void save_design(frmMain & main, const std::string & name, const std::string & d
 {
     const std::string own = "saved" + formatted(main.next_design_number, 3);
     const text_lines files{"designs/" + own, "samples/" + own + ".jpg", "descriptions/" + own};
-    const std::string layout = read_file(working_template(main));
-    design_to_save design{.number = main.next_design_number, .name = name, .kind = layout_of(main)};
+    const flurn_to_save flurn = last_flurn(main);
+    const std::string layout = read_file(flurn.layout);
+    design_to_save design{.number = main.next_design_number, .name = name, .kind = flurn.how.layout};
     note_unfinished(main, files);
     replace_file(joined(main.data_folder, files[0]), layout);
-    design.sample = save_sample(main, design, joined(main.data_folder, files[1]));
+    design.sample = save_sample(flurn, design, joined(main.data_folder, files[1]));
     design.description = save_description(description, joined(main.data_folder, files[2]));
     close_catalogue(main);
     const std::string path = catalogue_path(main);
     replace_file(path, read_file(path) + text_of(saved_section(design)));
     forget_unfinished(main);
-    delete_file(working_template(main));
+    use_up(main, layout);
     reset_catalogue(main);
 }
 
-std::vector<std::string> own_designs(const frmMain & main)
+std::vector<listed_design> own_designs(const frmMain & main)
 {
     const profile designs(catalogue_path(main));
-    std::vector<std::string> names;
+    std::vector<listed_design> own;
     for (int number = first_listed; number < end_of_listed; ++number) {
         const std::string section = "Design" + formatted(number, 3);
         const std::string name = designs.value(section, "Name");
         if (!name.empty() && designs.value(section, "System") != "Yes")
-            names.push_back(name);
+            own.push_back({.section = section, .name = name});
     }
-    return names;
+    return told_apart(std::move(own));
 }
 
-bool delete_design(frmMain & main, const std::string & name)
+bool delete_design(frmMain & main, const listed_design & design)
 {
     close_catalogue(main);
     const std::string path = catalogue_path(main);
     const text_lines catalogue = lines_of_file(path);
-    const std::optional<int> number = number_of_design(catalogue, name);
+    const std::optional<int> number = number_of_design(catalogue, design);
     if (!number)
         return false;
     const text_lines files = files_of_design(catalogue, *number);

@@ -4,9 +4,10 @@
 
 /// One design of the browser's listing.
 struct theme_designs {
-    std::string Name;
+    std::string Name;    ///< as it is shown
     std::string Number;  ///< the section of the catalogue
     std::string Help_Tip;
+    std::string own_name{};  ///< as it stands in the catalogue, where others may have the same
     bool operator==(const theme_designs &) const = default;
 };
 

@@ -2,6 +2,8 @@
 
 #include "designs/catalogue.h"
 
+#include <map>
+
 namespace {
 
 constexpr std::string_view ratio_in_force = "2x3";
@@ -57,6 +59,7 @@ struct listing {
     std::string wanted_count;
     std::vector<std::string> counts{};
     std::vector<theme_designs> designs{};
+    std::vector<listed_design> walked{};  // all of the catalogue
 };
 
 bool passes_count(listing & made, const design_record & design)
@@ -74,7 +77,17 @@ void add_passing(listing & made, const design_record & design)
     if (is_offered(design.name) && design_passes_family(design, made.family) &&
         fits_ratio(design, ratio_in_force) && fits_orientation(design, made.view) &&
         passes_count(made, design))
-        made.designs.push_back({design.name, design.section, design.help_tip});
+        made.designs.push_back({design.name, design.section, design.help_tip, design.name});
+}
+
+// A design of the same name tells apart wherever it stands: in another family, on another page.
+void tell_apart(listing & made)
+{
+    std::map<std::pair<std::string, std::string>, std::string> shown;
+    for (const listed_design & design : told_apart(std::move(made.walked)))
+        shown[{design.section, design.name}] = design.shown;
+    for (theme_designs & design : made.designs)
+        design.Name = shown[{design.Number, design.own_name}];
 }
 
 // A catalogue without a section gives one blank record, which is no design.
@@ -83,9 +96,12 @@ void walk_catalogue(frmMain & main, listing & made)
     bool more = true;
     for (catalogue_start start = catalogue_start::first; more; start = catalogue_start::next) {
         more = read_design(main, start);
-        if (!main.design_record.section.empty())
-            add_passing(made, main.design_record);
+        if (main.design_record.section.empty())
+            continue;
+        made.walked.push_back({.section = main.design_record.section, .name = main.design_record.name});
+        add_passing(made, main.design_record);
     }
+    tell_apart(made);
 }
 
 void fill_slots(frmThemes & window, const listing & made, int count)
@@ -95,6 +111,7 @@ void fill_slots(frmThemes & window, const listing & made, int count)
         const theme_designs & design = made.designs[static_cast<std::size_t>(next++)];
         option_button & slot = window.optDesign[static_cast<std::size_t>(index)];
         slot.set_caption(design.Name);
+        window.design_names[static_cast<std::size_t>(index)] = design.own_name;
         slot.tag = design.Number;
         slot.set_tool_tip(design.Help_Tip);
         slot.show(true);

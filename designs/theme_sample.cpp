@@ -71,7 +71,8 @@ void show_design(frmThemes & window, frmMain & main, int index)
 {
     window.cmdOk.enable(true);
     window.selected_index = narrow(index);
-    if (!find_design(main, window.optDesign[static_cast<std::size_t>(index)].caption())) {
+    const auto slot = static_cast<std::size_t>(index);
+    if (!find_section(main, window.optDesign[slot].tag, window.design_names[slot])) {
         window.cmdOk.enable(false);
         main.desk.message("Design is missing in designs.ini file.");
         return;

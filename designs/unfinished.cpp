@@ -30,6 +30,26 @@ text_lines noted_places(const frmMain & main)
     return file_exists(path) ? lines_of_file(path) : text_lines();
 }
 
+enum class moved_by { name, copy };
+
+// A link of the user's may lead to another disk: there the folder is copied, under a name that counts for
+// nothing until all of it is there, and the one copied from stays.
+moved_by rename_or_copy(const std::string & from, const std::string & to)
+{
+    try {
+        rename_folder(from, to);
+        return moved_by::name;
+    } catch (const platform_error & error) {
+        if (error.number != error_number::path_access)
+            throw;
+    }
+    const std::string beside = to + ".put_back" + std::string(part_ending);
+    remove_tree(beside);
+    copy_folder(from, beside);
+    rename_folder(beside, to);
+    return moved_by::copy;
+}
+
 template <typename Step>
 void quietly(Step step)
 {
@@ -98,7 +118,8 @@ void set_aside(const frmMain & main, const std::string & place)
     const std::string number = std::to_string(places.size());
     places.push_back(place);
     replace_file(places_path(main), text_of(places));
-    rename_folder(path, joined(aside(main), number));
+    if (rename_or_copy(path, joined(aside(main), number)) == moved_by::copy)
+        remove_tree(path);
 }
 
 void forget_set_aside(const frmMain & main)
@@ -116,7 +137,9 @@ void put_back(const frmMain & main)
         if (!place || !folder_exists(kept))
             continue;
         remove_tree(joined(main.data_folder, *place));
-        rename_folder(kept, joined(main.data_folder, *place));
+        // From here on what is kept must not be taken for a whole folder: it goes piece by piece.
+        if (rename_or_copy(kept, joined(main.data_folder, *place)) == moved_by::copy)
+            rename_folder(kept, kept + ".gone");
     }
     forget_set_aside(main);
 }

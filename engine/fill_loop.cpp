@@ -5,6 +5,7 @@
 #include "engine/ornament_sizes.h"
 #include "engine/photo_steps.h"
 #include "engine/placement_loops.h"
+#include "photos/left_out.h"
 #include "photos/photo_list.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
@@ -61,6 +62,14 @@ void set_ornament_sizes(frmMain & main, const location & cells)
     main.run.shadow_size = narrow(bounded_in_preview(main.run.shadow_size));
 }
 
+void next_in_table(frmMain & main, grid_walk & walk)
+{
+    if (++walk.photo <= main.table.last_photo)
+        return;
+    ask_reshuffle(main);
+    walk.photo = 0;
+}
+
 void pass_over(frmMain & main, grid_walk & walk)
 {
     if (++walk.photo <= main.table.last_photo)
@@ -75,22 +84,56 @@ void pass_over(frmMain & main, grid_walk & walk)
     main.chkMatch.tick(false);
 }
 
-// The photo for the cell at this column. Those that lie the other way are told by their headers and not
-// loaded.
+bool fits(frmMain & main, const grid_walk & walk, int photo)
+{
+    const std::optional<picture_size> size =
+        is_left_out(main, photo) ? std::nullopt : jpeg_size(main.table[photo]);
+    return size && fits_cell(walk.layer, size->height, size->width);
+}
+
+// The photo that has fitted so far may be the one that is left out now: without another one the search would
+// go round for ever.
+void look_again_for_one_that_fits(frmMain & main, grid_walk & walk)
+{
+    for (int photo = 0; walk.one_fitted && photo <= main.table.last_photo; ++photo)
+        if (fits(main, walk, photo))
+            return;
+    walk.one_fitted = false;
+}
+
+// The photo at hand as this cell would take it; empty for one that can't be read or doesn't fit.
+cell_photo taken_photo(frmMain & main, grid_walk & walk, int column)
+{
+    const std::string & path = main.table[walk.photo];
+    const std::optional<picture_size> size = jpeg_size(path);
+    const bool matches =
+        !main.chkMatch.ticked() || (size && fits_cell(walk.layer, size->height, size->width));
+    if (size && !matches && !(main.matrix_both && has_right_neighbour(walk.layer, column)))
+        return {};
+    bitmap image = size ? load_photo(main, path) : bitmap();
+    if (!image) {
+        leave_out(main, path);
+        look_again_for_one_that_fits(main, walk);
+        return {};
+    }
+    walk.one_fitted = walk.one_fitted || (matches && main.chkMatch.ticked());
+    return {.image = std::move(image), .span = matches ? cell_span::single : cell_span::twice};
+}
+
+// The photo for the cell at this column; empty when there is none at all. Those that lie the other way are
+// told by their headers and not loaded.
 cell_photo next_photo(frmMain & main, grid_walk & walk, int column)
 {
-    const auto loaded = [&] { return load_photo(main, main.table[walk.photo]); };
-    while (main.chkMatch.ticked()) {
-        const picture_size size = jpeg_size(main.table[walk.photo]).value_or(picture_size{});
-        if (fits_cell(walk.layer, size.height, size.width)) {
-            walk.one_fitted = true;
-            return {.image = loaded()};
-        }
-        if (main.matrix_both && has_right_neighbour(walk.layer, column))
-            return {.image = loaded(), .span = cell_span::twice};
-        pass_over(main, walk);
+    while (has_usable_photo(main)) {
+        cell_photo photo = is_left_out(main, walk.photo) ? cell_photo{} : taken_photo(main, walk, column);
+        if (photo.image)
+            return photo;
+        if (main.chkMatch.ticked())
+            pass_over(main, walk);
+        else
+            next_in_table(main, walk);
     }
-    return {.image = loaded()};
+    return {};
 }
 
 // The photo that the cells behind this one will take, as far as can be told.
@@ -115,17 +158,14 @@ bool is_last(const grid_walk & walk, grid_position at, cell_span span)
 
 void draw_tilted(frmMain & main, grid_walk & walk, bitmap image, const cell_area & area, int rotation)
 {
-    if (walk.saved)
-        walk.saved->write_line(matrix_line(area, rotation, main.run.collage_margin));
     draw_rotated_photo(main, std::move(image), area.width, area.height, area.top, area.left, rotation,
                        fitting::to_fit);
+    if (walk.saved)
+        walk.saved->write_line(matrix_line(area, rotation, main.run.collage_margin));
 }
 
 void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo photo, const shaken & by)
 {
-    // A photo that can't be read leaves its cell empty.
-    if (!photo.image)
-        return;
     if (main.chkCaption.ticked()) {
         const cell_area card = upright_area(walk.layer, at, photo.span);
         draw_captioned_photo(main, photo.image, card.width, card.height, card.top, card.left, by.rotation);
@@ -140,34 +180,50 @@ void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo ph
     draw_photo(main, photo.image, area.width, area.height, area.top, area.left);
 }
 
-void next_cell(frmMain & main, grid_walk & walk)
+// False for a photo that turns out too long for the cell: it is left out of the run.
+bool is_drawn(frmMain & main, grid_walk & walk, grid_position at, cell_photo photo, const shaken & by)
 {
-    ++walk.cell;
-    if (++walk.photo <= main.table.last_photo)
-        return;
-    ask_reshuffle(main);
-    walk.photo = 0;
+    try {
+        draw_cell(main, walk, at, std::move(photo), by);
+        return true;
+    } catch (const photo_too_long &) {
+        leave_out(main, main.table[walk.photo], photo_fault::too_long);
+        look_again_for_one_that_fits(main, walk);
+        return false;
+    }
+}
+
+// Puts the next photo that can be used into the cell, which stays empty without one; gives what it took.
+cell_span put_photo(frmMain & main, grid_walk & walk, grid_position at, row_lean & lean)
+{
+    const shake & by =
+        shake_table.at(static_cast<std::size_t>(main.shake_start + walk.cell) % shake_table.size());
+    for (;;) {
+        cell_photo photo = next_photo(main, walk, at.column);
+        const cell_span span = photo.span;
+        if (photo.image && !is_last(walk, at, span))
+            read_upcoming(main, walk);
+        row_lean after = lean;
+        const shaken cell = shaken_cell(walk.layer, at, span, by,
+                                        {.resize = main.matrix_resize, .rotate = main.matrix_rotate}, after);
+        main.design_locations[1].rotation = narrow(cell.rotation);
+        if (!photo.image || is_drawn(main, walk, at, std::move(photo), cell)) {
+            lean = after;
+            return span;
+        }
+    }
 }
 
 // Fills the cell and gives the number of columns it took.
 int fill_cell(frmMain & main, grid_walk & walk, grid_position at, row_lean & lean)
 {
-    location & cells = main.design_locations[1];
     show_image_number(main);
     main.desk.pump();
     main.run.image_number = narrow(main.run.image_number + 1);
-    set_ornament_sizes(main, cells);
-    cell_photo photo = next_photo(main, walk, at.column);
-    const cell_span span = photo.span;
-    if (!is_last(walk, at, span))
-        read_upcoming(main, walk);
-    const shake & by =
-        shake_table.at(static_cast<std::size_t>(main.shake_start + walk.cell) % shake_table.size());
-    const shaken cell = shaken_cell(walk.layer, at, span, by,
-                                    {.resize = main.matrix_resize, .rotate = main.matrix_rotate}, lean);
-    cells.rotation = narrow(cell.rotation);
-    draw_cell(main, walk, at, std::move(photo), cell);
-    next_cell(main, walk);
+    set_ornament_sizes(main, main.design_locations[1]);
+    const cell_span span = put_photo(main, walk, at, lean);
+    ++walk.cell;
+    next_in_table(main, walk);
     return columns_of(span);
 }
 

@@ -1,8 +1,10 @@
 #include "engine/flurn_driver.h"
 
+#include "designs/last_flurn.h"
 #include "engine/photo_steps.h"
 #include "engine/quick_template.h"
 #include "engine/run_steps.h"
+#include "photos/left_out.h"
 #include "photos/thumbnails.h"
 #include "session/window_state.h"
 #include "session/windows.h"
@@ -116,6 +118,7 @@ void make_collage(frmMain & main, borrowed_settings & before)
         return;  // cancelled
     finish_canvas(main);
     keep_collage(main);
+    keep_last_flurn(main);
     main.image_to_show = finished_path(main);
 }
 
@@ -142,7 +145,9 @@ void full_run(frmMain & main, borrowed_settings & before)
     offer_saving(main);
     read_new_template(main, run_size::full);
     bend_template(main, run_size::full);
-    if (went_through(main, [&] { make_collage(main, before); }))
+    const bool is_made = went_through(main, [&] { make_collage(main, before); });
+    tell_left_out(main);
+    if (is_made)
         show_collage(main);
     else
         take_failure(main, before);

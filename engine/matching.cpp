@@ -97,8 +97,10 @@ std::optional<int> find_match(const match_request & request, match_cursors & cur
                 return std::nullopt;
             come_round(request, cursors, search);
         }
-        if (search.index <= request.last_photo &&
-            (look(search.index, search.wish) == search.wish || takes_any)) {
+        if (search.index > request.last_photo)
+            continue;
+        const orientation lies = look(search.index, search.wish);
+        if (lies == search.wish || (takes_any && lies != orientation::not_loadable)) {
             cursor_of(cursors, search.wish) = narrow(search.index + 1);
             return search.index;
         }

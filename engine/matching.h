@@ -36,6 +36,7 @@ orientation orientation_of(int width, int height);
 using photo_look = std::function<orientation(int index, orientation wish)>;
 
 /// The index of the photo to be used, its cursor moved behind it; nothing after a full round that found none.
-/// A near-square location takes the photo at the cursor, whatever it is, an unloadable one too.
+/// A near-square location takes the photo at the cursor, however it lies. One that isn't loadable is taken by
+/// none.
 std::optional<int> find_match(const match_request & request, match_cursors & cursors,
                               const photo_look & look);

@@ -22,6 +22,22 @@ auto done_where(bool is_small, frmMain & main, Step step)
     return is_small ? step() : beside(main.desk, std::move(step));
 }
 
+bitmap loaded(const std::string & path)
+{
+    return jpeg_size(path) ? load_picture(picture_format::jpeg, path) : bitmap();
+}
+
+bitmap fitted(const bitmap & image, int width, int height)
+{
+    try {
+        return resize_image(image, width, height);
+    } catch (const platform_error & error) {
+        if (error.number != error_number::overflow)
+            throw;
+        throw photo_too_long(error.number, error.what());
+    }
+}
+
 bool is_busy(const photo_ahead & ahead)
 {
     return ahead.image.valid() &&
@@ -43,7 +59,7 @@ void read_ahead(frmMain & main, const std::string & path)
         return;
     ahead.path = path;
     ahead.stamp = *stamp;
-    ahead.image = std::async(std::launch::async, [path] { return load_picture(picture_format::jpeg, path); });
+    ahead.image = std::async(std::launch::async, [path] { return loaded(path); });
 }
 
 void forget_ahead(frmMain & main)
@@ -59,13 +75,12 @@ bitmap load_photo(frmMain & main, const std::string & path)
     photo_ahead & ahead = main.run.ahead;
     if (stamp && holds(ahead, path, *stamp))
         return awaited(main.desk, std::move(ahead.image));
-    return done_where(!stamp || stamp->bytes < small_file, main,
-                      [&] { return load_picture(picture_format::jpeg, path); });
+    return done_where(!stamp || stamp->bytes < small_file, main, [&] { return loaded(path); });
 }
 
 bitmap fit_photo(frmMain & main, const bitmap & image, int width, int height)
 {
-    return done_where(is_small(image), main, [&] { return resize_image(image, width, height); });
+    return done_where(is_small(image), main, [&] { return fitted(image, width, height); });
 }
 
 void save_photo(frmMain & main, const bitmap & image, const std::string & path)

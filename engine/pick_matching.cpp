@@ -2,6 +2,9 @@
 
 #include "engine/matching.h"
 #include "engine/photo_steps.h"
+#include "photos/left_out.h"
+
+#include <utility>
 
 namespace {
 
@@ -39,7 +42,9 @@ orientation told_by_header(const std::string & path)
 orientation how_it_lies(frmMain & main, int index)
 {
     orientation & known = main.table.photo_orientation.at(static_cast<std::size_t>(index));
-    if (known == orientation::unknown)
+    if (is_left_out(main, index))
+        known = orientation::not_loadable;
+    else if (known == orientation::unknown)
         known = told_by_header(main.table[index]);
     return known;
 }
@@ -48,17 +53,20 @@ orientation how_it_lies(frmMain & main, int index)
 orientation looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientation wish, bitmap & image)
 {
     const orientation known = how_it_lies(main, index);
-    if (known != wish && !is_wanted_anyhow)
+    if (known != wish && (!is_wanted_anyhow || known == orientation::not_loadable)) {
+        if (known == orientation::not_loadable)
+            leave_out(main, main.table[index]);
         return known;
+    }
     image = load_photo(main, main.table[index]);
     if (!image)
-        main.table.photo_orientation.at(static_cast<std::size_t>(index)) = orientation::not_loadable;
+        leave_out(main, main.table[index]);
     return how_it_lies(main, index);
 }
 
 }  // namespace
 
-bitmap pick_matching(frmMain & main, int width, int height)
+matched_photo pick_matching(frmMain & main, int width, int height)
 {
     const match_request request = request_for(main, width, height);
     const bool takes_any = is_near_square(request);
@@ -72,7 +80,7 @@ bitmap pick_matching(frmMain & main, int width, int height)
         main.desk.message("No images match the design");
         return {};
     }
-    return image;
+    return {.image = std::move(image), .index = *found};
 }
 
 std::optional<int> photo_to_match(frmMain & main, int width, int height)

@@ -6,6 +6,7 @@
 #include "engine/photo_steps.h"
 #include "engine/pick_matching.h"
 #include "engine/placement_loops.h"
+#include "photos/left_out.h"
 #include "photos/photo_list.h"
 
 #include <optional>
@@ -18,6 +19,7 @@ struct picked_picture {
     bitmap image;
     bool found = false;
     bool moved_on = false;  // the next location takes the next photo
+    int index = -1;         // in the table of photos; -1: a fixed picture
 };
 
 bool is_shape(const location & place)
@@ -36,10 +38,10 @@ bool is_painted(const frmMain & main, const location & place)
     return is_shape(place) && place.spare != 0 && place.rotation == 0 && !main.chkCaption.ticked();
 }
 
-picked_picture picked(bitmap image)
+picked_picture picked(bitmap image, int index = -1)
 {
     const bool found = static_cast<bool>(image);
-    return {.image = std::move(image), .found = found};
+    return {.image = std::move(image), .found = found, .index = index};
 }
 
 picked_picture fixed_picture(frmMain & main, const std::string & file)
@@ -48,46 +50,53 @@ picked_picture fixed_picture(frmMain & main, const std::string & file)
     return path ? picked(load_photo(main, *path)) : picked_picture{};
 }
 
-picked_picture first_photo(frmMain & main, int & photo)
+picked_picture photo_at(frmMain & main, const location & place, int index)
 {
-    photo = 1;
-    picked_picture first = picked(load_photo(main, main.table[0]));
-    first.moved_on = true;
-    return first;
+    const std::string & path = main.table[index];
+    // A painted shape needs a photo that could be loaded and nothing of its pixels.
+    picked_picture found =
+        is_painted(main, place)
+            ? picked_picture{.image = {}, .found = jpeg_size(path).has_value(), .index = index}
+            : picked(load_photo(main, path), index);
+    found.moved_on = true;
+    return found;
 }
 
+// Photos that can't be loaded are passed over, as long as there is another one.
 picked_picture next_photo(frmMain & main, const location & place, int & photo)
 {
-    if (photo > main.table.last_photo) {
-        ask_reshuffle(main);
-        photo = 0;
+    for (bool is_any = has_usable_photo(main); is_any;) {
+        if (photo > main.table.last_photo) {
+            ask_reshuffle(main);
+            photo = 0;
+        }
+        const int index = photo++;
+        if (is_left_out(main, index))
+            continue;
+        picked_picture next = photo_at(main, place, index);
+        if (next.found)
+            return next;
+        leave_out(main, main.table[index]);
+        is_any = has_usable_photo(main);
     }
-    const std::string & path = main.table[photo++];
-    // A painted shape needs a photo that could be loaded and nothing of its pixels.
-    picked_picture next = is_painted(main, place)
-                              ? picked_picture{.image = {}, .found = jpeg_size(path).has_value()}
-                              : picked(load_photo(main, path));
-    next.moved_on = true;
-    return next;
+    return {};
 }
 
 picked_picture matching_photo(frmMain & main, const location & place, int & photo)
 {
-    picked_picture found = picked(pick_matching(main, place.width, place.height));
-    if (found.found)
-        return found;
+    matched_photo match = pick_matching(main, place.width, place.height);
+    if (match.image)
+        return picked(std::move(match.image), match.index);
     main.run.match_active = false;
-    return main.table.last_photo < 0 ? picked_picture{} : first_photo(main, photo);
+    photo = 0;
+    return next_photo(main, place, photo);
 }
 
 picked_picture picture_for(frmMain & main, const location & place, int & photo)
 {
     if (is_fixed(place))
         return fixed_picture(main, place.file);
-    main.run.image_number = narrow(main.run.image_number + 1);
-    if (main.run.match_active)
-        return matching_photo(main, place, photo);
-    return main.table.last_photo < 0 ? picked_picture{} : next_photo(main, place, photo);
+    return main.run.match_active ? matching_photo(main, place, photo) : next_photo(main, place, photo);
 }
 
 // The photo that the locations from this one on will take first, as far as can be told.
@@ -132,6 +141,36 @@ void draw_place(frmMain & main, const location & place, picked_picture picked_on
                            place.left, place.rotation, fitting::to_fit);
 }
 
+// False for a photo that turns out too long for the place: it is left out of the run.
+bool is_drawn(frmMain & main, const location & place, picked_picture picked_one, int & photo)
+{
+    const int index = picked_one.index;
+    try {
+        draw_place(main, place, std::move(picked_one), photo);
+        return true;
+    } catch (const photo_too_long &) {
+        if (index < 0)
+            throw;
+        leave_out(main, main.table[index], photo_fault::too_long);
+        return false;
+    }
+}
+
+// Fills location `i` with the first picture that it can take; false when there is none.
+bool is_filled(frmMain & main, int i, int & photo)
+{
+    const location & place = main.design_locations[i];
+    for (;;) {
+        picked_picture next = picture_for(main, place, photo);
+        if (!next.found)
+            return false;
+        // A painted shape gives its photo back once it is drawn.
+        read_upcoming(main, i + 1, is_painted(main, place) ? photo - 1 : photo);
+        if (is_drawn(main, place, std::move(next), photo))
+            return true;
+    }
+}
+
 }  // namespace
 
 void place_loop(frmMain & main)
@@ -140,16 +179,13 @@ void place_loop(frmMain & main)
     table.count = narrow(table.count - 1);
     int photo = 0;
     for (int i = 0; i <= table.count && !main.run.cancel_requested; ++i) {
-        const location & place = table[i];
         show_image_number(main);
-        main.run.current_shape = place.file;
+        main.run.current_shape = table[i].file;
         main.desk.pump();
-        picked_picture next = picture_for(main, place, photo);
-        if (!next.found)
+        if (!is_fixed(table[i]))
+            main.run.image_number = narrow(main.run.image_number + 1);
+        if (!is_filled(main, i, photo))
             break;
-        // A painted shape gives its photo back once it is drawn.
-        read_upcoming(main, i + 1, is_painted(main, place) ? photo - 1 : photo);
-        draw_place(main, place, std::move(next), photo);
     }
     main.picSample.show(true);
     if (main.run.cancel_requested)

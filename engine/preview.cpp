@@ -3,6 +3,7 @@
 #include "engine/quick_template.h"
 #include "engine/run_layout.h"
 #include "engine/run_steps.h"
+#include "photos/left_out.h"
 #include "session/window_state.h"
 #include "support/paths.h"
 
@@ -153,6 +154,7 @@ void gen_sample(frmMain & main)
         throw;
     }
     end_run(main);
+    tell_left_out(main);
 }
 
 void make_preview(frmMain & main)

@@ -149,6 +149,7 @@ void begin_run(frmMain & main)
     main.txtDoing.set_text("Initializing....");
     main.txtDoing.show(true);
     main.trace = "MMM  ";
+    main.left_out.in_this_run.clear();
     main.run.match_active = match_is_active(main);
     reset_matching(main);
     if (main.chkRandom.ticked())

@@ -1,7 +1,6 @@
 #include "pack/package_check.h"
 
 #include "designs/design_lines.h"
-#include "designs/manifest.h"
 #include "support/archive.h"
 #include "support/inner_path.h"
 #include "support/paths.h"
@@ -15,8 +14,6 @@
 
 namespace {
 
-constexpr std::size_t payload_length = 6;
-
 std::string in_quotes(std::string_view text)
 {
     return "'" + shown_in_message(text) + "'";
@@ -27,15 +24,20 @@ bool holds(const text_lines & lines, const std::string & text)
     return std::ranges::find(lines, text) != lines.end();
 }
 
-// A walk over the commands, as the import would carry them out.
+std::string at_line(std::size_t line, const std::string & problem)
+{
+    return "line " + std::to_string(line) + ": " + problem;
+}
+
+// What the import would take and the maker of a package can't have meant.
 class manifest_walk {
 public:
-    explicit manifest_walk(const text_lines & files) : payload(files) {}
+    explicit manifest_walk(const package_payload & files) : unused(files.names) {}
 
     text_lines run(const text_lines & manifest)
     {
-        for (const std::string & line : unknown_commands(manifest))
-            problems.push_back("unknown command: " + in_quotes(line));
+        for (const numbered_line & line : unknown_commands(manifest))
+            tell(line.line, "unknown command: " + in_quotes(line.text));
         const std::vector<manifest_command> commands = commands_of_manifest(manifest);
         if (std::ranges::none_of(commands, [](const manifest_command & command) {
                 return command.step == manifest_step::title && !command.text.empty();
@@ -45,53 +47,36 @@ public:
             look_at(command);
         for (const manifest_command & command : commands)
             look_at_files(command);
-        for (const std::string & file : payload)
-            if (!holds(used, file))
-                problems.push_back("no command uses the file " + in_quotes(file));
+        for (const std::string & file : unused)
+            problems.push_back("no command uses the file " + in_quotes(file));
         return problems;
     }
 
 private:
+    void tell(std::size_t line, const std::string & problem) { problems.push_back(at_line(line, problem)); }
     void look_at(const manifest_command & command)
     {
         if (command.step == manifest_step::new_folder)
-            look_at_folder(command);
+            own.push_back(first_folder(folder_place(command.target).value_or("")));
         else if (command.step == manifest_step::payload)
-            look_at_payload(command);
+            take(command);
         else if (command.step == manifest_step::icon)
             look_at_icon(command);
         else if (command.step == manifest_step::section)
             look_at_section(command);
-        if (const std::optional<std::string> path = way_out(command))
-            problems.push_back("packages may not use " + in_quotes(*path));
     }
-    void look_at_folder(const manifest_command & command)
+    void take(const manifest_command & command)
     {
-        const std::optional<std::string> place = folder_place(command.target);
-        if (place)
-            own.push_back(first_folder(*place));
-        else
-            problems.push_back("packages may not have the folder " + in_quotes(command.target));
-    }
-    void look_at_payload(const manifest_command & command)
-    {
-        if (command.text.size() != payload_length || !holds(payload, command.text))
-            problems.push_back("the file " + in_quotes(command.text) + " is missing");
-        else if (holds(used, command.text))
-            problems.push_back("the file " + in_quotes(command.text) + " is used twice");
-        used.push_back(command.text);
-        const std::optional<std::string> place = payload_place(command.target, own);
-        if (place)
+        std::erase(unused, command.text);
+        if (const std::optional<std::string> place = payload_place(command.target, own))
             targets.push_back(*place);
-        else
-            problems.push_back("packages may not use " + in_quotes(command.target));
     }
     void look_at_icon(const manifest_command & command)
     {
         if (command.lines.empty())
-            problems.emplace_back("the line of an icon is missing");
+            tell(command.line, "the line of an icon is missing");
         else if (command.lines.front().find(' ') == std::string::npos)
-            problems.push_back("this is no icon and its file: " + in_quotes(command.lines.front()));
+            tell(command.line + 1, "this is no icon and its file: " + in_quotes(command.lines.front()));
     }
     void look_at_section(const manifest_command & command)
     {
@@ -100,11 +85,11 @@ private:
                                        [&](const std::string & line) { return line.starts_with(key); });
         };
         if (!begins("[Design"))
-            problems.emplace_back("a design has no header of its own");
+            tell(command.line, "a design has no header of its own");
         if (!begins("Name="))
-            problems.emplace_back("a design has no name");
+            tell(command.line, "a design has no name");
         if (command.number < 1)
-            problems.emplace_back("a design has no number");
+            tell(command.line, "a design has no number");
     }
     // What a design of the user's kind names has to come with it.
     void look_at_files(const manifest_command & command)
@@ -115,11 +100,10 @@ private:
         section.insert(section.begin(), design_header(first_own_number));
         for (const std::string & file : files_of_design(section, first_own_number))
             if (!holds(targets, file))
-                problems.push_back("a design names " + in_quotes(file) + ", which doesn't come with it");
+                tell(command.line, "a design names " + in_quotes(file) + ", which doesn't come with it");
     }
 
-    const text_lines & payload;
-    text_lines problems, used, targets;
+    text_lines unused, problems, targets;
     package_folders own;
 };
 
@@ -160,22 +144,28 @@ std::optional<std::string> unpacking_problem(const unpacking & unpacked)
     }
 }
 
-// The first picture that the command's file, a template, names outside.
-std::optional<std::string> picture_outside(const manifest_command & command, const text_lines & payload,
-                                           const std::string & unpacked)
+package_payload payload_in(const std::string & folder)
 {
-    const std::optional<std::string> place = payload_place(command.target, {});
-    if (command.step != manifest_step::payload || !place || first_folder(*place) != "designs" ||
-        !holds(payload, command.text))
-        return std::nullopt;
-    return way_out_of_template(lines_of_file(joined(unpacked, command.text)));
+    package_payload payload{.names = files_in(folder), .bytes = [folder](const std::string & name) {
+                                return read_file(joined(folder, name));
+                            }};
+    std::erase(payload.names, "manifest");
+    std::ranges::sort(payload.names);
+    for (const std::string & inner : folders_in(folder))
+        payload.names.push_back(inner + "/");
+    return payload;
 }
 
 }  // namespace
 
-text_lines manifest_problems(const text_lines & manifest, const text_lines & payload)
+text_lines manifest_problems(const text_lines & manifest, const package_payload & payload)
 {
-    return manifest_walk(payload).run(manifest);
+    text_lines problems;
+    for (const package_refusal & refusal : package_refusals(manifest, payload, {}))
+        problems.push_back(at_line(refusal.line, "the package " + refusal.why));
+    const text_lines more = manifest_walk(payload).run(manifest);
+    problems.insert(problems.end(), more.begin(), more.end());
+    return problems;
 }
 
 text_lines package_problems(const std::string & package)
@@ -186,14 +176,13 @@ text_lines package_problems(const std::string & package)
     const std::string manifest = joined(work.path(), "manifest");
     if (!file_exists(manifest))
         return {"the manifest is missing"};
-    text_lines payload = files_in(work.path());
-    std::erase(payload, "manifest");
-    std::ranges::sort(payload);
-    for (const std::string & folder : folders_in(work.path()))
-        payload.push_back(folder + "/");
-    text_lines problems = manifest_problems(lines_of_file(manifest), payload);
-    for (const manifest_command & command : commands_of_manifest(lines_of_file(manifest)))
-        if (const std::optional<std::string> path = picture_outside(command, payload, work.path()))
-            problems.push_back("packages may not use " + in_quotes(*path));
-    return problems;
+    return manifest_problems(manifest_lines(read_file(manifest)), payload_in(work.path()));
+}
+
+text_lines problems_of_bytes(const std::string & zip)
+{
+    const work_folder work;
+    const std::string package = joined(work.path(), "package.zip");
+    write_file(package, zip);
+    return package_problems(package);
 }

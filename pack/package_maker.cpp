@@ -2,6 +2,7 @@
 
 #include "designs/catalogue_lines.h"
 #include "designs/design_lines.h"
+#include "pack/package_check.h"
 #include "pack/package_files.h"
 #include "support/inner_path.h"
 #include "support/paths.h"
@@ -33,6 +34,20 @@ std::string ending_of(const std::string & path)
 
 // ---- one design
 
+// A name stands for one design; where several have it, the lists show it with a number, and so it is asked
+// for.
+std::optional<int> number_shown(const text_lines & catalogue, const std::string & name)
+{
+    std::optional<int> shared = number_of_design(catalogue, name);
+    for (const listed_design & design : designs_of_users(catalogue)) {
+        if (design.shown == name)
+            return number_of_design(catalogue, design);
+        if (shared && design.name == name)
+            give_up("design", name, "stands more than once: ask for \"" + design.shown + "\"");
+    }
+    return shared;
+}
+
 class design_packer {
 public:
     design_packer(package_files & all, const package_request & wanted, const text_lines & read_catalogue,
@@ -43,7 +58,7 @@ public:
     // The lines of its section, with the names that its files have in the package.
     text_lines run()
     {
-        const std::optional<int> number = number_of_design(catalogue, name);
+        const std::optional<int> number = number_shown(catalogue, name);
         if (!number)
             give_up("design", name, "is none of your own");
         text_lines section = section_of(catalogue, *number);
@@ -67,7 +82,7 @@ private:
         if (!is_plain_name(record.file) || !file_exists(layout))
             give_up("design", name, "has no template of its own");
         const text_lines lines = lines_of_file(layout);
-        mark = "pk_" + mark_of(name + text_of(lines));
+        mark = "pk_" + mark_of(record.name + text_of(lines));
         files.add(text_of(with_own_pictures(lines)), "designs/" + mark);
         if (has(record.sample, "samples/"))
             files.add(read_file(in_data(request, "samples/" + record.sample)), "samples/" + mark + ".jpg");
@@ -206,5 +221,8 @@ std::string package_bytes(const package_request & request)
             files.add_line(line);
         files.add_line("$$$");
     }
-    return zip_bytes(files.entries());
+    std::string bytes = zip_bytes(files.entries());
+    if (const text_lines problems = problems_of_bytes(bytes); !problems.empty())
+        throw not_packed{"the import would refuse this package: " + problems.front()};
+    return bytes;
 }

@@ -17,6 +17,6 @@ struct not_packed {
 
 /// The package as the bytes of a zip. The files of designs and icons get names of their own in it, made from
 /// what they hold: the same design always gets the same names, and an import can't land on a file of whoever
-/// takes it in. Designs come behind all others there, under a number of that catalogue's. Throws not_packed;
-/// raises 53, 70.
+/// takes it in. Designs come behind all others there, under a number of that catalogue's. What the import
+/// would refuse isn't made. Throws not_packed; raises 53, 70.
 std::string package_bytes(const package_request & request);

@@ -1,5 +1,6 @@
 #include "photos/chosen_photos.h"
 
+#include "photos/left_out.h"
 #include "photos/list_name.h"
 #include "photos/photo_list.h"
 #include "session/windows.h"
@@ -23,9 +24,13 @@ private:
 
 void count_with_progress(frmMain & main)
 {
-    const busy pointer(main.desk);
-    const shown progress(main.desk, main.all->photo_count);
-    count_photos(main);
+    forget_left_out(main);
+    {
+        const busy pointer(main.desk);
+        const shown progress(main.desk, main.all->photo_count);
+        count_photos(main);
+    }
+    tell_left_out(main);
 }
 
 void take_chosen_photos(frmMain & main)

@@ -8,7 +8,8 @@
 /// of `optList`, its path to the tag of `txtPhotos`. A cancel leaves that tag empty.
 void get_photo_list(frmMain & main);
 
-/// Counts and checks the table under the busy pointer, with the counting window shown.
+/// Counts and checks the table under the busy pointer, with the counting window shown; names the photos that
+/// can't be used.
 void count_with_progress(frmMain & main);
 
 /// Reads a list or a selection into the table, which a folder has filled already, and counts it. The question

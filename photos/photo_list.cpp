@@ -1,5 +1,6 @@
 #include "photos/photo_list.h"
 
+#include "photos/left_out.h"
 #include "photos/name_order.h"
 #include "photos/photo_orientation.h"
 #include "photos/photo_shuffle.h"
@@ -35,6 +36,7 @@ bool swapped_for_thumbnail(frmMain & main, int index)
     entry = photo_path(entry);
     std::string thumbnail = chk_sample_thumb(main, entry);
     if (thumbnail.empty()) {
+        leave_out(main, entry, photo_fault::gone);
         remove_photo(main, index);
         --main.table.last_photo;
         return false;
@@ -188,8 +190,13 @@ void count_photos(frmMain & main)
     orientation_counts counts;
     for (int index = 0; index <= main.table.last_photo;) {
         show_progress(main, index);
-        if (swapped_for_thumbnail(main, index))
-            add_photo(counts, counted_orientation(jpeg_size(main.table[index++])));
+        if (!swapped_for_thumbnail(main, index))
+            continue;
+        const std::string & thumbnail = main.table[index++];
+        const std::optional<picture_size> size = jpeg_size(thumbnail);
+        if (!size)
+            leave_out(main, thumbnail);
+        add_photo(counts, counted_orientation(size));
     }
     main.table.landscape_count = counts.landscape;
     main.table.portrait_count = counts.portrait;

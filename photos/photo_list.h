@@ -55,8 +55,9 @@ void save_last_list(frmMain & main, const std::string & target);
 /// Takes one entry out, moving the later ones down. The caller lowers `last_photo`.
 void remove_photo(frmMain & main, int index);
 
-/// Checks every entry, swaps it for its thumbnail and counts the orientations; missing photos are dropped.
-/// Shows its progress in `frmPhotoCnt`, which the caller has shown. Raises 6 as chk_sample_thumb does.
+/// Checks every entry, swaps it for its thumbnail and counts the orientations; missing photos are dropped,
+/// those that can't be read stay and count as neither, both are noted as left out. Shows its progress in
+/// `frmPhotoCnt`, which the caller has shown.
 void count_photos(frmMain & main);
 
 /// Puts the table in a random order.

@@ -8,9 +8,8 @@
 /// The small pictures that stand in for the photos in previews.
 
 /// Path of the photo's thumbnail, which is made, or made anew with a word to the user when the photo is
-/// newer. A photo that isn't a JPEG gets none; the path is given all the same. Empty when the photo doesn't
-/// exist. Where that place can't be written it is the photo itself. Raises 6 for a photo of 32,768 pixels or
-/// more in one direction.
+/// newer. A photo that can't be read as a JPEG gets none; the path is given all the same. Empty when the
+/// photo doesn't exist. Where that place can't be written it is the photo itself.
 std::string chk_sample_thumb(frmMain & main, const std::string & photo);
 
 /// Clears the places of the table's thumbnails of what killed programs left half written there. Raises

@@ -3,10 +3,12 @@
 #include "designers/lettering_choices.h"
 #include "designs/catalogue_state.h"
 #include "designs/design_record.h"
+#include "designs/finished_flurn.h"
 #include "designs/location.h"
 #include "designs/poster_shape.h"
 #include "engine/rotation_files.h"
 #include "engine/run_state.h"
+#include "photos/left_out_photos.h"
 #include "photos/photo_table.h"
 #include "quick/quick_state.h"
 #include "support/desktop.h"
@@ -207,7 +209,8 @@ struct frmMain : form {
     std::string matrix_size;                                ///< rows and columns of the last one, "2x3"
     lettering_choices lettering{};                          ///< as its designer was left
     bool square_background = false, run_landscape = false;  ///< shape of the last full-size run
-    bool matrix_portrait = true;                            ///< the poster of the matrix designer
+    finished_flurn last_flurn;
+    bool matrix_portrait = true;  ///< the poster of the matrix designer
     bool frames_design = false, frames_inside = false;
     bool borders_free = true;
     std::string frame_set_name;
@@ -218,6 +221,7 @@ struct frmMain : form {
 
     // The photos.
     photo_table table;
+    left_out_photos left_out;
     int16 selected_count = 0;           ///< photos written to the working list so far
     std::string working_list_path;      ///< the list that a selection is gathered in
     bool photo_list_edit_mode = false;  ///< saved lists are managed, not chosen from

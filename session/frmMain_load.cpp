@@ -1,3 +1,4 @@
+#include "designs/last_flurn.h"
 #include "designs/unfinished.h"
 #include "photos/photo_list.h"
 #include "session/handlers.h"
@@ -104,8 +105,10 @@ void hide_background_picture(frmMain & main)
 
 void load_main(frmMain & main)
 {
-    if (owns_data_folder(main))
+    if (owns_data_folder(main)) {
         remove_leftovers(main);
+        forget_last_flurn(main);
+    }
     set_output_message();
     main.cmbFrame.set_text("10");
     main.cmbShadow.set_text("10");

@@ -1,3 +1,4 @@
+#include "designs/last_flurn.h"
 #include "session/handlers.h"
 #include "support/show_help.h"
 
@@ -11,6 +12,7 @@ void cleanup_memory(frmMain & main)
     if (main.all != nullptr)
         for (form * each : main.all->others())
             each->unload();
+    forget_last_flurn(main);
     if (main.quit_requested)
         main.unload();
 }

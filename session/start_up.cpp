@@ -1,5 +1,6 @@
 #include "session/start_up.h"
 
+#include "session/displaced.h"
 #include "session/supplied_catalogue.h"
 #include "support/archive.h"
 #include "support/numbers.h"
@@ -144,6 +145,7 @@ void prepare_data_folder(frmMain & main, const folder_choice & choice)
     main.work_folder.clear();
     main.data_lock = {};
     const outcome made = settle_data_folder(main, choice);
+    set_displaced_aside(main);
     std::optional<folder_lock> own = folder_lock::taken(main.data_folder, "lock");
     if (!own)
         throw data_folder_in_use{main.data_folder};
@@ -161,6 +163,7 @@ void share_data_folder(frmMain & main, const folder_choice & choice, const std::
     if (!is_filled(main)) {
         if (settle_data_folder(main, choice) == outcome::made)
             first_run_notice(main);
+        set_displaced_aside(main);
         const folder_lock filling = filling_lock(main, longest_filling);
         fill_data_folder(main, choice);
     }

@@ -7,6 +7,7 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <locale.h>  // the thread's locale is of the system, not of the language
 #include <memory>
 #include <optional>
 #include <set>
@@ -30,6 +31,29 @@ struct entry_closer {
     void operator()(archive_entry * made) const { archive_entry_free(made); }
 };
 using made_entry = std::unique_ptr<archive_entry, entry_closer>;
+
+// The archive library tells names in the letters of the thread's locale, and loses those that it doesn't
+// have.
+class names_in_utf_8 {
+public:
+    names_in_utf_8() : letters(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr))
+    {
+        if (letters != nullptr)
+            before = ::uselocale(letters);
+    }
+    names_in_utf_8(const names_in_utf_8 &) = delete;
+    names_in_utf_8 & operator=(const names_in_utf_8 &) = delete;
+    ~names_in_utf_8()
+    {
+        if (letters == nullptr)
+            return;
+        ::uselocale(before);
+        ::freelocale(letters);
+    }
+
+private:
+    locale_t letters, before = nullptr;
+};
 
 archive_reader opened_zip(const std::string & path)
 {
@@ -73,7 +97,8 @@ public:
     {
         archive_entry * entry = nullptr;
         int state = ARCHIVE_OK;
-        while ((state = archive_read_next_header(reader, &entry)) == ARCHIVE_OK) {
+        // A name that can't be told in the locale is a warning: its bytes are there all the same.
+        while ((state = archive_read_next_header(reader, &entry)) == ARCHIVE_OK || state == ARCHIVE_WARN) {
             const unpacking::end ended = take(entry);
             if (ended != unpacking::end::whole)
                 return {.ended = ended, .entry = entry_name(entry)};
@@ -150,19 +175,20 @@ void add_file(archive * writer, const archived_file & file)
 unpacking unpack_zip(const std::string & source, const std::string & destination,
                      const unpack_limits & limits)
 {
+    const names_in_utf_8 names;
     const archive_reader reader = opened_zip(source);
     if (!reader)
         return {.ended = unpacking::end::broken, .entry = {}};
-    try {
-        return with_platform_errors([&] { return unpacker(reader.get(), destination, limits).run(); });
-    } catch (const platform_error &) {
-        return {.ended = unpacking::end::broken, .entry = {}};  // why is not asked
-    }
+    return with_platform_errors([&] { return unpacker(reader.get(), destination, limits).run(); });
 }
 
 bool extract_zip(const std::string & source, const std::string & destination)
 {
-    return unpack_zip(source, destination).ended == unpacking::end::whole;
+    try {
+        return unpack_zip(source, destination).ended == unpacking::end::whole;
+    } catch (const platform_error &) {
+        return false;
+    }
 }
 
 std::string zip_bytes(const std::vector<archived_file> & files)

@@ -14,7 +14,7 @@ struct unpack_limits {
 struct unpacking {
     enum class end {
         whole,        ///< all went through
-        broken,       ///< damaged, no archive, no room for it
+        broken,       ///< damaged, or no archive
         not_allowed,  ///< `entry` would leave the folder, is a link or a device, or comes twice
         too_many,     ///< `entry` is one more than the limit
         too_large     ///< `entry` is beyond the limit of bytes
@@ -24,11 +24,12 @@ struct unpacking {
 };
 
 /// Unpacks all files of the zip archive `source` into the folder `destination`, overwriting. Nothing is
-/// written anywhere else, whatever the names of the entries say.
+/// written anywhere else, whatever the names of the entries say. Names are bytes, UTF-8 where the archive
+/// says so, in every locale. Raises 61, 70, 75, 76 where the folder can't be written.
 unpacking unpack_zip(const std::string & source, const std::string & destination,
                      const unpack_limits & limits = {});
 
-/// The same; true when all went through.
+/// The same; true when all went through, false whatever went wrong.
 bool extract_zip(const std::string & source, const std::string & destination);
 
 /// A file for an archive.

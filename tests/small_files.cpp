@@ -33,7 +33,7 @@ std::string common_fields(const zip_entry & entry)
 {
     std::string bytes;
     add_little(bytes, 20, 2);
-    add_little(bytes, 0, 2);  // flags
+    add_little(bytes, entry.flags, 2);
     add_little(bytes, 0, 2);  // stored
     add_little(bytes, 0x5A210000, 4);
     add_little(bytes, crc_32(entry.bytes), 4);

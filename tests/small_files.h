@@ -12,6 +12,7 @@ struct zip_entry {
     std::string name;
     std::string bytes;
     std::uint32_t unix_mode = 0100644;
+    std::uint32_t flags = 0;  ///< 0x800: the name is UTF-8
 };
 
 /// A zip archive that holds the entries as they are, without compression.

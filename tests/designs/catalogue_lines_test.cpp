@@ -136,6 +136,23 @@ TEST(with_section, never_makes_a_number_twice_where_they_are_out_of_order)
               "[Design600] [Design602] Name=c [Design601] Name=b [Design603] Name=n");
 }
 
+TEST(with_section, takes_the_same_design_of_the_user_s_once)
+{
+    const std::string mine =
+        "[Design001]\nName=h\nFile=f\n[Design600]\nName=h\nFile=g\n[Design602]\nFile=f\nName=h\n"
+        "[Design603]\nName=z\nFile=f\n[Design605]\nName=h\nFile=f\nCount=3\n";
+    EXPECT_EQ(
+        one_line(merged(mine, 999, "[Design999]\nName=h\nFile=f\nCount=5\n")),
+        "[Design001] Name=h File=f [Design600] Name=h File=g [Design602] Name=h File=f Count=5 [Design603] "
+        "Name=z File=f");
+    EXPECT_EQ(one_line(merged(mine, 999, "Name=h\nFile=f\nSample=s\n")).substr(mine.size()),
+              "[Design606] Name=h File=f Sample=s");
+    EXPECT_EQ(one_line(merged("[Design600]\nName=h\n", 999, "Name=h\n")),
+              "[Design600] Name=h [Design601] Name=h");
+    EXPECT_EQ(one_line(merged("[Designx600]\nName=h\nFile=f\n", 999, "Name=h\nFile=f\n")),
+              "[Designx600] Name=h File=f [Design601] Name=h File=f");
+}
+
 TEST(with_section, gives_no_number_above_998)
 {
     EXPECT_EQ(merged("[Design998]\n", 999, "Name=n\n"), text_lines{"no number left"});

@@ -137,6 +137,24 @@ TEST_F(catalogue_test, a_design_is_found_by_its_name)
     EXPECT_FALSE(find_design(main, "B"));
 }
 
+TEST_F(catalogue_test, a_design_is_found_by_what_lists_show_of_it)
+{
+    write(
+        "[Design001]\r\nName=a\r\n[Design600]\r\nName=b\r\n[Design602]\r\nName=b\r\n"
+        "[Design603]\r\nName=Design001\r\n");
+    struct row {
+        const char *text, *section;
+    };
+    for (const row & each : {row{"a", "Design001"}, row{"b (600)", "Design600"}, row{"b (602)", "Design602"},
+                             row{"Design602", "Design602"}, row{"Design001", "Design603"}}) {
+        EXPECT_EQ(find_shown_design(main, each.text), found_design::one) << each.text;
+        EXPECT_EQ(main.design_record.section, each.section) << each.text;
+    }
+    EXPECT_EQ(find_shown_design(main, "b"), found_design::several);
+    for (const char * text : {"", "B", "b (601)", "a (001)", "Design601"})
+        EXPECT_EQ(find_shown_design(main, text), found_design::none) << text;
+}
+
 TEST_F(catalogue_test, the_next_design_is_the_first_free_one)
 {
     write(saved_designs(600, 601) + saved_designs(603, 604));

@@ -40,6 +40,25 @@ TEST(description, a_section_without_lines_is_empty)
     EXPECT_EQ(described("[a]", "a"), "");
 }
 
+TEST(description, of_a_text_too_long_to_be_shown_the_beginning_is_taken)
+{
+    const std::string ellipsis = "\xE2\x80\xA6", letter = "\xC3\xA4";
+    const auto described_by = [](const std::string & text) {
+        line_source lines = line_source::of_text(text);
+        return description_text(lines);
+    };
+    const std::string whole(longest_description, 'x');
+    EXPECT_EQ(described_by(whole), whole + "\r\n");
+    EXPECT_EQ(described_by(whole + "y"), whole + ellipsis);
+    EXPECT_EQ(described_by(whole + "\ny"), whole + "\r\n" + ellipsis);
+    EXPECT_EQ(described_by(whole.substr(1) + letter + "z"), whole.substr(1) + ellipsis);
+    std::string many;
+    while (many.size() < std::size_t{5} << 20U)
+        many += "line_\n" + letter + "\n";
+    EXPECT_LT(described_by(many).size(), 2 * longest_description);
+    EXPECT_TRUE(described_by(many).ends_with(ellipsis));
+}
+
 TEST(description, a_file_of_its_own_has_no_header)
 {
     line_source lines = line_source::of_text("one_\r\ntwo\r\n");

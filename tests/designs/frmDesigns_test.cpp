@@ -24,7 +24,10 @@ struct editing_designs : own_designs_session {
 TEST(edit_designs, lists_500_to_799_that_aren_t_the_system_s)
 {
     editing_designs session;
-    EXPECT_EQ(own_designs(session.main), (names{"One", "Two", "Three"}));
+    names listed;
+    for (const listed_design & design : own_designs(session.main))
+        listed.push_back(design.section + " " + design.shown);
+    EXPECT_EQ(listed, (names{"Design600 One", "Design601 Two", "Design799 Three"}));
 }
 
 TEST(edit_designs, an_empty_list_is_told)
@@ -112,6 +115,7 @@ TEST(edit_designs, a_design_below_500_is_not_found_even_if_the_name_is_equal)
 {
     editing_designs session;
     session.edit([&](frmDesigns & window) {
+        window.designs = {{.section = "Design001", .name = "Low", .shown = "Low"}};
         window.lstDesigns.set_items({"Low"});
         window.lstDesigns.select(0);
         session.desk.will_answer(answer::yes);
@@ -120,6 +124,43 @@ TEST(edit_designs, a_design_below_500_is_not_found_even_if_the_name_is_equal)
     });
     EXPECT_EQ(session.desk.next_message(), "Didn't find the design to be deleted.  Might be a problem?");
     EXPECT_NE(session.read("designs.ini").find("Name=Low"), std::string::npos);
+}
+
+TEST(edit_designs, of_two_designs_with_one_name_the_one_that_was_meant_goes)
+{
+    own_designs_session session;
+    session.folder.write("data/designs/saved600", "first");
+    session.folder.write("data/designs/saved602", "second");
+    session.catalogue(
+        "[Design600]\r\nName=Heart\r\nFile=saved600\r\n[Design601]\r\nName=Star\r\n"
+        "[Design602]\r\nName=Heart\r\nFile=saved602\r\n");
+    for (int i = 0; i < 2; ++i)
+        session.desk.will_answer(answer::yes);
+    session.edit([](frmDesigns & window) {
+        EXPECT_EQ(window.lstDesigns.items(), (names{"Heart (600)", "Star", "Heart (602)"}));
+        window.lstDesigns.select(2);
+        window.cmdDelete.click();
+        EXPECT_EQ(window.lstDesigns.items(), (names{"Heart (600)", "Star"}));
+        window.lstDesigns.select(1);
+        window.cmdDelete.click();
+    });
+    EXPECT_EQ(session.desk.questions[0].text, "Deleting the Heart (602) design... Ok?");
+    EXPECT_EQ(session.read("designs.ini"), "[Design600]\r\nName=Heart\r\nFile=saved600\r\n");
+    EXPECT_TRUE(session.has("designs/saved600"));
+    EXPECT_FALSE(session.has("designs/saved602"));
+}
+
+TEST(edit_designs, a_number_that_went_to_another_design_meanwhile_is_left_alone)
+{
+    editing_designs session;
+    session.edit([&](frmDesigns & window) {
+        window.lstDesigns.select(0);
+        session.catalogue("[Design600]\r\nName=Another\r\nFile=saved600\r\n");
+        session.desk.will_answer(answer::yes);
+        window.cmdDelete.click();
+    });
+    EXPECT_EQ(session.desk.next_message(), "Didn't find the design to be deleted.  Might be a problem?");
+    EXPECT_TRUE(session.has("designs/saved600"));
 }
 
 TEST(edit_designs, a_deleted_number_is_used_again_at_the_end_of_the_file)

@@ -176,6 +176,23 @@ TEST(save_design, cancel_and_the_close_box_save_nothing_and_the_window_starts_em
     EXPECT_TRUE(session.has("designs/__quick"));
 }
 
+TEST(save_design, a_name_with_a_line_break_or_a_control_character_is_told_and_not_taken)
+{
+    for (const char * name : {"Heart\nFile=../x", "Heart\r", "He\tart", "Heart\x01", "\xE2\x80\xA8"}) {
+        own_designs_session session;
+        const std::string before = session.read("designs.ini");
+        session.desk.on_modal<frmNewDesign>([&](frmNewDesign & window) {
+            window.txtName.set_text(name);
+            window.OKButton.click();
+            EXPECT_TRUE(window.loaded()) << name;
+        });
+        session.main.mnuSaveDesign.click();
+        EXPECT_EQ(session.desk.next_message(),
+                  "A design's name can't hold line breaks or other control characters.");
+        EXPECT_EQ(session.read("designs.ini"), before) << name;
+    }
+}
+
 TEST(save_design, without_a_working_template_it_raises_and_changes_nothing)
 {
     own_designs_session session;

@@ -27,13 +27,15 @@ hostile_package entry(const std::string & why, const std::string & name, std::ui
 }
 
 // The refused command stands behind harmless ones: they aren't carried out either.
-hostile_package command(const std::string & why, const std::string & line, const std::string & target)
+hostile_package command(const std::string & why, const std::string & line, const std::string & target,
+                        int at = 4)
 {
     return {why,
             {manifest("$$$ icons\nx x.bmp\n$$$ NAME abcdef designs\\harmless\n" + line + "\n"),
              {.name = "abcdef", .bytes = "x"},
              {.name = "ghijkl", .bytes = "evil"}},
-            "This import package may not use '" + target + "'.\r\n\r\nImport has been stoppped."};
+            "This import package may not use '" + target + "' (line " + std::to_string(at) +
+                " of its manifest).\r\n\r\nImport has been stoppped."};
 }
 
 hostile_package moved(const std::string & why, const std::string & target)
@@ -156,12 +158,28 @@ std::vector<hostile_package> folders_out_of_place()
             renewed("a design", "designs\\saved600"),
             renewed("a link out of a folder below", "frames\\linked\\a"),
             renewed("device", "frames\\con"),
-            renewed("the begun set", "frames\\_named_.not")};
+            renewed("the begun set", "frames\\_named_.not"),
+            renewed("the catalogue under construction", "designs.new"),
+            renewed("its backup in another case", "Designs.BBB"),
+            renewed("what packages own", "package_folders"),
+            renewed("a marker that isn't there", "4_2_install"),
+            renewed("the lock", "lock"),
+            renewed("the turn to fill", "filling"),
+            renewed("the supplied catalogue", "designs.supplied"),
+            renewed("the mark of a portable program", "portable"),
+            renewed("the work folders of others", "scratch\\x"),
+            renewed("any list under construction", "icons.new"),
+            renewed("what a start set aside", "designs.new.set_aside"),
+            renewed("a template to come", "designs\\saved987"),
+            renewed("a sample to come", "samples\\SAVED987.jpg"),
+            renewed("a description to come", "descriptions\\saved987"),
+            renewed("the shape of one's own", "user_images\\custom_shape.gif")};
 }
 
 hostile_package written(const std::string & why, const std::string & lines, const std::string & path)
 {
-    return command(why, lines, path);
+    return command(why, lines, path,
+                   4 + static_cast<int>(std::ranges::count(lines.substr(0, lines.find(path)), '\n')));
 }
 
 hostile_package drawn(const std::string & why, const std::string & location, const std::string & path)

@@ -75,6 +75,46 @@ TEST(manifest, a_number_beyond_all_numbers_stands_behind_all_sections)
     EXPECT_EQ(commands("$$$ designs.ini 1e999\n")[0].number, 999);
 }
 
+TEST(manifest, a_byte_order_mark_is_no_part_of_the_first_line)
+{
+    EXPECT_EQ(manifest_lines("\xEF\xBB\xBF$$$ MSG Hearts\r\nx"), (text_lines{"$$$ MSG Hearts", "x"}));
+    EXPECT_EQ(manifest_lines("x\n\xEF\xBB\xBFy"), (text_lines{"x", "\xEF\xBB\xBFy"}));
+    EXPECT_EQ(manifest_lines(""), text_lines{});
+}
+
+TEST(manifest, six_characters_of_a_name_may_be_more_bytes)
+{
+    struct row {
+        const char *line, *name, *target;
+    };
+    for (const row & each :
+         {row{"\xC3\xA4\xC3\xB6\xC3\xBC.jp designs\\x", "\xC3\xA4\xC3\xB6\xC3\xBC.jp", "designs\\x"},
+          row{"\xE4\xF6\xFC.jp designs\\x", "\xE4\xF6\xFC.jp", "designs\\x"},  // no UTF-8: bytes
+          row{"\xE2\x82\xAC"
+              "bcdef designs\\x",
+              "\xE2\x82\xAC"
+              "bcdef",
+              "designs\\x"},
+          row{"abcde\xC3", "abcde\xC3", ""}}) {
+        const auto read = commands(std::string("$$$ NAME ") + each.line + "\n");
+        EXPECT_EQ(read.at(0).text, each.name);
+        EXPECT_EQ(read.at(0).target, each.target);
+    }
+}
+
+TEST(manifest, each_command_knows_its_line)
+{
+    const auto read =
+        commands("a note\n$$$ icons\nsun sun.bmp\n\n$$$ designs.ini 1\nName=x\nFile=..\\x\n$$$\n$$$ MSG x\n");
+    ASSERT_EQ(read.size(), 3U);
+    EXPECT_EQ(read[0].line, 2U);
+    EXPECT_EQ(read[1].line, 5U);
+    EXPECT_EQ(read[2].line, 9U);
+    EXPECT_EQ(way_out(read[1]), (numbered_line{.line = 7, .text = "..\\x"}));
+    EXPECT_EQ(unknown_commands(lines_of_text("x\n$$$ what\n")),
+              (std::vector<numbered_line>{{.line = 2, .text = "$$$ what"}}));
+}
+
 TEST(payload_place, is_a_file_in_a_folder_that_packages_use)
 {
     EXPECT_EQ(payload_place("designs\\heart", {}), "designs/heart");

@@ -31,6 +31,30 @@ TEST(optDesign, a_design_that_is_gone_is_told_and_can_t_be_chosen)
     expect_states(session.browser, "cmdOk+");
 }
 
+TEST(optDesign, of_two_designs_with_one_name_shows_and_takes_the_one_that_was_meant)
+{
+    opened_browser session(design_section_text(600, "Heart", {"Description=first", "Count=3"}) +
+                           design_section_text(601, "Star", {}) +
+                           design_section_text(602, "Heart", {"Help Tip=the second"}) +
+                           design_section_text(603, "Star", {"Turn BG=No", "Background=Landscape"}));
+    EXPECT_EQ(session.listed(), "0:Heart (600) 1:Star (601) 8:Heart (602)");
+    session.browser.optDesign[8].select();
+    EXPECT_EQ(session.main.design_record.section, "Design602");
+    EXPECT_EQ(session.main.design_record.help_tip, "the second");
+    session.browser.cmdOk.click();
+    EXPECT_EQ(session.main.lblDesign.tag, "Design602");
+    EXPECT_EQ(session.main.lblDesign.caption(), "Heart");
+}
+
+TEST(optDesign, a_section_that_another_design_has_taken_is_told)
+{
+    opened_browser session(plain_designs(3));
+    session.folder.write("data/designs.ini", plain_designs(2) + design_section_text(3, "another", {}));
+    session.browser.optDesign[8].select();
+    EXPECT_EQ(session.desk.next_message(), "Design is missing in designs.ini file.");
+    expect_states(session.browser, "cmdOk-");
+}
+
 TEST(optDesign, says_how_the_caption_is_cleared_where_the_design_does_not)
 {
     struct row {

@@ -165,13 +165,13 @@ TEST(fill_loop, the_last_column_takes_no_photo_across)
     EXPECT_EQ(run.desk.next_message(), "You don't have any photos that match this design.");
 }
 
-TEST(fill_loop, a_photo_that_cannot_be_read_leaves_its_cell_empty)
+TEST(fill_loop, a_photo_that_cannot_be_read_leaves_its_cell_to_the_next)
 {
     grid_run run(1, 3);
     run.add_photo(red);
     run.add_path(run.home.at("photos/gone.jpg"));
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
-    EXPECT_EQ(run.filled().substr(14, 14), ".rr....rr....\n");
+    EXPECT_EQ(run.filled().substr(14, 14), ".rr.rr.rr....\n");
 }
 
 TEST(fill_loop, six_rows_are_three_layers_and_the_photos_run_on)

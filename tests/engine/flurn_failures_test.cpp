@@ -18,11 +18,17 @@ TEST(make_flurn, a_missing_template_leaves_the_plain_ground)
     EXPECT_EQ(sampled(run.full_run(), 500, 1000), "..\n..\n..\n");
 }
 
-TEST(make_flurn, a_photo_that_vanished_ends_the_collage_with_what_it_has)
+TEST(make_flurn, a_photo_that_vanished_is_left_out_and_named)
 {
     four_photos run;
-    std::filesystem::remove(run.main.table[2]);
-    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\n..\n..\n");
+    const std::string gone = run.main.table[2];
+    std::filesystem::remove(gone);
+    run.desk.will_answer(answer::no);  // one of the three others is used twice
+    EXPECT_EQ(sampled(run.full_run(), 500, 1000), "rg\nyr\nyr\n");
+    EXPECT_EQ(run.desk.next_message(),
+              "This photo was left out:\r\n" + gone +
+                  ": it isn't there any more\r\n\r\nPut what is missing back in its place.\r\n"
+                  "Then choose your photos again.");
     expect_usable(run.main);
 }
 

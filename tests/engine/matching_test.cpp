@@ -84,7 +84,17 @@ TEST(matching, a_near_square_location_takes_what_stands_at_the_cursor)
     EXPECT_EQ(photos.next(100, 100), 0);  // wish portrait, takes the landscape photo all the same
     EXPECT_EQ(photos.cursors, (match_cursors{.next_portrait = 1, .next_landscape = 1}));
     photos.cursors.next_landscape = photos.cursors.next_portrait = 3;
-    EXPECT_EQ(photos.next(100, 100), 3);  // one that can't be loaded, too
+    EXPECT_EQ(photos.next(100, 100), 0);  // one that can't be loaded is passed over
+}
+
+TEST(matching, a_near_square_location_finds_nothing_where_no_photo_can_be_loaded)
+{
+    for (const bool evolve : {false, true})
+        for (const int16 start : {0, 2}) {
+            table photos{.photos = "xxx", .evolve = evolve, .squares = true};
+            photos.cursors.next_landscape = photos.cursors.next_portrait = start;
+            EXPECT_EQ(photos.next(100, 100), -1);
+        }
 }
 
 TEST(matching, no_match_from_the_first_photo_on_gives_up_after_one_round)

@@ -118,11 +118,11 @@ TEST(fixed_picture_path, stays_in_its_folder)
         EXPECT_EQ(fixed_picture_path(run.main, file), std::nullopt) << file;
 }
 
-TEST(place_loop, stops_at_a_photo_that_cannot_be_loaded_and_keeps_what_it_has)
+TEST(place_loop, stops_at_a_fixed_picture_that_cannot_be_loaded_and_keeps_what_it_has)
 {
     row_of_places run(3);
+    run.main.design_locations[1].file = "user_images/gone.jpg";
     run.add_photo(red);
-    run.add_path(run.home.at("photos/gone.jpg"));
     run.add_photo(blue);
     run.main.picSample.show(false);
     EXPECT_EQ(run.placed(), "r..");

@@ -58,6 +58,7 @@ void add_places(collage_fixture & run)
         run.add_location({.top = 10, .left = narrow(80 * i + 10), .height = 60, .width = 40});
     run.add_location({.top = 100, .left = 20, .height = 60, .width = 90});
     run.add_location({.top = 100, .left = 120, .height = 60, .width = 60});
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
 }
 
 void lay_grid(collage_fixture & run)

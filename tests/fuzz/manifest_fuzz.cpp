@@ -30,7 +30,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * bytes, std::size_t co
             expect_inside(folder_place(command.target));
             with_section({"[Design600]", "[Design602]"}, command.number, command.lines);
         }
-        manifest_problems(lines, {"abcdef"});
+        manifest_problems(lines,
+                          {.names = {"abcdef"}, .bytes = [](const std::string &) { return std::string(); }});
     });
     return 0;
 }

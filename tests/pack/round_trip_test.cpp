@@ -4,6 +4,7 @@
 #include "pack/package_check.h"
 #include "pack/package_maker.h"
 #include "session/connect_all.h"
+#include "support/archive.h"
 #include "support/paths.h"
 #include "support/text_file.h"
 #include "tests/designs/own_designs.h"
@@ -158,6 +159,61 @@ TEST(round_trip, frame_sets_and_icons_travel_without_the_photo_list)
     EXPECT_EQ(read_file(other.at("icons/sun.bmp")), "another sun");
 }
 
+TEST(round_trip, importing_the_same_package_again_leaves_one_copy_of_each_design)
+{
+    keeping_session session, other;
+    for (const char * name : {"One", "Two"}) {
+        session.leave_quick_layout();
+        session.save(name, "kept");
+    }
+    const std::string package = package_bytes({.data_folder = session.main.data_folder,
+                                               .designs = {"One", "Two"},
+                                               .frames = {},
+                                               .icons = {},
+                                               .title = "T"});
+    std::string first;
+    for (int i = 0; i < 3; ++i) {
+        other.import_bytes(package);
+        EXPECT_EQ(other.desk.next_message(), "\r\nT has been successfully imported.\r\n");
+        EXPECT_EQ(own_names(other), (std::vector<std::string>{"One", "Two"}));
+        if (i == 0)
+            first = read_file(other.at("designs.ini"));
+        EXPECT_EQ(read_file(other.at("designs.ini")), first);
+    }
+    session.import_bytes(package);
+    session.desk.next_message();
+    EXPECT_EQ(own_names(session),
+              (std::vector<std::string>{"One (600)", "Two (601)", "One (602)", "Two (603)"}))
+        << "designs of one's own have files of their own";
+}
+
+TEST(package_maker, packs_the_one_that_is_meant_of_two_with_one_name)
+{
+    keeping_session session;
+    session.home.write("data/designs.ini",
+                       "[Design600]\nName=Heart\nFile=saved600\nSystem=No\n[Design602]\nName=Heart\nFile="
+                       "saved602\nSystem=No\nCount=7\n");
+    session.home.write("data/designs/saved600", "0:0:9:9:0:0:0:0:\r\n");
+    session.home.write("data/designs/saved602", "0:0:8:8:0:0:0:0:\r\n");
+    const auto packed = [&](const std::string & name) {
+        const std::string zip = package_bytes({.data_folder = session.main.data_folder,
+                                               .designs = {name},
+                                               .frames = {},
+                                               .icons = {},
+                                               .title = "T"});
+        unpack_zip(session.home.write("a.zip", zip), session.home.path());
+        return read_file(session.home.at("f00001"));
+    };
+    EXPECT_EQ(packed("Heart (602)"), "0:0:8:8:0:0:0:0:\r\n");
+    EXPECT_EQ(packed("Heart (600)"), "0:0:9:9:0:0:0:0:\r\n");
+    try {
+        packed("Heart");
+        FAIL();
+    } catch (const not_packed & told) {
+        EXPECT_EQ(told.what, "the design \"Heart\" stands more than once: ask for \"Heart (600)\"");
+    }
+}
+
 TEST(package_maker, gives_the_same_bytes_for_the_same_designs)
 {
     keeping_session session;
@@ -199,4 +255,63 @@ TEST(package_maker, tells_what_it_can_t_pack)
     session.home.write("data/designs/saved600", "0:0:9:9:0:0:0:0:user_images/gone.jpg\r\n");
     EXPECT_EQ(fault({"Bare"}, {}, {}),
               "the design \"Bare\" needs the picture user_images/gone.jpg, which isn't there");
+}
+
+TEST(package_maker, makes_nothing_that_the_import_would_refuse)
+{
+    struct row {
+        std::string section, layout, description, title, told;
+    };
+    const std::string layout = "0:0:9:9:0:0:0:0:\r\n", named = "Name=Mine\n";
+    const row rows[] = {
+        {named, "0:0:9:9:0:0:0:0:..\\x.jpg\r\n", "", "T", "line 2: the package may not use '..\\x.jpg'"},
+        {named + "BG Image=..\\x.jpg\n", layout, "", "T", "line 12: the package may not use '..\\x.jpg'"},
+        {named + "Help Tip=" + std::string(5000, 'x') + "\n", layout, "", "T",
+         "line 12: the package has a line of more than 4096 bytes"},
+        {named, layout, std::string(70000, 'x'), "T",
+         "line 3: the package has a description of more than 65536 bytes, 'f00002'"},
+        {named, layout, "", std::string(300, 'x'), "line 1: the package has a title of more than 200 bytes"},
+        {named, layout, "", "a\tb", "line 1: the package has a title with control characters"},
+    };
+    for (const row & each : rows) {
+        keeping_session session;
+        session.home.write(
+            "data/designs.ini",
+            "[Design600]\nFile=saved600\nSystem=No\nDescription=saved600\nDesign=Saved\nStyle=Place\n"
+            "Match=Yes\n" +
+                each.section);
+        session.home.write("data/designs/saved600", each.layout);
+        if (!each.description.empty())
+            session.home.write("data/descriptions/saved600", each.description);
+        try {
+            package_bytes({.data_folder = session.main.data_folder,
+                           .designs = {"Mine"},
+                           .frames = {},
+                           .icons = {},
+                           .title = each.title});
+            ADD_FAILURE() << each.told;
+        } catch (const not_packed & told) {
+            EXPECT_EQ(told.what, "the import would refuse this package: " + each.told);
+        }
+    }
+}
+
+TEST(package_maker, refuses_names_with_control_characters)
+{
+    keeping_session session;
+    session.home.write("data/designs.ini", "[Design600]\nName=Mi\tne\nFile=saved600\nSystem=No\n");
+    session.home.write("data/designs/saved600", "0:0:9:9:0:0:0:0:\r\n");
+    try {
+        package_bytes({.data_folder = session.main.data_folder,
+                       .designs = {"Mi\tne"},
+                       .frames = {},
+                       .icons = {},
+                       .title = "T"});
+        FAIL();
+    } catch (const not_packed & told) {
+        EXPECT_EQ(
+            told.what,
+            "the import would refuse this package: line 5: the package has a name with control characters, "
+            "'Name=Mi?ne'");
+    }
 }

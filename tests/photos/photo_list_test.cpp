@@ -1,5 +1,6 @@
 #include "photos/photo_list.h"
 
+#include "photos/chosen_photos.h"
 #include "session/windows.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
@@ -176,10 +177,38 @@ TEST_F(photo_list_test, grey_and_cmyk_photos_and_long_strips_count_as_others)
     EXPECT_NEAR(seen(cyan, 100, 75).blue, 255, 2);
 }
 
-TEST_F(photo_list_test, a_photo_beyond_16_bits_raises_an_overflow)
+TEST_F(photo_list_test, a_photo_beyond_16_bits_is_left_out_and_the_others_are_counted)
 {
-    fill_table({folder.write("a.jpg", flat_jpeg(32768, 8, {90}, adobe_mark::absent))});
-    EXPECT_THROW(count_photos(main), platform_error);
+    const std::string wide = folder.write("wide.jpg", flat_jpeg(32768, 8, {90}, adobe_mark::absent)),
+                      high = folder.write("high.jpg", flat_jpeg(8, 40000, {90}, adobe_mark::absent));
+    fill_table({wide, photo("a.jpg", 40, 30), high, photo("b.jpg", 30, 40)});
+    count_photos(main);
+    EXPECT_EQ(counted(), "1l 1p l:p:");
+    EXPECT_EQ(main.left_out.photos, (std::vector<left_out_photo>{{.path = wide}, {.path = high}}));
+}
+
+TEST_F(photo_list_test, what_is_left_out_is_named_in_one_box_behind_the_count)
+{
+    const std::string text = folder.write("text.jpg", "no picture");
+    fill_table({text, "/gone.jpg", photo("a.jpg", 40, 30)});
+    desk.on_breath = [&] { EXPECT_TRUE(desk.messages.empty()) << "in the midst of the count"; };
+    count_with_progress(main);
+    EXPECT_EQ(desk.next_message(),
+              "These photos were left out:\r\n" + text +
+                  ": it can't be read as a JPEG photo\r\n/gone.jpg: it isn't there any more\r\n\r\n"
+                  "Put what is missing back in its place.\r\n"
+                  "Save what can't be read as JPEG again, with at most 32767 pixels a side.\r\n"
+                  "Then choose your photos again.");
+    EXPECT_EQ(desk.busy_depth, 0);
+}
+
+TEST_F(photo_list_test, a_list_with_a_photo_beyond_16_bits_is_saved)
+{
+    const std::string wide = folder.write("wide.jpg", flat_jpeg(32768, 8, {90}, adobe_mark::absent)),
+                      high = photo("high.jpg", 30, 40);
+    folder.write("piclists/last_photos.pls", "P " + wide + "\r\nL " + high + "\r\n");
+    save_last_list(main, folder.at("piclists/mine.pls"));
+    EXPECT_EQ(read_file(folder.at("piclists/mine.pls")), "L " + wide + "\r\nP " + high + "\r\n");
 }
 
 TEST_F(photo_list_test, photos_of_a_closed_folder_are_counted_by_themselves)

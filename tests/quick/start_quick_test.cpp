@@ -256,6 +256,7 @@ TEST(mnuQuick, without_a_scatter_for_those_few_it_says_so_and_stays)
     for (const std::size_t unreadable : {1U, 2U})
         session.folder.write("photos/" + std::to_string(unreadable) + ".jpg", "no picture");
     session.start();
+    EXPECT_TRUE(session.desk.next_message().starts_with("These photos were left out:\r\n"));
     EXPECT_EQ(session.desk.next_message(), "Can't find a collage template to match these photos.  Sorry4.");
     expect_choosing(session);
 }

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "session/frmMain.h"
+
+#include <string>
+
+/// Photos that can't be used are left out and named; the run, the folder or the list goes on.
+
+/// Forgets what was left out: other photos have been chosen.
+void forget_left_out(frmMain & main);
+
+/// Leaves a photo out of this run and notes it; `path` may be its thumbnail. The fault is looked for when it
+/// isn't told.
+void leave_out(frmMain & main, const std::string & path);
+void leave_out(frmMain & main, const std::string & path, photo_fault fault);
+
+/// True for a photo of the table that was left out of this run.
+bool is_left_out(const frmMain & main, int index);
+
+/// True while the table has a photo that this run hasn't left out.
+bool has_usable_photo(const frmMain & main);
+
+/// Names those left out that haven't been named yet, in one box with the remedy; nothing when there are none.
+void tell_left_out(frmMain & main);
+
+/// "/photos/a.jpg: it isn't there any more", in one line.
+std::string line_of(const left_out_photo & photo);

@@ -1,0 +1,171 @@
+#include "engine/flurn_driver.h"
+#include "photos/thumbnails.h"
+#include "support/paths.h"
+#include "tests/engine/collage_fixture.h"
+#include "tests/small_files.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+// Photos that a run can't use, in each of the ways in which photos are placed.
+
+namespace {
+
+struct spoiled_run : collage_fixture {
+    spoiled_run() { use_template(quarters()); }
+
+    // So long that in a place of 1000 by 1500 it would be 120,000 pixels wide.
+    std::string add_strip()
+    {
+        add_path(home.write("photos/strip.jpg", flat_jpeg(16000, 200, {90}, adobe_mark::absent)));
+        return main.table[main.table.last_photo];
+    }
+    void use_grid()
+    {
+        main.design_record.style = "Fill";
+        use_template({"0:0:2:2:0:-1:-1:0:", "0:0:1500:1000:0:0:0:0:"});
+    }
+    std::string seen_run() { return sampled(full_run(), 500, 1000); }
+    void expect_too_long(const std::string & photo)
+    {
+        EXPECT_EQ(desk.next_message(), "This photo was left out:\r\n" + photo +
+                                           ": it is too long for its width\r\n\r\nCut what is too long in "
+                                           "two.\r\nThen choose your photos again.");
+    }
+};
+
+}  // namespace
+
+TEST(left_out_photos, a_strip_gives_its_place_to_the_next_photo)
+{
+    for (const bool captioned : {false, true})
+        for (const bool matched : {false, true}) {
+            spoiled_run run;
+            run.main.chkCaption.tick(captioned);
+            run.main.design_matches = matched;
+            run.main.chkMatch.tick(matched);
+            run.add_photo(red, 20, 30);
+            const std::string strip = run.add_strip();
+            for (const rgb_triple color : {green, blue, yellow})
+                run.add_photo(color, 20, 30);
+            const std::string between = captioned ? "ww" : "by";  // the cards' lower edges
+            EXPECT_EQ(run.seen_run(), "rg\n" + between + "\nby\n");
+            if (matched)
+                EXPECT_TRUE(run.main.left_out.photos.empty()) << "no place lies as the strip does";
+            else
+                run.expect_too_long(strip);
+            expect_usable(run.main);
+        }
+}
+
+TEST(left_out_photos, a_strip_gives_its_tilted_place_to_the_next_photo)
+{
+    spoiled_run run;
+    run.use_template({"800:500:1000:800:10:0:0:0:"});
+    run.home.write("install/rotate.ini", "");
+    const std::string strip = run.add_strip();
+    run.add_photo(green);
+    run.full_run();
+    run.expect_too_long(strip);
+    EXPECT_TRUE(run.main.left_out.in_this_run.contains(strip));
+    EXPECT_FALSE(run.main.left_out.in_this_run.contains(photo_path(run.main.table[1])));
+}
+
+TEST(left_out_photos, a_strip_gives_its_cell_to_the_next_photo)
+{
+    spoiled_run run;
+    run.use_grid();
+    run.add_photo(red);
+    const std::string strip = run.add_strip();
+    for (const rgb_triple color : {green, blue, yellow})
+        run.add_photo(color);
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    EXPECT_EQ(run.seen_run(), "rg\nby\nby\n");
+    run.expect_too_long(strip);
+}
+
+TEST(left_out_photos, a_matched_grid_whose_only_fitting_photo_is_a_strip_goes_on_without_matching)
+{
+    spoiled_run run;
+    run.use_grid();
+    run.main.chkMatch.tick(true);
+    run.add_path(run.home.write("photos/strip.jpg", flat_jpeg(200, 16000, {90}, adobe_mark::absent)));
+    const std::string strip = run.main.table[0];
+    run.add_photo(red, 30, 20);
+    run.add_photo(blue, 30, 20);
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    EXPECT_EQ(run.seen_run(), "rb\nrb\nrb\n");
+    EXPECT_EQ(run.desk.next_message(), "You don't have any photos that match this design.");
+    run.expect_too_long(strip);
+}
+
+TEST(left_out_photos, a_matched_grid_goes_on_when_its_only_fitting_photo_vanishes)
+{
+    spoiled_run run;
+    run.use_grid();
+    run.main.chkMatch.tick(true);
+    run.add_photo(red);
+    run.add_photo(blue, 30, 20);
+    const std::string gone = run.main.table[0];
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    run.desk.on_pump(3, [&] { std::filesystem::remove(gone); });
+    EXPECT_EQ(run.seen_run().substr(0, 1), "r");
+    EXPECT_EQ(run.desk.next_message(), "You don't have any photos that match this design.");
+    EXPECT_TRUE(run.desk.next_message().starts_with("This photo was left out:\r\n" + gone));
+}
+
+TEST(left_out_photos, without_a_photo_that_can_be_used_every_style_comes_to_its_end)
+{
+    for (const char * style : {"Place", "Fill"})
+        for (const bool matched : {false, true})
+            for (const bool both : {false, true}) {
+                spoiled_run run;
+                if (style == std::string("Fill"))
+                    run.use_grid();
+                run.main.chkMatch.tick(matched);
+                run.main.design_matches = matched;
+                run.main.matrix_both = both;
+                run.add_strip();
+                run.add_path(run.home.write("photos/text.jpg", "no picture"));
+                run.add_path(
+                    run.home.write("photos/huge.jpg", flat_jpeg(32768, 8, {90}, adobe_mark::absent)));
+                run.add_path(run.home.at("photos/gone.jpg"));
+                run.main.table.reshuffle_choice = photo_table::reshuffle::yes;
+                EXPECT_EQ(run.seen_run(), "..\n..\n..\n");
+                run.desk.keeps_messages = true;
+                EXPECT_TRUE(run.desk.messages.back().starts_with("None of your photos can be used:\r\n"));
+                EXPECT_EQ(run.main.left_out.photos.size(), 4U);
+                expect_usable(run.main);
+            }
+}
+
+TEST(left_out_photos, are_named_by_the_first_preview_and_not_again)
+{
+    spoiled_run run;
+    run.add_photo(red);
+    const std::string text = run.home.write("photos/text.jpg", "no picture");
+    run.add_path(text);
+    run.add_photo(green);
+    run.use_thumbnails();
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    gen_sample(run.main);
+    EXPECT_EQ(run.desk.next_message(),
+              "This photo was left out:\r\n" + text +
+                  ": it can't be read as a JPEG photo\r\n\r\nSave what can't be read as JPEG again, with at "
+                  "most 32767 pixels a side.\r\nThen choose your photos again.");
+    gen_sample(run.main);
+    EXPECT_EQ(run.seen_run(), "rg\nrg\nrg\n");
+    EXPECT_TRUE(run.desk.messages.empty());
+}
+
+TEST(left_out_photos, one_that_can_be_read_again_takes_part_in_the_next_run)
+{
+    spoiled_run run;
+    run.add_photo(red);
+    run.add_path(run.home.write("photos/b.jpg", "no picture"));
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    EXPECT_EQ(run.seen_run(), "rr\nrr\nrr\n");
+    EXPECT_TRUE(run.desk.next_message().starts_with("This photo was left out:\r\n"));
+    run.picture("photos/b.jpg", blue, 20, 30);
+    EXPECT_EQ(run.seen_run(), "rb\nrb\nrb\n");
+}
