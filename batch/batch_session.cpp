@@ -10,6 +10,7 @@
 #include "engine/flurn_driver.h"
 #include "engine/flurn_file.h"
 #include "engine/run_steps.h"
+#include "photos/left_out.h"
 #include "photos/photo_list.h"
 #include "quick/quick_controls.h"
 #include "quick/quick_match.h"
@@ -117,7 +118,9 @@ bool is_whole(const open_session & running)
     if (running.desk.told_of_an_error())
         return false;
     const std::string missing = missing_picture(main);
-    if (main.run.image_number <= 1)
+    if (!has_usable_photo(main))
+        std::fprintf(stderr, "None of the photos could be used.\n");
+    else if (main.run.image_number <= 1)
         std::fprintf(stderr,
                      "None of the photos found a place: the template of this design is missing or empty.\n");
     else if (!missing.empty())
@@ -209,6 +212,7 @@ open_session::open_session(const batch_arguments & arguments, const batch_folder
     share_data_folder(all.main, folders.data, scratch.path());
     connect_all(all);
     all.main.load();
+    all.main.left_out.told_by = left_out_photos::teller::caller;
     desk.progress = [this] { return all.main.txtDoing.text(); };
 }
 
@@ -222,16 +226,17 @@ void check_against(frmMain & main, const batch_arguments & arguments)
 exit_status make_collage(open_session & running, const batch_arguments & arguments)
 {
     check_against(running.all.main, arguments);
-    const auto keep = [&] {
+    const auto look_back = [&] {
+        name_left_out(running.all.main);
         if (!arguments.keep.empty())
             keep_work_files(running.all.main, arguments.keep);
     };
     try {
         const exit_status status = make(running, arguments);
-        keep();
+        look_back();
         return status;
     } catch (const platform_error &) {
-        keep();
+        look_back();
         throw;
     }
 }
