@@ -1,5 +1,7 @@
 #include "batch/arguments.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <functional>
 #include <map>
@@ -11,15 +13,21 @@ constexpr int smallest_size = 16;
 constexpr int largest_size = 12000;  // four times the full size
 
 using words = std::span<const std::string>;
+using value_reader =
+    std::function<void(batch_arguments &, const std::string & name, const std::string & value)>;
+using switch_reader = std::function<void(batch_arguments &)>;
 
-// What an option does with the words behind it; gives how many of them it took.
-using option_reader = std::function<std::size_t(batch_arguments &, const std::string & name, words rest)>;
+// An option as the command line and a job list have it.
+struct option {
+    value_reader take;      // empty for a switch
+    switch_reader turn_on;  // empty for one with a value
+    enum class home { anywhere, command_line } at = home::anywhere;
+};
 
-const std::string & value_of(const std::string & name, words rest)
+void refuse_empty(const std::string & name, const std::string & value)
 {
-    if (rest.empty())
-        throw bad_arguments{name + " needs a value"};
-    return rest.front();
+    if (value.empty())
+        throw bad_arguments{name + " needs a value that isn't empty"};
 }
 
 template <typename Number>
@@ -33,124 +41,215 @@ Number whole_number(const std::string & name, const std::string & text, Number l
     return number;
 }
 
-std::size_t read_photos(batch_arguments & read, const std::string & name, words rest)
+std::string one_of(const std::string & name, const std::string & value, words choices)
 {
-    value_of(name, rest);
-    std::size_t taken = 0;
-    while (taken < rest.size() && !rest[taken].starts_with("--"))
-        read.photos.push_back(rest[taken++]);
-    if (taken == 0)
-        throw bad_arguments{name + " needs a folder, a list or files"};
-    return taken;
+    if (std::ranges::find(choices, value) != choices.end())
+        return value;
+    std::string told = choices.front();
+    for (std::size_t i = 1; i < choices.size(); ++i)
+        told += (i + 1 == choices.size() ? " or " : ", ") + choices[i];
+    throw bad_arguments{name + " is " + told + ", not \"" + value + "\""};
 }
 
-std::size_t read_setting(batch_arguments & read, const std::string & name, words rest)
+void read_setting(batch_arguments & read, const std::string & name, const std::string & text)
 {
-    const std::string & text = value_of(name, rest);
     const std::size_t sign = text.find('=');
     if (sign == std::string::npos || sign == 0)
         throw bad_arguments{name + " takes CONTROL=VALUE, not \"" + text + "\""};
     read.settings.emplace_back(text.substr(0, sign), text.substr(sign + 1));
-    return 1;
 }
 
-std::size_t read_orientation(batch_arguments & read, const std::string & name, words rest)
+option text_into(std::string batch_arguments::*member)
 {
-    read.orientation = value_of(name, rest);
-    if (read.orientation != "portrait" && read.orientation != "landscape" && read.orientation != "square")
-        throw bad_arguments{name + " is portrait, landscape or square, not \"" + read.orientation + "\""};
-    return 1;
+    return {.take =
+                [member](batch_arguments & read, const std::string & name, const std::string & value) {
+                    refuse_empty(name, value);
+                    read.*member = value;
+                },
+            .turn_on = {}};
 }
 
-std::size_t read_quick(batch_arguments & read, const std::string & name, words rest)
+option choice_into(std::string batch_arguments::*member, std::vector<std::string> choices)
 {
-    read.quick = value_of(name, rest);
-    for (const char * style : {"block", "scattered", "matrix", "shapes"})
-        if (read.quick == style)
-            return 1;
-    throw bad_arguments{name + " is block, scattered, matrix or shapes, not \"" + read.quick + "\""};
+    return {.take = [member, choices = std::move(choices)](
+                        batch_arguments & read, const std::string & name,
+                        const std::string & value) { read.*member = one_of(name, value, choices); },
+            .turn_on = {}};
 }
 
-std::size_t read_answer(batch_arguments & read, const std::string & name, words rest)
+option valued(value_reader take)
 {
-    const std::string & text = value_of(name, rest);
-    if (text != "yes" && text != "no")
-        throw bad_arguments{name + " is yes or no, not \"" + text + "\""};
-    read.answers_yes = text == "yes";
-    return 1;
+    return {.take = std::move(take), .turn_on = {}};
 }
 
-option_reader text_into(std::string batch_arguments::*member)
+option switched(bool batch_arguments::*member)
 {
-    return [member](batch_arguments & read, const std::string & name, words rest) -> std::size_t {
-        read.*member = value_of(name, rest);
-        return 1;
-    };
+    return {.take = {}, .turn_on = [member](batch_arguments & read) { read.*member = true; }};
 }
 
-option_reader text_into(std::optional<std::string> batch_arguments::*member)
+option task_of(batch_arguments::task wanted)
 {
-    return [member](batch_arguments & read, const std::string & name, words rest) -> std::size_t {
-        read.*member = value_of(name, rest);
-        return 1;
-    };
+    return {.take = {},
+            .turn_on = [wanted](batch_arguments & read) { read.wanted = wanted; },
+            .at = option::home::command_line};
 }
 
-option_reader task_of(batch_arguments::task wanted)
+option on_the_command_line(option given)
 {
-    return [wanted](batch_arguments & read, const std::string &, words) -> std::size_t {
-        read.wanted = wanted;
-        return 0;
-    };
+    given.at = option::home::command_line;
+    return given;
 }
 
-std::size_t read_size(batch_arguments & read, const std::string & name, words rest)
+void read_photos(batch_arguments & read, const std::string & name, const std::string & value)
 {
-    read.size = whole_number(name, value_of(name, rest), smallest_size, largest_size);
-    return 1;
+    refuse_empty(name, value);
+    read.photos.push_back(value);
 }
 
-std::size_t read_seed(batch_arguments & read, const std::string & name, words rest)
+void read_caption(batch_arguments & read, const std::string &, const std::string & value)
 {
-    read.seed = whole_number(name, value_of(name, rest), 0ULL, ~0ULL);
-    return 1;
+    read.caption = value;
 }
 
-std::size_t read_preview(batch_arguments & read, const std::string &, words)
+void read_size(batch_arguments & read, const std::string & name, const std::string & value)
 {
-    read.preview = true;
-    return 0;
+    read.size = whole_number(name, value, smallest_size, largest_size);
 }
 
-const std::map<std::string, option_reader> & readers()
+void read_seed(batch_arguments & read, const std::string & name, const std::string & value)
 {
-    static const std::map<std::string, option_reader> table = {
-        {"--photos", read_photos},
+    read.seed = whole_number(name, value, 0ULL, ~0ULL);
+}
+
+void read_data(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    refuse_empty(name, value);
+    read.data_folder = value;
+}
+
+void read_answer(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    read.answers_yes = one_of(name, value, std::array<std::string, 2>{"yes", "no"}) == "yes";
+}
+
+void read_jobs(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    refuse_empty(name, value);
+    read.wanted = batch_arguments::task::jobs;
+    read.jobs = value;
+}
+
+const std::map<std::string, option> & options()
+{
+    using task = batch_arguments::task;
+    static const std::map<std::string, option> table = {
+        {"--photos", valued(read_photos)},
         {"--design", text_into(&batch_arguments::design)},
         {"--frames", text_into(&batch_arguments::frames)},
-        {"--quick", read_quick},
-        {"--orientation", read_orientation},
-        {"--set", read_setting},
-        {"--caption", text_into(&batch_arguments::caption)},
-        {"--size", read_size},
-        {"--random", read_seed},
-        {"--data", text_into(&batch_arguments::data_folder)},
-        {"--preview", read_preview},
-        {"--answer", read_answer},
+        {"--quick", choice_into(&batch_arguments::quick, {"block", "scattered", "matrix", "shapes"})},
+        {"--orientation", choice_into(&batch_arguments::orientation, {"portrait", "landscape", "square"})},
+        {"--set", valued(read_setting)},
+        {"--caption", valued(read_caption)},
+        {"--size", valued(read_size)},
+        {"--random", valued(read_seed)},
+        {"--answer", valued(read_answer)},
         {"--out", text_into(&batch_arguments::out)},
-        {"--list", task_of(batch_arguments::task::list)},
-        {"--dump", task_of(batch_arguments::task::dump)},
-        {"--help", task_of(batch_arguments::task::help)},
-        {"--version", task_of(batch_arguments::task::version)},
+        {"--keep", on_the_command_line(text_into(&batch_arguments::keep))},
+        {"--data", on_the_command_line(valued(read_data))},
+        {"--jobs", on_the_command_line(valued(read_jobs))},
+        {"--preview", on_the_command_line(switched(&batch_arguments::preview))},
+        {"--again", on_the_command_line(switched(&batch_arguments::again))},
+        {"--list", task_of(task::list)},
+        {"--dump", task_of(task::dump)},
+        {"--help", task_of(task::help)},
+        {"-h", task_of(task::help)},
+        {"--version", task_of(task::version)},
     };
     return table;
+}
+
+bool begins_an_option(const std::string & word)
+{
+    return word.starts_with("--") || word == "-h";
+}
+
+// Takes the values behind the option's name: photos take all there are, the others one.
+words take_values(batch_arguments & read, const std::string & name, const option & given, words rest)
+{
+    if (rest.empty())
+        throw bad_arguments{name + " needs a value"};
+    if (name == "--photos" && begins_an_option(rest.front()))
+        throw bad_arguments{name + " needs a folder, a list or files"};
+    do {
+        given.take(read, name, rest.front());
+        rest = rest.subspan(1);
+    } while (name == "--photos" && !rest.empty() && !begins_an_option(rest.front()));
+    return rest;
+}
+
+words take_option(batch_arguments & read, words rest)
+{
+    const std::string & word = rest.front();
+    const std::size_t sign = word.starts_with("--") ? word.find('=') : std::string::npos;
+    const std::string name = word.substr(0, sign);
+    const auto found = options().find(name);
+    if (found == options().end())
+        throw bad_arguments{"\"" + word + "\" is not known; --help shows what is"};
+    const option & given = found->second;
+    rest = rest.subspan(1);
+    if (sign == std::string::npos && given.take)
+        return take_values(read, name, given, rest);
+    if (sign != std::string::npos && !given.take)
+        throw bad_arguments{name + " takes no value"};
+    if (given.take)
+        given.take(read, name, word.substr(sign + 1));
+    else
+        given.turn_on(read);
+    return rest;
+}
+
+std::string columns_of_a_job_list()
+{
+    std::string names;
+    for (const auto & [name, each] : options())
+        if (each.at == option::home::anywhere)
+            names += (names.empty() ? "" : ", ") + name.substr(2);
+    return names;
+}
+
+}  // namespace
+
+batch_arguments parse_arguments(const std::vector<std::string> & given)
+{
+    batch_arguments read;
+    for (words rest(given); !rest.empty();)
+        rest = take_option(read, rest);
+    using task = batch_arguments::task;
+    if (read.wanted == task::make || read.wanted == task::dump)
+        check_complete(read);
+    if (read.wanted == task::jobs && !read.out.empty())
+        throw bad_arguments{"--out belongs to each job of the list, not beside --jobs"};
+    return read;
+}
+
+void check_job_column(const std::string & name)
+{
+    const auto found = options().find("--" + name);
+    if (found == options().end() || found->second.at != option::home::anywhere)
+        throw bad_arguments{"there is no column \"" + name + "\"; the columns are " +
+                            columns_of_a_job_list()};
+}
+
+void read_job_option(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    check_job_column(name);
+    const std::string option_name = "--" + name;
+    options().at(option_name).take(read, option_name, value);
 }
 
 void check_complete(const batch_arguments & read)
 {
     using task = batch_arguments::task;
-    if (read.wanted != task::make && read.wanted != task::dump)
-        return;
     if (read.design.empty() && read.quick.empty())
         throw bad_arguments{"--design or --quick is missing; --list shows the designs"};
     if (!read.design.empty() && !read.quick.empty())
@@ -160,56 +259,6 @@ void check_complete(const batch_arguments & read)
         throw bad_arguments{"--photos is missing"};
     if (read.out.empty() && read.wanted == task::make)
         throw bad_arguments{"--out is missing"};
-}
-
-}  // namespace
-
-batch_arguments parse_arguments(const std::vector<std::string> & arguments)
-{
-    batch_arguments read;
-    words rest(arguments);
-    while (!rest.empty()) {
-        const std::string & name = rest.front();
-        const auto found = readers().find(name);
-        if (found == readers().end())
-            throw bad_arguments{"\"" + name + "\" is not known; --help shows what is"};
-        rest = rest.subspan(1);
-        rest = rest.subspan(found->second(read, name, rest));
-    }
-    check_complete(read);
-    return read;
-}
-
-std::string usage()
-{
-    return R"(tessaloom-batch: makes a collage without a window
-
-  tessaloom-batch --photos DIR|LIST.pls|FILE... --design NAME --out FILE [options]
-  tessaloom-batch --photos DIR|LIST.pls|FILE... --quick STYLE --out FILE [options]
-
-  --photos DIR|LIST.pls|FILE...   a folder of JPEG files, a photo list, or the photos themselves
-  --design NAME                   a design of the catalogue, as --list names it
-  --frames SET                    the set of custom frames for a design that wears one
-  --quick block|scattered|matrix|shapes
-                                  a layout made for these photos, three or more, instead of a design; the shape is
-                                  set by --set cmbShapes=Stars
-  --out FILE                      where the JPEG goes; a file that is there is replaced
-  --orientation portrait|landscape|square
-                                  shape of the poster; without it the one the design was drawn for, and
-                                  portrait for a quick style
-  --set CONTROL=VALUE             changes a control of the main window as a user would; may be repeated
-  --caption TEXT                  text printed on the collage
-  --size LONG_SIDE                long side in pixels, 16 to 12000; without it full size
-  --random SEED                   repeats the same chance for the same whole number
-  --data DIR                      folder of the user's data, made and filled on first use
-  --preview                       makes the small preview instead of the full size
-  --answer yes|no                 answer to questions; no by default
-
-  --list                          prints the designs: section, name, family, count, tab-separated
-  --dump                          prints every control of the main window once the design is applied: name, visible,
-                                  enabled, value or text, tag, tab-separated; makes nothing without --out
-  --help, --version
-
-Messages go to standard error, one line each. Exit status: 0 made, 1 not made, 2 bad arguments.
-)";
+    if (read.out == standard_stream && read.wanted == task::dump)
+        throw bad_arguments{"--dump prints to standard output, so --out has to name a file"};
 }

@@ -7,9 +7,9 @@
 
 /// What the command line of the batch program asks for.
 struct batch_arguments {
-    enum class task { make, list, dump, help, version };
+    enum class task { make, list, dump, help, version, jobs };
     task wanted = task::make;
-    std::vector<std::string> photos;  ///< one folder, one list, or files
+    std::vector<std::string> photos;  ///< folders, lists and files, in the order given
     std::string design;
     std::string frames;       ///< the frame set that a frame design wears
     std::string quick;        ///< style instead of a design: "block", "scattered", "matrix", "shapes"
@@ -21,7 +21,10 @@ struct batch_arguments {
     std::optional<std::string> data_folder;
     bool preview = false;
     bool answers_yes = false;
-    std::string out;
+    std::string out;     ///< "-": standard output
+    std::string keep;    ///< folder that the work files are left in; empty: none
+    std::string jobs;    ///< job list, "-": standard input
+    bool again = false;  ///< makes the jobs too whose collage is there
 };
 
 /// A command line that can't be followed; `what` says why, in one line.
@@ -29,8 +32,20 @@ struct bad_arguments {
     std::string what;
 };
 
-/// Reads the arguments behind the program's name. Throws bad_arguments.
-batch_arguments parse_arguments(const std::vector<std::string> & arguments);
+/// The name that stands for standard output and standard input.
+inline constexpr const char * standard_stream = "-";
+
+/// Reads the arguments behind the program's name: "--opt value" or "--opt=value". Throws bad_arguments.
+batch_arguments parse_arguments(const std::vector<std::string> & words);
+
+/// Throws bad_arguments for an option that has no place in a job list. It is named without its dashes.
+void check_job_column(const std::string & name);
+
+/// Reads the value of such an option. Throws bad_arguments.
+void read_job_option(batch_arguments & read, const std::string & name, const std::string & value);
+
+/// Throws bad_arguments when something is missing to make the collage that is asked for.
+void check_complete(const batch_arguments & read);
 
 /// The text of --help.
 std::string usage();

@@ -3,7 +3,15 @@
 #include "desktop/text_drawing.h"
 
 #include <cstdio>
+#include <string_view>
 #include <unistd.h>
+
+namespace {
+
+// The box in which a run and the reader of templates tell what they could not do.
+constexpr std::string_view words_of_an_error = "CAUGHT AN ERROR";
+
+}  // namespace
 
 std::string in_one_line(const std::string & text)
 {
@@ -23,6 +31,8 @@ std::string in_one_line(const std::string & text)
 void batch_desktop::message(const std::string & text, const std::string &)
 {
     ++messages;
+    if (text.find(words_of_an_error) != std::string::npos)
+        ++errors;
     clear_progress();
     std::fprintf(stderr, "%s\n", in_one_line(text).c_str());
 }

@@ -18,6 +18,9 @@ public:
     std::function<std::string()> progress;
     /// True once a message was shown.
     bool complained() const { return messages > 0; }
+    /// True once a message told of a step that had failed.
+    bool told_of_an_error() const { return errors > 0; }
+    void forget_errors() { errors = 0; }
 
     void message(const std::string & text, const std::string & title) override;
     answer ask(const question & asked) override;
@@ -42,7 +45,7 @@ private:
     void clear_progress();
 
     answer always;
-    int messages = 0;
+    int messages = 0, errors = 0;
     std::string shown_progress;
 };
 

@@ -16,6 +16,14 @@ struct batch_folders {
 };
 
 /// Runs a whole session without a window: start-up, photos, design, settings, collage. Prints what was asked
-/// for to standard output and every complaint to standard error. Throws bad_arguments for a design, a control
-/// or a value that doesn't exist, and end_of_program when start-up is blocked; raises what start-up raises.
+/// for to standard output and every complaint to standard error. `made` means that at least one of the photos
+/// is on the collage and that its design was read to the end. Throws bad_arguments for a design, a control, a
+/// value or an output that doesn't exist or can't be used, before it begins, and end_of_program when start-up
+/// is blocked; raises what start-up raises, and 53 without a usable photo.
 exit_status run_batch(const batch_arguments & arguments, const batch_folders & folders);
+
+/// Works off the job list that `arguments` name, each job in a session of its own; tells each in a line on
+/// standard error and goes on after one that isn't made. A job whose collage is there is done and passed
+/// over. Throws bad_arguments, which names the line, before the first job is begun; raises 53, 70, 75 for a
+/// list that can't be read.
+exit_status run_jobs(const batch_arguments & arguments, const batch_folders & folders);

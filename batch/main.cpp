@@ -7,7 +7,11 @@
 
 #include <QGuiApplication>
 
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -26,7 +30,8 @@ exit_status run(const std::vector<std::string> & words)
         .install_folder = program_folder(), .data = data_folder_choice(), .scratch = scratch_place()};
     if (arguments.data_folder)
         folders.data = {.use_public_folder = true, .public_folder = absolute_path(*arguments.data_folder)};
-    return run_batch(arguments, folders);
+    return arguments.wanted == batch_arguments::task::jobs ? run_jobs(arguments, folders)
+                                                           : run_batch(arguments, folders);
 }
 
 int complain(exit_status status, const std::string & text)
@@ -35,21 +40,51 @@ int complain(exit_status status, const std::string & text)
     return static_cast<int>(status);
 }
 
+// A stream that the caller has closed must not come back as a file of the session's: what is written there
+// fails.
+void hold_standard_streams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(stream, F_GETFD) == -1)
+            ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
+// Text is drawn without a display, the same wherever the program is started: what a desktop exports for its
+// windows has no say here.
+void leave_the_desktop()
+{
+    for (const char * name :
+         {"QT_QPA_PLATFORM_PLUGIN_PATH", "QT_QPA_PLATFORMTHEME", "QT_QPA_GENERIC_PLUGINS", "QT_QPA_FONTDIR",
+          "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_SCALE_FACTOR_ROUNDING_POLICY",
+          "QT_ENABLE_HIGHDPI_SCALING", "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_USE_PHYSICAL_DPI", "QT_FONT_DPI"})
+        qunsetenv(name);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+// Numbers and lists are printed, not shown: a reader that has gone and a full disk are told.
+exit_status with_output_told(exit_status status)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return status;
+    throw from_system(errno, "standard output");
+}
+
 }  // namespace
 
 int main(int count, char ** words)
 {
+    hold_standard_streams();
     remove_scratch_folders_on_signals();
     // What the toolkit has to say of its surroundings is of no use here: standard error holds the session's
     // messages.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    // Fonts and text need the toolkit, a display doesn't have to be there.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A reader of standard output that has gone is an error like any other, not the end.
+    std::signal(SIGPIPE, SIG_IGN);
+    leave_the_desktop();
     int no_arguments = 1;
     const QGuiApplication application(no_arguments, words);
     try {
-        return static_cast<int>(run({words + 1, words + count}));
+        return static_cast<int>(with_output_told(run({words + 1, words + count})));
     } catch (const bad_arguments & fault) {
         return complain(exit_status::bad_arguments, fault.what);
     } catch (const end_of_program & ended) {

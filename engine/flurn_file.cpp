@@ -16,12 +16,16 @@ picture_size saved_size(picture_size own, int save_size)
             .height = std::max(1, nearest(own.height * ratio))};
 }
 
-void save_flurn(const bitmap & image, int save_size, const std::string & path)
+std::string flurn_bytes(const bitmap & image, int save_size)
 {
     const picture_size own{.width = image.width(), .height = image.height()};
     const picture_size wanted = saved_size(own, save_size);
     if (wanted.width == own.width && wanted.height == own.height)
-        replace_file(path, jpeg_bytes(image));
-    else
-        replace_file(path, jpeg_bytes(rescaled(image, wanted.width, wanted.height)));
+        return jpeg_bytes(image);
+    return jpeg_bytes(rescaled(image, wanted.width, wanted.height));
+}
+
+void save_flurn(const bitmap & image, int save_size, const std::string & path)
+{
+    replace_file(path, flurn_bytes(image, save_size));
 }

@@ -11,6 +11,9 @@ inline constexpr int full_long_side = 3000;
 /// to nearest, ties to even.
 picture_size saved_size(picture_size own, int save_size);
 
+/// The picture in that size, as the bytes of a JPEG.
+std::string flurn_bytes(const bitmap & image, int save_size);
+
 /// Writes the picture as JPEG with a long side of `save_size` pixels, whole or not at all. Raises 61, 70, 75,
 /// 76; the file that was there then stands as it was.
 void save_flurn(const bitmap & image, int save_size, const std::string & path);

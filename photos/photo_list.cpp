@@ -1,6 +1,7 @@
 #include "photos/photo_list.h"
 
 #include "photos/left_out.h"
+#include "photos/name_order.h"
 #include "photos/photo_orientation.h"
 #include "photos/photo_shuffle.h"
 #include "photos/pls_line.h"
@@ -9,11 +10,10 @@
 #include "support/paths.h"
 #include "support/text_file.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
-
-constexpr int folder_limit = 499;
 
 const file_request images_to_select{
     .title = "Image file",
@@ -85,16 +85,21 @@ void get_photos(frmMain & main)
     main.table.last_photo = narrow(taken - 1);
 }
 
+std::vector<std::string> photos_in(const std::string & folder)
+{
+    std::vector<std::string> photos;
+    for (const std::string & name : in_name_order(files_in(folder)))
+        if (lower_case(name).ends_with(".jpg"))
+            photos.push_back(folder + path_separator + name);
+    return photos;
+}
+
 void photos_of_folder(frmMain & main, const std::string & folder)
 {
-    int taken = 0;
-    for (const std::string & name : files_in(folder)) {
-        if (taken == folder_limit)
-            break;
-        if (lower_case(name).ends_with(".jpg"))
-            main.table[taken++] = folder + path_separator + name;
-    }
-    main.table.last_photo = narrow(taken - 1);
+    std::vector<std::string> photos = photos_in(folder);
+    photos.resize(std::min(photos.size(), folder_limit));
+    std::ranges::move(photos, main.table.photos.begin());
+    main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
 }
 
 std::string get_photo_folder(frmMain & main)
@@ -181,6 +186,7 @@ void remove_photo(frmMain & main, int index)
 
 void count_photos(frmMain & main)
 {
+    clear_thumbnail_places(main);
     orientation_counts counts;
     for (int index = 0; index <= main.table.last_photo;) {
         show_progress(main, index);

@@ -11,8 +11,15 @@
 /// list that isn't there leaves `last_photo` at 0 and entry 0 as it is. Raises 70, 75.
 void get_photos(frmMain & main);
 
-/// Fills the table with the ".jpg" files of a folder, 499 at most, in the file system's order. `last_photo`
-/// is -1 for a folder without any. Raises 70, 76.
+/// The ".jpg" files of a folder, in either case of the letters, with their paths and in the order of their
+/// names. Raises 70, 76.
+std::vector<std::string> photos_in(const std::string & folder);
+
+/// Most photos that are taken from a folder.
+inline constexpr std::size_t folder_limit = 499;
+
+/// Fills the table with the ".jpg" files of a folder, the first 499 at most. `last_photo` is -1 for a folder
+/// without any. Raises 70, 76.
 void photos_of_folder(frmMain & main, const std::string & folder);
 
 /// Lets the user choose a folder and fills the table from it. A cancel leaves `last_photo` at

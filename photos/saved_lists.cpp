@@ -1,6 +1,7 @@
 #include "photos/saved_lists.h"
 
 #include "photos/list_name.h"
+#include "photos/name_order.h"
 #include "session/windows.h"
 #include "support/paths.h"
 
@@ -8,7 +9,7 @@ void start_photo_list(frmMain & main)
 {
     std::vector<std::string> names;
     const std::string folder = joined(main.data_folder, "piclists");
-    for (const std::string & file : folder_exists(folder) ? files_in(folder) : names)
+    for (const std::string & file : folder_exists(folder) ? in_name_order(files_in(folder)) : names)
         if (is_saved_list(file))
             names.push_back(list_name(file));
     main.all->picture_list.lstPictures.set_items(std::move(names));

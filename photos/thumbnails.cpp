@@ -3,6 +3,9 @@
 #include "support/beside.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
+#include "support/text_file.h"
+
+#include <set>
 
 namespace {
 
@@ -67,6 +70,15 @@ std::string chk_sample_thumb(frmMain & main, const std::string & photo)
     if (!has_place(thumbnail))
         return photo;
     return beside(main.desk, [&] { return made_thumbnail(photo, thumbnail); });
+}
+
+void clear_thumbnail_places(const frmMain & main)
+{
+    std::set<std::string> places;
+    for (int i = 0; i <= main.table.last_photo; ++i)
+        places.insert(folder_of(thumbnail_path(photo_path(main.table[i]))));
+    for (const std::string & place : places)
+        remove_abandoned_parts(place);
 }
 
 void photos_from_thumbnails(frmMain & main)

@@ -12,6 +12,10 @@
 /// photo doesn't exist. Where that place can't be written it is the photo itself.
 std::string chk_sample_thumb(frmMain & main, const std::string & photo);
 
+/// Clears the places of the table's thumbnails of what killed programs left half written there. Raises
+/// nothing.
+void clear_thumbnail_places(const frmMain & main);
+
 /// Turns every entry of the table that is a thumbnail back into its photo.
 void photos_from_thumbnails(frmMain & main);
 

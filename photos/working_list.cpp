@@ -1,7 +1,9 @@
 #include "photos/working_list.h"
 
 #include "photos/photo_list.h"
-#include "support/paths.h"
+#include "support/numbers.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -14,15 +16,10 @@ void folder_of_photos(frmMain & main)
     const std::optional<std::string> folder = main.desk.choose_folder("Select a folder and click OK");
     if (!folder || folder->empty())
         return;
-    int16 selected = main.selected_count;
-    std::vector<std::string> photos;
-    for (const std::string & name : files_in(*folder)) {
-        if (!lower_case(name).ends_with(".jpg"))
-            continue;
-        photos.push_back(*folder + path_separator + name);
-        if (++selected > most_photos)
-            break;
-    }
+    const int room = std::max(1, most_photos + 1 - main.selected_count);
+    std::vector<std::string> photos = photos_in(*folder);
+    photos.resize(std::min(photos.size(), static_cast<std::size_t>(room)));
+    const int16 selected = narrow(main.selected_count + static_cast<long>(photos.size()));
     if (!photos.empty())
         append_photos(main.working_list_path, photos);
     main.selected_count = selected;

@@ -1,5 +1,6 @@
 #include "desktop/guarded.h"
 #include "desktop/looks.h"
+#include "desktop/missing_display.h"
 #include "desktop/open_window.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_desktop.h"
@@ -66,7 +67,9 @@ int run(qt_desktop & desk)
 int main(int, char ** words)
 {
     int only_the_name = 1;  // the program reads no command line, nor lets the toolkit read one
+    expect_display();
     QApplication application(only_the_name, words);
+    display_found();
     QApplication::setApplicationName(QStringLiteral("tessaloom"));
     QApplication::setQuitOnLastWindowClosed(false);
     apply_looks(application);

@@ -8,9 +8,13 @@
 #include <atomic>
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <optional>
+#include <regex>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -80,6 +84,8 @@ public:
         if (::fsync(number) != 0 && errno != EINVAL && errno != EROFS)
             throw from_system(errno, name);
     }
+    // As long as it is open, remove_abandoned_parts leaves the file alone.
+    void keep_from_others() const { ::flock(number, LOCK_EX | LOCK_NB); }
     void give_mode(mode_t mode) const { ::fchmod(number, mode); }
     // Some file systems tell only now that a disk is full.
     void close()
@@ -109,6 +115,7 @@ std::optional<mode_t> rights_of(const std::string & path)
 
 constexpr std::size_t longest_name = 255;  // of a file, in bytes, on the usual file systems
 constexpr int hexadecimal = 16;
+constexpr std::chrono::minutes youngest_abandoned{1};
 
 std::string in_hexadecimal(unsigned long number)
 {
@@ -128,10 +135,32 @@ std::string path_beside(const std::string & path)
     return path.substr(0, name) + path.substr(name, longest_name - own.size()) + own;
 }
 
+// A name that path_beside gives.
+bool is_part_of_ours(const std::string & name)
+{
+    static const std::regex form(".+\\.[0-9a-f]+-[0-9a-f]+\\.part");
+    return name.ends_with(part_ending) && std::regex_match(name, form);
+}
+
+// Old, so that nobody has only just made it, and open in no program.
+bool is_abandoned(const std::filesystem::directory_entry & entry)
+{
+    std::error_code failed;
+    const auto age = std::filesystem::file_time_type::clock::now() - entry.last_write_time(failed);
+    if (failed || age < youngest_abandoned)
+        return false;
+    const int number = ::open(entry.path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    const bool is_free = number >= 0 && ::flock(number, LOCK_EX | LOCK_NB) == 0;
+    if (number >= 0)
+        ::close(number);
+    return is_free;
+}
+
 void write_whole(const std::string & path, std::string_view bytes, durability wanted,
                  std::optional<mode_t> rights)
 {
     descriptor file(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
+    file.keep_from_others();
     if (rights)
         file.give_mode(*rights);
     file.write_all(bytes);
@@ -239,6 +268,14 @@ std::string read_file(const std::string & path)
 {
     const descriptor file(path, O_RDONLY);
     return file.read_all();
+}
+
+void remove_abandoned_parts(const std::string & folder)
+{
+    std::error_code failed;
+    for (const auto & entry : std::filesystem::directory_iterator(folder, failed))
+        if (is_part_of_ours(entry.path().filename().string()) && is_abandoned(entry))
+            std::remove(entry.path().c_str());
 }
 
 void replace_file(const std::string & path, std::string_view bytes)

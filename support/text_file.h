@@ -58,6 +58,10 @@ std::string read_file(const std::string & path);
 /// is the other's name and something that no two writers share.
 inline constexpr std::string_view part_ending = ".part";
 
+/// Removes from a folder what programs that were killed left under construction there for more than a minute.
+/// Raises nothing: what can't be removed stays.
+void remove_abandoned_parts(const std::string & folder);
+
 /// Puts `bytes` at `path` in one step: written beside it, flushed to the disk and renamed over it, so that a
 /// crash at any instant leaves the old or the new file, whole. The rights of the old file are kept. Raises
 /// 61, 70 (for a write-protected file too), 75, 76; the old file then stands as it was and nothing is left

@@ -80,15 +80,70 @@ TEST(batch_arguments, what_is_missing_or_wrong_is_named)
         {{"--size", "99999"}, "--size takes a whole number from 16 to 12000, not \"99999\""},
         {{"--random", "-1"}, "--random takes a whole number from 0 to 18446744073709551615, not \"-1\""},
         {{"--answer", "maybe"}, "--answer is yes or no, not \"maybe\""},
+        {{"--preview=yes"}, "--preview takes no value"},
+        {{"-h=1"}, "\"-h=1\" is not known; --help shows what is"},
+        {{"--colour=red"}, "\"--colour=red\" is not known; --help shows what is"},
+        {{"--design", "W", "--dump", "--out", "-"},
+         "--dump prints to standard output, so --out has to name a file"},
+        {{"--jobs", "l.tsv", "--out", "o.jpg"}, "--out belongs to each job of the list, not beside --jobs"},
     };
     for (const row & each : rows)
         EXPECT_EQ(fault_of(each.arguments), each.fault);
 }
 
+TEST(batch_arguments, a_value_may_be_tied_to_its_option)
+{
+    const batch_arguments apart =
+        parse_arguments({"--photos", "a",        "b",     "--photos",      "c",         "--design", "W",
+                         "--frames", "s",        "--set", "x=y=z",         "--caption", "T=1",      "--size",
+                         "750",      "--random", "7",     "--orientation", "square",    "--data",   "d",
+                         "--answer", "yes",      "--out", "o.jpg",         "--keep",    "k"});
+    const batch_arguments tied =
+        parse_arguments({"--photos=a", "--photos=b", "--photos=c", "--design=W", "--frames=s", "--set=x=y=z",
+                         "--caption=T=1", "--size=750", "--random=7", "--orientation=square", "--data=d",
+                         "--answer=yes", "--out=o.jpg", "--keep=k"});
+    for (const batch_arguments & read : {apart, tied}) {
+        EXPECT_EQ(read.photos, (std::vector<std::string>{"a", "b", "c"}));
+        EXPECT_EQ(read.design, "W");
+        EXPECT_EQ(read.frames, "s");
+        EXPECT_EQ(read.settings.at(0), (std::pair<std::string, std::string>{"x", "y=z"}));
+        EXPECT_EQ(read.caption, "T=1");
+        EXPECT_EQ(read.size, 750);
+        EXPECT_EQ(read.seed, 7U);
+        EXPECT_EQ(read.orientation, "square");
+        EXPECT_EQ(read.data_folder, "d");
+        EXPECT_TRUE(read.answers_yes);
+        EXPECT_EQ(read.out, "o.jpg");
+        EXPECT_EQ(read.keep, "k");
+    }
+    EXPECT_EQ(parse_arguments({"--quick=block", "--photos=a", "--out=-"}).quick, "block");
+    EXPECT_EQ(parse_arguments({"--jobs=list.tsv"}).jobs, "list.tsv");
+}
+
+TEST(batch_arguments, help_has_a_short_name)
+{
+    EXPECT_EQ(parse_arguments({"-h"}).wanted, batch_arguments::task::help);
+    EXPECT_EQ(parse_arguments({"--photos", "a", "-h"}).wanted, batch_arguments::task::help);
+}
+
+TEST(batch_arguments, an_empty_value_is_refused_where_it_says_nothing)
+{
+    for (const char * option : {"--photos", "--design", "--frames", "--data", "--out", "--keep", "--jobs"}) {
+        const std::string fault = std::string(option) + " needs a value that isn't empty";
+        EXPECT_EQ(fault_of({option, ""}), fault);
+        EXPECT_EQ(fault_of({std::string(option) + "="}), fault);
+    }
+    EXPECT_EQ(fault_of({"--photos", "a", ""}), "--photos needs a value that isn't empty");
+    for (const char * option : {"--quick", "--orientation", "--size", "--random", "--answer", "--set"})
+        EXPECT_TRUE(fault_of({option, ""}).ends_with(", not \"\"")) << option;
+    EXPECT_EQ(parse_arguments({"--photos=a", "--design=W", "--out=o.jpg", "--caption="}).caption, "");
+}
+
 TEST(batch_arguments, the_usage_names_every_option)
 {
     for (const char * option :
-         {"--photos", "--design", "--frames", "--quick", "--orientation", "--set", "--caption", "--size",
-          "--random", "--data", "--preview", "--answer", "--out", "--list", "--dump", "--help", "--version"})
+         {"--photos", "--design", "--frames", "--quick",   "--orientation", "--set",    "--caption",
+          "--size",   "--random", "--data",   "--preview", "--answer",      "--out",    "--keep",
+          "--jobs",   "--again",  "--list",   "--dump",    "-h, --help",    "--version"})
         EXPECT_NE(usage().find(option), std::string::npos) << option;
 }

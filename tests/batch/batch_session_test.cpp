@@ -1,63 +1,12 @@
 #include "batch/batch_session.h"
 
 #include "batch/batch_desktop.h"
-#include "support/paths.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
-#include "tests/pictures.h"
-#include "tests/temporary_folder.h"
+#include "tests/batch/batch_program.h"
 
-#include <gtest/gtest.h>
 #include <map>
 
 namespace {
-
-/// The supplied data, a data folder of its own and a folder of small photos of both orientations.
-class batch_program : public testing::Test {
-protected:
-    temporary_folder place;
-    batch_folders folders{.install_folder = BUILT_SEED,
-                          .data = {.use_public_folder = true, .public_folder = place.at("data/home")},
-                          .scratch = joined(place.path(), "scratch")};
-
-    std::string photos(int count = 6) const
-    {
-        for (int i = 0; i < count; ++i) {
-            const rgb_triple color{static_cast<std::uint8_t>(40 * i), 120,
-                                   static_cast<std::uint8_t>(250 - 40 * i)};
-            const bool wide = i % 2 == 0;
-            save_jpeg(plain(wide ? 360 : 270, wide ? 270 : 360, color),
-                      place.at("photos/" + std::to_string(i) + ".jpg"));
-        }
-        return joined(place.path(), "photos");
-    }
-    std::string out() const { return joined(place.path(), "out.jpg"); }
-
-    exit_status run(std::vector<std::string> words) const
-    {
-        return run_batch(parse_arguments(words), folders);
-    }
-    std::string noted(const std::vector<std::string> & words) const
-    {
-        testing::internal::CaptureStderr();
-        EXPECT_EQ(run(words), exit_status::made);
-        return testing::internal::GetCapturedStderr();
-    }
-    std::string printed(const std::vector<std::string> & words) const
-    {
-        testing::internal::CaptureStdout();
-        run(words);
-        return testing::internal::GetCapturedStdout();
-    }
-};
-
-std::vector<std::vector<std::string>> table_of(const std::string & text)
-{
-    std::vector<std::vector<std::string>> rows;
-    for (line_source lines = line_source::of_text(text); !lines.at_end();)
-        rows.push_back(split(lines.read_line(), '\t', 99));
-    return rows;
-}
 
 picture_size size_of(const std::string & path)
 {
@@ -128,13 +77,15 @@ TEST_F(batch_program, makes_every_quick_style_as_a_preview_in_each_orientation)
 
 TEST_F(batch_program, makes_a_quick_style_at_full_size_for_the_settings_given)
 {
-    run({"--list"});  // the welcome is over
     testing::internal::CaptureStderr();
+    const std::string kept = joined(place.path(), "kept");
     ASSERT_EQ(run({"--photos", photos(), "--quick", "shapes", "--set", "cmbShapes=Stars", "--set",
-                   "cmbSpace=40", "--orientation", "landscape", "--out", out()}),
+                   "cmbSpace=40", "--orientation", "landscape", "--keep", kept, "--out", out()}),
               exit_status::made);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     EXPECT_EQ(size_of(out()).width, 3000);
+    const std::string layout = read_file(joined(kept, "designs/__quick"));
+    EXPECT_TRUE(layout.ends_with(":star.gif\r\n")) << layout;
 }
 
 TEST_F(batch_program, a_style_among_the_settings_finds_its_template_too)
@@ -157,7 +108,6 @@ TEST_F(batch_program, the_same_seed_gives_the_same_quick_collage)
 
 TEST_F(batch_program, too_few_photos_for_a_quick_style_are_told)
 {
-    run({"--list"});  // the welcome is over
     testing::internal::CaptureStderr();
     EXPECT_EQ(run({"--photos", photos(2), "--quick", "block", "--out", out()}), exit_status::not_made);
     EXPECT_EQ(
@@ -174,6 +124,69 @@ TEST_F(batch_program, the_size_is_that_of_the_long_side)
               exit_status::made);
     EXPECT_EQ(size_of(out()).width, 750);
     EXPECT_EQ(size_of(out()).height, 500);
+}
+
+TEST_F(batch_program, a_preview_goes_out_with_its_own_bytes)
+{
+    const std::string kept = joined(place.path(), "kept");
+    for (const std::vector<std::string> & what :
+         {std::vector<std::string>{"--design", "Mosaic wall"}, {"--quick", "block"}}) {
+        std::vector<std::string> words = {"--photos", photos(), "--preview", "--keep", kept, "--out", out()};
+        words.insert(words.end(), what.begin(), what.end());
+        ASSERT_EQ(run(words), exit_status::made);
+        const std::string own = read_file(joined(kept, "tmp/finished.jpg"));
+        EXPECT_TRUE(read_file(out()) == own);
+        const picture_size size = size_of(out());
+        words.insert(words.end(), {"--size", std::to_string(std::max(size.width, size.height))});
+        ASSERT_EQ(run(words), exit_status::made);
+        EXPECT_TRUE(read_file(out()) == own);
+        words.back() = "200";
+        ASSERT_EQ(run(words), exit_status::made);
+        EXPECT_EQ(std::max(size_of(out()).width, size_of(out()).height), 200);
+    }
+}
+
+TEST_F(batch_program, the_work_files_are_kept_where_they_are_asked_for)
+{
+    const std::string kept = joined(place.path(), "kept/here");
+    const std::string folder = photos(5);
+    ASSERT_EQ(run({"--photos", folder, "--quick", "block", "--preview", "--keep", kept, "--out", out()}),
+              exit_status::made);
+    EXPECT_FALSE(read_file(joined(kept, "designs/__quick")).empty());
+    EXPECT_TRUE(jpeg_size(joined(kept, "tmp/finished.jpg")).has_value());
+    std::string list;
+    for (int i = 0; i < 5; ++i)
+        list += "L " + joined(folder, std::to_string(i) + ".jpg") + "\r\n";
+    EXPECT_EQ(read_file(joined(kept, "photos.pls")), list);
+    ASSERT_EQ(run({"--photos", joined(folder, "1.jpg"), "--design", "Mosaic wall", "--preview", "--keep",
+                   kept, "--out", out()}),
+              exit_status::made);
+    EXPECT_EQ(read_file(joined(kept, "piclists/last_photos.pls")), "L " + joined(folder, "1.jpg") + "\r\n");
+}
+
+TEST_F(batch_program, a_collage_that_failed_leaves_its_work_files_as_well)
+{
+    const std::string kept = joined(place.path(), "kept");
+    EXPECT_EQ(run({"--photos", photos(2), "--quick", "block", "--keep", kept, "--out", out()}),
+              exit_status::not_made);
+    EXPECT_EQ(lines_of_file(joined(kept, "photos.pls")).size(), 2U);
+}
+
+TEST_F(batch_program, an_output_that_can_t_be_used_is_told_before_anything_is_begun)
+{
+    folders = folders_of(place.at("data/home"));
+    const std::vector<std::string> words = {"--photos", photos(), "--design", "Mosaic wall", "--out"};
+    const auto with = [&](const std::string & target) {
+        std::vector<std::string> all = words;
+        all.push_back(target);
+        return all;
+    };
+    EXPECT_EQ(refusal(with("picture.png")),
+              "\"picture.png\" doesn't end in .jpg or .jpeg: a collage is a JPEG file");
+    make_folder(out());
+    EXPECT_EQ(refusal(with(out())), "\"" + out() + "\" is a folder; a collage goes to a file");
+    EXPECT_THROW(run(with(place.path() + "/nowhere/out.jpg")), platform_error);
+    EXPECT_FALSE(folder_exists(folders.data.public_folder));
 }
 
 TEST_F(batch_program, the_same_seed_gives_the_same_bytes)
@@ -199,6 +212,22 @@ TEST_F(batch_program, a_setting_acts_as_the_user_and_is_dumped)
     EXPECT_EQ(controls["txtCaption"][3], "Summer");
     EXPECT_EQ(controls["frmOutput"][1], "1");
     EXPECT_EQ(controls["mnuFile"][1], "0");
+}
+
+TEST_F(batch_program, a_design_is_dumped_as_applied_without_photos_too)
+{
+    // What a design says differs from what the window shows at first.
+    for (const char * design : {"Mosaic wall", "Sweethearts", "Thrown on the table", "Winter"}) {
+        auto with =
+            table_of(printed({"--dump", "--photos", photos(), "--design", design, "--set", "cmbFrame=7"}));
+        auto without = table_of(printed({"--dump", "--design", design, "--set", "cmbFrame=7"}));
+        ASSERT_EQ(with.size(), without.size());
+        for (std::size_t i = 0; i < with.size(); ++i) {
+            if (with[i][0] == "lblPhotos" || with[i][0] == "txtPhotos")
+                continue;
+            EXPECT_EQ(with[i], without[i]) << design << " " << with[i][0];
+        }
+    }
 }
 
 TEST_F(batch_program, what_the_window_would_not_offer_is_done_and_noted)
@@ -242,7 +271,7 @@ TEST_F(batch_program, unknown_names_are_bad_arguments)
         bad_arguments);
 }
 
-TEST_F(batch_program, missing_photos_are_named)
+TEST_F(batch_program, missing_photos_alone_make_nothing)
 {
     try {
         run({"--photos", place.at("nowhere"), "--design", "Mosaic wall", "--out", out()});
@@ -255,7 +284,6 @@ TEST_F(batch_program, missing_photos_are_named)
 TEST_F(batch_program, a_full_disk_while_saving_is_told_and_leaves_the_old_picture)
 {
     const std::string folder = photos();
-    run({"--list"});  // the data folder is there before the disk fills up
     write_file(out(), "an older picture");
     ASSERT_EQ(run({"--photos", folder, "--design", "Mosaic wall", "--preview", "--out",
                    joined(place.path(), "p.jpg")}),

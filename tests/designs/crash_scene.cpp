@@ -5,6 +5,7 @@
 #include "support/file_steps.h"
 #include "support/platform_error.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <set>
 #include <sys/wait.h>
@@ -49,8 +50,13 @@ private:
             unflushed.insert(path);
         if (step == file_step::flush)
             unflushed.erase(path);
-        if (step == file_step::rename && unflushed.erase(path + std::string(part_ending)) > 0)
+        const auto beside = std::ranges::find_if(unflushed, [&](const std::string & written) {
+            return written.starts_with(path + ".") && written.ends_with(part_ending);
+        });
+        if (step == file_step::rename && beside != unflushed.end()) {
+            unflushed.erase(beside);
             unflushed.insert(path);
+        }
     }
     [[noreturn]] void die()
     {

@@ -37,6 +37,17 @@ TEST(frmPictureList, lists_the_saved_lists_without_ending_and_without_the_reserv
     EXPECT_EQ(session.names(), (std::vector<std::string>{"M\xC3\xBCller & \"Co\"", "Sea"}));
 }
 
+TEST(frmPictureList, lists_them_in_the_order_of_their_names)
+{
+    saved_lists session;
+    for (const char * name : {"trip 10.pls", "Trip 2.pls", "trip 1.pls", "album.pls"})
+        session.folder.write("data/piclists/" + std::string(name), "");
+    session.open(false);
+    EXPECT_EQ(
+        session.window.lstPictures.items(),
+        (std::vector<std::string>{"album", "M\xC3\xBCller & \"Co\"", "Sea", "trip 1", "Trip 2", "trip 10"}));
+}
+
 TEST(frmPictureList, wears_one_face_as_chooser_and_another_as_manager)
 {
     saved_lists session;

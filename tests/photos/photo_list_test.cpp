@@ -45,6 +45,10 @@ struct photo_list_test : testing::Test {
             text += name_of(main.table[i]) + " ";
         return text;
     }
+    std::vector<std::string> taken() const
+    {
+        return {main.table.photos.begin(), main.table.photos.begin() + main.table.last_photo + 1};
+    }
     std::string counted() const
     {
         return std::to_string(main.table.landscape_count) + "l " + std::to_string(main.table.portrait_count) +
@@ -244,10 +248,20 @@ TEST_F(photo_list_test, a_folder_gives_its_jpg_files_in_any_case)
     for (const char * name : {"A.JPG", "b.Jpg", "c.jpeg", "d.png", "e.jpg.txt", "jpg", "inner/f.jpg"})
         folder.write(std::string("photos/") + name, "");
     photos_of_folder(main, folder.at("photos"));
-    std::vector<std::string> taken(main.table.photos.begin(),
-                                   main.table.photos.begin() + main.table.last_photo + 1);
-    std::ranges::sort(taken);
-    EXPECT_EQ(taken, (std::vector<std::string>{folder.at("photos/A.JPG"), folder.at("photos/b.Jpg")}));
+    EXPECT_EQ(taken(), (std::vector<std::string>{folder.at("photos/A.JPG"), folder.at("photos/b.Jpg")}));
+}
+
+TEST_F(photo_list_test, a_folder_gives_its_photos_in_the_order_of_their_names)
+{
+    std::vector<std::string> expected;
+    for (int i = 1; i <= 60; ++i)
+        expected.push_back(folder.at("photos/" + std::string(i % 2 == 0 ? "img" : "IMG") + " " +
+                                     std::to_string(i) + ".jpg"));
+    // Made in another order than the one asked for: a folder may remember it.
+    for (std::size_t i = 0; i < expected.size(); ++i)
+        folder.write("photos/" + name_of(expected[i * 37 % expected.size()]), "");
+    photos_of_folder(main, folder.at("photos"));
+    EXPECT_EQ(taken(), expected);
 }
 
 TEST_F(photo_list_test, a_folder_gives_499_photos_at_most)
@@ -256,6 +270,7 @@ TEST_F(photo_list_test, a_folder_gives_499_photos_at_most)
         folder.write("photos/" + std::to_string(i) + ".jpg", "");
     photos_of_folder(main, folder.at("photos"));
     EXPECT_EQ(main.table.last_photo, 498);
+    EXPECT_EQ(main.table[498], folder.at("photos/498.jpg"));
 }
 
 TEST_F(photo_list_test, a_folder_without_photos_leaves_an_empty_table_and_no_message)

@@ -1,5 +1,6 @@
 #include "photos/thumbnails.h"
 
+#include "support/file_steps.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
 #include "support/text_file.h"
@@ -185,4 +186,29 @@ TEST_F(thumbnails_test, a_photo_that_stands_in_stays_in_the_table)
     photos_from_thumbnails(main);
     thumbnails_from_photos(main);
     EXPECT_EQ(main.table[0], path);
+}
+
+TEST_F(thumbnails_test, a_newer_photo_takes_the_place_of_its_thumbnail_which_is_there_all_the_time)
+{
+    const std::string path = photo("a.jpg", 400, 300);
+    const std::string thumbnail = chk_sample_thumb(main, path);
+    age(thumbnail, 10);
+    const gated_files gate([&](file_step step, const std::string & changed) {
+        EXPECT_TRUE(file_exists(thumbnail)) << changed;
+        EXPECT_TRUE(step != file_step::remove || changed != thumbnail);
+        return 0;
+    });
+    EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
+    desk.next_message();
+    EXPECT_FALSE(is_newer(path, thumbnail));
+}
+
+TEST_F(thumbnails_test, what_a_killed_program_left_beside_them_goes)
+{
+    main.table[0] = photo("a.jpg", 400, 300);
+    main.table.last_photo = 0;
+    const std::string left = folder.write("sample_thumbs/a.jpg.2b-0.part", "half");
+    age(left, 100);
+    clear_thumbnail_places(main);
+    EXPECT_FALSE(file_exists(left));
 }

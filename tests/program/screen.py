@@ -34,7 +34,8 @@ class Display:
     def __init__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ['Xvfb', '-displayfd', str(write), '-screen', '0', '1600x1200x24', '-nolisten', 'tcp'],
+            ['Xvfb', '-displayfd', str(write), '-screen', '0', '1600x1200x24', '-nolisten', 'tcp',
+             '-noreset'],  # it would reset itself when its only program was killed, and refuse the next one meanwhile
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as told:

@@ -4,8 +4,14 @@
 #include "support/platform_error.h"
 #include "tests/temporary_folder.h"
 
+#include <algorithm>
+#include <chrono>
+#include <fcntl.h>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -214,4 +220,31 @@ TEST(field_at, raises_a_subscript_error_for_a_missing_field)
     EXPECT_EQ(field_at({"a", "b"}, 1), "b");
     EXPECT_EQ(raised_by([] { field_at({"a", "b"}, 2); }), "9 ");
     EXPECT_EQ(raised_by([] { field_at({}, 0); }), "9 ");
+}
+
+TEST(abandoned_parts, go_when_they_are_old_and_nobody_writes_them)
+{
+    const temporary_folder folder;
+    const auto made_old = [&](const char * name) {
+        const std::string path = folder.write(name, "half");
+        std::filesystem::last_write_time(
+            path, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+        return path;
+    };
+    made_old("a.jpg.1f-0.part");
+    const std::string open = made_old("open.jpg.1f-1.part");
+    made_old("the user's.part");
+    made_old("a.jpg");
+    folder.write("young.jpg.1f-2.part", "half");
+    const int held = ::open(open.c_str(), O_RDONLY);
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    remove_abandoned_parts(folder.path());
+    ::close(held);
+    std::vector<std::string> left = files_in(folder.path());
+    std::ranges::sort(left);
+    EXPECT_EQ(left, (std::vector<std::string>{"a.jpg", "open.jpg.1f-1.part", "the user's.part",
+                                              "young.jpg.1f-2.part"}));
+    remove_abandoned_parts(folder.path());
+    EXPECT_FALSE(file_exists(open));
+    remove_abandoned_parts(folder.at("none"));
 }

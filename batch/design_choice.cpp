@@ -1,0 +1,107 @@
+#include "batch/design_choice.h"
+
+#include "designs/browser_page.h"
+#include "designs/catalogue.h"
+#include "designs/chosen_design.h"
+#include "designs/template_path.h"
+#include "frames/frame_sets.h"
+#include "frames/frames_template.h"
+#include "support/paths.h"
+#include "support/platform_error.h"
+
+#include <cstdio>
+
+namespace {
+
+bool is_the_session_s_own(const design_record & design)
+{
+    return !is_offered(design.name) || !design_passes_family(design, design_family::all);
+}
+
+poster_shape shape_of(const design_record & design, const std::string & asked)
+{
+    const std::string wanted = !asked.empty()                     ? asked
+                               : design.background == "Landscape" ? "landscape"
+                                                                  : "portrait";
+    if (wanted == "square")
+        return poster_shape::square;
+    return wanted == "landscape" ? poster_shape::landscape : poster_shape::portrait;
+}
+
+// The window offers a design only where it fits; here it is up to the caller.
+void note_misfit(const design_record & design, poster_shape shape)
+{
+    const design_view view =
+        shape == poster_shape::landscape ? design_view::landscape : design_view::portrait;
+    if (shape != poster_shape::square && !fits_orientation(design, view))
+        std::fprintf(stderr, "%s isn't made for a %s poster; it is used all the same.\n", design.name.c_str(),
+                     view == design_view::landscape ? "landscape" : "portrait");
+}
+
+bool wears_frames(const frmMain & main)
+{
+    return main.design_record.design == "Frame";
+}
+
+// What the set or the design lacks has been told by a message.
+void wear_frame_set(frmMain & main, const std::string & set)
+{
+    if (!wears_frames(main)) {
+        if (!set.empty())
+            std::fprintf(stderr, "%s wears no custom frames; it is made without \"%s\".\n",
+                         main.design_record.name.c_str(), set.c_str());
+        return;
+    }
+    main.frame_set_name = set;
+    if (!build_frames_template(main))
+        throw bad_arguments{"\"" + main.design_record.name + "\" can't wear the frames \"" + set + "\""};
+    main.design_record.file = "__frames";
+}
+
+}  // namespace
+
+void print_designs(frmMain & main)
+{
+    bool more = true;
+    for (catalogue_start start = catalogue_start::first; more; start = catalogue_start::next) {
+        more = read_design(main, start);
+        const design_record & design = main.design_record;
+        if (!design.section.empty() && !is_the_session_s_own(design))
+            std::printf("%s\t%s\t%s\t%s\n", design.section.c_str(), design.name.c_str(),
+                        design.design.c_str(), design.count.c_str());
+    }
+    close_catalogue(main);
+}
+
+void check_design(frmMain & main, const batch_arguments & arguments)
+{
+    const bool found = find_design(main, arguments.design);
+    close_catalogue(main);
+    if (!found)
+        throw bad_arguments{"there is no design named \"" + arguments.design +
+                            "\"; --list shows the designs"};
+    if (is_the_session_s_own(main.design_record))
+        throw bad_arguments{
+            "\"" + arguments.design +
+            "\" is a name that the program keeps for itself: its layout is written by a quick "
+            "style or a designer of the window; --list shows the designs"};
+    if (wears_frames(main) && (arguments.frames.empty() ||
+                               !file_exists(joined(frame_set_folder(main, arguments.frames), "design.ini"))))
+        throw bad_arguments{"\"" + arguments.design + "\" wears custom frames: --frames names a set"};
+    if (!keep_template(main))
+        throw platform_error(error_number::permission_denied,
+                             "Another program is changing this design: try again.", arguments.design);
+}
+
+void choose_design(frmMain & main, const batch_arguments & arguments)
+{
+    check_design(main, arguments);
+    const poster_shape shape = shape_of(main.design_record, arguments.orientation);
+    note_misfit(main.design_record, shape);
+    settle_caption_clear(main.design_record);
+    const updating guard(main);  // the photos are not there yet, so there is nothing to preview
+    make_room_for_background(main);
+    wear_frame_set(main, arguments.frames);
+    take_design(main,
+                {.section = main.design_record.section, .name = main.design_record.name, .shape = shape});
+}

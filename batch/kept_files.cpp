@@ -1,0 +1,45 @@
+#include "batch/kept_files.h"
+
+#include "photos/pls_line.h"
+#include "photos/thumbnail_path.h"
+#include "support/paths.h"
+#include "support/text_file.h"
+
+#include <functional>
+
+namespace {
+
+using wanted_names = std::function<bool(const std::string &)>;
+
+void keep_files(const std::string & from, const std::string & to, const wanted_names & wanted)
+{
+    if (!folder_exists(from))
+        return;
+    for (const std::string & name : files_in(from))
+        if (wanted(name)) {
+            make_folders(to);
+            copy_file(joined(from, name), joined(to, name));
+        }
+}
+
+std::string list_of_photos(const frmMain & main)
+{
+    std::string text;
+    for (int i = 0; i <= main.table.last_photo; ++i)
+        text += list_line(orientation::unknown, photo_path(main.table[i])) + "\r\n";
+    return text;
+}
+
+}  // namespace
+
+void keep_work_files(const frmMain & main, const std::string & folder)
+{
+    make_folders(folder);
+    const auto keep = [&](const char * name, const wanted_names & wanted) {
+        keep_files(work_path(main, name), joined(folder, name), wanted);
+    };
+    keep("designs", [](const std::string & name) { return name.starts_with("__"); });
+    keep("piclists", [](const std::string & name) { return name == "last_photos.pls"; });
+    keep("tmp", [](const std::string &) { return true; });
+    replace_file(joined(folder, "photos.pls"), list_of_photos(main));
+}

@@ -1,0 +1,47 @@
+#include "batch/arguments.h"
+
+std::string usage()
+{
+    return R"(tessaloom-batch: makes a collage without a window
+
+  tessaloom-batch --photos DIR|LIST.pls|FILE... --design NAME --out FILE [options]
+  tessaloom-batch --photos DIR|LIST.pls|FILE... --quick STYLE --out FILE [options]
+  tessaloom-batch --jobs FILE [options]
+
+  --photos DIR|LIST.pls|FILE...   folders of .jpg files, photo lists and the photos themselves, in any mix; a folder
+                                  gives its photos in the order of their names
+  --design NAME                   a design of the catalogue, as --list names it
+  --frames SET                    the set of custom frames for a design that wears one
+  --quick block|scattered|matrix|shapes
+                                  a layout made for these photos, three or more, instead of a design; the shape is
+                                  set by --set cmbShapes=Stars
+  --out FILE                      where the JPEG goes, a name ending in .jpg or .jpeg; a file that is there is
+                                  replaced, a link is written through; - is standard output
+  --orientation portrait|landscape|square
+                                  shape of the poster; without it the one the design was drawn for, and
+                                  portrait for a quick style
+  --set CONTROL=VALUE             changes a control of the main window as a user would; may be repeated
+  --caption TEXT                  text printed on the collage
+  --size LONG_SIDE                long side in pixels, 16 to 12000; without it full size
+  --random SEED                   repeats the same chance for the same whole number
+  --data DIR                      folder of the user's data, made and filled on first use
+  --preview                       makes the small preview instead of the full size
+  --answer yes|no                 answer to questions; no by default
+  --keep DIR                      leaves the work files there: templates, lists, finished.jpg
+
+  --jobs FILE                     works off a job list: tab-separated, a header line that names the columns (out,
+                                  photos, design, quick, frames, orientation, set, caption, size, random, answer;
+                                  photos and set may stand there more than once), a job a line; - is standard
+                                  input. Options given beside it hold for all jobs. A job whose out is there is done
+  --again                         makes those jobs too
+
+  --list                          prints the designs: section, name, family, count, tab-separated
+  --dump                          prints every control of the main window once the design is applied: name, visible,
+                                  enabled, value or text, tag, tab-separated; makes nothing without --out
+  -h, --help, --version
+
+A value may stand behind its option or be tied to it: --size 750, --size=750. Messages go to standard error, one line
+each; a photo that can't be used is named there and left out. Exit status: 0 made, from at least one of the photos;
+1 not made; 2 bad arguments, and nothing was begun.
+)";
+}
