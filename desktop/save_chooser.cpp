@@ -60,5 +60,5 @@ void save_chooser::accept()
     chosen = path_of(typed);
     if (!chosen.mid(chosen.lastIndexOf(QLatin1Char('/'))).contains(QLatin1Char('.')))
         chosen += added_ending;
-    QDialog::accept();
+    done(Accepted);
 }

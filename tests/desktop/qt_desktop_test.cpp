@@ -187,16 +187,20 @@ TEST(qt_desktop, the_busy_pointer_nests_and_a_box_shows_an_arrow)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+file_request to_save_in(const temporary_folder & folder)
+{
+    return {.title = "Save Image file",
+            .filter = "Image files |*.jpg",
+            .folder = folder.path(),
+            .extension = ".jpg"};
+}
+
 TEST(qt_desktop, the_save_chooser_adds_the_ending_and_asks_nothing_about_a_file_that_is_there)
 {
     qt_desktop desk;
     const temporary_folder folder;
     folder.write("beach.jpg", "x");
-    file_request asked;
-    asked.title = "Save Image file";
-    asked.filter = "Image files |*.jpg";
-    asked.folder = folder.path();
-    asked.extension = ".jpg";
+    file_request asked = to_save_in(folder);
     when_asked<QFileDialog>([&](QFileDialog & chooser) {
         EXPECT_EQ(chooser.windowTitle(), "Save Image file");
         EXPECT_EQ(chooser.nameFilters(), QStringList{"Image files (*.jpg *.JPG)"});
@@ -230,11 +234,7 @@ TEST(qt_desktop, the_save_chooser_takes_a_name_as_it_is_typed_in_the_folder_show
           row{"a.png", "a.png"}, row{"'$HOME'", "'$HOME'.jpg"}, row{"a\\b.jpg", "a\\b.jpg"},
           row{"%41.jpg", "%41.jpg"}, row{"*.jpg", "*.jpg"}}) {
         qt_desktop desk;
-        file_request asked;
-        asked.title = "Save Image file";
-        asked.filter = "Image files |*.jpg";
-        asked.folder = folder.path();
-        asked.extension = ".jpg";
+        const file_request asked = to_save_in(folder);
         when_asked<QFileDialog>([&](QFileDialog & chooser) {
             auto * const box = chooser.findChild<QLineEdit *>("fileNameEdit");
             box->setText(QString::fromStdString(each.typed));
