@@ -8,8 +8,8 @@
 /// The photos that the caller names: folders, lists and files in any mix.
 
 /// Brings them into the session as the choosers of the window do: one folder as a folder, one list as a list,
-/// anything else as a selection. What isn't there, can't be read, is no JPEG or has more pixels in a direction
-/// than the session can count is named on standard error and left out; so are those beyond the room of the
-/// table. Raises file_not_found (53) when nothing is left, and throws bad_arguments when `out`, which the
-/// collage is going to replace, is one of them.
+/// anything else as a selection. What isn't there, can't be read, is no JPEG or has more pixels in a
+/// direction than the session can count is named on standard error and left out; so are those beyond the room
+/// of the table. Raises file_not_found (53) when nothing is left, and throws bad_arguments when `out`, which
+/// the collage is going to replace, is one of them.
 void take_photos(frmMain & main, const std::vector<std::string> & given, const std::string & out);
