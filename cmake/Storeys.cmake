@@ -11,7 +11,8 @@ foreach(name IN LISTS storeys)
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
 endforeach()
 
-# Reads what most files include once a storey. A build that shows whether each file includes what it needs leaves it off.
+# Reads what most files include once a storey. Whether each file includes what it needs is seen without: the linter reads
+# it so, and a development build is made so.
 if(TESSALOOM_READ_ONCE)
     foreach(name IN LISTS storeys)
         target_precompile_headers(${name} PRIVATE <algorithm> <array> <filesystem> <functional> <map> <memory> <optional>
@@ -51,4 +52,12 @@ function(finish_storeys)
         endif()
         set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
     endforeach()
+endfunction()
+
+# Has the headers of a program's library compiled alone as well.
+function(headers_alone target)
+    get_target_property(folder ${target} SOURCE_DIR)
+    file(GLOB headers CONFIGURE_DEPENDS ${folder}/*.h)
+    target_sources(${target} PUBLIC FILE_SET house_headers TYPE HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR} FILES ${headers})
+    set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
 endfunction()

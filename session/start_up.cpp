@@ -95,12 +95,20 @@ outcome settle_data_folder(frmMain & main, const folder_choice & choice)
     return choice.use_public_folder ? make_data_subfolder(main, main.data_folder, 21) : outcome::was_there;
 }
 
+void make_data_folders(frmMain & main)
+{
+    int code = 22;
+    for (const char * name : public_folders)
+        make_data_subfolder(main, in_data(main, name), code++);
+}
+
 void fill_data_folder(frmMain & main, const folder_choice & choice)
 {
     if (choice.use_public_folder) {
         prepare_public_folder(main);
     } else {
         check_base_folders(main);
+        make_data_folders(main);  // a program folder comes without those that only data stands in
         check_install_marker(main);
     }
     supply_package_folders(main);
@@ -207,9 +215,7 @@ void prepare_public_folder(frmMain & main)
 {
     if (!file_exists(in_data(main, release_marker)))
         delete_file(in_data(main, "designs.ini"));
-    int code = 22;
-    for (const char * name : public_folders)
-        make_data_subfolder(main, in_data(main, name), code++);
+    make_data_folders(main);
     supply_catalogue(main);
     supply_folder(main, "icons");
     supply_folder(main, "frames");

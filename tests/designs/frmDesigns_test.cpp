@@ -1,6 +1,8 @@
 #include "designs/saved_design.h"
 #include "tests/designs/own_designs.h"
 
+#include <filesystem>
+
 namespace {
 
 using names = std::vector<std::string>;

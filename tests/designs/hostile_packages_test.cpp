@@ -3,6 +3,9 @@
 #include "tests/designs/memory_place.h"
 #include "tests/designs/package_session.h"
 
+#include <algorithm>
+#include <filesystem>
+
 // Packages that want to write, move or delete where they have no business. None may change a thing beyond
 // `tmp/unzipped`, which the next import empties, and each is told of.
 

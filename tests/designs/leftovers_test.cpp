@@ -1,6 +1,8 @@
 #include "designs/unfinished.h"
 #include "tests/designs/package_session.h"
 
+#include <filesystem>
+
 TEST(leftovers, a_start_removes_what_was_under_construction_and_says_nothing)
 {
     own_designs_session session;

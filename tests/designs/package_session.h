@@ -3,6 +3,7 @@
 #include "tests/designs/own_designs.h"
 #include "tests/small_files.h"
 
+#include <filesystem>
 #include <map>
 
 /// Every file and link below a folder, with its bytes; of a folder the name alone.

@@ -204,7 +204,7 @@ TEST_F(photo_dialogs, the_keyboard_alone_arranges_the_photos)
 
 TEST_F(photo_dialogs, saving_from_the_window_writes_the_list)
 {
-    edit(3, [this](QDialog & window) {
+    edit(3, [](QDialog & window) {
         drag(*cell(window, 0), QPoint(9 * 72 + 30, 30));
         click(window, "cmdSave");
     });
@@ -251,7 +251,7 @@ TEST_F(photo_dialogs, a_full_grid_fits_its_window)
 
 TEST_F(photo_dialogs, the_source_dialog_hides_while_photos_are_selected_and_shows_again_after_a_cancel)
 {
-    when_asked<QDialog>([this](QDialog & window) {
+    when_asked<QDialog>([](QDialog & window) {
         keep_screen(window, "select_photos.png");
         EXPECT_EQ(window.accessibleName(), "Select Photos");
         EXPECT_EQ(window.windowTitle(), "S e l e c t   P h o t o s");
@@ -293,12 +293,12 @@ TEST_F(photo_dialogs, a_selection_is_gathered_edited_and_taken)
     main.selected_count = 3;
     main.cmdPhotos.tag = "3";
     folder.write("data/piclists/last_photos.pls", list_of(3));
-    when_asked<QDialog>([this](QDialog & window) {
+    when_asked<QDialog>([](QDialog & window) {
         keep_screen(window, "select_photos_change.png");
-        when_asked<QDialog>([this](QDialog & list) {
+        when_asked<QDialog>([](QDialog & list) {
             keep_screen(list, "photo_list.png");
             EXPECT_EQ(found<QLabel>(list, "lblCount")->text(), "Number of photos selected:   3");
-            when_asked<QDialog>([this](QDialog & editor) {
+            when_asked<QDialog>([](QDialog & editor) {
                 EXPECT_EQ(focused(), "picIn_0");
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
                 click(editor, "cmdSave");

@@ -10,7 +10,8 @@ namespace {
 // An environment variable with another value while it lives.
 class changed_variable {
 public:
-    changed_variable(const char * variable, const QByteArray & value) : name(variable), before(qgetenv(variable))
+    changed_variable(const char * variable, const QByteArray & value)
+        : name(variable), before(qgetenv(variable))
     {
         qputenv(name, value);
     }
@@ -41,6 +42,7 @@ TEST(data_folder_choice, takes_a_relative_data_home_for_none)
     const changed_variable own("HOME", QByteArray::fromStdString(home.path()));
     for (const char * value : {"", "data", "./data", "../data"}) {
         const changed_variable variable("XDG_DATA_HOME", value);
-        EXPECT_EQ(data_folder_choice().public_folder, joined(home.path(), ".local/share/tessaloom4")) << value;
+        EXPECT_EQ(data_folder_choice().public_folder, joined(home.path(), ".local/share/tessaloom4"))
+            << value;
     }
 }

@@ -29,52 +29,71 @@ void draw_frame_by_pixel(bitmap & target, int left, int row, int height, int wid
                 set_pixel(target, x, y, color);
 }
 
+namespace {
+
+// The edges of the framed photo, and how dark the shadow is that it throws.
+struct shaded {
+    int left, top, height, width, size, step;
+    int offset() const { return std::min(size, 5); }
+};
+
+void shade_right(bitmap & target, const shaded & at, rgb_triple color)
+{
+    const bitmap tall = plain(1, at.height + at.size, color);
+    int length = at.height - 2 - at.offset();
+    const int start = at.top + 2 + at.offset();
+    for (int i = 0; i <= at.size - 1; ++i) {
+        const int x = at.left + at.width + i, part = at.step * i;
+        if (i == at.size - 1 || i == at.size - 2 || i == at.size - 3) {
+            length -= 2;
+            paste_dot(target, color, x, start + length, fading(part + 24));
+            paste_dot(target, color, x, start + length + 1, fading(part + 36));
+        } else {
+            length += 1;
+        }
+        paste(target, copied(tall, 0, 0, 1, length), x, start, fading(part));
+        if (i > 0 && i < at.size - 12)
+            paste_dot(target, color, x, start - 2, fading(part + 36));
+        if (i > 0 && i < at.size - 7)
+            paste_dot(target, color, x, start - 1, fading(part + 24));
+    }
+}
+
+void shade_below(bitmap & target, const shaded & at, rgb_triple color)
+{
+    const bitmap wide = plain(at.width + at.size, 1, color);
+    int length = at.width - 2 - at.offset();
+    const int start = at.left + 2 + at.offset();
+    for (int i = 0; i <= at.size - 1; ++i) {
+        const int y = at.top + at.height + i, part = at.step * i;
+        if (i == at.size - 1 || i == at.size - 2) {
+            length -= 2;
+            paste_dot(target, color, start + length, y, fading(part + 24));
+            paste_dot(target, color, start + length + 1, y, fading(part + 36));
+        } else {
+            length += 1;
+        }
+        paste(target, copied(wide, 0, 0, length, 1), start, y, fading(part));
+        if (i > 0 && i < at.size - 12)
+            paste_dot(target, color, start - 2, y, fading(part + 36));
+        if (i > 0 && i < at.size - 7)
+            paste_dot(target, color, start - 1, y, fading(part + 24));
+    }
+}
+
+}  // namespace
+
 void draw_shadow_by_paste(bitmap & target, int left, int top, int height, int width, int frame,
                           int shadow_size, rgb_triple color)
 {
-    left -= frame;
-    top -= frame;
-    const int k = static_cast<int>(std::nearbyint(160.0 / shadow_size));
-    const int offset = shadow_size > 5 ? 5 : shadow_size;
-    const int framed_height = 2 * frame + height, framed_width = 2 * frame + width;
-
-    const bitmap tall = plain(1, framed_height + shadow_size, color);
-    int length = framed_height - 2 - offset;
-    int start = top + 2 + offset;
-    for (int i = 0; i <= shadow_size - 1; ++i) {
-        const int x = left + framed_width + i;
-        if (i == shadow_size - 1 || i == shadow_size - 2 || i == shadow_size - 3) {
-            length -= 2;
-            paste_dot(target, color, x, start + length, fading(k * i + 24));
-            paste_dot(target, color, x, start + length + 1, fading(k * i + 36));
-        } else {
-            length += 1;
-        }
-        paste(target, copied(tall, 0, 0, 1, length), x, start, fading(k * i));
-        if (i > 0 && i < shadow_size - 12)
-            paste_dot(target, color, x, start - 2, fading(k * i + 36));
-        if (i > 0 && i < shadow_size - 7)
-            paste_dot(target, color, x, start - 1, fading(k * i + 24));
-    }
-
-    const bitmap wide = plain(framed_width + shadow_size, 1, color);
-    length = framed_width - 2 - offset;
-    start = left + 2 + offset;
-    for (int i = 0; i <= shadow_size - 1; ++i) {
-        const int y = top + framed_height + i;
-        if (i == shadow_size - 1 || i == shadow_size - 2) {
-            length -= 2;
-            paste_dot(target, color, start + length, y, fading(k * i + 24));
-            paste_dot(target, color, start + length + 1, y, fading(k * i + 36));
-        } else {
-            length += 1;
-        }
-        paste(target, copied(wide, 0, 0, length, 1), start, y, fading(k * i));
-        if (i > 0 && i < shadow_size - 12)
-            paste_dot(target, color, start - 2, y, fading(k * i + 36));
-        if (i > 0 && i < shadow_size - 7)
-            paste_dot(target, color, start - 1, y, fading(k * i + 24));
-    }
+    const shaded at{.left = left - frame,
+                    .top = top - frame,
+                    .height = 2 * frame + height,
+                    .width = 2 * frame + width,
+                    .size = shadow_size,
+                    .step = static_cast<int>(std::nearbyint(160.0 / shadow_size))};
+    shade_right(target, at, color);
+    shade_below(target, at, color);
 }
 
 void soft_edge_by_paste(bitmap & target, const bitmap & image, int width, int height, int top, int left)

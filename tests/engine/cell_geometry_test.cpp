@@ -17,7 +17,6 @@ constexpr grid three_by_four{.top = 10,
                              .cell_width = 100};
 constexpr shake_switches all{.resize = true, .rotate = true};
 constexpr shake tilted_left{.scale = 0.9, .rotation = -5, .top = 3, .left = -4};
-constexpr shake tilted_right{.scale = 0.9, .rotation = 10, .top = 3, .left = -4};
 
 shaken inner(const shake & by, shake_switches allowed)
 {

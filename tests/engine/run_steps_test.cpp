@@ -304,8 +304,8 @@ TEST(lay_background, blends_the_users_picture)
     EXPECT_EQ(sampled(background_of(run, 60, 90, run_size::full), 5, 25), "bbb\nbbb\nbbb\nbbb\n");
     run.main.cmbBlend.set_text("50");
     const rgb_triple half = seen(background_of(run, 60, 90, run_size::full), 30, 45);
-    EXPECT_NEAR(half.red, (30 + 128) / 2, 4);
-    EXPECT_NEAR(half.blue, (220 + 128) / 2, 4);
+    EXPECT_NEAR(half.red, (30 + 128) / 2.0, 4);
+    EXPECT_NEAR(half.blue, (220 + 128) / 2.0, 4);
 }
 
 TEST(lay_background, leaves_no_strip_beside_the_picture_of_a_preview)

@@ -51,8 +51,8 @@ four_corners turned_rectangle(const picture_point & corner, const tilted_cell & 
 
 int value(const bitmap & image, int x, int y, channel shown)
 {
-    return image.row(image.height() - 1 -
-                     y)[static_cast<std::size_t>(x * pixel_bytes + static_cast<int>(shown))];
+    const int at = x * pixel_bytes + static_cast<int>(shown);
+    return image.row(image.height() - 1 - y)[static_cast<std::size_t>(at)];
 }
 
 double total(const bitmap & image, channel shown)
@@ -201,12 +201,12 @@ int changed_outside(const bitmap & before, const bitmap & after, const four_corn
     int changed = 0;
     for (int y = 0; y < before.height(); ++y) {
         const std::span<const std::uint8_t> one = before.row(y), other = after.row(y);
-        for (std::size_t i = 0; i < one.size(); ++i)
+        for (std::size_t i = 0; i < one.size(); ++i) {
+            const std::size_t x = i / pixel_bytes;
             if (one[i] != other[i] &&
-                !inside(figure,
-                        {.x = static_cast<double>(i / pixel_bytes) + 0.5, .y = before.height() - y - 0.5},
-                        3.5))
+                !inside(figure, {.x = static_cast<double>(x) + 0.5, .y = before.height() - y - 0.5}, 3.5))
                 ++changed;
+        }
     }
     return changed;
 }

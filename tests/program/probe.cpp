@@ -2,9 +2,11 @@
 // shipped program when the environment asks for it. It only looks; every event comes from outside.
 //
 // A request is a line on the local socket TESSALOOM_PROBE. "look" is answered by a line of JSON: every
-// visible widget, menu entry and entry of a list that has a name or a text, with its place on the screen.
-// "see X Y W H" is answered by a digest of the pixels that the screen shows there. "standstill" is answered
-// by the longest time, in milliseconds, in which the program let no event through since it was asked last.
+// visible widget, menu entry and entry of a list that has a name or a text, with its place on the screen; an
+// entry that is scrolled out of sight has the place of its list, and "wheel", the mouse button that turns
+// towards it. "see X Y W H" is answered by a digest of the pixels that the screen shows there. "standstill"
+// is answered by the longest time, in milliseconds, in which the program let no event through since it was
+// asked last.
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -69,17 +71,23 @@ void add_entries(const Bar & bar, QJsonArray & found)
         }
 }
 
-// What a list shows, each entry by its text.
+constexpr int wheel_up = 4, wheel_down = 5;  // as the window system counts the buttons
+
+// The entries of a list, each by its text.
 void add_rows(const QAbstractItemView & list, QJsonArray & found)
 {
     if (!list.model() || list.viewport()->visibleRegion().isEmpty())
         return;
+    const QRect in_sight = list.viewport()->rect();
     for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row) {
         const QModelIndex entry = list.model()->index(row, 0, list.rootIndex());
-        const QRect where = list.visualRect(entry) & list.viewport()->rect();
+        const QRect where = list.visualRect(entry), seen = where & in_sight;
         if (where.isEmpty())
             continue;
-        QJsonObject one = placed({}, entry.data().toString(), on_screen(*list.viewport(), where));
+        QJsonObject one = placed({}, entry.data().toString(),
+                                 on_screen(*list.viewport(), seen.isEmpty() ? in_sight : seen));
+        if (seen.isEmpty())
+            one["wheel"] = where.top() < in_sight.top() ? wheel_up : wheel_down;
         one["enabled"] = list.isEnabled();
         one["selected"] = list.selectionModel()->isSelected(entry);
         found.append(one);

@@ -28,6 +28,12 @@ def slow_disk(plugins):
     return {'LD_PRELOAD': os.path.join(plugins, 'slow_disk.so'), 'TESSALOOM_SLOW_DISK': pause} if pause else {}
 
 
+def those_of_no_desktop(variables):
+    """Without what the machine's desktop and its language have set up for programs."""
+    desktops = ('QT_', 'XDG_', 'KDE_', 'GNOME_', 'GTK_', 'WAYLAND_', 'DESKTOP_', 'LC_', 'LANG')
+    return {name: value for name, value in variables.items() if not name.startswith(desktops)}
+
+
 class Display:
     """A screen that no one else has."""
 
@@ -58,10 +64,8 @@ class Program:
         self.display = self.process = None
         try:
             self.display = beside.display if beside else Display()
-            self.environment = dict(os.environ, DISPLAY=self.display.name, HOME=self.folder,
+            self.environment = dict(those_of_no_desktop(os.environ), DISPLAY=self.display.name, HOME=self.folder,
                                     XDG_RUNTIME_DIR=self.folder, TMPDIR=self.folder)
-            for name in ('QT_SCALE_FACTOR', 'XDG_DATA_HOME', 'WAYLAND_DISPLAY'):
-                self.environment.pop(name, None)
             self.start_program(plugins)
         except BaseException:
             self.close()
@@ -135,9 +139,14 @@ class Program:
         return None
 
     def widget(self, name):
-        """Waits until the widget or menu entry of that name, or else with that text, can be used."""
+        """Waits until the widget or menu entry of that name, or else with that text, can be used. An entry of a list
+        that is out of sight is brought there by the wheel."""
         def ready():
             found = self.find(name)
+            if found and 'wheel' in found:
+                self.point_at(found)
+                self.tool('click', str(found['wheel']))
+                return None
             return found if found and found.get('enabled') else None
         return until(ready, name)
 
@@ -159,6 +168,9 @@ class Program:
 
     def tool(self, *words):
         subprocess.run(['xdotool', *words], env=self.environment, check=True, stdout=subprocess.DEVNULL)
+
+    def point_at(self, at):
+        self.tool('mousemove', '--sync', str(at['x'] + at['width'] // 2), str(at['y'] + at['height'] // 2))
 
     def click(self, name, button=1, times=1):
         at = self.widget(name)

@@ -1,6 +1,6 @@
-// Loaded in front of the system's library: a disk that takes its time until it has what is written, as under load or on
-// a card. What two programs do to one folder then lies side by side in time, which on a quick disk happens once in a
-// thousand times.
+// Loaded in front of the system's library: a disk that takes its time until it has what is written, as under
+// load or on a card. What two programs do to one folder then lies side by side in time, which on a quick disk
+// happens once in a thousand times.
 
 #include <chrono>
 #include <cstdlib>

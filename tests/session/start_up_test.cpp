@@ -306,6 +306,16 @@ TEST(start_up, designs_of_a_newer_program_come_to_a_catalogue_that_the_user_has_
               read_file(joined(program.main.install_folder, "designs.ini")));
 }
 
+TEST(start_up, a_portable_program_makes_the_folders_that_its_package_does_not_bring)
+{
+    fresh_program program;
+    prepare_data_folder(program.main, {.use_public_folder = false, .public_folder = {}});
+    program.desk.next_message();
+    for (const char * name :
+         {"tmp", "designs", "descriptions", "samples", "piclists", "user_images", "frames"})
+        EXPECT_TRUE(folder_exists(joined(program.main.install_folder, name))) << name;
+}
+
 TEST(start_up, a_portable_program_takes_newer_designs_from_the_second_copy_of_the_supplied_catalogue)
 {
     fresh_program program;

@@ -78,6 +78,22 @@ class program_folder(unittest.TestCase):
         for link in links.iterdir():
             self.assertEqual(link.resolve(), home / link.name)
 
+    def test_an_installed_program_writes_nothing_beside_itself(self):
+        _, home = self.install(self.folder / "prefix")
+        whole = contents(home)
+        for data in ("fresh", "fresh"):
+            told = self.run_it(home / "tessaloom-batch", "--list", "--data", self.folder / data)
+            self.assertIn("Mosaic wall", told)
+        self.assertEqual(contents(home), whole)
+        self.assertEqual({path.name for path in home.iterdir() if path.is_dir()},
+                         {name.split("/")[0] for name in whole if "/" in name})
+
+    def test_a_portable_program_is_its_own_data_folder(self):
+        _, home = self.install(self.folder / "prefix")
+        (home / "portable").touch()
+        self.assertIn("Mosaic wall", self.run_it(home / "tessaloom-batch", "--list"))
+        self.assertTrue((home / "3_1_install").exists())
+
     def test_an_upgrade_replaces_the_program_and_supplies_what_is_new(self):
         _, home = self.install(self.folder / "prefix")
         whole = contents(home)

@@ -112,11 +112,12 @@ void football(canvas & photo)
     }
     figure(photo, {0.9F, 0.56F}, 0.3F, pose::waving, hex(0xe0a01c), 0.004F);
     for (const float x : {0.2F, 0.5F, 1.0F, 1.3F}) {
-        for (int lamp = 0; lamp < 8; ++lamp)
+        for (int lamp = 0; lamp < 8; ++lamp) {
+            const int column = lamp % 4, row = lamp / 4;
             bokeh(photo,
-                  {x + 0.028F * static_cast<float>(lamp % 4) - 0.04F,
-                   0.05F + 0.032F * static_cast<float>(lamp / 4)},
+                  {x + 0.028F * static_cast<float>(column) - 0.04F, 0.05F + 0.032F * static_cast<float>(row)},
                   0.018F, hex(0xf4faff), 0.8F);
+        }
         glow(photo, {x, 0.06F}, 0.3F, hex(0xc8dcff) * 0.35F);
     }
     soften(photo, 0.012F);
