@@ -67,7 +67,7 @@ std::string fault_of(const std::string & photo)
         return "is left out: there is no such file.";
     if (!file_readable(photo))
         return "is left out: it can't be read.";
-    return jpeg_size(photo) ? "" : "is left out: it is no JPEG photo of at most 32767 pixels a side.";
+    return usable_jpeg_size(photo) ? "" : "is left out: it is no JPEG photo of at most 32767 pixels a side.";
 }
 
 paths usable(const paths & photos)
