@@ -10,6 +10,7 @@
 #include "engine/flurn_driver.h"
 #include "engine/flurn_file.h"
 #include "engine/run_steps.h"
+#include "photos/left_out.h"
 #include "photos/photo_list.h"
 #include "quick/quick_controls.h"
 #include "quick/quick_match.h"
@@ -24,6 +25,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <optional>
 
 namespace {
 
@@ -116,7 +118,9 @@ bool is_whole(const open_session & running)
     if (running.desk.told_of_an_error())
         return false;
     const std::string missing = missing_picture(main);
-    if (main.run.image_number <= 1)
+    if (!has_usable_photo(main))
+        std::fprintf(stderr, "None of the photos could be used.\n");
+    else if (main.run.image_number <= 1)
         std::fprintf(stderr,
                      "None of the photos found a place: the template of this design is missing or empty.\n");
     else if (!missing.empty())
@@ -126,22 +130,38 @@ bool is_whole(const open_session & running)
     return false;
 }
 
+using encoder = std::function<std::string()>;
+
+bool goes_out(const open_session & running, const batch_arguments & arguments, const encoder & jpeg)
+{
+    return is_whole(running) && went_well([&] { write_output(arguments.out, jpeg()); });
+}
+
+// `went_out` is nothing where the run drew no picture at all: there are settings that keep it from drawing
+// one.
+exit_status outcome_of(const open_session & running, const std::optional<bool> & went_out)
+{
+    if (!went_out && !running.desk.told_of_an_error())
+        std::fprintf(stderr, "These settings make no picture.\n");
+    return went_out.value_or(false) ? exit_status::made : exit_status::not_made;
+}
+
 exit_status make_full_size(open_session & running, const batch_arguments & arguments)
 {
-    bool saved = false;
+    std::optional<bool> went_out;
     running.desk.on_modal = [&](form & window) {
         const bitmap & image = running.all.main.run.canvas;
         const int own = std::max(image.width(), image.height());
-        if (&window == &running.all.image && is_whole(running))
-            saved = went_well(
-                [&] { write_output(arguments.out, flurn_bytes(image, arguments.size.value_or(own))); });
+        if (&window == &running.all.image)
+            went_out = goes_out(running, arguments,
+                                [&] { return flurn_bytes(image, arguments.size.value_or(own)); });
     };
     // The grid of shapes is laid out by a preview; the full size draws it as it stands.
     if (running.all.main.quick_active && running.all.main.optShapes.selected())
         write_quick_shapes(running.all.main);
     running.desk.forget_errors();
     running.all.main.cmdFlurn.click();
-    return saved ? exit_status::made : exit_status::not_made;
+    return outcome_of(running, went_out);
 }
 
 // The preview's own bytes, unless it has to be scaled.
@@ -163,10 +183,10 @@ exit_status make_small(open_session & running, const batch_arguments & arguments
         make_preview(main);
     else
         gen_sample(main);
-    const bool saved = file_exists(picture) && is_whole(running) && went_well([&] {
-                           write_output(arguments.out, bytes_of_preview(picture, arguments.size));
-                       });
-    return saved ? exit_status::made : exit_status::not_made;
+    std::optional<bool> went_out;
+    if (file_exists(picture))
+        went_out = goes_out(running, arguments, [&] { return bytes_of_preview(picture, arguments.size); });
+    return outcome_of(running, went_out);
 }
 
 exit_status make(open_session & running, const batch_arguments & arguments)
@@ -192,6 +212,7 @@ open_session::open_session(const batch_arguments & arguments, const batch_folder
     share_data_folder(all.main, folders.data, scratch.path());
     connect_all(all);
     all.main.load();
+    all.main.left_out.told_by = left_out_photos::teller::caller;
     desk.progress = [this] { return all.main.txtDoing.text(); };
 }
 
@@ -205,16 +226,17 @@ void check_against(frmMain & main, const batch_arguments & arguments)
 exit_status make_collage(open_session & running, const batch_arguments & arguments)
 {
     check_against(running.all.main, arguments);
-    const auto keep = [&] {
+    const auto look_back = [&] {
+        name_left_out(running.all.main);
         if (!arguments.keep.empty())
             keep_work_files(running.all.main, arguments.keep);
     };
     try {
         const exit_status status = make(running, arguments);
-        keep();
+        look_back();
         return status;
     } catch (const platform_error &) {
-        keep();
+        look_back();
         throw;
     }
 }

@@ -75,14 +75,17 @@ void print_designs(frmMain & main)
 
 void check_design(frmMain & main, const batch_arguments & arguments)
 {
-    const bool found = find_design(main, arguments.design);
+    const found_design found = find_shown_design(main, arguments.design);
     close_catalogue(main);
-    if (!found)
+    if (found == found_design::several)
+        throw bad_arguments{"several designs are named \"" + arguments.design +
+                            "\"; --list shows their sections, by which one of them can be asked for"};
+    if (found == found_design::none)
         throw bad_arguments{"there is no design named \"" + arguments.design +
                             "\"; --list shows the designs"};
     if (is_the_session_s_own(main.design_record))
         throw bad_arguments{
-            "\"" + arguments.design +
+            "\"" + main.design_record.name +
             "\" is a name that the program keeps for itself: its layout is written by a quick "
             "style or a designer of the window; --list shows the designs"};
     if (wears_frames(main) && (arguments.frames.empty() ||

@@ -1,6 +1,7 @@
 #include "batch/given_photos.h"
 
 #include "batch/arguments.h"
+#include "photos/left_out.h"
 #include "photos/photo_list.h"
 #include "photos/pls_line.h"
 #include "support/paths.h"
@@ -66,11 +67,7 @@ std::string fault_of(const std::string & photo)
         return "is left out: there is no such file.";
     if (!file_readable(photo))
         return "is left out: it can't be read.";
-    try {
-        return jpeg_size(photo) ? "" : "is left out: it is no JPEG picture.";
-    } catch (const platform_error &) {
-        return "is left out: it has more than 32767 pixels in one direction.";
-    }
+    return jpeg_size(photo) ? "" : "is left out: it is no JPEG photo of at most 32767 pixels a side.";
 }
 
 paths usable(const paths & photos)
@@ -148,4 +145,10 @@ void take_photos(frmMain & main, const std::vector<std::string> & given, const s
         use_list(main, words.front(), photos);
     else
         use_selection(main, photos);
+}
+
+void name_left_out(const frmMain & main)
+{
+    for (const left_out_photo & photo : main.left_out.photos)
+        std::fprintf(stderr, "%s; it is left out.\n", line_of(photo).c_str());
 }

@@ -5,21 +5,14 @@
 #include "support/paths.h"
 #include "support/text_file.h"
 
-#include <functional>
-
 namespace {
 
-using wanted_names = std::function<bool(const std::string &)>;
-
-void keep_files(const std::string & from, const std::string & to, const wanted_names & wanted)
+void keep_files(const std::string & from, const std::string & to)
 {
-    if (!folder_exists(from))
-        return;
-    for (const std::string & name : files_in(from))
-        if (wanted(name)) {
-            make_folders(to);
-            copy_file(joined(from, name), joined(to, name));
-        }
+    for (const std::string & name : files_in(from)) {
+        make_folders(to);
+        copy_file(joined(from, name), joined(to, name));
+    }
 }
 
 std::string list_of_photos(const frmMain & main)
@@ -35,11 +28,7 @@ std::string list_of_photos(const frmMain & main)
 void keep_work_files(const frmMain & main, const std::string & folder)
 {
     make_folders(folder);
-    const auto keep = [&](const char * name, const wanted_names & wanted) {
-        keep_files(work_path(main, name), joined(folder, name), wanted);
-    };
-    keep("designs", [](const std::string & name) { return name.starts_with("__"); });
-    keep("piclists", [](const std::string & name) { return name == "last_photos.pls"; });
-    keep("tmp", [](const std::string &) { return true; });
+    for (const char * name : {"designs", "piclists", "tmp"})
+        keep_files(work_path(main, name), joined(folder, name));
     replace_file(joined(folder, "photos.pls"), list_of_photos(main));
 }

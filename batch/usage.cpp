@@ -10,7 +10,7 @@ std::string usage()
 
   --photos DIR|LIST.pls|FILE...   folders of .jpg files, photo lists and the photos themselves, in any mix; a folder
                                   gives its photos in the order of their names
-  --design NAME                   a design of the catalogue, as --list names it
+  --design NAME                   a design of the catalogue, by its name or its section, as --list tells them
   --frames SET                    the set of custom frames for a design that wears one
   --quick block|scattered|matrix|shapes
                                   a layout made for these photos, three or more, instead of a design; the shape is

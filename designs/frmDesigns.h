@@ -1,7 +1,9 @@
 #pragma once
 
-#include "designs/design_name.h"
+#include "designs/listed_design.h"
 #include "support/forms.h"
+
+#include <vector>
 
 /// The user's own designs, to be deleted. The list is filled before the window opens.
 struct frmDesigns : form {

@@ -6,6 +6,7 @@
 #include "desktop/printing.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_text.h"
+#include "desktop/save_chooser.h"
 #include "desktop/text_drawing.h"
 #include "desktop/windows_made.h"
 #include "support/paths.h"
@@ -206,7 +207,7 @@ QString qt_desktop::folder_to_open(const std::string & wanted) const
     return toolkit_path(pictures_folder());
 }
 
-std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_request & asked)
+bool qt_desktop::is_accepted(QFileDialog & chooser, const file_request & asked)
 {
     chooser.setWindowTitle(shown(asked.title));
     chooser.setDirectory(folder_to_open(asked.folder));
@@ -214,8 +215,15 @@ std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_re
         chooser.setNameFilters(toolkit_filter(asked.filter).split(QStringLiteral(";;")));
     const arrow_pointer usable;
     if (chooser.exec() != QDialog::Accepted)
-        return {};
+        return false;
     last_folder = path_bytes(chooser.directory().absolutePath());
+    return true;
+}
+
+std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_request & asked)
+{
+    if (!is_accepted(chooser, asked))
+        return {};
     std::vector<std::string> paths;
     for (const QString & path : chooser.selectedFiles())
         paths.push_back(with_platform_separators(path_bytes(path)));
@@ -248,15 +256,12 @@ std::optional<std::string> qt_desktop::choose_file(const file_request & asked)
     return paths.empty() ? std::nullopt : std::optional(paths.front());
 }
 
-// Overwriting is the session's question.
 std::optional<std::string> qt_desktop::choose_save(const file_request & asked)
 {
-    QFileDialog chooser(owner());
-    chooser.setAcceptMode(QFileDialog::AcceptSave);
-    chooser.setOption(QFileDialog::DontConfirmOverwrite);
-    chooser.setDefaultSuffix(shown(asked.extension));
-    const std::vector<std::string> paths = chosen(chooser, asked);
-    return paths.empty() ? std::nullopt : std::optional(paths.front());
+    save_chooser chooser(owner(), shown(asked.extension), shown(asked.name));
+    if (!is_accepted(chooser, asked))
+        return std::nullopt;
+    return path_bytes(chooser.path());
 }
 
 std::optional<std::uint32_t> qt_desktop::choose_color(std::uint32_t initial)

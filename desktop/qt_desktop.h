@@ -55,6 +55,7 @@ private:
     QWidget & loaded(form & window);
     void taken_down(const form & window);
     QString folder_to_open(const std::string & wanted) const;
+    bool is_accepted(QFileDialog & chooser, const file_request & asked);
     std::vector<std::string> chosen(QFileDialog & chooser, const file_request & asked);
 
     std::map<const form *, shown_window> windows;

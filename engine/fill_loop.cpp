@@ -87,7 +87,7 @@ void pass_over(frmMain & main, grid_walk & walk)
 bool fits(frmMain & main, const grid_walk & walk, int photo)
 {
     const std::optional<picture_size> size =
-        is_left_out(main, photo) ? std::nullopt : jpeg_size(main.table[photo]);
+        is_left_out(main, photo) ? std::nullopt : usable_jpeg_size(main.table[photo]);
     return size && fits_cell(walk.layer, size->height, size->width);
 }
 
@@ -105,7 +105,7 @@ void look_again_for_one_that_fits(frmMain & main, grid_walk & walk)
 cell_photo taken_photo(frmMain & main, grid_walk & walk, int column)
 {
     const std::string & path = main.table[walk.photo];
-    const std::optional<picture_size> size = jpeg_size(path);
+    const std::optional<picture_size> size = usable_jpeg_size(path);
     const bool matches =
         !main.chkMatch.ticked() || (size && fits_cell(walk.layer, size->height, size->width));
     if (size && !matches && !(main.matrix_both && has_right_neighbour(walk.layer, column)))
@@ -142,7 +142,7 @@ void read_upcoming(frmMain & main, const grid_walk & walk)
     const bool takes_any = !main.chkMatch.ticked() || main.matrix_both;
     for (int photo = walk.photo + 1; photo <= main.table.last_photo; ++photo) {
         const picture_size size =
-            takes_any ? picture_size{} : jpeg_size(main.table[photo]).value_or(picture_size{});
+            takes_any ? picture_size{} : usable_jpeg_size(main.table[photo]).value_or(picture_size{});
         if (takes_any || fits_cell(walk.layer, size.height, size.width)) {
             read_ahead(main, main.table[photo]);
             return;

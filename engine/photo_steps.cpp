@@ -24,7 +24,7 @@ auto done_where(bool is_small, frmMain & main, Step step)
 
 bitmap loaded(const std::string & path)
 {
-    return jpeg_size(path) ? load_picture(picture_format::jpeg, path) : bitmap();
+    return usable_jpeg_size(path) ? load_picture(picture_format::jpeg, path) : bitmap();
 }
 
 bitmap fitted(const bitmap & image, int width, int height)

@@ -35,7 +35,7 @@ void keep_cursors(run_state & run, const match_cursors & cursors)
 
 orientation told_by_header(const std::string & path)
 {
-    const std::optional<picture_size> size = jpeg_size(path);
+    const std::optional<picture_size> size = usable_jpeg_size(path);
     return size ? orientation_of(size->width, size->height) : orientation::not_loadable;
 }
 

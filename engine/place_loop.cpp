@@ -56,7 +56,7 @@ picked_picture photo_at(frmMain & main, const location & place, int index)
     // A painted shape needs a photo that could be loaded and nothing of its pixels.
     picked_picture found =
         is_painted(main, place)
-            ? picked_picture{.image = {}, .found = jpeg_size(path).has_value(), .index = index}
+            ? picked_picture{.image = {}, .found = usable_jpeg_size(path).has_value(), .index = index}
             : picked(load_photo(main, path), index);
     found.moved_on = true;
     return found;

@@ -1,6 +1,7 @@
 #include "engine/save_image.h"
 
 #include "engine/flurn_file.h"
+#include "engine/jpeg_name.h"
 #include "session/window_state.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
@@ -50,10 +51,20 @@ void write_picture(frmMain & main, int save_size)
 
 void save_new_image(frmMain & main)
 {
-    const auto chosen = main.desk.choose_save(
-        {.title = "Save Image file", .filter = "Image files |*.jpg", .folder = "", .extension = ".jpg"});
-    if (chosen && !chosen->empty())
-        main.save_image_path = *chosen;
+    file_request asked{
+        .title = "Save Image file", .filter = "Image files |*.jpg", .folder = "", .extension = ".jpg"};
+    for (;;) {
+        const std::optional<std::string> chosen = main.desk.choose_save(asked);
+        if (!chosen || chosen->empty())
+            return;
+        if (const std::optional<std::string> path = jpeg_path(*chosen)) {
+            main.save_image_path = *path;
+            return;
+        }
+        asked.name = name_of(*chosen);
+        main.desk.message("A collage is saved as a JPEG file, so its name has to end in .jpg or .jpeg:\r\n" +
+                          asked.name);
+    }
 }
 
 void write_collage(frmMain & main, int save_size)

@@ -2,7 +2,8 @@
 
 #include "session/frmMain.h"
 
-/// The save dialog: puts the chosen path into `save_image_path`, which stays as it is after a cancel.
+/// The save dialog: puts the chosen path into `save_image_path`, which stays as it is after a cancel. A name
+/// without an ending gets ".jpg"; with another one than that of a JPEG the user is told and asked again.
 void save_new_image(frmMain & main);
 
 /// Writes the finished collage to `save_image_path` with a long side of `save_size` pixels. Asks before a

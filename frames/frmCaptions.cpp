@@ -105,7 +105,7 @@ void show_photo(windows & all, int index)
     if (at >= window.list_photos.size())
         return;
     const std::string & photo = window.list_photos[at];
-    const std::optional<picture_size> size = jpeg_size(photo);
+    const std::optional<picture_size> size = usable_jpeg_size(photo);
     window.imgCaption.load(size ? photo : "");
     if (size)
         window.imgCaption.move(size->height > size->width ? upright_photo : photo_across);

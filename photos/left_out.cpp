@@ -1,7 +1,9 @@
 #include "photos/left_out.h"
 
 #include "photos/thumbnail_path.h"
+#include "support/MFreeImage.h"
 #include "support/paths.h"
+#include "support/platform_error.h"
 
 #include <algorithm>
 #include <span>
@@ -10,11 +12,25 @@ namespace {
 
 constexpr std::size_t most_in_a_box = 20;  // more lines than that leave the screen
 
+photo_fault fault_of(const std::string & photo)
+{
+    if (!file_exists(photo))
+        return photo_fault::gone;
+    try {
+        jpeg_size(photo);
+        return photo_fault::unreadable;
+    } catch (const platform_error &) {
+        return photo_fault::too_large;
+    }
+}
+
 std::string reason(photo_fault fault)
 {
     switch (fault) {
         case photo_fault::gone:
             return "it isn't there any more";
+        case photo_fault::too_large:
+            return "it has more than 32767 pixels in one direction";
         case photo_fault::too_long:
             return "it is too long for its width";
         default:
@@ -32,7 +48,9 @@ std::string remedy(std::span<const left_out_photo> photos)
     if (any(photo_fault::gone))
         text += "\r\nPut what is missing back in its place.";
     if (any(photo_fault::unreadable))
-        text += "\r\nSave what can't be read as JPEG again, with at most 32767 pixels a side.";
+        text += "\r\nSave what can't be read as a JPEG again.";
+    if (any(photo_fault::too_large))
+        text += "\r\nMake what has too many pixels smaller.";
     if (any(photo_fault::too_long))
         text += "\r\nCut what is too long in two.";
     return text + "\r\nThen choose your photos again.";
@@ -64,7 +82,7 @@ void forget_left_out(frmMain & main)
 
 void leave_out(frmMain & main, const std::string & path)
 {
-    leave_out(main, path, file_exists(photo_path(path)) ? photo_fault::unreadable : photo_fault::gone);
+    leave_out(main, path, fault_of(photo_path(path)));
 }
 
 void leave_out(frmMain & main, const std::string & path, photo_fault fault)

@@ -47,7 +47,7 @@ bool swapped_for_thumbnail(frmMain & main, int index)
 
 std::string measured_line(frmMain & main, const std::string & photo)
 {
-    return list_line(counted_orientation(jpeg_size(chk_sample_thumb(main, photo))), photo);
+    return list_line(counted_orientation(usable_jpeg_size(chk_sample_thumb(main, photo))), photo);
 }
 
 std::string measured_list(frmMain & main, const std::string & list)
@@ -193,7 +193,7 @@ void count_photos(frmMain & main)
         if (!swapped_for_thumbnail(main, index))
             continue;
         const std::string & thumbnail = main.table[index++];
-        const std::optional<picture_size> size = jpeg_size(thumbnail);
+        const std::optional<picture_size> size = usable_jpeg_size(thumbnail);
         if (!size)
             leave_out(main, thumbnail);
         add_photo(counts, counted_orientation(size));

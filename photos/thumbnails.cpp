@@ -15,7 +15,7 @@ constexpr picture_size landscape_thumbnail{.width = 200, .height = 150};
 // The proportions are not kept: a small picture only has to tell photos apart.
 bitmap small_picture(const std::string & photo)
 {
-    if (!jpeg_size(photo))
+    if (!usable_jpeg_size(photo))
         return {};  // of too many pixels on a side as well
     const bitmap full = load_picture(picture_format::jpeg, photo);
     const picture_size size = full.height() > full.width() ? portrait_thumbnail : landscape_thumbnail;

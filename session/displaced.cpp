@@ -1,5 +1,6 @@
 #include "session/displaced.h"
 
+#include "designs/manifest.h"
 #include "support/paths.h"
 #include "support/platform_error.h"
 
@@ -19,23 +20,6 @@ constexpr std::array own_files{"designs.new",
                                "icons/icons.new",
                                "icons/icons.bbb",
                                "piclists/last_photos.pls"};
-
-struct numbered_names {
-    const char *folder, *end;
-};
-constexpr std::array numbered_files{numbered_names{"designs", ""}, numbered_names{"samples", ".jpg"},
-                                    numbered_names{"descriptions", ""}};
-
-// "saved602" and what ends it.
-bool is_numbered(std::string_view name, std::string_view end)
-{
-    constexpr std::string_view start = "saved";
-    if (!name.starts_with(start) || !name.ends_with(end) || name.size() <= start.size() + end.size())
-        return false;
-    name.remove_prefix(start.size());
-    name.remove_suffix(end.size());
-    return name.find_first_not_of("0123456789") == std::string_view::npos;
-}
 
 void set_aside_beside(const std::string & path)
 {
@@ -59,17 +43,18 @@ void quietly(Step step)
 
 void set_displaced_aside(const frmMain & main)
 {
-    const auto in_data = [&](const char * name) { return joined(main.data_folder, name); };
+    const auto in_data = [&](const std::string & name) { return joined(main.data_folder, name); };
     for (const char * name : own_files)
         if (folder_exists(in_data(name)))
             quietly([&] { set_aside_beside(in_data(name)); });
-    for (const numbered_names & known : numbered_files) {
-        if (!folder_exists(in_data(known.folder)))
+    // Files of designs lie there under numbers that the program gives.
+    for (const std::string folder : {"designs", "samples", "descriptions", "user_images"}) {
+        if (!folder_exists(in_data(folder)))
             continue;
         quietly([&] {
-            for (const std::string & name : folders_in(in_data(known.folder)))
-                if (is_numbered(name, known.end))
-                    set_aside_beside(joined(in_data(known.folder), name));
+            for (const std::string & name : folders_in(in_data(folder)))
+                if (is_file_of_ours(folder + "/" + name))
+                    set_aside_beside(joined(in_data(folder), name));
         });
     }
 }

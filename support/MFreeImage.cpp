@@ -4,13 +4,11 @@
 #include "support/text_file.h"
 
 #include <FreeImage.h>
-#include <algorithm>
 #include <cstring>
 
 namespace {
 
-constexpr int superb_quality = 128;       // the library's flag for the highest JPEG quality
-constexpr unsigned longest_side = 32767;  // pixels that sizes of 16 bits can tell
+constexpr int superb_quality = 128;  // the library's flag for the highest JPEG quality
 
 bitmap in_24_bits(FIBITMAP * loaded)
 {
@@ -126,10 +124,18 @@ bitmap load_picture(picture_format format, const std::string & path)
 std::optional<picture_size> jpeg_size(const std::string & path)
 {
     const bitmap header(FreeImage_Load(FIF_JPEG, path.c_str(), FIF_LOAD_NOPIXELS));
-    if (!header ||
-        std::max(FreeImage_GetWidth(header.get()), FreeImage_GetHeight(header.get())) > longest_side)
+    if (!header)
         return std::nullopt;
     return picture_size{.width = header.width(), .height = header.height()};
+}
+
+std::optional<picture_size> usable_jpeg_size(const std::string & path)
+{
+    try {
+        return jpeg_size(path);
+    } catch (const platform_error &) {
+        return std::nullopt;
+    }
 }
 
 std::string jpeg_bytes(const bitmap & image)

@@ -71,8 +71,11 @@ void set_output_message();
 bitmap load_picture(picture_format format, const std::string & path);
 
 /// The size that load_picture would give for a JPEG, read from its header alone; nothing where the load would
-/// fail at the header or raise.
+/// fail at the header. Raises as load_picture.
 std::optional<picture_size> jpeg_size(const std::string & path);
+
+/// The same, but nothing where it would raise.
+std::optional<picture_size> usable_jpeg_size(const std::string & path);
 
 /// The bitmap as JPEG of the highest quality, as bytes. Raises 5 for an empty bitmap.
 std::string jpeg_bytes(const bitmap & image);

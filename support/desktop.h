@@ -24,6 +24,7 @@ struct file_request {
     std::string filter;     ///< "Image files (*.jpg)|*.jpg"
     std::string folder;     ///< where it opens; empty: where the user last was
     std::string extension;  ///< added by a save chooser to a name without one
+    std::string name{};     ///< stands in a save chooser's box at first
 };
 
 /// Text to be drawn in one line; the size is in points at 96 dots an inch.

@@ -13,7 +13,6 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
-#include <regex>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -135,11 +134,18 @@ std::string path_beside(const std::string & path)
     return path.substr(0, name) + path.substr(name, longest_name - own.size()) + own;
 }
 
-// A name that path_beside gives.
-bool is_part_of_ours(const std::string & name)
+// A name that path_beside gives: "a.jpg.1f3-0.part".
+bool is_part_of_ours(std::string_view name)
 {
-    static const std::regex form(".+\\.[0-9a-f]+-[0-9a-f]+\\.part");
-    return name.ends_with(part_ending) && std::regex_match(name, form);
+    constexpr std::string_view digits = "0123456789abcdef";
+    if (!name.ends_with(part_ending))
+        return false;
+    name.remove_suffix(part_ending.size());
+    const std::size_t dash = name.find_last_not_of(digits);
+    if (dash == std::string_view::npos || name[dash] != '-' || dash + 1 == name.size())
+        return false;
+    const std::size_t dot = name.substr(0, dash).find_last_not_of(digits);
+    return dot != std::string_view::npos && dot > 0 && name[dot] == '.' && dot + 1 < dash;
 }
 
 // Old, so that nobody has only just made it, and open in no program.

@@ -117,6 +117,15 @@ TEST_F(batch_program, too_few_photos_for_a_quick_style_are_told)
     EXPECT_FALSE(file_exists(out()));
 }
 
+TEST_F(batch_program, a_run_that_draws_nothing_says_so)
+{
+    const std::string complaint =
+        told({"--photos", photos(), "--quick", "block", "--set", "optSample=1", "--preview", "--out", out()},
+             exit_status::not_made);
+    EXPECT_NE(complaint.find("These settings make no picture.\n"), std::string::npos) << complaint;
+    EXPECT_FALSE(file_exists(out()));
+}
+
 TEST_F(batch_program, the_size_is_that_of_the_long_side)
 {
     ASSERT_EQ(run({"--photos", photos(), "--design", "Mosaic wall", "--orientation", "landscape", "--size",
@@ -162,6 +171,16 @@ TEST_F(batch_program, the_work_files_are_kept_where_they_are_asked_for)
                    kept, "--out", out()}),
               exit_status::made);
     EXPECT_EQ(read_file(joined(kept, "piclists/last_photos.pls")), "L " + joined(folder, "1.jpg") + "\r\n");
+}
+
+TEST_F(batch_program, the_work_files_of_a_full_size_are_its_own)
+{
+    const std::string kept = joined(place.path(), "kept");
+    ASSERT_EQ(run({"--photos", photos(), "--design", "Framed wall", "--frames", "soccer", "--keep", kept,
+                   "--out", out()}),
+              exit_status::made);
+    EXPECT_TRUE(read_file(joined(kept, "tmp/finished.jpg")) == read_file(out()));
+    EXPECT_FALSE(read_file(joined(kept, "designs/__frames")).empty());
 }
 
 TEST_F(batch_program, a_collage_that_failed_leaves_its_work_files_as_well)

@@ -37,6 +37,32 @@ TEST_F(design_choice, a_design_of_frames_asks_for_a_set_that_is_there)
               exit_status::made);
 }
 
+TEST_F(design_choice, one_of_several_designs_of_a_name_is_asked_for_by_its_section)
+{
+    use_data_of_its_own();
+    const std::string data = folders.data.public_folder;
+    std::string catalogue = read_file(joined(data, "designs.ini"));
+    for (const char * number : {"600", "601"}) {
+        replace_file(
+            joined(data, "designs/design" + std::string(number)),
+            "0:0:900:900:0:0:0:0:\r\n" + std::string(number[2] == '0' ? "" : "1000:0:900:900:0:0:0:0:\r\n"));
+        catalogue += "\r\n[Design" + std::string(number) + "]\r\nName=Twin\r\nFile=design" + number +
+                     "\r\nSystem=No\r\nStyle=Place\r\nDesign=Saved\r\nBackground=Portrait\r\n";
+    }
+    replace_file(joined(data, "designs.ini"), catalogue);
+    const auto with = [&](const std::string & design) {
+        return std::vector<std::string>{"--photos",  photos(), "--design", design,
+                                        "--preview", "--out",  out()};
+    };
+    EXPECT_EQ(refusal(with("Twin")),
+              "several designs are named \"Twin\"; --list shows their sections, by which "
+              "one of them can be asked for");
+    EXPECT_EQ(run(with("Design600")), exit_status::made);
+    const std::string first = read_file(out());
+    EXPECT_EQ(run(with("Design601")), exit_status::made);
+    EXPECT_FALSE(read_file(out()) == first);
+}
+
 TEST_F(design_choice, a_set_that_a_design_doesn_t_wear_is_noted)
 {
     EXPECT_NE(noted({"--photos", photos(), "--design", "Mosaic wall", "--frames", "soccer", "--preview",

@@ -77,9 +77,11 @@ TEST_F(given_photos, what_can_t_be_used_is_named_and_left_out)
                        place.at("folder.jpg"), place.at("no.pls"), list}),
               place.at("bare") + " has no .jpg files.\n" + place.at("folder.jpg") + " has no .jpg files.\n" +
                   place.at("no.pls") + " is left out: The file or folder does not exist.\n" + empty +
-                  " is left out: it is no JPEG picture.\n" + text + " is left out: it is no JPEG picture.\n" +
-                  place.at("png.jpg") + " is left out: it is no JPEG picture.\n" + place.at("none.jpg") +
-                  " is left out: there is no such file.\n" + place.at("gone.jpg") +
+                  " is left out: it is no JPEG photo of at most 32767 pixels a side.\n" + text +
+                  " is left out: it is no JPEG photo of at most 32767 pixels a side.\n" +
+                  place.at("png.jpg") +
+                  " is left out: it is no JPEG photo of at most 32767 pixels a side.\n" +
+                  place.at("none.jpg") + " is left out: there is no such file.\n" + place.at("gone.jpg") +
                   " is left out: there is no such file.\n");
     EXPECT_EQ(used(), (std::vector<std::string>{good}));
 }
@@ -88,10 +90,11 @@ TEST_F(given_photos, of_a_folder_and_of_a_list_the_others_are_used)
 {
     const std::string one = photo("p/1.jpg"), three = photo("p/3.jpg");
     const std::string two = place.write("p/2.jpg", "no picture");
-    EXPECT_EQ(said_of({place.at("p")}), two + " is left out: it is no JPEG picture.\n");
+    EXPECT_EQ(said_of({place.at("p")}),
+              two + " is left out: it is no JPEG photo of at most 32767 pixels a side.\n");
     EXPECT_EQ(used(), (std::vector<std::string>{one, three}));
     const std::string list = place.write("l.pls", "L " + three + "\r\nL " + two + "\r\nL " + one + "\r\n");
-    EXPECT_EQ(said_of({list}), two + " is left out: it is no JPEG picture.\n");
+    EXPECT_EQ(said_of({list}), two + " is left out: it is no JPEG photo of at most 32767 pixels a side.\n");
     EXPECT_EQ(used(), (std::vector<std::string>{three, one}));
     EXPECT_EQ(read_file(list), "L " + three + "\r\nL " + two + "\r\nL " + one + "\r\n");
 }
@@ -100,9 +103,10 @@ TEST_F(given_photos, a_quick_style_counts_those_that_can_be_used)
 {
     photos(3);
     place.write("photos/9.jpg", "no picture");
-    EXPECT_EQ(told({"--photos", place.at("photos"), "--quick", "block", "--preview", "--out", out()},
-                   exit_status::made),
-              place.at("photos/9.jpg") + " is left out: it is no JPEG picture.\n");
+    EXPECT_EQ(
+        told({"--photos", place.at("photos"), "--quick", "block", "--preview", "--out", out()},
+             exit_status::made),
+        place.at("photos/9.jpg") + " is left out: it is no JPEG photo of at most 32767 pixels a side.\n");
     delete_file(place.at("photos/0.jpg"));
     EXPECT_NE(told({"--photos", place.at("photos"), "--quick", "block", "--preview", "--out", out()},
                    exit_status::not_made)
@@ -133,7 +137,25 @@ TEST_F(given_photos, one_that_is_too_wide_is_named)
     const std::string wide = place.write("wide.jpg", bytes);
     const std::string good = photo("good.jpg");
     EXPECT_EQ(said_of({wide, good}),
-              wide + " is left out: it has more than 32767 pixels in one direction.\n");
+              wide + " is left out: it is no JPEG photo of at most 32767 pixels a side.\n");
+}
+
+TEST_F(given_photos, what_turns_out_unusable_later_is_named_too)
+{
+    const std::string strip = place.at("strip.jpg"), good = photo("good.jpg");
+    save_jpeg(plain(16000, 8, {.red = 200}), strip);
+    const std::string fault = strip + ": it is too long for its width; it is left out.\n";
+    // A preview shows its thumbnail.
+    std::vector<std::string> both = words({strip, good}), alone = words({strip});
+    both[2] = alone[2] = "--size=600";
+    const std::string said = noted(both);
+    EXPECT_EQ(said.find(fault), said.rfind(fault)) << said;
+    EXPECT_NE(said.find(fault), std::string::npos) << said;
+    delete_file(out());
+    const std::string complaint = told(alone, exit_status::not_made);
+    EXPECT_NE(complaint.find(fault), std::string::npos) << complaint;
+    EXPECT_NE(complaint.find("None of the photos could be used.\n"), std::string::npos) << complaint;
+    EXPECT_FALSE(file_exists(out()));
 }
 
 TEST_F(given_photos, without_one_that_can_be_used_nothing_is_made)

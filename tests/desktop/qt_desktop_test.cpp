@@ -187,16 +187,20 @@ TEST(qt_desktop, the_busy_pointer_nests_and_a_box_shows_an_arrow)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+file_request to_save_in(const temporary_folder & folder)
+{
+    return {.title = "Save Image file",
+            .filter = "Image files |*.jpg",
+            .folder = folder.path(),
+            .extension = ".jpg"};
+}
+
 TEST(qt_desktop, the_save_chooser_adds_the_ending_and_asks_nothing_about_a_file_that_is_there)
 {
     qt_desktop desk;
     const temporary_folder folder;
     folder.write("beach.jpg", "x");
-    file_request asked;
-    asked.title = "Save Image file";
-    asked.filter = "Image files |*.jpg";
-    asked.folder = folder.path();
-    asked.extension = ".jpg";
+    file_request asked = to_save_in(folder);
     when_asked<QFileDialog>([&](QFileDialog & chooser) {
         EXPECT_EQ(chooser.windowTitle(), "Save Image file");
         EXPECT_EQ(chooser.nameFilters(), QStringList{"Image files (*.jpg *.JPG)"});
@@ -211,6 +215,59 @@ TEST(qt_desktop, the_save_chooser_adds_the_ending_and_asks_nothing_about_a_file_
     });
     asked.folder.clear();
     EXPECT_EQ(desk.choose_save(asked), std::nullopt);
+}
+
+TEST(qt_desktop, the_save_chooser_takes_a_name_as_it_is_typed_in_the_folder_shown)
+{
+    const temporary_folder folder;
+    folder.write("album/a.jpg", "x");
+    folder.write("my \"best\".jpg", "x");
+    struct row {
+        std::string typed, path;
+    };
+    for (const row & each :
+         {row{"\"beach\".jpg", "\"beach\".jpg"}, row{"my \"best\".jpg", "my \"best\".jpg"},
+          row{"a\"b", "a\"b.jpg"}, row{"\"", "\".jpg"}, row{"\"a\" \"b\"", "\"a\" \"b\".jpg"},
+          row{" leading.jpg", " leading.jpg"},
+          row{"M\xC3\xBCller \xE2\x82\xAC.jpg", "M\xC3\xBCller \xE2\x82\xAC.jpg"}, row{"~root", "~root.jpg"},
+          row{"~", "~.jpg"}, row{"album", "album.jpg"}, row{"album/new", "album/new.jpg"},
+          row{"a.png", "a.png"}, row{"'$HOME'", "'$HOME'.jpg"}, row{"a\\b.jpg", "a\\b.jpg"},
+          row{"%41.jpg", "%41.jpg"}, row{"*.jpg", "*.jpg"}}) {
+        qt_desktop desk;
+        const file_request asked = to_save_in(folder);
+        when_asked<QFileDialog>([&](QFileDialog & chooser) {
+            auto * const box = chooser.findChild<QLineEdit *>("fileNameEdit");
+            box->setText(QString::fromStdString(each.typed));
+            QTest::keyClick(box, Qt::Key_Return);
+            if (chooser.isVisible()) {
+                ADD_FAILURE() << "not taken: " << each.typed;
+                chooser.reject();
+            }
+        });
+        EXPECT_EQ(desk.choose_save(asked), folder.path() + "/" + each.path);
+    }
+}
+
+TEST(qt_desktop, the_save_chooser_goes_to_a_folder_and_begins_with_the_name_that_was_refused)
+{
+    const temporary_folder folder;
+    folder.write("album/a.jpg", "x");
+    qt_desktop desk;
+    file_request asked;
+    asked.folder = folder.path();
+    asked.name = "refused.png";
+    when_asked<QFileDialog>([&](QFileDialog & chooser) {
+        auto * const box = chooser.findChild<QLineEdit *>("fileNameEdit");
+        EXPECT_EQ(box->text(), "refused.png");
+        for (const char * typed : {"album/", "..", "none/", "album/", "b.jpg"}) {
+            EXPECT_TRUE(chooser.isVisible());
+            box->setText(QLatin1String(typed));
+            QTest::keyClick(box, Qt::Key_Return);
+        }
+        if (chooser.isVisible())
+            chooser.reject();
+    });
+    EXPECT_EQ(desk.choose_save(asked), folder.at("album/b.jpg"));
 }
 
 }  // namespace

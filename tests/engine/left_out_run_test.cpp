@@ -151,8 +151,8 @@ TEST(left_out_photos, are_named_by_the_first_preview_and_not_again)
     gen_sample(run.main);
     EXPECT_EQ(run.desk.next_message(),
               "This photo was left out:\r\n" + text +
-                  ": it can't be read as a JPEG photo\r\n\r\nSave what can't be read as JPEG again, with at "
-                  "most 32767 pixels a side.\r\nThen choose your photos again.");
+                  ": it can't be read as a JPEG photo\r\n\r\nSave what can't be read as a JPEG "
+                  "again.\r\nThen choose your photos again.");
     gen_sample(run.main);
     EXPECT_EQ(run.seen_run(), "rg\nrg\nrg\n");
     EXPECT_TRUE(run.desk.messages.empty());

@@ -45,6 +45,37 @@ TEST_F(save_test, the_dialog_gives_its_path_and_a_cancel_leaves_the_old_one)
     EXPECT_EQ(asked.extension, ".jpg");
 }
 
+TEST_F(save_test, a_name_without_an_ending_gets_that_of_a_jpeg)
+{
+    session.desk.will_choose_save("/somewhere/St. Moritz");
+    save_new_image(session.main);
+    EXPECT_EQ(session.main.save_image_path, "/somewhere/St. Moritz.jpg");
+}
+
+TEST_F(save_test, another_ending_is_told_and_the_dialog_comes_again_with_the_name)
+{
+    session.desk.will_choose_save("/somewhere/a.png");
+    session.desk.will_choose_save("/somewhere/a.png.txt");
+    session.desk.will_choose_save("/somewhere/a.JPEG");
+    save_new_image(session.main);
+    EXPECT_EQ(session.main.save_image_path, "/somewhere/a.JPEG");
+    EXPECT_EQ(session.desk.next_message(),
+              "A collage is saved as a JPEG file, so its name has to end in .jpg or .jpeg:\r\na.png");
+    EXPECT_EQ(session.desk.next_message(),
+              "A collage is saved as a JPEG file, so its name has to end in .jpg or .jpeg:\r\na.png.txt");
+    EXPECT_EQ(session.desk.save_requests.at(0).name, "");
+    EXPECT_EQ(session.desk.save_requests.at(2).name, "a.png.txt");
+}
+
+TEST_F(save_test, a_cancel_behind_another_ending_leaves_the_old_path)
+{
+    session.desk.will_choose_save("/somewhere/a.png");
+    session.desk.will_choose_save(std::nullopt);
+    save_new_image(session.main);
+    EXPECT_EQ(session.main.save_image_path, target);
+    session.desk.next_message();
+}
+
 TEST_F(save_test, a_new_file_is_written_without_a_question)
 {
     write_collage(session.main, 45);

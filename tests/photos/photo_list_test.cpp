@@ -184,7 +184,9 @@ TEST_F(photo_list_test, a_photo_beyond_16_bits_is_left_out_and_the_others_are_co
     fill_table({wide, photo("a.jpg", 40, 30), high, photo("b.jpg", 30, 40)});
     count_photos(main);
     EXPECT_EQ(counted(), "1l 1p l:p:");
-    EXPECT_EQ(main.left_out.photos, (std::vector<left_out_photo>{{.path = wide}, {.path = high}}));
+    EXPECT_EQ(main.left_out.photos,
+              (std::vector<left_out_photo>{{.path = wide, .fault = photo_fault::too_large},
+                                           {.path = high, .fault = photo_fault::too_large}}));
 }
 
 TEST_F(photo_list_test, what_is_left_out_is_named_in_one_box_behind_the_count)
@@ -197,7 +199,7 @@ TEST_F(photo_list_test, what_is_left_out_is_named_in_one_box_behind_the_count)
               "These photos were left out:\r\n" + text +
                   ": it can't be read as a JPEG photo\r\n/gone.jpg: it isn't there any more\r\n\r\n"
                   "Put what is missing back in its place.\r\n"
-                  "Save what can't be read as JPEG again, with at most 32767 pixels a side.\r\n"
+                  "Save what can't be read as a JPEG again.\r\n"
                   "Then choose your photos again.");
     EXPECT_EQ(desk.busy_depth, 0);
 }
