@@ -120,7 +120,8 @@ void make_big_photos(const std::string & from, const std::string & work)
     for (int i = 0; i < photo_count; ++i) {
         if (file_exists(big_photo(work, i)))
             continue;
-        const bitmap source = load_picture(picture_format::jpeg, joined(from, names[i % names.size()]));
+        const bitmap source = load_picture(picture_format::jpeg,
+                                           joined(from, names[static_cast<std::size_t>(i) % names.size()]));
         const bool wide = source.width() > source.height();
         save_jpeg(rescaled(source, wide ? long_side : short_side, wide ? short_side : long_side),
                   big_photo(work, i));
@@ -165,7 +166,7 @@ struct cell_size {
 void add_grid_cells(const location & first, const location & second, std::vector<cell_size> & cells)
 {
     const grid layer = grid_of(first, second, 0);
-    cells.insert(cells.end(), static_cast<std::size_t>(layer.rows) * layer.columns,
+    cells.insert(cells.end(), static_cast<std::size_t>(layer.rows) * static_cast<std::size_t>(layer.columns),
                  {layer.cell_width, layer.cell_height});
 }
 

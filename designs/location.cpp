@@ -4,11 +4,11 @@
 
 namespace {
 
-int checked(int index)
+std::size_t checked(int index)
 {
     if (index < 0 || index >= location_table::capacity)
         throw platform_error(error_number::subscript, "The table of locations has no such entry.");
-    return index;
+    return static_cast<std::size_t>(index);
 }
 
 const location blank{.frame = 0, .shadow = 0};

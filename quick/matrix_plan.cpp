@@ -55,6 +55,11 @@ grid_places places_of(const matrix_request & request)
             .column_gap = grid.column_gap};
 }
 
+const shake & pattern_at(int number)
+{
+    return matrix_patterns[static_cast<std::size_t>(number)];
+}
+
 // Walks the patterns so that neighbouring rows begin differently: with other patterns, and leaning to the
 // other side.
 class pattern_walk {
@@ -64,9 +69,9 @@ public:
     shake next(int row, int column)
     {
         int pattern = following(column);
-        while (rotated && column == 0 && row > 0 && leans_alike(matrix_patterns[pattern].rotation))
+        while (rotated && column == 0 && row > 0 && leans_alike(pattern_at(pattern).rotation))
             pattern = following(column);
-        shake found = matrix_patterns[pattern];
+        shake found = pattern_at(pattern);
         if (!rotated)
             found.rotation = 0;
         if (column == 0) {

@@ -46,7 +46,7 @@ void combo_box::set_text(std::string text)
 void combo_box::choose(int index)
 {
     check_entry(*this, index, entries.size());
-    if (!replaced(shown_text, entries[index]))
+    if (!replaced(shown_text, entries[static_cast<std::size_t>(index)]))
         return;
     changed();
     fire(on_click);

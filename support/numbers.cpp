@@ -177,6 +177,7 @@ std::string formatted(int value, int digits)
 {
     const std::string plain =
         std::to_string(value < 0 ? -static_cast<long>(value) : static_cast<long>(value));
-    const std::size_t missing = plain.size() < static_cast<std::size_t>(digits) ? digits - plain.size() : 0;
+    const auto wanted = static_cast<std::size_t>(digits);
+    const std::size_t missing = plain.size() < wanted ? wanted - plain.size() : 0;
     return (value < 0 ? "-" : "") + std::string(missing, '0') + plain;
 }

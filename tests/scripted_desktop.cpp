@@ -166,7 +166,7 @@ bitmap scripted_desktop::draw_text(const text_request & request)
         if (request.text[i] != ' ')
             for (int y = 0; y < lround(pixels * 0.8); ++y)
                 for (int x = 0; x < lround(pixels * 0.6); ++x)
-                    set_pixel(image, static_cast<int>(i) * step + x, height - 1 - lround(pixels * 0.1) - y,
-                              request.color);
+                    set_pixel(image, static_cast<int>(i) * step + x,
+                              height - 1 - static_cast<int>(lround(pixels * 0.1)) - y, request.color);
     return image;
 }

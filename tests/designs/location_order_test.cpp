@@ -33,7 +33,7 @@ std::vector<int> sorted_order(const location_table & table)
 
 std::vector<int> counted(int count)
 {
-    std::vector<int> numbers(count);
+    std::vector<int> numbers(static_cast<std::size_t>(count));
     std::iota(numbers.begin(), numbers.end(), 1);
     return numbers;
 }
@@ -49,7 +49,7 @@ std::vector<int> mixed_by_list(int count, int step)
             walk.push_back(from);
     std::vector<int> numbers = counted(count);
     for (std::size_t i = 0; i < walk.size(); ++i)
-        std::swap(numbers[i], numbers[walk[i]]);
+        std::swap(numbers[i], numbers[static_cast<std::size_t>(walk[i])]);
     return numbers;
 }
 

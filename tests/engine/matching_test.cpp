@@ -90,7 +90,7 @@ TEST(matching, a_near_square_location_takes_what_stands_at_the_cursor)
 TEST(matching, a_near_square_location_finds_nothing_where_no_photo_can_be_loaded)
 {
     for (const bool evolve : {false, true})
-        for (const int16 start : {0, 2}) {
+        for (const int16 start : {int16{0}, int16{2}}) {
             table photos{.photos = "xxx", .evolve = evolve, .squares = true};
             photos.cursors.next_landscape = photos.cursors.next_portrait = start;
             EXPECT_EQ(photos.next(100, 100), -1);

@@ -139,7 +139,7 @@ TEST(read_ahead, leaves_painted_shapes_as_they_are_without_it)
 {
     expect_same_run(
         [](collage_fixture & run) {
-            for (const int16 code : {1, 0, 2, 3, 0, 0})
+            for (const int16 code : std::initializer_list<int16>{1, 0, 2, 3, 0, 0})
                 run.add_location({.top = 20, .left = 20, .width = 60, .spare = code});
         },
         place_loop);

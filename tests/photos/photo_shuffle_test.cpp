@@ -31,9 +31,9 @@ std::string shuffled_by_gaps(photo_table table, const random_source & random)
     photos.emplace_back();
     std::string text;
     for (int remaining = table.last_photo; remaining >= 0; --remaining) {
-        const int drawn = static_cast<int>(random.next() * (remaining + 1));
+        const auto drawn = static_cast<std::size_t>(random.next() * (remaining + 1));
         text += photos[drawn] + " ";
-        for (int j = drawn; j <= table.last_photo; ++j)
+        for (std::size_t j = drawn; j <= static_cast<std::size_t>(table.last_photo); ++j)
             photos[j] = photos[j + 1];
     }
     return text;

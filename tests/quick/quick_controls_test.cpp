@@ -219,7 +219,7 @@ TEST(cmbShapes, dots_stripes_and_targets_have_no_outline)
     const std::vector<std::string> & shapes = session.main.cmbShapes.items();
     for (int i = 1; i < static_cast<int>(shapes.size()); ++i) {
         session.main.cmbShapes.choose(i);
-        EXPECT_EQ(session.main.chkOutline.visible(), i < 9) << shapes[i];
+        EXPECT_EQ(session.main.chkOutline.visible(), i < 9) << shapes[static_cast<std::size_t>(i)];
     }
 }
 

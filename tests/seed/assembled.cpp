@@ -169,7 +169,8 @@ covering assembled(const jigsaw & puzzle, const laid_out & pieces)
                 const std::size_t at = static_cast<std::size_t>(to_y) * static_cast<std::size_t>(seen.width) +
                                        static_cast<std::size_t>(to_x);
                 ++seen.covered[at];
-                seen.inside[at] += level < darkest_rim ? 1 : 0;
+                if (level < darkest_rim)
+                    ++seen.inside[at];
             }
         }
     }
