@@ -157,7 +157,7 @@ exit_status make_full_size(open_session & running, const batch_arguments & argum
                                 [&] { return flurn_bytes(image, arguments.size.value_or(own)); });
     };
     // The grid of shapes is laid out by a preview; the full size draws it as it stands.
-    if (running.all.main.quick_active && running.all.main.optShapes.selected())
+    if (running.all.main.collage.quick_active && running.all.main.optShapes.selected())
         write_quick_shapes(running.all.main);
     running.desk.forget_errors();
     running.all.main.cmdFlurn.click();
@@ -179,7 +179,7 @@ exit_status make_small(open_session & running, const batch_arguments & arguments
     const std::string picture = finished_path(main);
     delete_file(picture);
     running.desk.forget_errors();
-    if (main.quick_active)
+    if (main.collage.quick_active)
         make_preview(main);
     else
         gen_sample(main);

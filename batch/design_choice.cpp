@@ -52,7 +52,7 @@ void wear_frame_set(frmMain & main, const std::string & set)
                          main.design_record.name.c_str(), set.c_str());
         return;
     }
-    main.frame_set_name = set;
+    main.collage.frame_set_name = set;
     if (!build_frames_template(main))
         throw bad_arguments{"\"" + main.design_record.name + "\" can't wear the frames \"" + set + "\""};
     main.design_record.file = "__frames";

@@ -3,6 +3,7 @@
 #include "designers/work_template.h"
 #include "designs/chosen_design.h"
 #include "session/handlers.h"
+#include "session/start_up.h"
 #include "support/colors.h"
 #include "support/show_help.h"
 
@@ -68,7 +69,7 @@ void load_lettering(windows & all)
 
 void take_lettering(frmMain & main)
 {
-    reset_for_design(main);
+    clear_matrix_design(main);
     const updating quiet(main);
     take_design(main, {.section = "Lettering", .name = "Lettering", .shape = main.lettering.shape});
     main.design_record.file = "__lettering";

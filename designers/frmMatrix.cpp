@@ -135,7 +135,8 @@ void choose_frames(windows & all)
     const auto order = photo_order_of_set(all.main);
     if (!order)
         return;
-    window.chosen_set = {.set = all.main.frame_set_name, .captions = nearest16(captions), .order = *order};
+    window.chosen_set = {
+        .set = all.main.collage.frame_set_name, .captions = nearest16(captions), .order = *order};
     window.chkFrames.tick(true);
 }
 
@@ -160,14 +161,14 @@ void take_matrix(frmMain & main, const matrix_choices & choices)
     const bool framed = choices.frames.has_value();
     main.matrix_size = size_text(choices);
     main.matrix_portrait = choices.poster == poster_shape::portrait;
-    main.matrix_both = choices.photos == matrix_photos::both;
-    main.matrix_rotate = choices.rotate;
-    main.matrix_resize = choices.resize;
-    main.frames_design = framed;
+    main.collage.matrix_both = choices.photos == matrix_photos::both;
+    main.collage.matrix_rotate = choices.rotate;
+    main.collage.matrix_resize = choices.resize;
+    main.collage.frames_design = framed;
     if (framed)
-        main.frame_set_name = choices.frames->set;
+        main.collage.frame_set_name = choices.frames->set;
     else
-        main.frame_set_name.clear();
+        main.collage.frame_set_name.clear();
     const updating quiet(main);
     take_design(main, {.section = framed ? "Frame_matrix" : "Matrix grid",
                        .name = (framed ? "Custom Frame Matrix " : "Matrix ") + main.matrix_size,

@@ -4,6 +4,7 @@
 #include "designers/work_template.h"
 #include "designs/chosen_design.h"
 #include "session/handlers.h"
+#include "session/start_up.h"
 #include "support/show_help.h"
 
 #include <algorithm>
@@ -77,7 +78,7 @@ void kind_changed(frmPuzzle & window)
 
 void take_puzzle(frmMain & main, poster_shape shape)
 {
-    reset_for_design(main);
+    clear_matrix_design(main);
     const updating quiet(main);
     take_design(main, {.section = "Puzzle", .name = "Puzzle", .shape = shape});
     main.design_record.file = "__puzzle";

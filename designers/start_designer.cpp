@@ -4,6 +4,7 @@
 #include "designs/catalogue.h"
 #include "photos/chosen_photos.h"
 #include "session/new_poster.h"
+#include "session/start_up.h"
 #include "session/window_state.h"
 #include "session/windows.h"
 
@@ -21,18 +22,22 @@ form & window_of(windows & all, designer chosen)
     }
 }
 
-// Borders that a scatter has tied are free again; a matrix has none.
+collage_kind kind_of(designer chosen)
+{
+    if (chosen == designer::matrix)
+        return collage_kind::matrix;
+    return chosen == designer::lettering ? collage_kind::lettering : collage_kind::puzzle;
+}
+
 void prepare_stage(frmMain & main, designer chosen)
 {
+    begin_collage(main, kind_of(chosen));
     clear_stage(main);
-    main.random_design = false;
     main.lblDesign.tag.clear();
     main.collage_width = 2000;
     main.collage_height = 3000;
     if (chosen == designer::matrix)
-        reset_for_design(main);
-    else
-        main.borders_free = true;
+        clear_matrix_design(main);
 }
 
 bool design_found(frmMain & main)
@@ -61,7 +66,7 @@ void forget_other_styles(frmMain & main, designer chosen)
         style->select(false);
     if (chosen != designer::matrix)
         for (check_box * ornament : {&main.chkRounded, &main.chkCaption, &main.chkSoftEdge})
-            ornament->tick(false);
+            main.collage.forced.tick(*ornament, false);
 }
 
 void enter_poster(frmMain & main, designer chosen)
@@ -75,7 +80,7 @@ void enter_poster(frmMain & main, designer chosen)
     if (chosen != designer::matrix)
         main.picFrameColor.tag = "False";  // the last frame size would frame the square around each piece
     if (chosen != designer::lettering) {
-        main.optNone.select();
+        main.collage.forced.select(main.border_options, main.optNone);
         main.frmBorder.enable(false);
     }
     main.chkOutline.show(chosen != designer::matrix);
@@ -96,9 +101,9 @@ void start_designer(frmMain & main, designer chosen, const std::function<void()>
     start_enable_true(main);
     if (main.lblDesign.tag.empty() || !design_found(main))
         return;
-    main.matrix_session = chosen == designer::matrix;
+    main.collage.matrix_session = chosen == designer::matrix;
     if (!photos_chosen(main, choose_photos)) {
-        main.matrix_session = false;
+        main.collage.matrix_session = false;
         return;
     }
     main.cmdMore.show(false);

@@ -11,6 +11,3 @@
 /// stays.
 void write_work_template(const frmMain & main, const std::string & name,
                          const std::vector<std::string> & lines);
-
-/// Brings the main window to its state for a new collage: no matrix, no frames, no shaking.
-void reset_for_design(frmMain & main);

@@ -52,7 +52,6 @@ void open_catalogue(frmMain & main)
 {
     close_catalogue(main);
     main.catalogue.catalogue_stream = line_source(catalogue_path(main));
-    main.catalogue.catalogue_closed = false;
     main.catalogue.catalogue_at_end = true;
 }
 

@@ -31,7 +31,7 @@ void settle_caption_clear(design_record & design)
 void make_room_for_background(frmMain & main)
 {
     if (has_own_background(main.design_record))
-        main.optNone.select();
+        main.collage.forced.select(main.border_options, main.optNone);
 }
 
 void take_design(frmMain & main, const chosen_design & chosen)
@@ -39,9 +39,9 @@ void take_design(frmMain & main, const chosen_design & chosen)
     main.lblDesign.tag = chosen.section;
     main.lblDesign.set_caption(chosen.name);
     main.poster_tall = chosen.shape != poster_shape::landscape;
-    main.design_rotated = main.design_rotated || chosen.rotated;
-    main.design_flipped = main.design_flipped || chosen.flipped;
-    main.design_mirrored = main.design_mirrored || chosen.mirrored;
+    main.collage.design_rotated = main.collage.design_rotated || chosen.rotated;
+    main.collage.design_flipped = main.collage.design_flipped || chosen.flipped;
+    main.collage.design_mirrored = main.collage.design_mirrored || chosen.mirrored;
     option_button & orientation = orientation_option(main, chosen.shape);
     orientation.select(false);
     orientation.select();

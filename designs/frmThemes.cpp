@@ -55,7 +55,7 @@ void orientation_click(windows & all, const orientation_layout & layout)
 
 void tell_frames_missing(windows & all)
 {
-    all.main.frame_set_name.clear();
+    all.main.collage.frame_set_name.clear();
     if (start_custom_frames(all.main).empty())
         all.main.desk.message(
             "You will not be able to use any of these custom frame designs\r\n"
@@ -99,7 +99,7 @@ void load_themes(windows & all)
 // go with the design.
 bool wears_frame_set(windows & all)
 {
-    all.main.frames_design = all.main.use_list_of_frame = false;
+    all.main.collage.frames_design = false;
     if (!offer_frame_sets(all.main))
         return false;
     if (!choose_frame_set(all.main) || !build_frames_template(all.main)) {

@@ -48,11 +48,11 @@ line_source opened_template(const frmMain & main, run_size size)
 void set_matrix_switches(frmMain & main, const location & first)
 {
     if (first.rotation == 1)
-        main.matrix_both = true;
+        main.collage.matrix_both = true;
     if (first.frame == 1)
-        main.matrix_rotate = true;
+        main.collage.matrix_rotate = true;
     if (first.shadow == 1)
-        main.matrix_resize = true;
+        main.collage.matrix_resize = true;
 }
 
 bool enlarges_for_soft_edges(const frmMain & main)
@@ -87,7 +87,7 @@ void read_opened_template(frmMain & main, run_size size)
 {
     const bool matrix = main.design_record.style == "Matrix";
     main.work_style = matrix ? "Fill" : main.design_record.style;
-    main.matrix_both = false;
+    main.collage.matrix_both = false;
     line_source lines = opened_template(main, size);
     main.design_locations.clear();
     main.min_location = largest_min_location;
@@ -100,7 +100,7 @@ void read_opened_template(frmMain & main, run_size size)
 // A landscape template has its own height there: with that of a portrait one it would leave the poster.
 int turning_edge(const frmMain & main)
 {
-    const edges & sides = main.landscape_turn == -90 ? landscape_edges : portrait_edges;
+    const edges & sides = main.collage.landscape_turn == -90 ? landscape_edges : portrait_edges;
     return main.in_preview ? sides.preview : sides.full;
 }
 

@@ -103,7 +103,7 @@ void allocate_canvas(frmMain & main, run_size size)
 void lay_background(frmMain & main, run_size size)
 {
     const int alpha = blend_alpha(number_in(main.cmbBlend));
-    if (alpha == 0 || !(main.optBGimage.selected() || main.bg_from_design))
+    if (alpha == 0 || !(main.optBGimage.selected() || main.collage.bg_from_design))
         return;
     const bitmap image = size == run_size::preview ? small_background(main) : full_background(main);
     paste(main.run.canvas, image, main.run.collage_margin, main.run.collage_margin, alpha);

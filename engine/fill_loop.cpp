@@ -48,7 +48,7 @@ void open_saved_matrix(frmMain & main, grid_walk & walk)
 {
     const std::string path = work_path(main, "tmp/saved_matrix");
     delete_file(path);
-    if (main.matrix_resize || main.matrix_rotate || main.matrix_both)
+    if (main.collage.matrix_resize || main.collage.matrix_rotate || main.collage.matrix_both)
         walk.saved.emplace(path, line_writer::mode::fresh);
 }
 
@@ -108,7 +108,7 @@ cell_photo taken_photo(frmMain & main, grid_walk & walk, int column)
     const std::optional<picture_size> size = usable_jpeg_size(path);
     const bool matches =
         !main.chkMatch.ticked() || (size && fits_cell(walk.layer, size->height, size->width));
-    if (size && !matches && !(main.matrix_both && has_right_neighbour(walk.layer, column)))
+    if (size && !matches && !(main.collage.matrix_both && has_right_neighbour(walk.layer, column)))
         return {};
     bitmap image = size ? load_photo(main, path) : bitmap();
     if (!image) {
@@ -139,7 +139,7 @@ cell_photo next_photo(frmMain & main, grid_walk & walk, int column)
 // The photo that the cells behind this one will take, as far as can be told.
 void read_upcoming(frmMain & main, const grid_walk & walk)
 {
-    const bool takes_any = !main.chkMatch.ticked() || main.matrix_both;
+    const bool takes_any = !main.chkMatch.ticked() || main.collage.matrix_both;
     for (int photo = walk.photo + 1; photo <= main.table.last_photo; ++photo) {
         const picture_size size =
             takes_any ? picture_size{} : usable_jpeg_size(main.table[photo]).value_or(picture_size{});
@@ -204,8 +204,9 @@ cell_span put_photo(frmMain & main, grid_walk & walk, grid_position at, row_lean
         if (photo.image && !is_last(walk, at, span))
             read_upcoming(main, walk);
         row_lean after = lean;
-        const shaken cell = shaken_cell(walk.layer, at, span, by,
-                                        {.resize = main.matrix_resize, .rotate = main.matrix_rotate}, after);
+        const shaken cell =
+            shaken_cell(walk.layer, at, span, by,
+                        {.resize = main.collage.matrix_resize, .rotate = main.collage.matrix_rotate}, after);
         main.design_locations[1].rotation = narrow(cell.rotation);
         if (!photo.image || is_drawn(main, walk, at, std::move(photo), cell)) {
             lean = after;

@@ -34,7 +34,7 @@ borrowed_settings borrow_settings(frmMain & main)
     const borrowed_settings before{.display = selected_of(main.display_options),
                                    .shape = selected_of(main.orientation_options),
                                    .in_preview = main.in_preview,
-                                   .matrix_session = main.matrix_session};
+                                   .matrix_session = main.collage.matrix_session};
     // Nothing that a run sets starts a preview inside it.
     const updating no_preview(main);
     main.optSample.select();
@@ -55,7 +55,7 @@ void give_back(frmMain & main, const borrowed_settings & before)
     if (before.shape != nullptr)
         before.shape->select();
     main.in_preview = before.in_preview;
-    main.matrix_session = before.matrix_session;
+    main.collage.matrix_session = before.matrix_session;
     main.cmdFlurn.enable(true);
     main.cmdHelp.enable(true);
 }
@@ -71,14 +71,14 @@ void set_output_size(frmMain & main)
 // A matrix of custom frames can't be read back as a grid.
 void offer_saving(frmMain & main)
 {
-    if (main.quick_active || (main.matrix_session && !main.frames_design))
+    if (main.collage.quick_active || (main.collage.matrix_session && !main.collage.frames_design))
         main.mnuSaveDesign.enable(true);
-    main.matrix_session = false;
+    main.collage.matrix_session = false;
 }
 
 void clear_quick_flags(frmMain & main)
 {
-    main.quick_active = main.quick_first_pass = false;
+    main.collage.quick_active = false;
 }
 
 bool is_cancelled_at_start(frmMain & main)
@@ -98,7 +98,6 @@ void keep_collage(frmMain & main)
         copied(run.canvas, margin, margin, main.collage_width + margin, main.collage_height + margin);
     save_photo(main, run.canvas, finished_path(main));
     main.txtDoing.show(false);
-    run.image_saved = false;
     main.trace += "FFF  ";
 }
 

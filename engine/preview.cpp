@@ -19,7 +19,7 @@ void scale_template(frmMain & main)
         main, [](const location & place, location_role role) { return scaled_to_preview(place, role); });
     if (!is_saved_landscape(main))
         return;
-    main.landscape_turn = saved_landscape_turn;
+    main.collage.landscape_turn = saved_landscape_turn;
     turn_locations(main);
 }
 
@@ -40,7 +40,7 @@ bool is_drawn_nearer(const frmMain & main)
 // nearer by as much.
 bool is_laid_out_smaller(const frmMain & main)
 {
-    return main.quick_active && main.optMatrix.selected() && main.quick.preview_inset > 0 &&
+    return main.collage.quick_active && main.optMatrix.selected() && main.quick.preview_inset > 0 &&
            main.txtCaption.text().empty();
 }
 
@@ -159,10 +159,10 @@ void gen_sample(frmMain & main)
 
 void make_preview(frmMain & main)
 {
-    if (main.design_record.file.empty() && !main.quick_active)
+    if (main.design_record.file.empty() && !main.collage.quick_active)
         return;
     if (main.optSample.selected()) {
-        if (main.quick_active)
+        if (main.collage.quick_active)
             show_picture(main, joined(main.install_folder, "images/preview/" + stored_sample(main)));
         return;
     }

@@ -43,7 +43,7 @@ void write_template(frmMain & main, run_size size)
 
 void make_quick_template(frmMain & main, run_size size)
 {
-    if (!main.quick_active)
+    if (!main.collage.quick_active)
         return;
     if (main.optMatrix.selected()) {
         write_quick_matrix(main);

@@ -21,7 +21,7 @@ bool is_turned_afterwards(const frmMain & main)
 {
     if (is_saved_landscape(main))
         return !main.in_preview;
-    if (main.landscape_turn != 0 && main.landscape_turn != saved_landscape_turn)
+    if (main.collage.landscape_turn != 0 && main.collage.landscape_turn != saved_landscape_turn)
         return true;
     return main.optLandscape.selected() && main.design_record.background == "Portrait";
 }

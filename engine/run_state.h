@@ -30,5 +30,4 @@ struct run_state {
     photo_ahead ahead;
     int16 first_cell_height = 0, first_cell_width = 0;  ///< in a grid its rows and columns
     int16 caption_height = 0;                           ///< pixels, of the prepared caption
-    bool image_saved = false;
 };

@@ -18,7 +18,6 @@ namespace {
 
 constexpr int evolve_off = 9;      // of the wrap counters: the rule never sees 0
 constexpr int preview_offset = 8;  // of the layout in its picture control
-constexpr int border_ornaments = 30;
 
 bool shapes_are_mixed(const frmMain & main)
 {
@@ -28,21 +27,20 @@ bool shapes_are_mixed(const frmMain & main)
 
 bool matrix_is_mixed(const frmMain & main)
 {
-    return main.quick_active && main.optMatrix.selected() &&
+    return main.collage.quick_active && main.optMatrix.selected() &&
            (main.chkRotate.ticked() || main.chkResize.ticked() || main.chkShuffle.ticked());
 }
 
 bool border_is_wanted(const frmMain & main)
 {
-    return !main.optNone.selected() ||
-           (main.quick_border && number_in(main.cmbShadow) + number_in(main.cmbFrame) > border_ornaments);
+    return !main.optNone.selected();
 }
 
 bool match_is_active(const frmMain & main)
 {
     if (main.chkMatch.visible() && !main.chkMatch.ticked())
         return false;
-    return main.design_matches && !(main.optShapes.selected() && main.optShapes.visible());
+    return main.collage.design_matches && !(main.optShapes.selected() && main.optShapes.visible());
 }
 
 void reset_matching(frmMain & main)
@@ -66,7 +64,7 @@ void turn_if_needed(frmMain & main)
 {
     if (is_turned_afterwards(main))
         turn_locations(main);
-    if (main.stretch_design)
+    if (main.collage.stretch_design)
         stretch_locations(main);
 }
 
@@ -83,7 +81,7 @@ void move_to_canvas(frmMain & main, run_size size)
 void make_room_for_ornaments(frmMain & main, run_size size)
 {
     const bool places = layout_of(main) == layout::places;
-    if (main.frames_inside && main.run.frame_size > 0 && places)
+    if (main.collage.frames_inside && main.run.frame_size > 0 && places)
         change_locations(main, [&](const location & place, location_role) {
             return framed_inside(place, main.run.frame_size);
         });
@@ -95,7 +93,7 @@ void make_room_for_ornaments(frmMain & main, run_size size)
 // Shuffling would tear the pairs of a grid's rows apart.
 void turn_the_order(frmMain & main)
 {
-    if (!main.random_design || !main.design_rotated || layout_of(main) == layout::grids)
+    if (!main.collage.random_design || !main.collage.design_rotated || layout_of(main) == layout::grids)
         return;
     main.random.reseed();
     const int turns = whole(main.random.next() * 9 + 1) % 9 * (whole(main.random.next() * 3) + 1);

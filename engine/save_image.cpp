@@ -39,7 +39,6 @@ void write_picture(frmMain & main, int save_size)
     try {
         const busy pointer(main.desk);
         with_platform_errors([&] { save_flurn(main.run.canvas, save_size, main.save_image_path); });
-        main.run.image_saved = true;
         return;
     } catch (const platform_error & error) {
         main.desk.message("The collage could not be saved:\r\n" + main.save_image_path + "\r\n\r\n" +

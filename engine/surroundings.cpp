@@ -55,7 +55,7 @@ room_setting room_setting_of(const frmMain & main)
 {
     const std::string & file = main.design_record.file;
     const bool stays = file == "__lettering" || file == "__puzzle" || main.optSquare.selected() ||
-                       (main.borders_free && !is_turned_afterwards(main));
+                       (main.collage.borders_free && !is_turned_afterwards(main));
     return {.turned_afterwards = !stays,
             .block = main.design_record.design == "Block" || file == "__quick",
             .at_bottom = main.optBottom.selected(),
@@ -67,9 +67,9 @@ void turn_over(frmMain & main)
 {
     const extent size = layout_extent(main);
     change_locations(main, [&](location place, location_role role) {
-        if (role == location_role::place && main.design_mirrored)
+        if (role == location_role::place && main.collage.design_mirrored)
             place = mirrored(place, size.width);
-        if (role == location_role::place && main.design_flipped)
+        if (role == location_role::place && main.collage.design_flipped)
             place = flipped(place, size.height);
         return place;
     });
@@ -145,7 +145,7 @@ void apply_border(frmMain & main, run_size size)
 
 void make_caption_room(frmMain & main)
 {
-    if (main.design_mirrored || main.design_flipped)
+    if (main.collage.design_mirrored || main.collage.design_flipped)
         turn_over(main);
     if (!has_cleared_caption(main))
         return;

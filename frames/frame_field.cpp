@@ -20,7 +20,7 @@ bool continues_letter(char byte)
 
 std::string get_frame_field(const frmMain & main, std::string_view key)
 {
-    line_source lines(joined(frame_set_folder(main, main.frame_set_name), "design.ini"));
+    line_source lines(joined(frame_set_folder(main, main.collage.frame_set_name), "design.ini"));
     const std::string wanted = std::string(key) + "=";
     while (!lines.at_end()) {
         const std::string line = lines.read_line();

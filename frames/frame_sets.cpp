@@ -45,7 +45,7 @@ const std::vector<std::string> & start_custom_frames(const frmMain & main)
 
 bool offer_frame_sets(frmMain & main)
 {
-    main.frame_set_name.clear();
+    main.collage.frame_set_name.clear();
     main.frame_manage_mode = false;
     if (!start_custom_frames(main).empty())
         return true;
@@ -56,7 +56,7 @@ bool offer_frame_sets(frmMain & main)
 bool choose_frame_set(frmMain & main)
 {
     main.desk.show_modal(main.all->custom);
-    return !main.frame_set_name.empty();
+    return !main.collage.frame_set_name.empty();
 }
 
 void new_custom_frame(frmMain & main)

@@ -55,10 +55,10 @@ std::vector<std::string> design_source(const frmMain & main)
 
 frame_deal deal_of(const frmMain & main, const std::string & order)
 {
-    const std::string folder = frame_set_folder(main, main.frame_set_name);
-    return {.set = main.frame_set_name, .order = order, .has_frame = [folder](const std::string & file) {
-                return file_exists(joined(folder, file));
-            }};
+    const std::string folder = frame_set_folder(main, main.collage.frame_set_name);
+    return {.set = main.collage.frame_set_name,
+            .order = order,
+            .has_frame = [folder](const std::string & file) { return file_exists(joined(folder, file)); }};
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ void take_selected(windows & all)
 {
     if (all.custom.lstFrames.list_index() < 0)
         return;
-    all.main.frame_set_name = all.custom.lstFrames.text();
+    all.main.collage.frame_set_name = all.custom.lstFrames.text();
     all.custom.unload();
 }
 

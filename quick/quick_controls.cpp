@@ -43,7 +43,6 @@ void cmbSpace_click(frmMain & main)
 {
     if (!main.cmbSpace.visible())
         return;
-    main.quick_spacing_changed = true;
     refresh_preview(main);
 }
 
@@ -102,14 +101,15 @@ void redraw_sample(frmMain & main)
         return;
     const redrawing quiet(main);
     make_preview(main);
-    if (main.quick_active)
+    if (main.collage.quick_active)
         settle_after_preview(main);
 }
 
 void show_ready_made(frmMain & main)
 {
     // Of the shapes there is none: what was drawn last says more than a picture of another style.
-    if (!main.menus_shown && main.quick_active && !main.updating_controls && !main.optShapes.selected())
+    if (!main.menus_shown && main.collage.quick_active && !main.updating_controls &&
+        !main.optShapes.selected())
         make_preview(main);
 }
 

@@ -9,15 +9,15 @@
 namespace {
 
 // A wider border that the user has chosen stays.
-void force_border(frmMain & main, const option_button & least)
+void force_border(frmMain & main, option_button & least)
 {
-    const option_set & borders = main.border_options;
+    option_set & borders = main.border_options;
     const auto floor = std::find(borders.begin(), borders.end(), &least);
     for (auto smaller = borders.begin(); smaller != floor; ++smaller)
         (*smaller)->enable(false);
     if (std::none_of(floor, borders.end(), [](const option_button * each) { return each->selected(); }))
-        (*floor)->select();
-    main.borders_free = false;
+        main.collage.forced_by_style.select(main.border_options, **floor);
+    main.collage.borders_free = false;
 }
 
 void fit_borders(frmMain & main, least_border least)
@@ -36,7 +36,7 @@ void fit_borders(frmMain & main, least_border least)
 void write_quick_scatter(frmMain & main)
 {
     const blank_run blanks = start_blanks(main);
-    main.borders_free = true;
+    main.collage.borders_free = true;
     const scatter_entry entry = scatter_entry_of(main.quick.scatter_line);
     const scatter_request request{
         .wanted = {.along = main.quick.quick_along, .cross = main.quick.quick_cross},

@@ -48,6 +48,7 @@ void lay_out_block(frmMain & main)
 
 void optBlock_click(frmMain & main)
 {
+    leave_quick_style(main);
     lay_out_block(main);
     const bool found = match_quick_style(main);
     if (!main.optBlock.selected())
@@ -65,12 +66,13 @@ void optBlock_click(frmMain & main)
 
 void optScatter_click(frmMain & main)
 {
+    leave_quick_style(main);
     show_each({&main.frmOrnaments, &main.optSample}, true);
     show_each({&main.cmdMore, &main.frmShake, &main.frmSpace, &main.frmAlign, &main.chkOutline,
                &main.frmSquares, &main.cmbShapes, &main.chkMix},
               false);
     main.chkRounded.enable(false);
-    main.chkRounded.tick(false);
+    main.collage.forced_by_style.tick(main.chkRounded, false);
     const bool found = match_quick_style(main);
     if (!found)
         tell_no_template(main, scatter_caller);
@@ -84,6 +86,7 @@ void optScatter_click(frmMain & main)
 
 void optMatrix_click(frmMain & main)
 {
+    leave_quick_style(main);
     show_each({&main.frmOrnaments, &main.frmShake, &main.optSample, &main.cmdMore}, true);
     show_each({&main.frmAlign, &main.chkOutline, &main.frmSquares, &main.frmSpace, &main.cmbSpace,
                &main.cmbShapes, &main.chkMix},
@@ -121,6 +124,7 @@ void show_shapes_controls(frmMain & main)
 
 void optShapes_click(frmMain & main)
 {
+    leave_quick_style(main);
     main.cmbShapes.set_text("Squares");
     show_each({&main.cmbShapes, &main.chkMix, &main.frmOrnaments}, true);
     main.chkOutline.show(false);
@@ -145,7 +149,7 @@ void cmbShapes_click(frmMain & main)
     } else {
         {
             const updating quiet(main);
-            main.chkCaption.tick(false);
+            main.collage.forced_by_style.tick(main.chkCaption, false);
         }
         main.chkCaption.enable(false);
         main.frmOrnaments.show(false);

@@ -16,15 +16,7 @@ constexpr int fewest_photos = 3;
 
 void forget_last_collage(frmMain & main)
 {
-    const quick_state fresh;
-    main.quick = fresh;
-    main.quick_active = main.quick_spacing_changed = main.quick_border = false;
-    main.quick_first_pass = true;
-    main.shape_row_bias = main.shape_column_bias = 0;
-    main.frames_design = main.use_list_of_frame = false;
-    main.frame_set_name.clear();
-    main.random_design = false;
-    main.design_rotated = main.design_flipped = main.design_mirrored = false;
+    begin_collage(main, collage_kind::quick);
     main.picSplash.show(false);
     main.photo_choice_cancelled = false;
 }
@@ -52,7 +44,6 @@ void free_background(frmMain & main)
     const updating quiet(main);
     main.optSolid.enable(true);
     main.optSolid.select();
-    main.txtBGimage.set_text("");
     main.txtBGimage.show(false);
     main.design_record.bg_image.clear();
 }
@@ -116,7 +107,7 @@ void prepare_controls(frmMain & main)
     main.cmdMore.show(false);
     main.cmdMore.set_caption("Fewer photos");
     main.cmdMore.tag.clear();
-    main.quick_active = true;
+    main.collage.quick_active = true;
     main.lblBlanks.show(true);
     main.cmbBlanks.show(false);  // while it is hidden its change is no wish for a preview
     main.cmbBlanks.set_text("0");
@@ -156,7 +147,7 @@ bool select_first_style(frmMain & main)
 
 void clear_matrix_switches(frmMain & main)
 {
-    main.matrix_both = main.matrix_resize = main.matrix_rotate = false;
+    main.collage.matrix_both = main.collage.matrix_resize = main.collage.matrix_rotate = false;
     main.poster_tall = main.in_preview = true;
     main.lblDesign.tag = "Match";
 }
@@ -219,15 +210,14 @@ bool begin_quick(frmMain & main, const std::function<void()> & choose_photos)
         settle_controls(main);
     else
         tell_no_template(main, scatter_caller);
-    main.quick_active = started;
-    main.quick_first_pass = false;
+    main.collage.quick_active = started;
     return started;
 }
 
 void take_new_photos(frmMain & main)
 {
     note_photos(main);
-    if (!main.quick_active)
+    if (!main.collage.quick_active)
         return refresh_preview(main);
     note_source(main);
     const bool block = main.optBlock.selected();

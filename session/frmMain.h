@@ -11,6 +11,7 @@
 #include "photos/left_out_photos.h"
 #include "photos/photo_table.h"
 #include "quick/quick_state.h"
+#include "session/collage.h"
 #include "support/desktop.h"
 #include "support/folder_lock.h"
 #include "support/forms.h"
@@ -192,29 +193,20 @@ struct frmMain : form {
     std::string pictures_folder;             ///< the user's own, set by the program
     std::string image_folder, photo_folder;  ///< where the choosers last were
 
+    ::collage collage;  ///< which collage this is
+
     // The design and its template.
     catalogue_state catalogue;
     ::design_record design_record;  ///< the current section of the catalogue
     location_table design_locations, scratch_locations;
-    std::string work_style;    ///< "Style=" of this run, "Matrix" turned into "Fill"
-    int16 min_location = 100;  ///< smallest side of all locations, at most 100
-    bool poster_tall = false;  ///< portrait and square
-    int16 landscape_turn = 0;  ///< degrees by which the template is turned; 100: a saved landscape design
-    bool design_matches = false;
-    bool design_rotated = false, design_flipped = false, design_mirrored = false;
-    bool random_design = false;  ///< a plain design of the catalogue
-    bool stretch_design = false;
-    bool matrix_both = false, matrix_rotate = false, matrix_resize = false;
-    bool matrix_session = false;                            ///< a matrix of the designer is in force
-    std::string matrix_size;                                ///< rows and columns of the last one, "2x3"
-    lettering_choices lettering{};                          ///< as its designer was left
+    std::string work_style;         ///< "Style=" of this run, "Matrix" turned into "Fill"
+    int16 min_location = 100;       ///< smallest side of all locations, at most 100
+    bool poster_tall = false;       ///< portrait and square
+    std::string matrix_size;        ///< rows and columns of the last one, "2x3"
+    lettering_choices lettering{};  ///< as its designer was left
     bool square_background = false, run_landscape = false;  ///< shape of the last full-size run
     finished_flurn last_flurn;
-    bool matrix_portrait = true;  ///< the poster of the matrix designer
-    bool frames_design = false, frames_inside = false;
-    bool borders_free = true;
-    std::string frame_set_name;
-    bool use_list_of_frame = false;
+    bool matrix_portrait = true;     ///< the poster of the matrix designer
     bool frame_manage_mode = false;  ///< frame sets are managed, not chosen from
     std::string icon_path;           ///< the picture that is to become an icon
     int16 next_design_number = 0;
@@ -242,13 +234,10 @@ struct frmMain : form {
     bool updating_controls = false;
     bool preview_blocked = false;
     bool skip_preview_click = false;
-    bool quick_active = false, quick_first_pass = false;
-    bool quick_spacing_changed = false, quick_border = false;
     quick_state quick;
     double shape_row_bias = 0, shape_column_bias = 0;  ///< added by the row and column buttons
     double shape_rows = 0, shape_columns = 0;          ///< the counts shown beside them
     poster_shape shape_in_force = poster_shape::portrait;
-    bool bg_from_design = false;
     bool bg_portrait = true;
     std::uint32_t bg_color = 0, caption_color = 0;
     bool font_extended = false;  ///< the font window offers size and colour as well

@@ -23,7 +23,7 @@ void optSolid_click(frmMain & main)
 
 void optBGimage_click(frmMain & main)
 {
-    if (!main.bg_from_design)
+    if (!main.collage.bg_from_design)
         show_picture_controls(main, true);
     if (main.txtBGimage.text().empty()) {
         const updating quiet(main);

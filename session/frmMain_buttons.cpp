@@ -12,8 +12,7 @@ void leave_finishing_stage(frmMain & main)
 {
     show_menus(main, true);
     show_work_controls(main, false);
-    main.quick_active = main.quick_first_pass = false;
-    main.quick_spacing_changed = main.quick_border = false;
+    main.collage.quick_active = false;
 }
 
 void cmdCancel_click(frmMain & main)

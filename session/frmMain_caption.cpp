@@ -13,7 +13,7 @@ void txtCaption_change(frmMain & main)
         if (main.txtCaption.text().empty()) {
             main.chkClear.enable(false);
             main.chkClear.tick(false);
-        } else if (!main.matrix_session) {
+        } else if (!main.collage.matrix_session) {
             main.chkClear.enable(true);
         }
     }

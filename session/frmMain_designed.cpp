@@ -20,6 +20,7 @@ void ask_for_photos(frmMain & main)
 
 void mnuDesigned_click(frmMain & main)
 {
+    begin_collage(main, collage_kind::designed);
     clear_stage(main);
     main.desk.show_modal(main.all->themes);
     start_enable_true(main);

@@ -34,21 +34,16 @@ void offer_custom_shape(frmMain & main)
 
 void reset_design_flags(frmMain & main)
 {
+    begin_collage(main, collage_kind::none);
     main.run.collage_margin = 0;
-    main.landscape_turn = 0;
-    main.poster_tall = main.design_matches = main.run.match_active = false;
-    main.frames_inside = main.frames_design = main.use_list_of_frame = false;
-    main.matrix_both = main.matrix_rotate = main.matrix_resize = main.matrix_session = false;
-    main.design_rotated = main.design_flipped = main.design_mirrored = false;
-    main.borders_free = true;
+    main.poster_tall = main.run.match_active = false;
 }
 
 void reset_window_flags(frmMain & main)
 {
-    main.quick_active = main.in_preview = main.updating_controls = main.preview_blocked = false;
+    main.in_preview = main.updating_controls = main.preview_blocked = false;
     main.quit_requested = main.skip_preview_click = false;
     main.menus_shown = true;
-    main.bg_from_design = false;
     main.bg_portrait = true;
     main.bg_color = main.caption_color = 0;
     main.font_extended = false;

@@ -24,7 +24,7 @@ bool is_one_of(std::string_view text, std::initializer_list<std::string_view> wo
     return false;
 }
 
-void begin_collage(frmMain & main)
+void begin_poster(frmMain & main)
 {
     main.run.cancel_requested = false;
     main.table.reshuffle_choice = photo_table::reshuffle::not_asked;
@@ -68,9 +68,9 @@ void enter_finishing_stage(frmMain & main)
 
 void apply_matching(frmMain & main)
 {
-    main.design_matches = is_one_of(main.design_record.match, {"Yes", ""});
-    main.chkMatch.show(main.design_matches);
-    if (main.design_matches) {
+    main.collage.design_matches = is_one_of(main.design_record.match, {"Yes", ""});
+    main.chkMatch.show(main.collage.design_matches);
+    if (main.collage.design_matches) {
         main.chkMatch.tick(true);
         main.frmShake.show(false);
         main.cmbSpace.show(true);
@@ -80,16 +80,15 @@ void apply_matching(frmMain & main)
 
 void apply_kind(frmMain & main)
 {
-    if (main.design_record.file == "__frames" || main.frames_design) {
-        main.chkCaption.tick(false);
-        main.chkSoftEdge.tick(false);
-        main.chkRounded.tick(false);
+    if (main.design_record.file == "__frames" || main.collage.frames_design) {
+        for (check_box * each : {&main.chkCaption, &main.chkSoftEdge, &main.chkRounded})
+            main.collage.forced.tick(*each, false);
         main.frmOrnaments.show(false);
     }
-    if (main.matrix_both) {
+    if (main.collage.matrix_both) {
         main.chkMatch.tick(true);
         disable({&main.chkMatch, &main.chkCaption});
-        main.chkCaption.tick(false);
+        main.collage.forced.tick(main.chkCaption, false);
     }
 }
 
@@ -97,20 +96,20 @@ void apply_borders(frmMain & main)
 {
     const bool grid = main.design_record.style == "Matrix";
     for (option_button * each : main.border_options)
-        if (grid || main.borders_free)
+        if (grid || main.collage.borders_free)
             each->enable(!grid);
     if (grid)
-        main.optNone.select();
-    main.borders_free = true;
+        main.collage.forced.select(main.border_options, main.optNone);
+    main.collage.borders_free = true;
 }
 
 void apply_turn(frmMain & main)
 {
-    main.landscape_turn = 0;
+    main.collage.landscape_turn = 0;
     if (main.design_record.background == "Landscape" && main.poster_tall)
-        main.landscape_turn = -90;
+        main.collage.landscape_turn = -90;
     if (main.design_record.background == "Portrait" && !main.poster_tall)
-        main.landscape_turn = 90;
+        main.collage.landscape_turn = 90;
 }
 
 std::string background_path(const frmMain & main)
@@ -123,11 +122,11 @@ std::string background_path(const frmMain & main)
 void take_background_of_design(frmMain & main)
 {
     main.optBGimage.select(false);
-    main.bg_from_design = true;
-    main.txtBGimage.set_text(background_path(main));
+    main.collage.bg_from_design = true;
+    main.collage.forced.set_text(main.txtBGimage, background_path(main));
     main.txtBGimage.show(false);
-    main.cmbBlend.set_text("100");
-    main.picBGcolor.set_back_color(main.back_color());
+    main.collage.forced.set_text(main.cmbBlend, "100");
+    main.collage.forced.set_back_color(main.picBGcolor, main.back_color());
     main.picBGcolor.show(false);
     disable({&main.optSolid, &main.optBGimage, &main.cmbBlend, &main.lblBlend, &main.cmdBGcolor,
              &main.cmdBGimage, &main.picBGcolor});
@@ -146,10 +145,6 @@ void apply_background(frmMain & main)
 {
     main.optBGimage.enable(true);
     main.cmdBGimage.enable(true);
-    if (main.bg_from_design) {
-        main.bg_from_design = false;
-        main.picBGcolor.set_back_color(black);
-    }
     const std::string & image = main.design_record.bg_image;
     if (image == "None") {
         forbid_background(main);
@@ -173,16 +168,16 @@ void apply_caption(frmMain & main)
                  &main.cmdFont, &main.lblFont});
     } else if (caption == "Top") {
         main.optBottom.enable(false);
-        main.optTop.select();
+        main.collage.forced.select(main.caption_options, main.optTop);
     } else if (caption == "Bottom") {
         main.optTop.enable(false);
-        main.optBottom.select();
+        main.collage.forced.select(main.caption_options, main.optBottom);
     }
     if (!main.design_record.caption_color.empty())
         main.txtCaption.set_fore_color(red);
     // The three words are shown as text as well; that is meant.
     if (!caption.empty())
-        main.txtCaption.set_text(caption);
+        main.collage.forced.set_text(main.txtCaption, caption);
 }
 
 void apply_frame_size_of_design(frmMain & main)
@@ -195,11 +190,11 @@ void apply_frame_size_of_design(frmMain & main)
     } else if (frames == "Color") {
         disable({&main.lblFrame, &main.cmbFrame});
     } else if (frames == "Adjust") {
-        main.frames_inside = true;
+        main.collage.frames_inside = true;
     } else if (frames == "None") {
         main.frmOrnaments.show(false);
     } else if (!is_one_of(frames, {"Yes", ""})) {
-        main.cmbFrame.set_text(frames);
+        main.collage.forced.set_text(main.cmbFrame, frames);
         disable({&main.lblFrame, &main.cmbFrame, &main.chkCaption, &main.chkSoftEdge, &main.chkRounded,
                  &main.picFrameColor});
     }
@@ -207,12 +202,13 @@ void apply_frame_size_of_design(frmMain & main)
 
 void apply_frames(frmMain & main)
 {
-    main.frames_inside = false;
+    main.collage.frames_inside = false;
     main.frmOrnaments.show(!is_one_of(main.lblDesign.caption(), {"Puzzle", "Lettering"}));
     apply_frame_size_of_design(main);
     if (!main.design_record.frame_color.empty()) {
         disable({&main.cmdFrameColor, &main.picFrameColor});
-        main.picFrameColor.set_back_color(color_from_name(main.design_record.frame_color));
+        main.collage.forced.set_back_color(main.picFrameColor,
+                                           color_from_name(main.design_record.frame_color));
     }
 }
 
@@ -226,7 +222,7 @@ void apply_shadow_size_of_design(frmMain & main)
         disable({&main.lblShadow, &main.cmbShadow});
     } else if (!is_one_of(shadows, {"Yes", ""})) {
         // The frame's number, not the shadow's own: the supplied designs are made for it.
-        main.cmbShadow.set_text(main.design_record.frames);
+        main.collage.forced.set_text(main.cmbShadow, main.design_record.frames);
         disable({&main.lblShadow, &main.cmbShadow, &main.chkCaption, &main.chkSoftEdge, &main.chkRounded,
                  &main.picShadowColor});
         main.picShadowColor.show(false);
@@ -238,19 +234,28 @@ void apply_shadows(frmMain & main)
     apply_shadow_size_of_design(main);
     if (main.design_record.design == "Block") {
         main.chkCaption.enable(false);
-        main.chkCaption.tick(false);
+        main.collage.forced.tick(main.chkCaption, false);
     }
     if (!main.design_record.shadow_color.empty()) {
-        main.picShadowColor.set_back_color(black);
+        main.collage.forced.set_back_color(main.picShadowColor, black);
         disable({&main.cmdShadowColor, &main.picShadowColor});
     }
 }
 
+// One of the three styles of a photo. Its handler unticks the others, so they are noted first.
+void force_alone(frmMain & main, check_box & style)
+{
+    const auto styles = {&main.chkSoftEdge, &main.chkRounded, &main.chkCaption};
+    for (check_box * each : styles)
+        main.collage.forced.note(*each, each == &style);
+    style.tick(true);
+    for (check_box * each : styles)
+        each->tick(each == &style);
+}
+
 void force_soft_edges(frmMain & main)
 {
-    main.chkSoftEdge.tick(true);
-    main.chkRounded.tick(false);
-    main.chkCaption.tick(false);
+    force_alone(main, main.chkSoftEdge);
     disable({&main.chkCaption, &main.lblFrame, &main.lblShadow, &main.cmbShadow, &main.cmbFrame,
              &main.cmdShadowColor, &main.cmdFrameColor, &main.picShadowColor, &main.picFrameColor});
     main.picShadowColor.show(false);
@@ -259,9 +264,7 @@ void force_soft_edges(frmMain & main)
 
 void force_cards(frmMain & main)
 {
-    main.chkCaption.tick(true);
-    main.chkSoftEdge.tick(false);
-    main.chkRounded.tick(false);
+    force_alone(main, main.chkCaption);
     disable({&main.chkSoftEdge, &main.chkRounded, &main.lblFrame, &main.lblShadow, &main.cmbShadow,
              &main.cmbFrame, &main.cmdShadowColor, &main.picShadowColor});
     main.picShadowColor.show(false);
@@ -288,7 +291,7 @@ void apply_caption_clearing(frmMain & main)
 {
     if (main.design_record.caption_clear == "Yes") {
         fire(main.txtCaption.on_change);
-    } else if (!main.txtCaption.text().empty() && main.quick_active) {
+    } else if (!main.txtCaption.text().empty() && main.collage.quick_active) {
         main.chkClear.enable(true);
     } else {
         main.chkClear.enable(false);
@@ -298,12 +301,11 @@ void apply_caption_clearing(frmMain & main)
 
 void take_list_of_frame_set(frmMain & main)
 {
-    if (main.frame_set_name.empty())
+    if (main.collage.frame_set_name.empty())
         return;
     const std::string list = get_frame_field(main, "Picture List");
     if (is_one_of(list, {"None", ""}))
         return;
-    main.use_list_of_frame = true;
     main.txtPhotos.tag = joined(joined(main.data_folder, "piclists"), list + ".pls");
 }
 
@@ -319,7 +321,7 @@ void show_what_remains(frmMain & main)
     }
     main.chkRandom.show(true);
     main.cmdShuffle.show(true);
-    if (main.matrix_rotate || is_one_of(family, {"Scatter", "Frame", "Theme"}))
+    if (main.collage.matrix_rotate || is_one_of(family, {"Scatter", "Frame", "Theme"}))
         main.chkRounded.enable(false);
 }
 
@@ -328,7 +330,7 @@ void show_what_remains(frmMain & main)
 void new_poster(frmMain & main)
 {
     const updating quiet(main);
-    begin_collage(main);
+    begin_poster(main);
     prepare_caption_box(main);
     enter_finishing_stage(main);
     apply_matching(main);

@@ -24,11 +24,11 @@ void start_designed(frmMain & main, const std::function<void()> & choose_photos)
         const updating quiet(main);
         start_enable_true(main);
         clear_matrix_design(main);
-        main.random_design = true;
+        main.collage.random_design = true;
         main.chkMatch.enable(true);
         main.picSample.show(false);
         fire(choose_photos);
-        main.quick_active = false;
+        main.collage.quick_active = false;
         main.optSample.show(true);
         if (photo_source_kind(main) != photo_source::none && !main.photo_choice_cancelled)
             apply_design_to_photos(main);

@@ -265,5 +265,5 @@ void clear_matrix_design(frmMain & main)
 {
     delete_file(work_path(main, "designs/__matrix"));
     main.mnuSaveDesign.enable(false);
-    main.matrix_session = false;
+    main.collage.matrix_session = false;
 }

@@ -71,7 +71,7 @@ void show_work_controls(frmMain & main, bool show)
              &main.frmOutput, &main.frmOrnaments, &main.frmBackground, &main.frmCaption, &main.frmButtons,
              &main.frmBorder, &main.picSample, &main.frmDisplay})
         each->show(show);
-    const bool show_quick = show && main.quick_active;
+    const bool show_quick = show && main.collage.quick_active;
     for (control * each :
          std::initializer_list<control *>{&main.frmOrientation, &main.frmStyle, &main.frmShake,
                                           &main.frmSpace, &main.frmAlign, &main.frmSquares, &main.chkOutline})
@@ -93,13 +93,7 @@ void show_menus(frmMain & main, bool show)
 void clear_stage(frmMain & main)
 {
     main.picSplash.show(false);
-    main.quick_active = main.quick_first_pass = false;
-    main.quick_spacing_changed = main.quick_border = false;
     main.set_back_color(about_background);
-    main.matrix_both = main.matrix_rotate = main.matrix_resize = false;
-    main.stretch_design = main.design_rotated = main.design_flipped = main.design_mirrored = false;
-    main.frames_design = main.use_list_of_frame = false;
-    main.frame_set_name.clear();  // a set of another collage would bring its photo list along
     main.lblBlanks.show(false);
     main.cmbBlanks.show(false);
     main.cmbBlanks.set_text("0");

@@ -13,7 +13,7 @@ void show_work_controls(frmMain & main, bool show);
 /// Shows or hides the menus: the choosing stage.
 void show_menus(frmMain & main, bool show);
 
-/// Makes room for a collage by a design: no start picture, no quick style, nothing of the design before.
+/// Makes room for a collage by a design: no start picture, no controls of a quick style.
 void clear_stage(frmMain & main);
 
 /// Brings the controls to their free state, as no design limits them.

@@ -36,8 +36,7 @@ TEST(frmLettering, writes_the_letters_and_sets_the_design)
 {
     const lettering_window session;
     session.folder.write("data/designs/__matrix", "1");
-    session.main.matrix_both = session.main.frames_design = session.main.matrix_session = true;
-    session.main.frame_set_name = "club";
+    session.main.collage.matrix_session = true;
     session.window.txtLettering.set_text("Hi");
     session.window.cmdOk.click();
     EXPECT_EQ(session.lines_of("__lettering"),
@@ -47,8 +46,7 @@ TEST(frmLettering, writes_the_letters_and_sets_the_design)
     EXPECT_EQ(main.lblDesign.tag, "Lettering");
     EXPECT_EQ(main.design_record.file, "__lettering");
     EXPECT_TRUE(main.poster_tall);
-    EXPECT_FALSE(main.matrix_both || main.frames_design || main.matrix_session);
-    EXPECT_EQ(main.frame_set_name, "");
+    EXPECT_FALSE(main.collage.matrix_session);
     EXPECT_FALSE(file_exists(joined(main.data_folder, "designs/__matrix")));
     EXPECT_FALSE(session.window.loaded());
     expect_states(main, "picSample_ optPortrait1 mnuSaveDesign-");

@@ -176,8 +176,8 @@ TEST(frmMatrix, every_change_draws_one_sample)
 TEST(frmMatrix, ok_writes_both_templates_and_sets_the_design)
 {
     const matrix_window session;
-    session.main.frames_design = true;
-    session.main.frame_set_name = "gone";
+    session.main.collage.frames_design = true;
+    session.main.collage.frame_set_name = "gone";
     session.window.chkRotate.tick(true);
     session.ok();
     EXPECT_EQ(session.lines_of("__matrix"), (lines{"150:150:2:2:0:1:0:0:", "20:20:1340:840:0:-1:-1:0:"}));
@@ -187,9 +187,9 @@ TEST(frmMatrix, ok_writes_both_templates_and_sets_the_design)
     EXPECT_EQ(main.lblDesign.caption(), "Matrix 2x2");
     EXPECT_EQ(main.lblDesign.tag, "Matrix grid");
     EXPECT_TRUE(main.poster_tall);
-    EXPECT_TRUE(main.matrix_rotate);
-    EXPECT_FALSE(main.matrix_both || main.matrix_resize || main.frames_design);
-    EXPECT_EQ(main.frame_set_name, "");
+    EXPECT_TRUE(main.collage.matrix_rotate);
+    EXPECT_FALSE(main.collage.matrix_both || main.collage.matrix_resize || main.collage.frames_design);
+    EXPECT_EQ(main.collage.frame_set_name, "");
     EXPECT_FALSE(session.window.loaded());
 }
 
@@ -201,7 +201,7 @@ TEST(frmMatrix, a_landscape_poster_turns_the_main_window)
     session.ok();
     expect_states(session.main, "optLandscape1 picSample_");
     EXPECT_FALSE(session.main.poster_tall);
-    EXPECT_TRUE(session.main.matrix_both);
+    EXPECT_TRUE(session.main.collage.matrix_both);
     EXPECT_EQ(session.main.collage_width, 3000);
     EXPECT_EQ(session.main.collage_height, 2000);
 }
@@ -240,11 +240,11 @@ TEST(frmMatrix, a_cancel_leaves_the_design_alone)
 TEST(frmMatrix, without_a_frame_set_the_user_is_told)
 {
     matrix_window session;
-    session.main.frame_set_name = "of another collage";
+    session.main.collage.frame_set_name = "of another collage";
     session.window.chkFrames.tick(true);
     EXPECT_EQ(session.desk.next_message(), "You have no custom frames at this time.");
     expect_states(session.window, "chkFrames0");
-    EXPECT_EQ(session.main.frame_set_name, "");
+    EXPECT_EQ(session.main.collage.frame_set_name, "");
 }
 
 TEST(frmMatrix, cells_wear_the_chosen_frame_set)
@@ -268,8 +268,8 @@ TEST(frmMatrix, cells_wear_the_chosen_frame_set)
     const frmMain & main = session.main;
     EXPECT_EQ(main.lblDesign.caption(), "Custom Frame Matrix 3x2");
     EXPECT_EQ(main.lblDesign.tag, "Frame_matrix");
-    EXPECT_EQ(main.frame_set_name, "club");
-    EXPECT_TRUE(main.frames_design);
+    EXPECT_EQ(main.collage.frame_set_name, "club");
+    EXPECT_TRUE(main.collage.frames_design);
 }
 
 TEST(frmMatrix, a_frame_set_with_a_photo_list_goes_with_its_photos)
@@ -308,7 +308,7 @@ TEST(frmMatrix, backing_out_of_the_frame_sets_unticks_the_box)
     expect_states(session.window, "chkFrames0");
     session.ok();
     EXPECT_EQ(session.main.lblDesign.tag, "Matrix grid");
-    EXPECT_EQ(session.main.frame_set_name, "");
+    EXPECT_EQ(session.main.collage.frame_set_name, "");
 }
 
 TEST(frmMatrix, frames_taken_off_again_are_forgotten)
@@ -320,8 +320,8 @@ TEST(frmMatrix, frames_taken_off_again_are_forgotten)
     session.window.chkFrames.tick(false);
     session.ok();
     EXPECT_EQ(session.lines_of("__matrix").size(), 2U);
-    EXPECT_EQ(session.main.frame_set_name, "");
-    EXPECT_FALSE(session.main.frames_design);
+    EXPECT_EQ(session.main.collage.frame_set_name, "");
+    EXPECT_FALSE(session.main.collage.frames_design);
 }
 
 TEST(frmMatrix, a_frame_set_without_its_settings_leaves_the_box_unticked)

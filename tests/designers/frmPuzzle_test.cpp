@@ -80,7 +80,6 @@ TEST(frmPuzzle, writes_the_pieces_and_sets_the_design)
 {
     const puzzle_window session;
     session.folder.write("data/designs/__matrix", "1");
-    session.main.matrix_rotate = session.main.frames_design = true;
     session.window.cmbRows.set_text("1");
     session.window.cmbColumns.set_text("1");
     session.window.cmdOk.click();
@@ -89,7 +88,6 @@ TEST(frmPuzzle, writes_the_pieces_and_sets_the_design)
     EXPECT_EQ(main.lblDesign.caption(), "Puzzle");
     EXPECT_EQ(main.lblDesign.tag, "Puzzle");
     EXPECT_EQ(main.design_record.file, "__puzzle");
-    EXPECT_FALSE(main.matrix_rotate || main.frames_design);
     EXPECT_FALSE(file_exists(joined(main.data_folder, "designs/__matrix")));
     expect_states(main, "frmBorder- picSample_ optPortrait1");
     EXPECT_TRUE(main.poster_tall);

@@ -80,7 +80,7 @@ TEST(designer_menus, a_cancel_of_the_design_stays_in_the_choosing_stage)
         EXPECT_EQ(session.desk.shown_windows, names{each.window});
         expect_states(session.main, "mnuFile^ frmOutput_ picSplash_");
         EXPECT_EQ(session.previews(), 0);
-        EXPECT_FALSE(session.main.matrix_session);
+        EXPECT_FALSE(session.main.collage.matrix_session);
     }
 }
 
@@ -93,8 +93,8 @@ TEST(designer_menus, a_cancel_of_the_photos_stays_in_the_choosing_stage)
         session.entry(chosen).click();
         expect_states(session.main, "mnuFile^ frmOutput_ chkMatch+ chkMatch^");
         EXPECT_EQ(session.previews(), 0);
-        EXPECT_FALSE(session.main.matrix_session);
-        EXPECT_TRUE(session.main.catalogue.catalogue_closed);
+        EXPECT_FALSE(session.main.collage.matrix_session);
+        EXPECT_FALSE(session.main.catalogue.catalogue_at_end);
     }
 }
 
@@ -109,8 +109,8 @@ TEST(mnuMatrix, leads_to_the_finishing_stage_and_one_preview)
     const frmMain & main = session.main;
     EXPECT_EQ(main.design_record.name, "Matrix grid");
     EXPECT_EQ(main.caption(), "F i n i s h i n g   t o u c h e s");
-    EXPECT_TRUE(main.matrix_session);
-    EXPECT_FALSE(main.random_design);
+    EXPECT_TRUE(main.collage.matrix_session);
+    EXPECT_FALSE(main.collage.random_design);
     EXPECT_EQ(main.back_color(), about_background);
     EXPECT_EQ(main.lblOutput.caption(), "");
     expect_states(main,
@@ -137,7 +137,7 @@ TEST(mnuMatrix, of_frames_has_no_ornaments_and_cannot_be_saved)
     EXPECT_EQ(session.previews_of([&] { session.main.mnuMatrix.click(); }), 1);
     EXPECT_EQ(session.main.design_record.name, "Frame_matrix");
     expect_states(session.main, "frmOrnaments_ frmBorder- mnuSaveDesign-");
-    EXPECT_TRUE(session.main.frames_design);
+    EXPECT_TRUE(session.main.collage.frames_design);
     session.desk.on_modal<frmImage>([](frmImage & image) { image.unload(); });
     session.main.cmdFlurn.click();
     expect_states(session.main, "mnuSaveDesign-");
@@ -157,11 +157,11 @@ TEST(mnuLettering, has_an_outline_and_borders_and_no_ornaments)
 {
     flow session;
     frmMain & main = session.main;
-    main.borders_free = false;
+    main.collage.borders_free = false;
     main.chkSoftEdge.tick(true);
     session.run(designer::lettering);
     EXPECT_EQ(main.design_record.name, "Lettering");
-    EXPECT_FALSE(main.matrix_session);
+    EXPECT_FALSE(main.collage.matrix_session);
     expect_states(main,
                   "mnuFile_ frmOrnaments_ chkSoftEdge0 chkOutline^ frmBorder+ optHuge+ frmSpace_ "
                   "optPreview1 picSample^ chkMatch_");
@@ -189,14 +189,13 @@ TEST(designer_menus, forget_a_quick_style)
             const updating quiet(main);
             main.optScatter.select();
         }
-        main.quick_active = main.quick_first_pass = main.quick_border = main.quick_spacing_changed = true;
+        main.collage.quick_active = true;
         main.quick.quick_reduced = 3;
-        main.stretch_design = main.design_flipped = main.random_design = true;
+        main.collage.stretch_design = main.collage.design_flipped = main.collage.random_design = true;
         main.cmbBlanks.set_text("8");
         session.run(chosen);
-        EXPECT_FALSE(main.quick_active || main.quick_first_pass || main.quick_border ||
-                     main.quick_spacing_changed || main.stretch_design || main.design_flipped ||
-                     main.random_design);
+        EXPECT_FALSE(main.collage.quick_active || main.collage.stretch_design ||
+                     main.collage.design_flipped || main.collage.random_design);
         EXPECT_EQ(main.quick.quick_reduced, 0);
         EXPECT_EQ(main.cmbBlanks.text(), "0");
         expect_states(main, "optScatter0 optBlock0");
@@ -232,7 +231,7 @@ TEST(designer_menus, a_catalogue_without_the_reserved_design_is_told)
         session.entry(chosen).click();
         EXPECT_EQ(session.desk.next_message(), "should not happen 2 ?");
         expect_states(session.main, "mnuFile^ frmOutput_");
-        EXPECT_TRUE(session.main.catalogue.catalogue_closed);
+        EXPECT_FALSE(session.main.catalogue.catalogue_at_end);
     }
 }
 

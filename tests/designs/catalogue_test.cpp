@@ -55,14 +55,14 @@ TEST_F(catalogue_test, a_single_section_comes_with_a_false_result)
     EXPECT_FALSE(read_design(main, catalogue_start::first));
     EXPECT_EQ(main.design_record.section, "Design001");
     EXPECT_EQ(main.design_record.name, "a");
-    EXPECT_TRUE(main.catalogue.catalogue_closed);
+    EXPECT_FALSE(main.catalogue.catalogue_at_end);
 }
 
 TEST_F(catalogue_test, the_last_section_comes_with_a_false_result)
 {
     write("[Design001]\r\nName=a\r\n[Design002]\r\nName=b\r\n");
     EXPECT_TRUE(read_design(main, catalogue_start::first));
-    EXPECT_FALSE(main.catalogue.catalogue_closed);
+    EXPECT_TRUE(main.catalogue.catalogue_at_end);
     EXPECT_FALSE(read_design(main, catalogue_start::next));
     EXPECT_EQ(main.design_record.name, "b");
 }
@@ -101,7 +101,7 @@ TEST_F(catalogue_test, closing_forgets_the_section_read_ahead)
     write("[Design001]\r\nName=a\r\n[Design002]\r\nName=b\r\n");
     read_design(main, catalogue_start::first);
     close_catalogue(main);
-    EXPECT_TRUE(main.catalogue.catalogue_closed);
+    EXPECT_FALSE(main.catalogue.catalogue_at_end);
     EXPECT_FALSE(main.catalogue.catalogue_at_end);
     EXPECT_EQ(main.catalogue.next_section, "");
 }
@@ -124,7 +124,7 @@ TEST_F(catalogue_test, a_missing_catalogue_is_raised_to_the_caller)
         EXPECT_EQ(code(error), 53);
         EXPECT_EQ(error.path, folder.at("designs.ini"));
     }
-    EXPECT_TRUE(main.catalogue.catalogue_closed);
+    EXPECT_FALSE(main.catalogue.catalogue_at_end);
 }
 
 TEST_F(catalogue_test, a_design_is_found_by_its_name)

@@ -11,7 +11,8 @@ TEST(browser_ok, leaves_section_name_and_orientation)
     EXPECT_EQ(session.main.design_record.name, "n3");
     EXPECT_TRUE(session.main.poster_tall);
     expect_states(session.main, "optPortrait1");
-    EXPECT_FALSE(session.main.design_rotated || session.main.design_flipped || session.main.design_mirrored);
+    EXPECT_FALSE(session.main.collage.design_rotated || session.main.collage.design_flipped ||
+                 session.main.collage.design_mirrored);
     EXPECT_FALSE(session.browser.loaded());
 }
 
@@ -30,16 +31,17 @@ TEST(browser_ok, notes_the_ways_to_turn_the_design)
 {
     struct row {
         check_box frmThemes::*box;
-        bool frmMain::*flag;
+        bool collage::*flag;
     };
-    for (const row & each : {row{&frmThemes::chkRandom, &frmMain::design_rotated},
-                             row{&frmThemes::chkFlip, &frmMain::design_flipped},
-                             row{&frmThemes::chkMirror, &frmMain::design_mirrored}}) {
+    for (const row & each : {row{&frmThemes::chkRandom, &collage::design_rotated},
+                             row{&frmThemes::chkFlip, &collage::design_flipped},
+                             row{&frmThemes::chkMirror, &collage::design_mirrored}}) {
         opened_browser session(design_section_text(1, "pile", {"Design=Scatter"}));
         (session.browser.*each.box).tick(true);
         session.browser.cmdOk.click();
-        EXPECT_TRUE(session.main.*each.flag);
-        EXPECT_EQ(session.main.design_rotated + session.main.design_flipped + session.main.design_mirrored,
+        EXPECT_TRUE(session.main.collage.*each.flag);
+        EXPECT_EQ(session.main.collage.design_rotated + session.main.collage.design_flipped +
+                      session.main.collage.design_mirrored,
                   1);
     }
 }
@@ -73,15 +75,15 @@ TEST(browser_ok, a_frame_design_without_frames_is_told_and_the_browser_stays)
 {
     opened_browser session(design_section_text(1, "club", {"Design=Frame", "BG Image=wood.jpg"}));
     make_folder(joined(session.main.data_folder, "frames"));
-    session.main.frame_set_name = "gone";
-    session.main.frames_design = session.main.use_list_of_frame = true;
+    session.main.collage.frame_set_name = "gone";
+    session.main.collage.frames_design = true;
     session.main.optLarge.select();
     session.browser.cmdOk.click();
     EXPECT_EQ(session.desk.next_message(), "You have no custom frames at this time.");
     EXPECT_TRUE(session.browser.loaded());
     EXPECT_EQ(session.main.lblDesign.tag, "");
-    EXPECT_EQ(session.main.frame_set_name, "");
-    EXPECT_FALSE(session.main.frames_design || session.main.use_list_of_frame);
+    EXPECT_EQ(session.main.collage.frame_set_name, "");
+    EXPECT_FALSE(session.main.collage.frames_design);
     EXPECT_TRUE(session.main.optNone.selected());
 }
 

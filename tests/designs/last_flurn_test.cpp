@@ -23,7 +23,7 @@ struct finished_session : four_photos {
         home.write("data/designs/__quick", text_of(quarters()));
         main.lblDesign.set_caption("Quick Block");
         main.design_record.file = "__quick";
-        main.quick_active = true;
+        main.collage.quick_active = true;
         full_run();
     }
     std::string at(const std::string & name) const { return home.at("data/" + name); }
@@ -123,7 +123,7 @@ TEST(last_flurn, a_collage_that_can_t_be_kept_leaves_the_one_before)
 {
     finished_session session;
     session.main.mnuSaveDesign.enable(false);
-    session.main.quick_active = false;
+    session.main.collage.quick_active = false;
     session.spoil();
     session.full_run();
     EXPECT_EQ(read_file(session.at("tmp/last_flurn")), text_of(quarters()));

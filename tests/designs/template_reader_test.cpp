@@ -139,18 +139,18 @@ TEST_F(template_test, a_matrix_runs_as_fill_and_its_first_line_holds_three_switc
     main.design_record.style = "Matrix";
     read("0:0:3:4:1:1:1:0:\r\n5:5:300:400:0:-1:-1:0:\r\n");
     EXPECT_EQ(main.work_style, "Fill");
-    EXPECT_TRUE(main.matrix_both && main.matrix_rotate && main.matrix_resize);
+    EXPECT_TRUE(main.collage.matrix_both && main.collage.matrix_rotate && main.collage.matrix_resize);
     read("0:0:3:4:0:-1:2:0:\r\n5:5:300:400:1:1:1:0:\r\n");
-    EXPECT_FALSE(main.matrix_both);
-    EXPECT_TRUE(main.matrix_rotate && main.matrix_resize);  // only a new design resets these
+    EXPECT_FALSE(main.collage.matrix_both);
+    EXPECT_TRUE(main.collage.matrix_rotate && main.collage.matrix_resize);  // only a new design resets these
 }
 
 TEST_F(template_test, other_styles_have_no_switches)
 {
-    main.matrix_both = true;
+    main.collage.matrix_both = true;
     read("0:0:3:4:1:1:1:0:\r\n");
     EXPECT_EQ(main.work_style, "Place");
-    EXPECT_FALSE(main.matrix_both || main.matrix_rotate || main.matrix_resize);
+    EXPECT_FALSE(main.collage.matrix_both || main.collage.matrix_rotate || main.collage.matrix_resize);
 }
 
 TEST_F(template_test, the_matrix_has_one_file_for_each_size)
@@ -311,7 +311,7 @@ TEST_F(template_test, in_a_preview_the_turning_edge_is_435)
 
 TEST_F(template_test, a_landscape_template_turned_upright_stays_on_the_poster)
 {
-    main.landscape_turn = -90;
+    main.collage.landscape_turn = -90;
     read("0:0:2000:3000:0:-1:-1:0:\r\n");
     turn_locations(main);
     EXPECT_EQ(at(0), (location{.top = 0, .left = 0, .height = 3000, .width = 2000}));

@@ -169,7 +169,7 @@ TEST(optFrames, tells_that_there_are_no_frames_and_lists_the_designs_all_the_sam
 {
     opened_browser session(design_section_text(1, "club", {"Design=Frame"}));
     make_folder(joined(session.main.data_folder, "frames"));
-    session.main.frame_set_name = "gone";
+    session.main.collage.frame_set_name = "gone";
     session.browser.optFrames.select();
     EXPECT_EQ(session.desk.next_message(),
               "You will not be able to use any of these custom frame designs\r\n"
@@ -177,7 +177,7 @@ TEST(optFrames, tells_that_there_are_no_frames_and_lists_the_designs_all_the_sam
               "\r\n"
               "You have no custom frames at this time.");
     EXPECT_EQ(session.listed(), "0:club");
-    EXPECT_EQ(session.main.frame_set_name, "");
+    EXPECT_EQ(session.main.collage.frame_set_name, "");
 }
 
 TEST(optFrames, is_silent_when_there_are_frames)

@@ -117,7 +117,7 @@ TEST_F(frame_dialogs, a_set_is_chosen_by_a_double_click_and_by_enter)
 {
     for (const bool by_mouse : {true, false}) {
         folder.write("data/frames/club/design.ini", "");
-        main.frame_set_name.clear();
+        main.collage.frame_set_name.clear();
         when_asked<QDialog>([&](QDialog & chooser) {
             auto * const sets = found<QListWidget>(chooser, "lstFrames");
             const QPoint first = sets->visualItemRect(sets->item(0)).center();
@@ -128,6 +128,6 @@ TEST_F(frame_dialogs, a_set_is_chosen_by_a_double_click_and_by_enter)
                 QTest::keyClick(sets, Qt::Key_Return);
         });
         desk.show_modal(all.custom);
-        EXPECT_EQ(main.frame_set_name, "club");
+        EXPECT_EQ(main.collage.frame_set_name, "club");
     }
 }

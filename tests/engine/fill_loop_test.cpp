@@ -145,7 +145,7 @@ TEST(fill_loop, a_photo_across_takes_two_cells_where_both_kinds_are_welcome)
 {
     grid_run run(1, 4);
     run.main.chkMatch.tick(true);
-    run.main.matrix_both = true;
+    run.main.collage.matrix_both = true;
     run.add_photo(red);
     run.add_photo(blue, 60, 40);
     run.add_photo(green);
@@ -158,7 +158,7 @@ TEST(fill_loop, the_last_column_takes_no_photo_across)
 {
     grid_run run(1, 3);
     run.main.chkMatch.tick(true);
-    run.main.matrix_both = true;
+    run.main.collage.matrix_both = true;
     run.add_photo(blue, 60, 40);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     EXPECT_EQ(run.filled().substr(14, 14), ".bbbbb.bb....\n");
@@ -224,8 +224,8 @@ TEST(fill_loop, all_flags_off_leave_no_saved_matrix_behind)
 TEST(fill_loop, tilted_photos_are_written_to_the_saved_matrix)
 {
     grid_run run(1, 3);
-    run.main.matrix_rotate = true;
-    run.main.matrix_resize = true;
+    run.main.collage.matrix_rotate = true;
+    run.main.collage.matrix_resize = true;
     run.main.run.collage_margin = 30;
     run.add_photo(red);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
@@ -241,7 +241,7 @@ TEST(fill_loop, tilted_photos_are_written_to_the_saved_matrix)
 TEST(fill_loop, upright_photos_leave_an_empty_saved_matrix)
 {
     grid_run run(1, 2);
-    run.main.matrix_resize = true;
+    run.main.collage.matrix_resize = true;
     run.add_photo(red);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     run.filled();
@@ -251,7 +251,7 @@ TEST(fill_loop, upright_photos_leave_an_empty_saved_matrix)
 TEST(fill_loop, resizing_alone_scales_and_shifts)
 {
     grid_run run(1, 2);
-    run.main.matrix_resize = true;
+    run.main.collage.matrix_resize = true;
     run.main.shake_start = 3;  // scale 0.85, shifts -2 and 2: 0.6 of each
     run.add_photo(red);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
@@ -318,7 +318,7 @@ TEST(fill_loop, a_card_fills_its_cell_without_shifts)
 {
     grid_run run(1, 2);
     run.main.chkCaption.tick(true);
-    run.main.matrix_resize = true;
+    run.main.collage.matrix_resize = true;
     run.main.run.frame_color = yellow;
     run.add_photo(red);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;

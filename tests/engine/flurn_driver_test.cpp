@@ -127,21 +127,6 @@ TEST(make_flurn, a_border_shows_the_ground_evenly)
     EXPECT_EQ(letter_at(shown, 600, 2700), '.');
 }
 
-TEST(make_flurn, large_frames_and_shadows_make_a_little_room_where_the_quick_styles_ask_for_it)
-{
-    const auto left_with = [](const char * shadow, bool quick_border) {
-        four_photos run;
-        run.main.cmbFrame.set_text("20");
-        run.main.cmbShadow.set_text(shadow);
-        run.main.quick_border = quick_border;
-        look_at_start(run, [] {});
-        return run.main.design_locations[0].left;
-    };
-    EXPECT_EQ(left_with("11", true), 40);
-    EXPECT_EQ(left_with("10", true), 0);
-    EXPECT_EQ(left_with("11", false), 0);
-}
-
 TEST(make_flurn, a_grid_fills_the_poster)
 {
     four_photos run;
@@ -163,7 +148,7 @@ TEST(make_flurn, matching_is_the_designs_and_the_users_choice)
 {
     const auto matched = [](const auto & settings) {
         four_photos run;
-        run.main.design_matches = true;
+        run.main.collage.design_matches = true;
         run.main.chkMatch.tick(true);
         settings(run.main);
         bool active = false;
@@ -177,7 +162,7 @@ TEST(make_flurn, matching_is_the_designs_and_the_users_choice)
         main.chkMatch.show(false);
     }));
     EXPECT_FALSE(matched([](frmMain & main) { main.optShapes.select(); }));
-    EXPECT_FALSE(matched([](frmMain & main) { main.design_matches = false; }));
+    EXPECT_FALSE(matched([](frmMain & main) { main.collage.design_matches = false; }));
 }
 
 TEST(make_flurn, the_caption_is_printed_over_the_collage)
@@ -206,17 +191,18 @@ TEST(make_flurn, saving_is_offered_for_quick_styles_and_matrices_that_can_be_rea
         return run.main.mnuSaveDesign.enabled();
     };
     EXPECT_FALSE(offered([](frmMain &) {}));
-    EXPECT_TRUE(offered([](frmMain & main) { main.quick_active = true; }));
-    EXPECT_TRUE(offered([](frmMain & main) { main.matrix_session = true; }));
-    EXPECT_FALSE(offered([](frmMain & main) { main.matrix_session = main.frames_design = true; }));
+    EXPECT_TRUE(offered([](frmMain & main) { main.collage.quick_active = true; }));
+    EXPECT_TRUE(offered([](frmMain & main) { main.collage.matrix_session = true; }));
+    EXPECT_FALSE(
+        offered([](frmMain & main) { main.collage.matrix_session = main.collage.frames_design = true; }));
 }
 
 TEST(make_flurn, a_matrix_of_this_session_is_remembered)
 {
     four_photos run;
-    run.main.matrix_session = true;
-    look_at_start(run, [&] { EXPECT_FALSE(run.main.matrix_session); });
-    EXPECT_TRUE(run.main.matrix_session);
+    run.main.collage.matrix_session = true;
+    look_at_start(run, [&] { EXPECT_FALSE(run.main.collage.matrix_session); });
+    EXPECT_TRUE(run.main.collage.matrix_session);
 }
 
 TEST(make_flurn, the_shape_of_the_last_run_is_kept_for_saving)

@@ -36,13 +36,13 @@ TEST(make_flurn, a_cancel_while_it_gets_ready_ends_it)
 {
     four_photos run;
     run.use_thumbnails();
-    run.main.quick_active = true;
+    run.main.collage.quick_active = true;
     run.home.write("data/designs.ini", "[Design001]\r\nName=Match\r\nStyle=Place\r\n");
     run.home.write("data/designs/__quick", text_of(quarters()));
     run.desk.on_pump(1, [&] { run.main.run.cancel_requested = true; });
     make_flurn(run.main);
     EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
-    EXPECT_FALSE(run.main.quick_active);
+    EXPECT_FALSE(run.main.collage.quick_active);
     EXPECT_TRUE(run.main.optPreview.selected());
     EXPECT_TRUE(is_thumbnail(run.main.table[0]));
     EXPECT_FALSE(file_exists(joined(run.main.data_folder, "tmp/finished.jpg")));
@@ -84,12 +84,12 @@ TEST(make_flurn, an_error_in_the_run_shows_how_far_it_came_and_its_number)
     run.main.optLandscape.select();
     run.main.design_record.background = "Portrait";
     run.main.optPreview.select();
-    run.main.quick_active = false;
-    run.main.matrix_session = true;
+    run.main.collage.quick_active = false;
+    run.main.collage.matrix_session = true;
     make_flurn(run.main);
     EXPECT_EQ(run.desk.next_message(), "MMM  HHH  CCC  AAA  XX  CAUGHT AN ERROR  6");
-    EXPECT_FALSE(run.main.matrix_session);
-    EXPECT_FALSE(run.main.quick_active);
+    EXPECT_FALSE(run.main.collage.matrix_session);
+    EXPECT_FALSE(run.main.collage.quick_active);
     EXPECT_TRUE(run.main.optPortrait.selected());
     EXPECT_TRUE(run.main.optPreview.selected());
     EXPECT_FALSE(run.main.picSample.visible());
@@ -102,7 +102,7 @@ TEST(make_flurn, an_error_before_the_run_began_leaves_the_window_usable)
 {
     four_photos run;
     run.use_template({"0:0:300:100:182:0:0:0:"});
-    run.main.design_mirrored = true;
+    run.main.collage.design_mirrored = true;
     run.main.optPreview.select();
     EXPECT_THROW(make_flurn(run.main), platform_error);
     EXPECT_TRUE(run.main.optPreview.selected());

@@ -42,7 +42,7 @@ TEST(left_out_photos, a_strip_gives_its_place_to_the_next_photo)
         for (const bool matched : {false, true}) {
             spoiled_run run;
             run.main.chkCaption.tick(captioned);
-            run.main.design_matches = matched;
+            run.main.collage.design_matches = matched;
             run.main.chkMatch.tick(matched);
             run.add_photo(red, 20, 30);
             const std::string strip = run.add_strip();
@@ -123,8 +123,8 @@ TEST(left_out_photos, without_a_photo_that_can_be_used_every_style_comes_to_its_
                 if (style == std::string("Fill"))
                     run.use_grid();
                 run.main.chkMatch.tick(matched);
-                run.main.design_matches = matched;
-                run.main.matrix_both = both;
+                run.main.collage.design_matches = matched;
+                run.main.collage.matrix_both = both;
                 run.add_strip();
                 run.add_path(run.home.write("photos/text.jpg", "no picture"));
                 run.add_path(

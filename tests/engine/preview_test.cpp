@@ -84,7 +84,7 @@ TEST(gen_sample, turns_a_saved_landscape_design_once)
     run.main.design_record.background = "Portrait";
     run.main.design_record.design = "Saved";
     const bitmap sample = run.sample();
-    EXPECT_EQ(run.main.landscape_turn, saved_landscape_turn);
+    EXPECT_EQ(run.main.collage.landscape_turn, saved_landscape_turn);
     EXPECT_EQ(letter_at(sample, 400, 80), 'r');
     EXPECT_EQ(letter_at(sample, 400, 220), 'g');
 }
@@ -172,12 +172,12 @@ TEST(gen_sample, an_error_shows_its_box_and_ends_the_preview)
     run.main.optLandscape.select();
     run.main.design_record.background = "Portrait";
     run.main.picSample.show(true);
-    run.main.quick_active = true;
+    run.main.collage.quick_active = true;
     gen_sample(run.main);
     EXPECT_EQ(run.desk.next_message(), "MMM  HHH  CCC  AAA  XX  CAUGHT AN ERROR  6");
     EXPECT_FALSE(run.main.in_preview);
     EXPECT_TRUE(run.main.optLandscape.selected());
-    EXPECT_TRUE(run.main.quick_active);
+    EXPECT_TRUE(run.main.collage.quick_active);
     EXPECT_TRUE(run.main.picSample.visible());
     EXPECT_TRUE(run.main.enabling.last);
     EXPECT_FALSE(run.main.run.run_active);
@@ -234,7 +234,7 @@ TEST(make_preview, does_nothing_without_a_design_or_with_the_preview_off)
 TEST(make_preview, shows_the_stored_sample_of_a_quick_style_while_it_is_off)
 {
     collage_fixture run;
-    run.main.quick_active = true;
+    run.main.collage.quick_active = true;
     run.main.optSample.select();
     for (const char * name : {"p_nb", "p_sb", "p_lb", "l_sb", "p_s", "p_o", "p_r", "l_ro", "p_so", "p_srr"})
         run.picture("install/images/preview/" + std::string(name) + ".jpg", red, 4, 4);

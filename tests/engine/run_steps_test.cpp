@@ -72,7 +72,7 @@ TEST(place_photos, frames_inside_take_their_width_off_the_locations)
 {
     bare_run full, preview, no_frame, grid;
     for (bare_run * run : {&full, &preview, &no_frame, &grid}) {
-        run->main.frames_inside = true;
+        run->main.collage.frames_inside = true;
         run->main.run.frame_size = 10;
     }
     no_frame.main.run.frame_size = 0;
@@ -121,8 +121,8 @@ TEST(place_photos, the_order_changes_only_for_plain_designs_that_were_asked_to)
     const auto first_top = [](bool random_design, bool rotated, std::initializer_list<double> chance) {
         bare_run run;
         run.main.random = listed(chance);
-        run.main.random_design = random_design;
-        run.main.design_rotated = rotated;
+        run.main.collage.random_design = random_design;
+        run.main.collage.design_rotated = rotated;
         for (int16 i = 1; i < 12; ++i)
             run.add_location(measures(narrow(100 + i), 0, 1, 1));
         place_photos(run.main, run_size::full);
@@ -137,7 +137,7 @@ TEST(place_photos, the_order_changes_only_for_plain_designs_that_were_asked_to)
 TEST(place_photos, a_stretched_design_is_stretched_before_the_bleed_comes)
 {
     bare_run run;
-    run.main.stretch_design = run.main.poster_tall = true;
+    run.main.collage.stretch_design = run.main.poster_tall = true;
     EXPECT_EQ(run.placed(run_size::full), measures(430 + 93, 430 + 210, 280, 420));
 }
 
@@ -149,7 +149,7 @@ TEST(run_layout, what_is_turned_after_it_was_bent)
         return is_turned_afterwards(run.main);
     };
     EXPECT_FALSE(is_turned([](frmMain &) {}));
-    EXPECT_TRUE(is_turned([](frmMain & main) { main.landscape_turn = -90; }));
+    EXPECT_TRUE(is_turned([](frmMain & main) { main.collage.landscape_turn = -90; }));
     const auto upright_on_landscape = [](frmMain & main) {
         main.optLandscape.select();
         main.design_record.background = "Portrait";
@@ -165,7 +165,7 @@ TEST(run_layout, what_is_turned_after_it_was_bent)
     EXPECT_FALSE(is_turned([&](frmMain & main) {
         saved_landscape(main);
         main.in_preview = true;
-        main.landscape_turn = saved_landscape_turn;
+        main.collage.landscape_turn = saved_landscape_turn;
     })) << "a preview has turned it already";
 }
 
@@ -234,7 +234,7 @@ TEST(bend_template, mixes_a_shaken_quick_matrix)
 {
     const auto mixed = [](const auto & settings) {
         bare_run run;
-        run.main.quick_active = true;
+        run.main.collage.quick_active = true;
         run.main.optMatrix.select();
         run.main.random = listed({0.5});
         for (int16 i = 1; i < 12; ++i)
@@ -249,7 +249,7 @@ TEST(bend_template, mixes_a_shaken_quick_matrix)
     EXPECT_TRUE(mixed([](frmMain & main) { main.chkShuffle.tick(true); }));
     EXPECT_FALSE(mixed([](frmMain & main) {
         main.chkRotate.tick(true);
-        main.quick_active = false;
+        main.collage.quick_active = false;
     }));
 }
 
@@ -260,7 +260,7 @@ TEST(make_quick_template, reads_the_record_of_the_style_and_points_it_at_the_qui
     run.home.write("data/designs.ini",
                    "[Design001]\r\nName=Match\r\nFile=__match\r\nStyle=Place\r\n"
                    "[Design002]\r\nName=Quick matrix\r\nFile=__quick\r\nDesign=Block\r\n");
-    run.main.quick_active = true;
+    run.main.collage.quick_active = true;
     run.main.optBlock.select();
     make_quick_template(run.main, run_size::full);
     EXPECT_EQ(run.main.design_record.name, "Match");
@@ -275,7 +275,7 @@ TEST(make_quick_template, says_when_a_record_is_missing_and_goes_on)
     collage_fixture run;
     make_ready_for_quick(run);
     run.home.write("data/designs.ini", "[Design001]\r\nName=Other\r\n");
-    run.main.quick_active = true;
+    run.main.collage.quick_active = true;
     run.main.optScatter.select();
     make_quick_template(run.main, run_size::full);
     EXPECT_EQ(run.desk.next_message(), "should not happen 2 ?");
@@ -370,7 +370,7 @@ TEST(lay_background, a_design_brings_a_small_picture_for_previews_and_a_large_on
     run.picture("install/images/preview/sea/p_waves.jpg", green, 60, 90);
     run.main.design_record.bg_image = "sea/waves.jpg";
     run.main.txtBGimage.set_text(run.picture("install/images/sea/waves.jpg", blue, 60, 90));
-    run.main.bg_from_design = true;
+    run.main.collage.bg_from_design = true;
     run.main.cmbBlend.set_text("100");
     EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'g');
     EXPECT_EQ(letter_at(background_of(run, 60, 90, run_size::full), 30, 45), 'b');
@@ -381,7 +381,7 @@ TEST(lay_background, a_design_picture_without_a_small_one_serves_itself)
     collage_fixture run;
     run.main.design_record.bg_image = "sea/waves.jpg";
     run.main.txtBGimage.set_text(run.picture("install/images/sea/waves.jpg", blue, 60, 90));
-    run.main.bg_from_design = true;
+    run.main.collage.bg_from_design = true;
     run.main.cmbBlend.set_text("100");
     EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'b');
 }
@@ -391,7 +391,7 @@ TEST(lay_background, the_users_own_design_picture_lies_with_the_data)
     collage_fixture run;
     run.picture("data/user_images/waves.jpg", green, 60, 90);
     run.main.design_record.bg_image = "user_images/waves.jpg";
-    run.main.bg_from_design = true;
+    run.main.collage.bg_from_design = true;
     run.main.cmbBlend.set_text("100");
     EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'g');
 }

@@ -130,7 +130,7 @@ TEST(make_caption_room, block_designs_and_quick_templates_shrink_more)
 TEST(make_caption_room, designs_that_are_turned_afterwards_free_it_at_the_side)
 {
     cleared_caption by_turn, by_output;
-    by_turn.main.landscape_turn = 90;
+    by_turn.main.collage.landscape_turn = 90;
     by_output.main.optLandscape.select();
     by_output.main.design_record.background = "Portrait";
     EXPECT_EQ(by_turn.with_room(), measures(1040, 850, 920, 880));
@@ -141,7 +141,7 @@ TEST(make_caption_room, tied_borders_free_it_at_the_side_too_but_not_for_letters
 {
     cleared_caption tied, letters, pieces, square;
     for (cleared_caption * run : {&tied, &letters, &pieces, &square})
-        run->main.borders_free = false;
+        run->main.collage.borders_free = false;
     letters.main.design_record.file = "__lettering";
     pieces.main.design_record.file = "__puzzle";
     square.main.optSquare.select();
@@ -165,7 +165,7 @@ TEST(make_caption_room, the_counts_of_a_grid_stay)
 TEST(make_caption_room, mirrors_and_flips_about_the_poster)
 {
     collage_fixture run;
-    run.main.design_mirrored = run.main.design_flipped = true;
+    run.main.collage.design_mirrored = run.main.collage.design_flipped = true;
     run.add_location(measures(100, 100, 700, 500));
     make_caption_room(run.main);
     EXPECT_EQ(run.main.design_locations[0], measures(2200, 1400, 700, 500));
@@ -174,7 +174,7 @@ TEST(make_caption_room, mirrors_and_flips_about_the_poster)
 TEST(make_caption_room, mirrors_and_flips_a_preview_about_its_own_size)
 {
     collage_fixture run;
-    run.main.in_preview = run.main.design_mirrored = run.main.design_flipped = true;
+    run.main.in_preview = run.main.collage.design_mirrored = run.main.collage.design_flipped = true;
     run.add_location(measures(10, 10, 70, 50));
     make_caption_room(run.main);
     EXPECT_EQ(run.main.design_locations[0], measures(370, 240, 70, 50));
@@ -183,7 +183,7 @@ TEST(make_caption_room, mirrors_and_flips_a_preview_about_its_own_size)
 TEST(make_caption_room, a_design_drawn_for_a_lying_poster_is_mirrored_about_that)
 {
     collage_fixture run;
-    run.main.design_mirrored = run.main.design_flipped = true;
+    run.main.collage.design_mirrored = run.main.collage.design_flipped = true;
     run.main.optLandscape.select();
     run.main.design_record.background = "Landscape";
     run.add_location(measures(100, 100, 700, 500));
@@ -195,7 +195,7 @@ TEST(make_caption_room, a_grid_is_its_own_mirror_image)
 {
     collage_fixture run;
     run.main.work_style = "Fill";
-    run.main.design_mirrored = run.main.design_flipped = true;
+    run.main.collage.design_mirrored = run.main.collage.design_flipped = true;
     run.add_location(measures(100, 100, 5, 4));
     run.add_location(measures(20, 40, 400, 300));
     make_caption_room(run.main);

@@ -14,7 +14,7 @@ struct frame_set {
     {
         folder.write("frames/club/design.ini", bytes);
         all.main.data_folder = folder.path();
-        all.main.frame_set_name = "club";
+        all.main.collage.frame_set_name = "club";
     }
     std::string field(std::string_view key) const { return get_frame_field(all.main, key); }
 
@@ -52,7 +52,7 @@ TEST(get_frame_field, is_empty_for_a_missing_key)
 TEST(get_frame_field, raises_for_a_set_without_its_file)
 {
     frame_set set("");
-    set.all.main.frame_set_name = "other";
+    set.all.main.collage.frame_set_name = "other";
     EXPECT_THROW(set.field("Icon"), platform_error);
 }
 

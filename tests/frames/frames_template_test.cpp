@@ -20,7 +20,7 @@ struct frame_design : opened_browser {
                      "[other]\r\n1:2:3:4:0:0:0:0:\r\n[wall]\r\n" + across + photo + upright);
         folder.at("data/designs/x");
         write_set("None");
-        main.frame_set_name = "club";
+        main.collage.frame_set_name = "club";
         main.design_record.file = "wall";
     }
     void write_set(const std::string & list, int captions = 3)
@@ -118,7 +118,7 @@ TEST(a_frame_design, asks_for_the_set_and_is_taken_with_it)
     });
     session.browser.cmdOk.click();
     EXPECT_FALSE(session.browser.loaded());
-    EXPECT_EQ(session.main.frame_set_name, "club");
+    EXPECT_EQ(session.main.collage.frame_set_name, "club");
     EXPECT_EQ(session.main.design_record.file, "__frames");
     EXPECT_EQ(session.main.lblDesign.caption(), "Club wall");
     EXPECT_NE(session.built(), "");
@@ -131,7 +131,7 @@ TEST(a_frame_design, is_not_taken_without_a_set)
     session.browser.cmdOk.click();
     EXPECT_FALSE(session.browser.loaded());
     EXPECT_EQ(session.main.lblDesign.tag, "");
-    EXPECT_EQ(session.main.frame_set_name, "");
+    EXPECT_EQ(session.main.collage.frame_set_name, "");
     EXPECT_EQ(session.main.design_record.file, "wall");
 }
 
@@ -160,6 +160,5 @@ TEST(a_frame_design, offers_the_list_of_its_set_as_the_source_of_photos)
     EXPECT_TRUE(session.all.select_photos.optList.selected());
     EXPECT_EQ(session.all.select_photos.txtCards.text(), "team");
     new_poster(session.main);
-    EXPECT_TRUE(session.main.use_list_of_frame);
     EXPECT_EQ(session.main.txtPhotos.tag, list);
 }

@@ -381,7 +381,7 @@ TEST(saving_a_set, keeps_what_else_stands_in_its_settings)
     });
     const std::string design = session.of_set("hand", "design.ini");
     EXPECT_TRUE(design.starts_with("[Frame Design]\r\n; mine\r\nCaption Text=old\r\nMy Key=1\r\n")) << design;
-    session.main.frame_set_name = "hand";
+    session.main.collage.frame_set_name = "hand";
 }
 
 TEST(saving_a_set, of_captions_of_300_characters)

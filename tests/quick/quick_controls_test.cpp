@@ -85,7 +85,6 @@ TEST(cmbSpace, a_choice_redraws_and_is_noted)
     started_session session;
     session.main.cmbSpace.show(true);
     EXPECT_EQ(session.previews_of([&] { session.main.cmbSpace.choose(15); }), 1);
-    EXPECT_TRUE(session.main.quick_spacing_changed);
 }
 
 TEST(cmbSpace, typing_turns_the_preview_off_until_the_user_wants_it)
@@ -105,7 +104,6 @@ TEST(cmbSpace, does_nothing_while_hidden)
     session.main.cmbSpace.set_text("35");
     session.main.cmbSpace.choose(2);
     expect_states(session.main, "optPreview1");
-    EXPECT_FALSE(session.main.quick_spacing_changed);
 }
 
 TEST(optBlock, shows_its_columns)

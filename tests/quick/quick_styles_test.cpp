@@ -213,7 +213,7 @@ TEST(write_quick_scatter, cells_turned_over_the_edge_force_a_border)
         session.folder.write("install/quick_scatter.ini", "04:00:04:four\r\nSQUARES\r\n");
         session.main.optScatter.select();
         expect_states(session.main, each.states);
-        EXPECT_EQ(session.main.borders_free, each.free) << each.cell;
+        EXPECT_EQ(session.main.collage.borders_free, each.free) << each.cell;
         EXPECT_FALSE(session.main.updating_controls);
     }
 }
@@ -315,7 +315,7 @@ TEST(quick_full_size, every_style_is_made_and_every_poster)
         session.main.cmdFlurn.click();
         EXPECT_EQ(size.width, each.width);
         EXPECT_EQ(size.height, each.height);
-        EXPECT_TRUE(session.main.quick_active);
+        EXPECT_TRUE(session.main.collage.quick_active);
         expect_states(session.main, "optPreview1 frmStyle+");
     }
 }

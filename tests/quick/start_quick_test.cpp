@@ -11,7 +11,7 @@ namespace {
 void expect_choosing(const quick_session & session)
 {
     expect_states(session.main, "mnuFile^ frmOutput_ frmStyle_ picSample_");
-    EXPECT_FALSE(session.main.quick_active);
+    EXPECT_FALSE(session.main.collage.quick_active);
     EXPECT_FALSE(session.main.updating_controls);
     EXPECT_EQ(session.desk.busy_depth, 0);
 }
@@ -30,8 +30,7 @@ TEST(mnuQuick, photos_lead_to_a_collage_of_blocks_at_once)
     EXPECT_EQ(session.main.lblDesign.caption(), "Quick Block");
     EXPECT_EQ(session.main.lblDesign.tag, "Match");
     EXPECT_EQ(session.main.back_color(), about_background);
-    EXPECT_TRUE(session.main.quick_active);
-    EXPECT_FALSE(session.main.quick_first_pass);
+    EXPECT_TRUE(session.main.collage.quick_active);
     EXPECT_FALSE(session.main.updating_controls);
     EXPECT_TRUE(session.main.poster_tall);
     EXPECT_EQ(session.desk.busy_depth, 0);
@@ -69,8 +68,8 @@ TEST(mnuQuick, clears_what_other_collages_left)
     main.quick.quick_reduced = 4;
     main.quick.quick_max = 9;
     main.quick.matrix_notice_done = true;
-    main.frames_design = main.use_list_of_frame = main.random_design = true;
-    main.matrix_both = main.matrix_rotate = main.matrix_resize = true;
+    main.collage.frames_design = main.collage.random_design = true;
+    main.collage.matrix_both = main.collage.matrix_rotate = main.collage.matrix_resize = true;
     main.cmdMore.tag = "fewer";
     main.cmbBlanks.set_text("8");
     main.optLandscape.select();
@@ -80,8 +79,8 @@ TEST(mnuQuick, clears_what_other_collages_left)
     EXPECT_EQ(main.shape_column_bias, 0);
     EXPECT_EQ(main.quick.quick_reduced, 0);
     EXPECT_EQ(main.quick.quick_max, 64);
-    EXPECT_FALSE(main.quick.matrix_notice_done || main.frames_design || main.use_list_of_frame ||
-                 main.random_design || main.matrix_both || main.matrix_rotate || main.matrix_resize);
+    EXPECT_FALSE(main.quick.matrix_notice_done || main.collage.frames_design || main.collage.random_design ||
+                 main.collage.matrix_both || main.collage.matrix_rotate || main.collage.matrix_resize);
     EXPECT_EQ(main.cmdMore.tag, "");
     expect_states(main, "optPortrait1 optBlock1 optPreview1");
     EXPECT_EQ(session.written().size(), 4U);
@@ -94,7 +93,7 @@ TEST(mnuQuick, a_second_collage_begins_like_the_first)
     session.main.optScatter.select();
     session.main.optSample.select();
     session.main.cmdCancel.click();
-    EXPECT_FALSE(session.main.quick_active);
+    EXPECT_FALSE(session.main.collage.quick_active);
     EXPECT_EQ(session.previews_of([&] { session.start(); }), 1);
     expect_states(session.main, "optBlock1 optPreview1 frmSpace^ frmShake_");
     EXPECT_EQ(session.written().size(), 4U);
@@ -125,7 +124,7 @@ TEST(mnuQuick, a_choice_cancelled_before_does_not_count)
     quick_session session;
     session.main.photo_choice_cancelled = true;
     session.start();
-    EXPECT_TRUE(session.main.quick_active);
+    EXPECT_TRUE(session.main.collage.quick_active);
 }
 
 TEST(mnuQuick, a_selection_of_nothing_is_forgotten)
@@ -218,7 +217,7 @@ TEST(mnuQuick, a_missing_record_is_told_and_the_way_goes_on)
     session.start();
     EXPECT_EQ(session.desk.next_message(), "should not happen 2 ?");
     EXPECT_EQ(session.desk.next_message(), "should not happen 2 ?");  // for the preview
-    EXPECT_TRUE(session.main.quick_active);
+    EXPECT_TRUE(session.main.collage.quick_active);
     EXPECT_EQ(session.written().size(), 4U);
 }
 
@@ -226,12 +225,16 @@ TEST(mnuQuick, a_background_that_a_design_forbade_is_free_again)
 {
     quick_session session;
     frmMain & main = session.main;
-    main.txtBGimage.set_text("/a.jpg");
+    {
+        const updating quiet(main);
+        main.txtBGimage.set_text("/mine.jpg");
+        main.collage.forced.set_text(main.txtBGimage, "/a.jpg");
+    }
     main.optBGimage.select();
     main.optSolid.enable(false);
     session.start();
     expect_states(main, "optSolid+ optSolid1 txtBGimage_ chkClear-");
-    EXPECT_EQ(main.txtBGimage.text(), "");
+    EXPECT_EQ(main.txtBGimage.text(), "/mine.jpg");
     EXPECT_FALSE(main.skip_preview_click);
 }
 

@@ -50,7 +50,7 @@ TEST(optBGimage, shows_no_picture_controls_for_the_picture_of_a_design)
     opened_session session;
     session.main.load();
     session.main.txtBGimage.set_text("/a.jpg");
-    session.main.bg_from_design = true;
+    session.main.collage.bg_from_design = true;
     session.main.optBGimage.select();
     expect_states(session.main, "txtBGimage_ cmdBGimage_ frmBlend_");
 }

@@ -7,11 +7,11 @@ TEST(cmdCancel, goes_back_to_the_choosing_stage)
 {
     opened_session session;
     session.finish();
-    session.main.quick_active = session.main.quick_first_pass = true;
+    session.main.collage.quick_active = true;
     session.main.cmdCancel.click();
     expect_states(session.main, "mnuFile^ mnuDesigned^ frmOutput_ frmStyle_ picSample_ optPreview0");
     EXPECT_TRUE(session.main.menus_shown);
-    EXPECT_FALSE(session.main.quick_active || session.main.quick_first_pass);
+    EXPECT_FALSE(session.main.collage.quick_active);
     EXPECT_FALSE(session.main.updating_controls);
     EXPECT_FALSE(session.main.run.cancel_requested);
 }

@@ -26,7 +26,7 @@ TEST(txtCaption, leaves_the_clearing_to_a_design_that_settles_it)
 TEST(txtCaption, a_matrix_of_this_session_keeps_the_clearing_as_it_is)
 {
     opened_session session;
-    session.main.matrix_session = true;
+    session.main.collage.matrix_session = true;
     session.main.chkClear.enable(false);
     session.main.txtCaption.set_text("Summer");
     expect_states(session.main, "chkClear-");

@@ -54,8 +54,8 @@ TEST(mnuDesigned, a_design_and_its_photos_lead_to_the_finishing_stage_and_one_pr
     EXPECT_EQ(session.main.lblDesign.caption(), "one");
     EXPECT_EQ(session.main.table.landscape_count, 1);
     expect_states(session.main, "mnuFile_ frmOutput^ frmOrnaments^ optPreview1 picSample^");
-    EXPECT_TRUE(session.main.random_design);
-    EXPECT_TRUE(session.main.catalogue.catalogue_closed);
+    EXPECT_TRUE(session.main.collage.random_design);
+    EXPECT_FALSE(session.main.catalogue.catalogue_at_end);
     EXPECT_FALSE(session.main.updating_controls);
 }
 
@@ -63,19 +63,19 @@ TEST(mnuDesigned, clears_what_other_collages_left)
 {
     choosing session;
     frmMain & main = session.main;
-    main.quick_active = main.quick_first_pass = main.quick_spacing_changed = main.quick_border = true;
-    main.matrix_both = main.matrix_rotate = main.matrix_resize = true;
-    main.design_rotated = main.design_flipped = main.design_mirrored = true;
+    main.collage.quick_active = true;
+    main.collage.matrix_both = main.collage.matrix_rotate = main.collage.matrix_resize = true;
+    main.collage.design_rotated = main.collage.design_flipped = main.collage.design_mirrored = true;
     main.cmbBlanks.set_text("8");
     main.frmBorder.enable(false);
     session.desk.on_modal<frmThemes>([&](frmThemes & browser) {
         expect_states(main, "picSplash_ lblBlanks_ cmbBlanks_ frmBorder-");
         EXPECT_EQ(main.cmbBlanks.text(), "0");
         EXPECT_EQ(main.back_color(), about_background);
-        EXPECT_FALSE(main.quick_active || main.quick_first_pass || main.quick_spacing_changed ||
-                     main.quick_border);
-        EXPECT_FALSE(main.matrix_both || main.matrix_rotate || main.matrix_resize);
-        EXPECT_FALSE(main.design_rotated || main.design_flipped || main.design_mirrored);
+        EXPECT_FALSE(main.collage.quick_active);
+        EXPECT_FALSE(main.collage.matrix_both || main.collage.matrix_rotate || main.collage.matrix_resize);
+        EXPECT_FALSE(main.collage.design_rotated || main.collage.design_flipped ||
+                     main.collage.design_mirrored);
         browser.cmdCancel.click();
     });
     main.mnuDesigned.click();
@@ -89,7 +89,7 @@ TEST(mnuDesigned, a_cancel_of_the_browser_asks_for_no_photos)
     session.main.mnuDesigned.click();
     EXPECT_EQ(session.desk.shown_windows, std::vector<std::string>{"frmThemes"});
     expect_states(session.main, "mnuFile^ frmOutput_ optPreview0");
-    EXPECT_TRUE(session.main.catalogue.catalogue_closed);
+    EXPECT_FALSE(session.main.catalogue.catalogue_at_end);
     EXPECT_EQ(session.previews(), 0);
 }
 

@@ -6,8 +6,9 @@ TEST(load_main, sets_the_start_state)
     opened_session session;
     frmMain & main = session.main;
     main.pictures_folder = "/home/me/Pictures";
-    main.quick_active = main.frames_design = main.matrix_session = main.bg_from_design = true;
-    main.borders_free = false;
+    main.collage.quick_active = main.collage.frames_design = main.collage.matrix_session =
+        main.collage.bg_from_design = true;
+    main.collage.borders_free = false;
     main.caption_color = 7;
     main.picBGcolor.set_back_color(9);
     main.lblPhotos.tag = "2";
@@ -16,8 +17,9 @@ TEST(load_main, sets_the_start_state)
                   "frmAlign_ frmSquares_ chkOutline_ txtBGimage_ cmdBGimage_ frmBlend_ cmdFlurn- "
                   "mnuSaveDesign- frmOutput_ frmOrnaments_ frmBackground_ frmCaption_ frmButtons_ "
                   "frmBorder_ picSample_ frmDisplay_ frmOrientation_ frmStyle_ frmShake_ frmSpace_");
-    EXPECT_FALSE(main.quick_active || main.frames_design || main.matrix_session || main.bg_from_design);
-    EXPECT_TRUE(main.borders_free);
+    EXPECT_FALSE(main.collage.quick_active || main.collage.frames_design || main.collage.matrix_session ||
+                 main.collage.bg_from_design);
+    EXPECT_TRUE(main.collage.borders_free);
     EXPECT_EQ(main.caption_color, 0u);
     EXPECT_EQ(main.lblPhotos.tag, "0");
     EXPECT_EQ(main.picBGcolor.back_color(), 0u);

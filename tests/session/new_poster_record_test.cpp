@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "chkRandom^ cmdShuffle^ cmdHelp+ mnuSaveDesign-"},
         record_row{"block_keeps_the_spacing_open",
                    [](frmMain & main) {
-                       main.quick_active = true;
+                       main.collage.quick_active = true;
                        main.optBlock.on_click = nullptr;
                        main.optBlock.select();
                        main.design_record.match = "No";
@@ -64,14 +64,14 @@ INSTANTIATE_TEST_SUITE_P(
         record_row{"yes",
                    [](frmMain & main) {
                        main.cmbSpace.show(false);
-                       main.quick_active = true;
+                       main.collage.quick_active = true;
                    },
                    "chkMatch^ chkMatch1 frmShake_ cmbSpace^"},
         record_row{"empty", [](frmMain & main) { main.design_record.match = ""; }, "chkMatch^ chkMatch1"},
         record_row{"no", [](frmMain & main) { main.design_record.match = "No"; }, "chkMatch_ chkMatch0"},
         record_row{"both_matrix",
                    [](frmMain & main) {
-                       main.matrix_both = true;
+                       main.collage.matrix_both = true;
                        main.design_record.match = "No";
                        main.chkCaption.tick(true);
                    },
@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(frames_of_a_set, new_poster_applies,
                                                     "chkSoftEdge0 chkCaption0 chkRounded0 frmOrnaments^"},
                                          record_row{"a_matrix_of_frames_too",
                                                     [](frmMain & main) {
-                                                        main.frames_design = true;
+                                                        main.collage.frames_design = true;
                                                         main.chkRounded.tick(true);
                                                     },
                                                     "chkRounded0"}),
@@ -109,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
                                borders_enabled},
                     record_row{"not_free_are_left_alone",
                                [](frmMain & main) {
-                                   main.borders_free = false;
+                                   main.collage.borders_free = false;
                                    main.optHuge.enable(false);
                                },
                                "optHuge- optTiny+"},
@@ -173,7 +173,7 @@ INSTANTIATE_TEST_SUITE_P(
                                [](frmMain & main) {
                                    main.txtCaption.set_text("Us");
                                    main.chkClear.enable(false);
-                                   main.quick_active = true;
+                                   main.collage.quick_active = true;
                                },
                                "chkClear+"}),
     row_name);
@@ -265,6 +265,6 @@ INSTANTIATE_TEST_SUITE_P(
                    [](frmMain & main) { main.design_record.design = "Frame"; }, "chkRounded-"},
         record_row{"no_round_corners_in_a_theme", [](frmMain & main) { main.design_record.design = "Theme"; },
                    "chkRounded-"},
-        record_row{"no_round_corners_in_a_turned_matrix", [](frmMain & main) { main.matrix_rotate = true; },
-                   "chkRounded-"}),
+        record_row{"no_round_corners_in_a_turned_matrix",
+                   [](frmMain & main) { main.collage.matrix_rotate = true; }, "chkRounded-"}),
     row_name);

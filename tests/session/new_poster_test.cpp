@@ -7,17 +7,17 @@ TEST(new_poster, begins_a_new_collage)
 {
     opened_session session;
     frmMain & main = session.main;
-    main.run.cancel_requested = main.run.match_active = main.frames_inside = true;
+    main.run.cancel_requested = main.run.match_active = main.collage.frames_inside = true;
     main.table.reshuffle_choice = photo_table::reshuffle::yes;
     main.cmbSize.set_text("80");
-    main.borders_free = false;
+    main.collage.borders_free = false;
     new_poster(main);
-    EXPECT_FALSE(main.run.cancel_requested || main.run.match_active || main.frames_inside);
+    EXPECT_FALSE(main.run.cancel_requested || main.run.match_active || main.collage.frames_inside);
     EXPECT_EQ(main.table.reshuffle_choice, photo_table::reshuffle::not_asked);
     EXPECT_EQ(main.cmbSize.text(), "80");
     EXPECT_EQ(main.cmbBlend.text(), "70");
-    EXPECT_TRUE(main.borders_free);
-    EXPECT_TRUE(main.design_matches);
+    EXPECT_TRUE(main.collage.borders_free);
+    EXPECT_TRUE(main.collage.design_matches);
     EXPECT_EQ(main.caption(), "F i n i s h i n g   t o u c h e s");
     EXPECT_EQ(main.picFrameColor.tag, "True");
 }
@@ -96,11 +96,11 @@ TEST(new_poster, turns_a_template_of_the_other_orientation)
          {row{"Landscape", true, -90}, row{"Landscape", false, 0}, row{"Portrait", true, 0},
           row{"Portrait", false, 90}, row{"Both", true, 0}, row{"", false, 0}}) {
         opened_session session;
-        session.main.landscape_turn = 45;
+        session.main.collage.landscape_turn = 45;
         session.main.poster_tall = each.tall;
         session.main.design_record.background = each.background;
         new_poster(session.main);
-        EXPECT_EQ(session.main.landscape_turn, each.turn) << each.background << each.tall;
+        EXPECT_EQ(session.main.collage.landscape_turn, each.turn) << each.background << each.tall;
     }
 }
 
@@ -111,7 +111,7 @@ TEST(new_poster, takes_the_picture_of_a_design_from_the_program_or_from_the_user
     session.main.design_record.bg_image = "themes/sea.jpg";
     new_poster(session.main);
     EXPECT_EQ(session.main.txtBGimage.text(), joined(session.main.install_folder, "images/themes/sea.jpg"));
-    EXPECT_TRUE(session.main.bg_from_design);
+    EXPECT_TRUE(session.main.collage.bg_from_design);
     EXPECT_EQ(session.main.cmbBlend.text(), "100");
     EXPECT_EQ(session.main.picBGcolor.back_color(), 0x2B2826u);
     session.main.design_record.bg_image = "user_images\\mine.jpg";
@@ -126,8 +126,9 @@ TEST(new_poster, the_design_after_one_with_a_picture_has_a_black_swatch_again)
     session.main.design_record.bg_image = "sea.jpg";
     new_poster(session.main);
     session.main.design_record.bg_image = "Either";
+    begin_collage(session.main, collage_kind::designed);
     new_poster(session.main);
-    EXPECT_FALSE(session.main.bg_from_design);
+    EXPECT_FALSE(session.main.collage.bg_from_design);
     EXPECT_EQ(session.main.picBGcolor.back_color(), 0u);
     expect_states(session.main, "optSolid1 optSolid+ optBGimage+ picBGcolor^ picBGcolor+ cmbBlend+");
 }
@@ -171,7 +172,7 @@ TEST(new_poster, adjust_moves_the_frames_inside)
     opened_session session;
     session.main.design_record.frames = "Adjust";
     new_poster(session.main);
-    EXPECT_TRUE(session.main.frames_inside);
+    EXPECT_TRUE(session.main.collage.frames_inside);
 }
 
 TEST(new_poster, takes_the_photo_list_of_the_frame_set)
@@ -184,10 +185,9 @@ TEST(new_poster, takes_the_photo_list_of_the_frame_set)
         opened_session session;
         session.folder.write("data/frames/club/design.ini",
                              std::string("[Frame Design]\r\nPicture List=") + each.list + "\r\n");
-        session.main.frame_set_name = "club";
+        session.main.collage.frame_set_name = "club";
         session.main.txtPhotos.tag = "before";
         new_poster(session.main);
-        EXPECT_EQ(session.main.use_list_of_frame, each.file != nullptr);
         EXPECT_EQ(session.main.txtPhotos.tag,
                   each.file == nullptr
                       ? "before"
@@ -198,7 +198,7 @@ TEST(new_poster, takes_the_photo_list_of_the_frame_set)
 TEST(new_poster, a_step_that_fails_leaves_the_window_listening)
 {
     opened_session session;
-    session.main.frame_set_name = "without its file";
+    session.main.collage.frame_set_name = "without its file";
     EXPECT_THROW(new_poster(session.main), platform_error);
     EXPECT_FALSE(session.main.updating_controls);
 }

@@ -49,12 +49,12 @@ TEST(start_designed, settles_the_window)
     main.optSample.show(false);
     main.optBlock.on_click = nullptr;
     main.optBlock.select();
-    main.quick_active = true;
+    main.collage.quick_active = true;
     main.lblOutput.set_caption("Using 04 selected photos...");
     start_designed(main);
     expect_states(main, "chkRounded0 cmdMore_ optBlock0 chkMatch+ frmBorder+ optSample^ frmStyle_");
-    EXPECT_TRUE(main.random_design);
-    EXPECT_FALSE(main.quick_active);
+    EXPECT_TRUE(main.collage.random_design);
+    EXPECT_FALSE(main.collage.quick_active);
     EXPECT_EQ(main.lblOutput.caption(), "");
     EXPECT_FALSE(file_exists(joined(main.data_folder, "designs/__matrix")));
 }

@@ -25,7 +25,7 @@ TEST(show_work_controls, shows_the_quick_groups_only_while_a_quick_style_is_acti
                   "picSample^ frmDisplay^ frmOrientation_ frmStyle_ frmShake_ frmSpace_ "
                   "frmAlign_ frmSquares_ chkOutline_");
     EXPECT_EQ(session.main.cmdFlurn.caption(), "Flurn");
-    session.main.quick_active = true;
+    session.main.collage.quick_active = true;
     show_work_controls(session.main, true);
     expect_states(session.main,
                   "frmOrientation^ frmStyle^ frmShake^ frmSpace^ frmAlign^ frmSquares^ chkOutline^");

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "session/forced_settings.h"
+#include "support/numbers.h"
+
+#include <string>
+
+struct frmMain;
+
+enum class collage_kind { none, quick, designed, matrix, lettering, puzzle };
+
+/// Which collage this is: made anew when one begins, so that nothing of the one before has a say in it.
+struct collage {
+    collage_kind kind = collage_kind::none;
+    bool quick_active = false;   ///< a quick style is in force
+    bool random_design = false;  ///< a plain design of the catalogue
+
+    // The design, as the browser gave it and as its record says.
+    bool design_rotated = false, design_flipped = false, design_mirrored = false;
+    bool stretch_design = false;
+    bool design_matches = false;
+    int16 landscape_turn = 0;  ///< degrees by which the template is turned; 100: a saved landscape design
+    bool bg_from_design = false;
+    bool borders_free = true;  ///< false while a scatter needs a border
+
+    // A matrix, and custom frames.
+    bool matrix_both = false, matrix_rotate = false, matrix_resize = false;
+    bool matrix_session = false;  ///< a matrix of the designer is in force
+    bool frames_design = false, frames_inside = false;
+    std::string frame_set_name;
+
+    forced_settings forced;           ///< by the design: they go back when the next collage begins
+    forced_settings forced_by_style;  ///< by the quick style: they go back with the next style as well
+};
+
+/// Where every collage begins: what the one before forced goes back to what the user had, what the user chose
+/// stays, and the record is that of a new collage.
+void begin_collage(frmMain & main, collage_kind kind);
+
+/// Where another quick style takes over in the same collage.
+void leave_quick_style(frmMain & main);
