@@ -16,6 +16,7 @@ namespace {
 
 constexpr int nt_family = 2;
 constexpr std::string_view release_marker = "3_1_install";
+constexpr std::string_view session_lock = "lock", lock_of_filling = "filling";
 constexpr std::array public_folders{"tmp",      "designs",     "descriptions", "samples",
                                     "piclists", "user_images", "frames"};
 constexpr std::array package_folders{"alpha", "puzzle"};
@@ -102,6 +103,13 @@ void make_data_folders(frmMain & main)
         make_data_subfolder(main, in_data(main, name), code++);
 }
 
+// A folder in the place of a lock is one that nobody can hold, so it may be moved without one.
+void make_way_for_lock(const frmMain & main, std::string_view name)
+{
+    if (folder_exists(in_data(main, name)))
+        set_displaced_aside(main);
+}
+
 void fill_data_folder(frmMain & main, const folder_choice & choice)
 {
     if (choice.use_public_folder) {
@@ -153,11 +161,12 @@ void prepare_data_folder(frmMain & main, const folder_choice & choice)
     main.work_folder.clear();
     main.data_lock = {};
     const outcome made = settle_data_folder(main, choice);
-    set_displaced_aside(main);
-    std::optional<folder_lock> own = folder_lock::taken(main.data_folder, "lock");
+    make_way_for_lock(main, session_lock);
+    std::optional<folder_lock> own = folder_lock::taken(main.data_folder, session_lock);
     if (!own)
         throw data_folder_in_use{main.data_folder};
     main.data_lock = std::move(*own);
+    set_displaced_aside(main);
     if (made == outcome::made)
         first_run_notice(main);
     const folder_lock filling = filling_lock(main, longest_filling);
@@ -171,8 +180,9 @@ void share_data_folder(frmMain & main, const folder_choice & choice, const std::
     if (!is_filled(main)) {
         if (settle_data_folder(main, choice) == outcome::made)
             first_run_notice(main);
-        set_displaced_aside(main);
+        make_way_for_lock(main, lock_of_filling);
         const folder_lock filling = filling_lock(main, longest_filling);
+        set_displaced_aside(main);
         fill_data_folder(main, choice);
     }
     main.work_folder = work_folder;
@@ -184,7 +194,7 @@ void share_data_folder(frmMain & main, const folder_choice & choice, const std::
 folder_lock filling_lock(frmMain & main, std::chrono::milliseconds longest)
 {
     for (auto waited = filling_pause; waited <= longest; waited += filling_pause) {
-        if (std::optional<folder_lock> taken = folder_lock::taken(main.data_folder, "filling"))
+        if (std::optional<folder_lock> taken = folder_lock::taken(main.data_folder, lock_of_filling))
             return std::move(*taken);
         main.desk.pump();
         std::this_thread::sleep_for(filling_pause);

@@ -290,6 +290,22 @@ TEST(start_up, a_second_session_is_kept_away_from_a_data_folder_as_long_as_the_f
     prepare_data_folder(next.main, {.use_public_folder = true, .public_folder = program.data});
 }
 
+TEST(start_up, moves_nothing_in_a_data_folder_that_another_session_has)
+{
+    fresh_program program;
+    program.start();
+    program.desk.next_message();
+    program.folder.at("home/share/tessaloom4/designs.new/x");
+    windows second{program.desk, listed({})};
+    second.main.install_folder = program.main.install_folder;
+    EXPECT_THROW(prepare_data_folder(second.main, {.use_public_folder = true, .public_folder = program.data}),
+                 data_folder_in_use);
+    EXPECT_TRUE(folder_exists(joined(program.data, "designs.new")));
+    program.main.data_lock = {};
+    prepare_data_folder(second.main, {.use_public_folder = true, .public_folder = program.data});
+    EXPECT_FALSE(folder_exists(joined(program.data, "designs.new")));
+}
+
 TEST(start_up, designs_of_a_newer_program_come_to_a_catalogue_that_the_user_has_added_to)
 {
     fresh_program program;
