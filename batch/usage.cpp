@@ -1,8 +1,8 @@
 #include "batch/arguments.h"
 
-std::string usage()
-{
-    return R"(tessaloom-batch: makes a collage without a window
+namespace {
+
+constexpr const char * options_told = R"(tessaloom-batch: makes a collage without a window
 
   tessaloom-batch --photos DIR|LIST.pls|FILE... --design NAME --out FILE [options]
   tessaloom-batch --photos DIR|LIST.pls|FILE... --quick STYLE --out FILE [options]
@@ -44,4 +44,10 @@ A value may stand behind its option or be tied to it: --size 750, --size=750. Me
 each; a photo that can't be used is named there and left out. Exit status: 0 made, from at least one of the photos;
 1 not made; 2 bad arguments, and nothing was begun.
 )";
+
+}  // namespace
+
+std::string usage()
+{
+    return options_told;
 }

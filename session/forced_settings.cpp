@@ -1,7 +1,6 @@
 #include "session/forced_settings.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -82,6 +81,5 @@ void forced_settings::release()
 {
     const std::vector<std::function<void()>> noted = std::move(ways_back);
     ways_back.clear();
-    for (const std::function<void()> & put_back : std::views::reverse(noted))
-        put_back();
+    std::for_each(noted.rbegin(), noted.rend(), [](const std::function<void()> & put_back) { put_back(); });
 }

@@ -4,15 +4,11 @@
 
 TEST(is_one_line, takes_letters_of_every_script_and_no_control_character)
 {
-    for (const char * text : {"", "My own",
-                              "Fl\xC3\xA4"
-                              "che \xE2\x80\x93 2",
-                              "\xC2\xA0", "\xFF Latin", "\xC2"})
+    for (const char * text :
+         {"", "My own", "Bl\xC3\xA4tter \xE2\x80\x93 2", "\xC2\xA0", "\xFF Latin", "\xC2"})
         EXPECT_TRUE(is_one_line(text)) << text;
-    for (const char * text : {"a\nb", "a\r", "\ta", "a\x01", "\x7F", "a\xC2\x85",
-                              "a\xE2\x80\xA8"
-                              "b",
-                              "\xE2\x80\xA9"})
+    for (const char * text :
+         {"a\nb", "a\r", "\ta", "a\x01", "\x7F", "a\xC2\x85", "a\xE2\x80\xA8z", "\xE2\x80\xA9"})
         EXPECT_FALSE(is_one_line(text)) << text;
     EXPECT_FALSE(is_one_line(std::string_view("a\0b", 3)));
 }

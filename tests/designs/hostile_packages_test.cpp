@@ -157,10 +157,14 @@ std::vector<hostile_package> folders_out_of_place()
             renewed("a folder of the user's", "my photos"),
             renewed("in a folder of the user's", "my photos\\a"),
             renewed("a folder with the program's other files", "precious"),
-            renewed("a file", "designs.ini"),
-            renewed("a design", "designs\\saved600"),
             renewed("a link out of a folder below", "frames\\linked\\a"),
-            renewed("device", "frames\\con"),
+            renewed("device", "frames\\con")};
+}
+
+std::vector<hostile_package> folders_of_the_programs_names()
+{
+    return {renewed("a file", "designs.ini"),
+            renewed("a design", "designs\\saved600"),
             renewed("the begun set", "frames\\_named_.not"),
             renewed("the catalogue under construction", "designs.new"),
             renewed("its backup in another case", "Designs.BBB"),
@@ -238,6 +242,7 @@ TEST(hostile_packages, targets_out_of_place_are_refused_before_anything_is_done)
 TEST(hostile_packages, folders_out_of_place_are_never_made_new)
 {
     expect_refused(folders_out_of_place());
+    expect_refused(folders_of_the_programs_names());
 }
 
 TEST(hostile_packages, texts_that_lead_out_are_refused_before_anything_is_done)

@@ -7,6 +7,8 @@
 #include "tests/designs/own_designs.h"
 #include "tests/engine/collage_fixture.h"
 
+#include <filesystem>
+
 namespace {
 
 // Four photos in a collage that can be kept, as a quick style leaves it.

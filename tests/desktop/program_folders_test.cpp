@@ -3,6 +3,8 @@
 #include "support/paths.h"
 #include "tests/temporary_folder.h"
 
+#include <QByteArray>
+
 #include <gtest/gtest.h>
 
 namespace {
