@@ -36,11 +36,6 @@ std::string kept_picture(const frmMain & main)
     return work_path(main, "tmp/last_flurn.jpg");
 }
 
-std::string finished_picture(const frmMain & main)
-{
-    return work_path(main, "tmp/finished.jpg");
-}
-
 }  // namespace
 
 std::string working_template(const frmMain & main)
@@ -52,32 +47,28 @@ void keep_last_flurn(frmMain & main)
 {
     if (!owns_data_folder(main) || !main.mnuSaveDesign.enabled() || !file_exists(working_template(main)))
         return;
-    try {
+    // Where that fails the collage is finished all the same; as long as it is at hand it can be saved.
+    tried([&] {
         forget_last_flurn(main);
         write_file(kept_layout(main), read_file(working_template(main)));
-        write_file(kept_picture(main), read_file(finished_picture(main)));
+        write_file(kept_picture(main), read_file(finished_path(main)));
         main.last_flurn = collage_at_hand(main);
         main.last_flurn.is_kept = true;
-    } catch (const platform_error &) {
-        return;  // the collage is finished all the same; as long as it is at hand it can be saved
-    }
+    });
 }
 
 void forget_last_flurn(frmMain & main)
 {
     main.last_flurn = {};
-    try {
+    tried([&] {
         delete_file(kept_layout(main));
         delete_file(kept_picture(main));
-    } catch (const platform_error &) {
-        return;  // it isn't used any more, wherever it stays
-    }
+    });
 }
 
 flurn_to_save last_flurn(const frmMain & main)
 {
     if (main.last_flurn.is_kept)
         return {.how = main.last_flurn, .layout = kept_layout(main), .picture = kept_picture(main)};
-    return {
-        .how = collage_at_hand(main), .layout = working_template(main), .picture = finished_picture(main)};
+    return {.how = collage_at_hand(main), .layout = working_template(main), .picture = finished_path(main)};
 }

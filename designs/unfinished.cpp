@@ -50,16 +50,6 @@ moved_by rename_or_copy(const std::string & from, const std::string & to)
     return moved_by::copy;
 }
 
-template <typename Step>
-void quietly(Step step)
-{
-    try {
-        step();
-    } catch (const platform_error &) {
-        return;  // a start doesn't fail because of what an earlier one left
-    }
-}
-
 // A note may have been made by hand: it is trusted no more than a catalogue is.
 bool may_go(const text_lines & catalogue, const std::string & file)
 {
@@ -93,7 +83,7 @@ void remove_parts_of_sets(const std::string & frames)
     if (!folder_exists(frames))
         return;
     for (const std::string & set : folders_in(frames))
-        quietly([&] { remove_parts(joined(frames, set)); });
+        tried([&] { remove_parts(joined(frames, set)); });
 }
 
 }  // namespace
@@ -147,15 +137,15 @@ void put_back(const frmMain & main)
 void remove_leftovers(const frmMain & main)
 {
     const auto in_data = [&](const char * name) { return joined(main.data_folder, name); };
-    quietly([&] { finish_noted(main); });
-    quietly([&] { put_back(main); });
-    quietly([&] { remove_parts(main.data_folder); });
+    tried([&] { finish_noted(main); });
+    tried([&] { put_back(main); });
+    tried([&] { remove_parts(main.data_folder); });
     for (const char * folder :
          {"tmp", "designs", "descriptions", "samples", "piclists", "user_images", "frames", "icons"})
-        quietly([&] { remove_parts(in_data(folder)); });
-    quietly([&] { remove_parts_of_sets(in_data("frames")); });
+        tried([&] { remove_parts(in_data(folder)); });
+    tried([&] { remove_parts_of_sets(in_data("frames")); });
     for (const char * file : {"designs.new", "icons/icons.new", "tmp/designs.ini"})
-        quietly([&] { delete_file(in_data(file)); });
+        tried([&] { delete_file(in_data(file)); });
     for (const char * folder : {"icons.part", "frames.part", "alpha.part", "puzzle.part"})
-        quietly([&] { remove_tree(in_data(folder)); });
+        tried([&] { remove_tree(in_data(folder)); });
 }

@@ -21,14 +21,6 @@ struct borrowed_settings {
     bool matrix_session = false;
 };
 
-option_button * selected_of(const option_set & options)
-{
-    for (option_button * option : options)
-        if (option->selected())
-            return option;
-    return nullptr;
-}
-
 borrowed_settings borrow_settings(frmMain & main)
 {
     const borrowed_settings before{.display = selected_of(main.display_options),

@@ -193,11 +193,6 @@ void finish_canvas(frmMain & main)
     main.trace += "EEE  ";
 }
 
-std::string finished_path(const frmMain & main)
-{
-    return work_path(main, "tmp/finished.jpg");
-}
-
 bool went_through(frmMain & main, const std::function<void()> & work)
 {
     try {

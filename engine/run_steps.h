@@ -26,9 +26,6 @@ void place_photos(frmMain & main, run_size size);
 /// Lays the caption over the collage.
 void finish_canvas(frmMain & main);
 
-/// `tmp/finished.jpg` of the data folder.
-std::string finished_path(const frmMain & main);
-
 /// Runs `work`; an error of the platform ends it with the one box of a run. True when it went through.
 bool went_through(frmMain & main, const std::function<void()> & work);
 

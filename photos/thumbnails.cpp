@@ -22,23 +22,11 @@ bitmap small_picture(const std::string & photo)
     return rescaled(full, size.width, size.height);
 }
 
-// False where the place can't be written: a closed folder, a full card, a share that is gone.
-template <typename Step>
-bool written(Step step)
-{
-    try {
-        step();
-        return true;
-    } catch (const platform_error &) {
-        return false;
-    }
-}
-
 // What lies there stays until a new one takes its place: others may be reading it.
 bool has_place(const std::string & thumbnail)
 {
     const std::string folder = folder_of(thumbnail);
-    return written([&] {
+    return tried([&] {
                if (!folder_exists(folder))
                    make_folder(folder);
            }) &&
@@ -49,9 +37,9 @@ bool has_place(const std::string & thumbnail)
 std::string made_thumbnail(const std::string & photo, const std::string & thumbnail)
 {
     const bitmap small = small_picture(photo);
-    if (small && written([&] { save_jpeg(small, thumbnail); }))
+    if (small && tried([&] { save_jpeg(small, thumbnail); }))
         return thumbnail;
-    written([&] { delete_file(thumbnail); });  // an older one would show another picture
+    tried([&] { delete_file(thumbnail); });  // an older one would show another picture
     return small ? photo : thumbnail;
 }
 

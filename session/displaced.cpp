@@ -29,16 +29,6 @@ void set_aside_beside(const std::string & path)
     rename_folder(path, free);
 }
 
-template <typename Step>
-void quietly(Step step)
-{
-    try {
-        step();
-    } catch (const platform_error &) {
-        return;
-    }
-}
-
 }  // namespace
 
 void set_displaced_aside(const frmMain & main)
@@ -46,12 +36,12 @@ void set_displaced_aside(const frmMain & main)
     const auto in_data = [&](const std::string & name) { return joined(main.data_folder, name); };
     for (const char * name : own_files)
         if (folder_exists(in_data(name)))
-            quietly([&] { set_aside_beside(in_data(name)); });
+            tried([&] { set_aside_beside(in_data(name)); });
     // Files of designs lie there under numbers that the program gives.
     for (const std::string folder : {"designs", "samples", "descriptions", "user_images"}) {
         if (!folder_exists(in_data(folder)))
             continue;
-        quietly([&] {
+        tried([&] {
             for (const std::string & name : folders_in(in_data(folder)))
                 if (is_file_of_ours(folder + "/" + name))
                     set_aside_beside(joined(in_data(folder), name));

@@ -4,13 +4,6 @@
 
 namespace {
 
-option_button * selected_of(const option_set & options)
-{
-    const auto found =
-        std::ranges::find_if(options, [](const option_button * option) { return option->selected(); });
-    return found == options.end() ? nullptr : *found;
-}
-
 template <typename TextControl>
 std::function<void()> text_put_back(TextControl & held, const std::string & before)
 {

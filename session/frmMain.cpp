@@ -69,6 +69,11 @@ std::string work_path(const frmMain & main, std::string_view name)
     return joined(owns_data_folder(main) ? main.data_folder : main.work_folder, name);
 }
 
+std::string finished_path(const frmMain & main)
+{
+    return work_path(main, "tmp/finished.jpg");
+}
+
 bool owns_data_folder(const frmMain & main)
 {
     return main.work_folder.empty();

@@ -268,6 +268,9 @@ private:
 /// start with two underscores, the list of a selection, and the catalogue as the session reads it.
 std::string work_path(const frmMain & main, std::string_view name);
 
+/// The picture that was made last, a preview or a full-size collage.
+std::string finished_path(const frmMain & main);
+
 /// True when the data folder is this session's alone, so that it may write there.
 bool owns_data_folder(const frmMain & main);
 

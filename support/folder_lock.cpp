@@ -21,7 +21,7 @@ bool knows_no_locks(int system_number)
            system_number == EINVAL;
 }
 
-int tried(int descriptor)
+int refusal_of_lock(int descriptor)
 {
     int result = 0;
     do
@@ -53,7 +53,7 @@ std::optional<folder_lock> folder_lock::taken(const std::string & folder, std::s
             return folder_lock();
         throw from_system(errno, path);
     }
-    const int refused = tried(held.descriptor);
+    const int refused = refusal_of_lock(held.descriptor);
     if (refused == EWOULDBLOCK)
         return std::nullopt;
     if (refused != 0 && !knows_no_locks(refused))

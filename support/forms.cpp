@@ -192,6 +192,13 @@ bool option_button::set_as_user(std::string_view text)
     return wanted.has_value() && *wanted;  // a user can't deselect an option
 }
 
+option_button * selected_of(const option_set & options)
+{
+    const auto found =
+        std::ranges::find_if(options, [](const option_button * option) { return option->selected(); });
+    return found == options.end() ? nullptr : *found;
+}
+
 void text_box::select_all() const
 {
     fire(on_select_all);

@@ -183,6 +183,9 @@ private:
     bool on = false;
 };
 
+/// The selected one, nullptr when none is.
+option_button * selected_of(const option_set & options);
+
 /// A drop-down list whose text the user may also type.
 class combo_box : public control {
 public:

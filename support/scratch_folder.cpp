@@ -17,6 +17,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds pause{5};
+constexpr std::size_t random_letters = 6;         // mkdtemp puts them in the place of as many X
 constexpr std::string_view alive_name = "alive";  // the lock of one scratch folder
 constexpr std::string_view turn_name = "turn";    // the lock of whoever makes or clears one
 
@@ -69,11 +70,7 @@ void clear_left(const std::string & place)
     for (const std::string & name : folders_in(place)) {
         const std::string left = joined(place, name);
         std::optional<folder_lock> taken;
-        try {
-            taken = folder_lock::taken(left, alive_name);
-        } catch (const platform_error &) {
-            continue;
-        }
+        tried([&] { taken = folder_lock::taken(left, alive_name); });
         if (taken)
             remove_quietly(left);
     }
@@ -81,7 +78,7 @@ void clear_left(const std::string & place)
 
 std::string made_in(const std::string & place)
 {
-    std::string name = joined(place, "XXXXXX");
+    std::string name = joined(place, std::string(random_letters, 'X'));
     if (::mkdtemp(name.data()) == nullptr)
         throw from_system(errno, place);
     return name;

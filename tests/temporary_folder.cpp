@@ -14,6 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 constexpr uid_t nobody = 65534;
+constexpr std::size_t random_letters = 6;  // mkdtemp puts them in the place of as many X
 constexpr std::uintmax_t enough_room = std::uintmax_t{1} << 30;
 
 // In memory, where there is room: to flush a file costs nothing there, and most of what a suite waits for is
@@ -31,7 +32,8 @@ fs::path place_of_folders()
 
 temporary_folder::temporary_folder()
 {
-    std::string pattern = (place_of_folders() / "tessaloom_test_XXXXXX").string();
+    std::string pattern =
+        (place_of_folders() / "tessaloom_test_").string() + std::string(random_letters, 'X');
     if (::mkdtemp(pattern.data()) == nullptr)
         throw std::runtime_error("no temporary folder: " + pattern);
     folder = pattern;
