@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batch/arguments.h"
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 
 #include <string>
 

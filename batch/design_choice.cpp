@@ -1,12 +1,12 @@
 #include "batch/design_choice.h"
 
-#include "designs/browser_page.h"
-#include "designs/catalogue.h"
-#include "designs/chosen_design.h"
-#include "designs/template_path.h"
-#include "frames/frame_sets.h"
-#include "frames/frames_template.h"
-#include "support/paths.h"
+#include "designs/browser/browser_page.h"
+#include "designs/catalogue/catalogue.h"
+#include "designs/catalogue/chosen_design.h"
+#include "designs/templates/template_path.h"
+#include "frames/sets/frame_sets.h"
+#include "frames/sets/frames_template.h"
+#include "support/files/paths.h"
 #include "support/platform_error.h"
 
 #include <cstdio>

@@ -2,11 +2,11 @@
 
 #include "batch/arguments.h"
 #include "photos/left_out.h"
-#include "photos/photo_list.h"
-#include "photos/pls_line.h"
-#include "support/paths.h"
+#include "photos/lists/photo_list.h"
+#include "photos/lists/pls_line.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 
 #include <algorithm>
 #include <cstdio>

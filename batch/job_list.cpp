@@ -1,8 +1,8 @@
 #include "batch/job_list.h"
 
 #include "batch/output_file.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 #include <algorithm>
 #include <map>

@@ -3,9 +3,9 @@
 #include "batch/job_list.h"
 #include "batch/open_session.h"
 #include "batch/output_file.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 
 #include <cstdio>
 #include <iostream>

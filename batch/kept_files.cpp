@@ -1,9 +1,9 @@
 #include "batch/kept_files.h"
 
-#include "photos/pls_line.h"
-#include "photos/thumbnail_path.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "photos/lists/pls_line.h"
+#include "photos/thumbnails/thumbnail_path.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "batch/batch_desktop.h"
 #include "batch/batch_session.h"
 #include "desktop/program_folders.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
+#include "support/files/scratch_folder.h"
 #include "support/platform_error.h"
-#include "support/scratch_folder.h"
 
 #include <QGuiApplication>
 

@@ -1,9 +1,9 @@
 #include "batch/missing_pictures.h"
 
-#include "engine/background_fit.h"
-#include "engine/fixed_picture.h"
-#include "engine/mask_path.h"
-#include "support/paths.h"
+#include "engine/photo/fixed_picture.h"
+#include "engine/photo/mask_path.h"
+#include "engine/pixels/background_fit.h"
+#include "support/files/paths.h"
 
 namespace {
 

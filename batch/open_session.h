@@ -3,7 +3,7 @@
 #include "batch/batch_desktop.h"
 #include "batch/batch_session.h"
 #include "session/windows.h"
-#include "support/scratch_folder.h"
+#include "support/files/scratch_folder.h"
 
 /// A session as the program with a window has it, up to the point where the window would be shown.
 struct open_session {

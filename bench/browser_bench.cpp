@@ -2,8 +2,8 @@
 // size: the session alone, and in its window up to the point where the page is painted.
 
 #include "bench/in_a_window.h"
-#include "desktop/binder.h"
-#include "desktop/windows_made.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
 #include "session/connect_all.h"
 #include "session/windows.h"
 #include "support/numbers.h"

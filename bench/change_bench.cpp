@@ -2,14 +2,14 @@
 // change in the session to the new preview in the painted window.
 
 #include "bench/in_a_window.h"
-#include "designs/catalogue.h"
-#include "desktop/binder.h"
-#include "desktop/windows_made.h"
-#include "photos/photo_list.h"
+#include "designs/catalogue/catalogue.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "photos/lists/photo_list.h"
 #include "session/connect_all.h"
 #include "session/new_poster.h"
-#include "session/start_up.h"
-#include "support/paths.h"
+#include "session/start/start_up.h"
+#include "support/files/paths.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 

@@ -1,12 +1,12 @@
 // Times what is done to a single photo, in the sizes of a poster of 40. Loading and scaling a photo is the
 // measure: all the rest together has to stay small beside it.
 
-#include "engine/corners.h"
-#include "engine/draw_frame.h"
-#include "engine/draw_shadow.h"
-#include "engine/mask.h"
-#include "engine/resize_image.h"
-#include "engine/soft_edge_paste.h"
+#include "engine/pixels/corners.h"
+#include "engine/pixels/draw_frame.h"
+#include "engine/pixels/draw_shadow.h"
+#include "engine/pixels/mask.h"
+#include "engine/pixels/resize_image.h"
+#include "engine/pixels/soft_edge_paste.h"
 #include "tests/scripted_desktop.h"
 
 #include <benchmark/benchmark.h>

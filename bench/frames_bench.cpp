@@ -2,12 +2,12 @@
 // in its window, and a whole set of 36 captions.
 
 #include "bench/in_a_window.h"
-#include "desktop/binder.h"
-#include "desktop/windows_made.h"
-#include "frames/frame_sets.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "frames/sets/frame_sets.h"
 #include "session/connect_all.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "tests/drawing_desktop.h"
 #include "tests/temporary_folder.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/looks.h"
+#include "desktop/looks/looks.h"
 
 #include <QApplication>
 

@@ -2,17 +2,17 @@
 // from its tables to the written template, has to stay below 5 ms, and a change of style, orientation or gap
 // up to the new preview below 200 ms.
 
-#include "photos/photo_list.h"
-#include "quick/quick_block.h"
+#include "photos/lists/photo_list.h"
+#include "quick/block/quick_block.h"
+#include "quick/matrix/quick_matrix.h"
 #include "quick/quick_match.h"
-#include "quick/quick_matrix.h"
-#include "quick/quick_scatter.h"
-#include "quick/quick_shapes.h"
+#include "quick/scatter/quick_scatter.h"
+#include "quick/shapes/quick_shapes.h"
 #include "quick/start_quick.h"
 #include "session/connect_all.h"
 #include "session/windows.h"
+#include "support/files/paths.h"
 #include "support/numbers.h"
-#include "support/paths.h"
 #include "tests/pictures.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"

@@ -4,12 +4,12 @@
 //
 //     quick_sweep
 
-#include "quick/quick_block.h"
+#include "quick/block/quick_block.h"
 #include "quick/quick_match.h"
-#include "quick/quick_scatter.h"
+#include "quick/scatter/quick_scatter.h"
 #include "session/connect_all.h"
 #include "session/windows.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 

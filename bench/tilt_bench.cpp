@@ -1,6 +1,6 @@
 // Times tilted photos: at full size one of 700 by 700, which may cost 110 ms, in a preview a thumbnail, 3 ms.
 
-#include "engine/draw_rotated_photo.h"
+#include "engine/photo/draw_rotated_photo.h"
 #include "tests/engine/tilt_stage.h"
 #include "tests/pictures.h"
 

@@ -8,18 +8,18 @@
 // them, in WORK; without a DESIGN all are measured. Prints medians, the ratio to the bare loop, and the peak
 // of resident memory.
 
-#include "designs/catalogue.h"
-#include "designs/template_reader.h"
-#include "engine/cell_geometry.h"
+#include "designs/catalogue/catalogue.h"
+#include "designs/templates/template_reader.h"
 #include "engine/flurn_driver.h"
-#include "engine/resize_image.h"
-#include "photos/photo_list.h"
-#include "photos/thumbnails.h"
+#include "engine/layout/cell_geometry.h"
+#include "engine/pixels/resize_image.h"
+#include "photos/lists/photo_list.h"
+#include "photos/thumbnails/thumbnails.h"
 #include "session/connect_all.h"
 #include "session/new_poster.h"
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 #include "session/windows.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "support/platform_error.h"
 
 #include <algorithm>

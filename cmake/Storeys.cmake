@@ -57,7 +57,7 @@ endfunction()
 # Has the headers of a program's library compiled alone as well.
 function(headers_alone target)
     get_target_property(folder ${target} SOURCE_DIR)
-    file(GLOB headers CONFIGURE_DEPENDS ${folder}/*.h)
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${folder}/*.h)
     target_sources(${target} PUBLIC FILE_SET house_headers TYPE HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR} FILES ${headers})
     set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
 endfunction()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designs/poster_shape.h"
+#include "designs/templates/poster_shape.h"
 
 /// Room on a poster, in its pixels.
 struct poster_area {

@@ -1,10 +1,10 @@
 #include "designers/start_designer.h"
 
 #include "designers/work_template.h"
-#include "designs/catalogue.h"
+#include "designs/catalogue/catalogue.h"
 #include "photos/chosen_photos.h"
 #include "session/new_poster.h"
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 #include "session/window_state.h"
 #include "session/windows.h"
 

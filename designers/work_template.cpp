@@ -1,7 +1,7 @@
 #include "designers/work_template.h"
 
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 void write_work_template(const frmMain & main, const std::string & name,
                          const std::vector<std::string> & lines)

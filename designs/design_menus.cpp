@@ -1,7 +1,7 @@
-#include "designs/catalogue.h"
-#include "designs/last_flurn.h"
-#include "designs/package_import.h"
-#include "designs/saved_design.h"
+#include "designs/catalogue/catalogue.h"
+#include "designs/catalogue/last_flurn.h"
+#include "designs/catalogue/saved_design.h"
+#include "designs/package/package_import.h"
 #include "session/handlers.h"
 
 // The menu of the designs.

@@ -1,7 +1,7 @@
 #include "desktop/program_folders.h"
 
 #include "desktop/qt_text.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 
 #include <QCoreApplication>
 #include <QDir>

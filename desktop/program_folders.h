@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 
 #include <string>
 

@@ -1,15 +1,15 @@
 #include "desktop/qt_desktop.h"
 
-#include "desktop/binder.h"
-#include "desktop/captions.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/captions.h"
+#include "desktop/binder/windows_made.h"
 #include "desktop/file_filter.h"
 #include "desktop/printing.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_text.h"
 #include "desktop/save_chooser.h"
 #include "desktop/text_drawing.h"
-#include "desktop/windows_made.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 
 #include <QApplication>
 #include <QColorDialog>

@@ -1,10 +1,10 @@
 #include "engine/background.h"
 
-#include "engine/background_fit.h"
-#include "engine/fixed_picture.h"
 #include "engine/flurn_driver.h"
-#include "engine/surroundings.h"
-#include "support/paths.h"
+#include "engine/layout/surroundings.h"
+#include "engine/photo/fixed_picture.h"
+#include "engine/pixels/background_fit.h"
+#include "support/files/paths.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designs/run_size.h"
+#include "designs/templates/run_size.h"
 #include "session/frmMain.h"
 
 /// Loads the background picture, if one is in use, and blends it onto the canvas. A picture that can't be

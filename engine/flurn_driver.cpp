@@ -1,11 +1,11 @@
 #include "engine/flurn_driver.h"
 
-#include "designs/last_flurn.h"
-#include "engine/photo_steps.h"
+#include "designs/catalogue/last_flurn.h"
+#include "engine/photo/photo_steps.h"
 #include "engine/quick_template.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
-#include "photos/thumbnails.h"
+#include "photos/thumbnails/thumbnails.h"
 #include "session/window_state.h"
 #include "session/windows.h"
 

@@ -1,13 +1,13 @@
-#include "engine/draw_captioned_photo.h"
-#include "engine/draw_photo.h"
-#include "engine/draw_rotated_photo.h"
-#include "engine/fixed_picture.h"
 #include "engine/flurn_driver.h"
-#include "engine/photo_steps.h"
-#include "engine/pick_matching.h"
+#include "engine/photo/draw_captioned_photo.h"
+#include "engine/photo/draw_photo.h"
+#include "engine/photo/draw_rotated_photo.h"
+#include "engine/photo/fixed_picture.h"
+#include "engine/photo/photo_steps.h"
+#include "engine/photo/pick_matching.h"
 #include "engine/placement_loops.h"
 #include "photos/left_out.h"
-#include "photos/photo_list.h"
+#include "photos/lists/photo_list.h"
 
 #include <optional>
 #include <utility>

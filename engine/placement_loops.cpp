@@ -1,6 +1,6 @@
 #include "engine/placement_loops.h"
 
-#include "engine/ornament_sizes.h"
+#include "engine/layout/ornament_sizes.h"
 
 void apply_frame_size(frmMain & main, int value)
 {

@@ -1,11 +1,11 @@
-#include "designs/template_reader.h"
+#include "designs/templates/template_reader.h"
 #include "engine/flurn_driver.h"
+#include "engine/layout/run_layout.h"
 #include "engine/quick_template.h"
-#include "engine/run_layout.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
 #include "session/window_state.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 
 #include <algorithm>
 

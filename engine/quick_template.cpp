@@ -1,10 +1,10 @@
 #include "engine/quick_template.h"
 
-#include "designs/catalogue.h"
-#include "quick/quick_block.h"
-#include "quick/quick_matrix.h"
-#include "quick/quick_scatter.h"
-#include "quick/quick_shapes.h"
+#include "designs/catalogue/catalogue.h"
+#include "quick/block/quick_block.h"
+#include "quick/matrix/quick_matrix.h"
+#include "quick/scatter/quick_scatter.h"
+#include "quick/shapes/quick_shapes.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designs/run_size.h"
+#include "designs/templates/run_size.h"
 #include "session/frmMain.h"
 
 /// Brings the record and the template of the quick style that is selected into force. A record that the

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/mask_shelf.h"
-#include "engine/photo_ahead.h"
+#include "engine/photo/photo_ahead.h"
+#include "engine/pixels/mask_shelf.h"
 #include "support/MFreeImage.h"
 #include "support/numbers.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designs/run_size.h"
+#include "designs/templates/run_size.h"
 #include "session/frmMain.h"
 
 #include <functional>

@@ -1,5 +1,5 @@
-#include "frames/frame_sets.h"
-#include "frames/icon_list.h"
+#include "frames/icons/icon_list.h"
+#include "frames/sets/frame_sets.h"
 #include "session/handlers.h"
 
 // The menu of the frames.

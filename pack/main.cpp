@@ -1,7 +1,7 @@
 #include "pack/arguments.h"
 #include "pack/package_check.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 
 #include <cstdio>
 

@@ -1,11 +1,11 @@
 #include "pack/package_check.h"
 
-#include "designs/design_lines.h"
-#include "support/archive.h"
-#include "support/inner_path.h"
-#include "support/paths.h"
+#include "designs/catalogue/design_lines.h"
+#include "support/files/archive.h"
+#include "support/files/inner_path.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 
 #include <algorithm>
 #include <cerrno>

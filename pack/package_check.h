@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designs/package_rules.h"
+#include "designs/package/package_rules.h"
 
 /// Every problem of a package, one a text; none for a package that the import takes. The package is unpacked
 /// into a folder for temporary files, which goes again. Raises 70, 75 when there is no place for that.

@@ -1,8 +1,8 @@
 #include "pack/package_files.h"
 
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/numbers.h"
-#include "support/paths.h"
-#include "support/text_file.h"
 
 #include <algorithm>
 #include <cstdint>

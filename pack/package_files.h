@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/archive.h"
+#include "support/files/archive.h"
 
 #include <string>
 #include <string_view>

@@ -1,12 +1,12 @@
 #include "pack/package_maker.h"
 
-#include "designs/catalogue_lines.h"
-#include "designs/design_lines.h"
+#include "designs/catalogue/catalogue_lines.h"
+#include "designs/catalogue/design_lines.h"
 #include "pack/package_check.h"
 #include "pack/package_files.h"
-#include "support/inner_path.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/inner_path.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 #include <algorithm>
 

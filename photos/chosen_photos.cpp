@@ -1,8 +1,8 @@
 #include "photos/chosen_photos.h"
 
 #include "photos/left_out.h"
-#include "photos/list_name.h"
-#include "photos/photo_list.h"
+#include "photos/lists/list_name.h"
+#include "photos/lists/photo_list.h"
 #include "session/windows.h"
 
 namespace {

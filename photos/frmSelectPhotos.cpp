@@ -1,8 +1,8 @@
 #include "photos/chosen_photos.h"
-#include "photos/photo_list.h"
+#include "photos/lists/photo_list.h"
 #include "session/handlers.h"
-#include "support/paths.h"
-#include "support/show_help.h"
+#include "support/files/paths.h"
+#include "support/windows/show_help.h"
 
 // Where the photos come from.
 

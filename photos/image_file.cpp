@@ -1,6 +1,6 @@
 #include "photos/image_file.h"
 
-#include "support/paths.h"
+#include "support/files/paths.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 #include "photos/left_out.h"
 
-#include "photos/thumbnail_path.h"
+#include "photos/thumbnails/thumbnail_path.h"
 #include "support/MFreeImage.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "support/platform_error.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
-#include "photos/photo_list.h"
-#include "photos/saved_lists.h"
+#include "photos/lists/photo_list.h"
+#include "photos/lists/saved_lists.h"
 #include "session/handlers.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 // The menu of the photo lists.
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "photos/photo_table.h"
+#include "photos/lists/photo_table.h"
 #include "support/MFreeImage.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "photos/photo_table.h"
+#include "photos/lists/photo_table.h"
 #include "support/random.h"
 
 /// Puts the entries 0 to `last_photo` in a random order: one number is drawn for each entry, which is taken

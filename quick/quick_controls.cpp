@@ -1,7 +1,7 @@
 #include "quick/quick_controls.h"
 
 #include "engine/flurn_driver.h"
-#include "quick/quick_matrix.h"
+#include "quick/matrix/quick_matrix.h"
 #include "support/numbers.h"
 
 namespace {

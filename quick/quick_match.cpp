@@ -1,8 +1,8 @@
 #include "quick/quick_match.h"
 
-#include "quick/block_match.h"
+#include "quick/block/block_match.h"
 #include "quick/quick_tables.h"
-#include "quick/scatter_match.h"
+#include "quick/scatter/scatter_match.h"
 #include "session/window_state.h"
 
 namespace {

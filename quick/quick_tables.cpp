@@ -1,6 +1,6 @@
 #include "quick/quick_tables.h"
 
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "support/platform_error.h"
 
 void with_table(const frmMain & main, std::string_view name, const std::function<void(line_source &)> & work)

@@ -2,7 +2,7 @@
 
 #include "quick/blank_run.h"
 #include "session/frmMain.h"
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 
 #include <functional>
 #include <string_view>

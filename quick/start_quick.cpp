@@ -1,8 +1,8 @@
 #include "quick/start_quick.h"
 
-#include "designs/catalogue.h"
+#include "designs/catalogue/catalogue.h"
 #include "photos/chosen_photos.h"
-#include "photos/photo_list.h"
+#include "photos/lists/photo_list.h"
 #include "quick/quick_controls.h"
 #include "quick/quick_match.h"
 #include "session/new_poster.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "support/files/text_file.h"
 #include "support/numbers.h"
-#include "support/text_file.h"
 
 #include <optional>
 #include <string>

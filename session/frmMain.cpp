@@ -1,7 +1,7 @@
 #include "session/frmMain.h"
 
+#include "support/files/paths.h"
 #include "support/numbers.h"
-#include "support/paths.h"
 
 namespace {
 

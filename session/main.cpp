@@ -1,12 +1,12 @@
+#include "desktop/binder/missing_display.h"
 #include "desktop/guarded.h"
-#include "desktop/looks.h"
-#include "desktop/missing_display.h"
+#include "desktop/looks/looks.h"
 #include "desktop/open_window.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_desktop.h"
 #include "session/connect_all.h"
-#include "session/start_up.h"
-#include "support/paths.h"
+#include "session/start/start_up.h"
+#include "support/files/paths.h"
 #include "support/platform_error.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "session/new_poster.h"
 
-#include "frames/frame_field.h"
+#include "frames/sets/frame_field.h"
 #include "session/window_state.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 
 namespace {
 

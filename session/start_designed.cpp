@@ -1,6 +1,6 @@
 #include "photos/chosen_photos.h"
 #include "session/new_poster.h"
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 #include "session/window_state.h"
 
 namespace {

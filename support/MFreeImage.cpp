@@ -1,7 +1,7 @@
 #include "support/MFreeImage.h"
 
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 
 #include <FreeImage.h>
 #include <cstring>

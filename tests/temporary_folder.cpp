@@ -1,7 +1,7 @@
 #include "tests/temporary_folder.h"
 
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 #include <csignal>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "batch/batch_session.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "tests/pictures.h"
 #include "tests/temporary_folder.h"
 

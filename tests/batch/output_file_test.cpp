@@ -1,9 +1,9 @@
 #include "batch/output_file.h"
 
 #include "batch/arguments.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/temporary_folder.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "tests/designers/designer_session.h"
 
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 #include "tests/pictures.h"
 
 designer_session::designer_session()

@@ -1,5 +1,5 @@
-#include "designers/lettering_plan.h"
-#include "designers/lettering_text.h"
+#include "designers/lettering/lettering_plan.h"
+#include "designers/lettering/lettering_text.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "tests/designs/crash_scene.h"
 
-#include "designs/catalogue_lines.h"
-#include "designs/unfinished.h"
-#include "support/file_steps.h"
+#include "designs/catalogue/catalogue_lines.h"
+#include "designs/templates/unfinished.h"
+#include "support/files/file_steps.h"
 #include "support/platform_error.h"
 
 #include <algorithm>

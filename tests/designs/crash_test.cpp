@@ -1,7 +1,7 @@
-#include "engine/flurn_file.h"
-#include "frames/icon_list.h"
-#include "photos/photo_grid.h"
-#include "photos/photo_list.h"
+#include "engine/output/flurn_file.h"
+#include "frames/icons/icon_list.h"
+#include "photos/editor/photo_grid.h"
+#include "photos/lists/photo_list.h"
 #include "tests/designs/crash_scene.h"
 
 namespace {

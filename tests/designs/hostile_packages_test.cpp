@@ -1,5 +1,5 @@
-#include "designs/manifest.h"
-#include "support/archive.h"
+#include "designs/package/manifest.h"
+#include "support/files/archive.h"
 #include "tests/designs/memory_place.h"
 #include "tests/designs/package_session.h"
 

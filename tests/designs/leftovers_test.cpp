@@ -1,4 +1,4 @@
-#include "designs/unfinished.h"
+#include "designs/templates/unfinished.h"
 #include "tests/designs/package_session.h"
 
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "support/file_steps.h"
+#include "support/files/file_steps.h"
 #include "tests/designs/package_session.h"
 
 // Manifests with many commands: each list is written once, and is in the end what it would be if every

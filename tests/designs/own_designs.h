@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 

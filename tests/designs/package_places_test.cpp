@@ -1,5 +1,5 @@
-#include "support/archive.h"
-#include "support/file_steps.h"
+#include "support/files/archive.h"
+#include "support/files/file_steps.h"
 #include "tests/designs/memory_place.h"
 #include "tests/designs/package_session.h"
 

@@ -1,4 +1,4 @@
-#include "bound_form.h"
+#include "tests/desktop/bound_form.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/binder.h"
-#include "desktop/picture_view.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/picture_view.h"
 
 #include <QCheckBox>
 #include <QComboBox>

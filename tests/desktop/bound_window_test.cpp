@@ -1,5 +1,5 @@
-#include "bound_form.h"
 #include "support/platform_error.h"
+#include "tests/desktop/bound_form.h"
 
 #include <QApplication>
 #include <QTest>

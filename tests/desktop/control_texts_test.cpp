@@ -1,6 +1,6 @@
 #include "../scripted_desktop.h"
-#include "desktop/binder.h"
-#include "desktop/windows_made.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
 #include "session/windows.h"
 
 #include <QAbstractButton>

@@ -1,8 +1,8 @@
-#include "desktop/binder.h"
-#include "desktop/captions.h"
-#include "desktop/windows_made.h"
-#include "layout_checks.h"
-#include "window_views.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/captions.h"
+#include "desktop/binder/windows_made.h"
+#include "tests/desktop/layout_checks.h"
+#include "tests/desktop/window_views.h"
 
 #include <QAccessible>
 #include <QApplication>

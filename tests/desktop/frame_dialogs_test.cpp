@@ -1,8 +1,8 @@
 #include "../temporary_folder.h"
 #include "desktop/qt_desktop.h"
 #include "session/connect_all.h"
-#include "support/paths.h"
-#include "windows_played.h"
+#include "support/files/paths.h"
+#include "tests/desktop/windows_played.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,8 +1,8 @@
-#include "layout_checks.h"
+#include "tests/desktop/layout_checks.h"
 
-#include "desktop/captions.h"
-#include "desktop/elided_label.h"
-#include "desktop/picture_view.h"
+#include "desktop/binder/captions.h"
+#include "desktop/binder/picture_view.h"
+#include "desktop/looks/elided_label.h"
 
 #include <QAccessible>
 #include <QComboBox>

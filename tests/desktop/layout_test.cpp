@@ -1,10 +1,10 @@
 #include "../scripted_desktop.h"
-#include "desktop/binder.h"
-#include "desktop/captions.h"
-#include "desktop/windows_made.h"
-#include "layout_checks.h"
-#include "stages.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/captions.h"
+#include "desktop/binder/windows_made.h"
 #include "support/colors.h"
+#include "tests/desktop/layout_checks.h"
+#include "tests/desktop/stages.h"
 
 #include <QApplication>
 

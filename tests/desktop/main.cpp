@@ -1,4 +1,4 @@
-#include "desktop/looks.h"
+#include "desktop/looks/looks.h"
 
 #include <QApplication>
 

@@ -1,11 +1,11 @@
 #include "../pictures.h"
 #include "../temporary_folder.h"
-#include "desktop/picture_view.h"
+#include "desktop/binder/picture_view.h"
 #include "desktop/qt_desktop.h"
 #include "session/connect_all.h"
-#include "support/paths.h"
-#include "support/text_file.h"
-#include "windows_played.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
+#include "tests/desktop/windows_played.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,9 +1,9 @@
 #include "../pictures.h"
 
 #include "../temporary_folder.h"
-#include "desktop/captions.h"
+#include "desktop/binder/captions.h"
+#include "desktop/binder/picture_view.h"
 #include "desktop/file_filter.h"
-#include "desktop/picture_view.h"
 #include "desktop/printing.h"
 
 #include <QFile>

@@ -3,7 +3,7 @@
 #include "../pictures.h"
 #include "../temporary_folder.h"
 #include "desktop/qt_desktop.h"
-#include "pdf_page.h"
+#include "tests/desktop/pdf_page.h"
 
 #include <QPrinterInfo>
 

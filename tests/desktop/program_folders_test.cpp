@@ -1,6 +1,6 @@
 #include "desktop/program_folders.h"
 
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "tests/temporary_folder.h"
 
 #include <QByteArray>

@@ -3,7 +3,7 @@
 #include "../temporary_folder.h"
 #include "session/windows.h"
 #include "support/platform_error.h"
-#include "windows_played.h"
+#include "tests/desktop/windows_played.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -2,16 +2,16 @@
 // [LETTERS]. LETTERS: pixels, the size of the system's font. Set QT_SCALE_FACTOR=2 for screens of double
 // density.
 
-#include "designs/catalogue.h"
-#include "desktop/binder.h"
-#include "desktop/looks.h"
-#include "desktop/windows_made.h"
+#include "designs/catalogue/catalogue.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "desktop/looks/looks.h"
 #include "engine/run_steps.h"
 #include "session/new_poster.h"
 #include "session/window_state.h"
-#include "stages.h"
-#include "support/paths.h"
-#include "window_views.h"
+#include "support/files/paths.h"
+#include "tests/desktop/stages.h"
+#include "tests/desktop/window_views.h"
 
 #include <QApplication>
 #include <QImage>

@@ -1,14 +1,14 @@
 #include "../temporary_folder.h"
-#include "designs/catalogue.h"
-#include "desktop/picture_view.h"
+#include "designs/catalogue/catalogue.h"
+#include "desktop/binder/picture_view.h"
 #include "desktop/qt_desktop.h"
-#include "layout_checks.h"
-#include "photos/photo_list.h"
+#include "photos/lists/photo_list.h"
 #include "session/connect_all.h"
 #include "session/new_poster.h"
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 #include "support/colors.h"
-#include "windows_played.h"
+#include "tests/desktop/layout_checks.h"
+#include "tests/desktop/windows_played.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "stages.h"
+#include "tests/desktop/stages.h"
 
 #include "support/colors.h"
 

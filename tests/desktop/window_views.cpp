@@ -1,15 +1,15 @@
-#include "window_views.h"
+#include "tests/desktop/window_views.h"
 
 #include "../pictures.h"
-#include "desktop/binder.h"
-#include "desktop/windows_made.h"
-#include "photos/photo_list.h"
-#include "photos/pls_line.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "photos/lists/photo_list.h"
+#include "photos/lists/pls_line.h"
 #include "session/connect_all.h"
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 #include "support/colors.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 #include <QApplication>
 

@@ -1,9 +1,9 @@
 #include "session/windows.h"
 
 #include "../scripted_desktop.h"
-#include "desktop/binder.h"
-#include "desktop/windows_made.h"
-#include "layout_checks.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "tests/desktop/layout_checks.h"
 
 #include <QAction>
 #include <QComboBox>

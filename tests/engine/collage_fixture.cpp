@@ -1,9 +1,9 @@
 #include "tests/engine/collage_fixture.h"
 
 #include "engine/flurn_driver.h"
-#include "photos/thumbnails.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "photos/thumbnails/thumbnails.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "tests/pictures.h"
 
 #include <cstdlib>

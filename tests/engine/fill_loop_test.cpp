@@ -1,8 +1,8 @@
 #include "engine/placement_loops.h"
 #include "engine/run_steps.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 

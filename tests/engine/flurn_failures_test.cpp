@@ -1,8 +1,8 @@
 #include "engine/flurn_driver.h"
-#include "photos/thumbnails.h"
-#include "support/paths.h"
+#include "photos/thumbnails/thumbnails.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/engine/collage_fixture.h"
 
 #include <filesystem>

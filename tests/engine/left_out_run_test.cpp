@@ -1,6 +1,6 @@
 #include "engine/flurn_driver.h"
-#include "photos/thumbnails.h"
-#include "support/paths.h"
+#include "photos/thumbnails/thumbnails.h"
+#include "support/files/paths.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/small_files.h"
 

@@ -1,4 +1,4 @@
-#include "engine/fixed_picture.h"
+#include "engine/photo/fixed_picture.h"
 #include "engine/placement_loops.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"

@@ -1,7 +1,7 @@
 #include "engine/flurn_driver.h"
-#include "engine/run_layout.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "engine/layout/run_layout.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 

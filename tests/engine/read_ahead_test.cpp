@@ -1,4 +1,4 @@
-#include "engine/photo_steps.h"
+#include "engine/photo/photo_steps.h"
 #include "engine/placement_loops.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"

@@ -1,9 +1,9 @@
 #include "engine/run_steps.h"
 
 #include "engine/flurn_driver.h"
+#include "engine/layout/run_layout.h"
 #include "engine/quick_template.h"
-#include "engine/run_layout.h"
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 #include "tests/quick/quick_session.h"

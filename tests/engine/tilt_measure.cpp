@@ -1,8 +1,8 @@
 #include "tests/engine/tilt_measure.h"
 
-#include "engine/draw_frame.h"
-#include "engine/draw_rotated_photo.h"
-#include "engine/draw_shadow.h"
+#include "engine/photo/draw_rotated_photo.h"
+#include "engine/pixels/draw_frame.h"
+#include "engine/pixels/draw_shadow.h"
 #include "tests/pictures.h"
 
 #include <cmath>

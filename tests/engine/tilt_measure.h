@@ -1,7 +1,7 @@
 #pragma once
 
-#include "designs/run_size.h"
-#include "engine/area_turn.h"
+#include "designs/templates/run_size.h"
+#include "engine/pixels/area_turn.h"
 #include "tests/engine/tilt_stage.h"
 
 #include <array>

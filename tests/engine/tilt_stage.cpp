@@ -1,6 +1,6 @@
 #include "tests/engine/tilt_stage.h"
 
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 #include "tests/pictures.h"
 
 const temporary_folder & tilt_folder()

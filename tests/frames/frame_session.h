@@ -1,9 +1,9 @@
 #pragma once
 
-#include "frames/frame_sets.h"
-#include "support/paths.h"
+#include "frames/sets/frame_sets.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 

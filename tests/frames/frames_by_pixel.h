@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frames/frame_rendering.h"
+#include "frames/sets/frame_rendering.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
-#include "frames/icon_line.h"
-#include "frames/icon_list.h"
+#include "frames/icons/icon_line.h"
+#include "frames/icons/icon_list.h"
 #include "tests/frames/frame_session.h"
 
 namespace {

@@ -1,7 +1,7 @@
-#include "designs/catalogue_lines.h"
-#include "designs/design_lines.h"
-#include "support/inner_path.h"
-#include "support/text_file.h"
+#include "designs/catalogue/catalogue_lines.h"
+#include "designs/catalogue/design_lines.h"
+#include "support/files/inner_path.h"
+#include "support/files/text_file.h"
 #include "tests/fuzz/fuzzed.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "tests/fuzz/fuzz_session.h"
 
-#include "support/paths.h"
+#include "support/files/paths.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,6 +1,6 @@
-#include "designs/manifest.h"
+#include "designs/package/manifest.h"
 #include "pack/package_check.h"
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 #include "tests/fuzz/fuzzed.h"
 
 #include <cstdlib>

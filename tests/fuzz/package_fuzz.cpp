@@ -1,5 +1,5 @@
-#include "designs/package_import.h"
-#include "support/archive.h"
+#include "designs/package/package_import.h"
+#include "support/files/archive.h"
 #include "tests/fuzz/fuzz_session.h"
 #include "tests/fuzz/fuzzed.h"
 

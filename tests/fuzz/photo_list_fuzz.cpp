@@ -1,4 +1,4 @@
-#include "photos/photo_list.h"
+#include "photos/lists/photo_list.h"
 #include "tests/fuzz/fuzz_session.h"
 #include "tests/fuzz/fuzzed.h"
 

@@ -1,4 +1,4 @@
-#include "support/profile.h"
+#include "support/files/profile.h"
 #include "tests/fuzz/fuzz_session.h"
 #include "tests/fuzz/fuzzed.h"
 

@@ -1,4 +1,4 @@
-#include "designs/template_reader.h"
+#include "designs/templates/template_reader.h"
 #include "tests/fuzz/fuzz_session.h"
 #include "tests/fuzz/fuzzed.h"
 

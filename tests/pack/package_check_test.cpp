@@ -1,6 +1,6 @@
 #include "pack/package_check.h"
 
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 #include "tests/designs/package_session.h"
 #include "tests/small_files.h"
 #include "tests/temporary_folder.h"

@@ -1,6 +1,6 @@
 #include "photos/chosen_photos.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/photos/photo_list_fixture.h"
 #include "tests/small_files.h"
 

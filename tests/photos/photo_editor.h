@@ -1,8 +1,8 @@
 #pragma once
 
-#include "photos/photo_grid.h"
+#include "photos/editor/photo_grid.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "photos/photo_list.h"
+#include "photos/lists/photo_list.h"
 #include "session/windows.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "tests/pictures.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"

@@ -1,6 +1,6 @@
-#include "photos/photo_list.h"
+#include "photos/lists/photo_list.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 

@@ -1,8 +1,8 @@
 // Tables that are missing, empty, without the mark of their section or with a short line: what the user is
 // told, and a window that can be used afterwards.
 
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/quick/quick_session.h"
 
 #include <filesystem>

@@ -1,10 +1,10 @@
 // What holds for every input, over thousands of random ones.
 
-#include "quick/block_plan.h"
-#include "quick/matrix_plan.h"
-#include "quick/scatter_plan.h"
-#include "quick/shapes_plan.h"
-#include "support/text_file.h"
+#include "quick/block/block_plan.h"
+#include "quick/matrix/matrix_plan.h"
+#include "quick/scatter/scatter_plan.h"
+#include "quick/shapes/shapes_plan.h"
+#include "support/files/text_file.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "tests/quick/quick_session.h"
 
-#include "photos/photo_list.h"
-#include "support/text_file.h"
+#include "photos/lists/photo_list.h"
+#include "support/files/text_file.h"
 #include "tests/pictures.h"
 
 #include <filesystem>

@@ -1,6 +1,6 @@
+#include "quick/matrix/quick_matrix.h"
 #include "quick/quick_match.h"
-#include "quick/quick_matrix.h"
-#include "support/text_file.h"
+#include "support/files/text_file.h"
 #include "tests/quick/quick_session.h"
 
 #include <algorithm>

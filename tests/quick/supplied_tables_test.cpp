@@ -1,12 +1,12 @@
 // The generators over the supplied tables: every pair of counts that the limits let through, on every poster.
 
-#include "quick/block_match.h"
-#include "quick/block_plan.h"
-#include "quick/matrix_grid.h"
-#include "quick/matrix_plan.h"
-#include "quick/scatter_match.h"
-#include "quick/scatter_plan.h"
-#include "support/text_file.h"
+#include "quick/block/block_match.h"
+#include "quick/block/block_plan.h"
+#include "quick/matrix/matrix_grid.h"
+#include "quick/matrix/matrix_plan.h"
+#include "quick/scatter/scatter_match.h"
+#include "quick/scatter/scatter_plan.h"
+#include "support/files/text_file.h"
 
 #include <gtest/gtest.h>
 #include <map>

@@ -1,8 +1,8 @@
 #include "support/MFreeImage.h"
-#include "support/archive.h"
+#include "support/files/archive.h"
+#include "support/files/paths.h"
+#include "support/files/profile.h"
 #include "support/numbers.h"
-#include "support/paths.h"
-#include "support/profile.h"
 
 #include <algorithm>
 #include <filesystem>

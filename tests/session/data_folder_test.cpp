@@ -1,8 +1,8 @@
-#include "designs/catalogue.h"
+#include "designs/catalogue/catalogue.h"
 #include "session/handlers.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/session/fresh_program.h"
 
 #include <filesystem>

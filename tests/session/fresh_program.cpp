@@ -1,8 +1,8 @@
 #include "tests/session/fresh_program.h"
 
-#include "support/archive.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/archive.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 #include <filesystem>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/start_up.h"
+#include "session/start/start_up.h"
 #include "session/windows.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"

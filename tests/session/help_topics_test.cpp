@@ -1,4 +1,4 @@
-#include "support/show_help.h"
+#include "support/windows/show_help.h"
 #include "tests/session/opened_session.h"
 
 #include <algorithm>

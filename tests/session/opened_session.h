@@ -2,7 +2,7 @@
 
 #include "session/connect_all.h"
 #include "session/window_state.h"
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 

@@ -1,8 +1,8 @@
 #include "support/MFreeImage.h"
 
-#include "support/paths.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/text_file.h"
 #include "tests/pictures.h"
 #include "tests/small_files.h"
 #include "tests/temporary_folder.h"

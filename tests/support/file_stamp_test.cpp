@@ -1,4 +1,4 @@
-#include "support/paths.h"
+#include "support/files/paths.h"
 #include "tests/temporary_folder.h"
 
 #include <gtest/gtest.h>

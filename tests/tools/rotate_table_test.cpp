@@ -1,5 +1,5 @@
-#include "support/profile.h"
-#include "support/text_file.h"
+#include "support/files/profile.h"
+#include "support/files/text_file.h"
 #include "tools/rotate_table/table_search.h"
 
 #include <cmath>

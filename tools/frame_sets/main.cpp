@@ -6,10 +6,10 @@
 // is the folder of the icons, with their list. WORK takes what is made on the way. The archive is the same,
 // byte for byte, whenever it is made with the same fonts.
 #include "batch/batch_desktop.h"
-#include "frames/frame_sets.h"
+#include "frames/sets/frame_sets.h"
 #include "session/connect_all.h"
-#include "support/paths.h"
-#include "support/text_file.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 #include <QGuiApplication>
 

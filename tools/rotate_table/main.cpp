@@ -1,6 +1,6 @@
+#include "support/files/profile.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "support/profile.h"
-#include "support/text_file.h"
 #include "tools/rotate_table/table_search.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/rotation_numbers.h"
+#include "engine/pixels/rotation_numbers.h"
 
 #include <vector>
 

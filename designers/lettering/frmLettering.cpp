@@ -1,0 +1,110 @@
+#include "designers/lettering/lettering_plan.h"
+#include "designers/poster_area.h"
+#include "designers/work_template.h"
+#include "designs/catalogue/chosen_design.h"
+#include "session/handlers.h"
+#include "session/start/start_up.h"
+#include "support/colors.h"
+#include "support/windows/show_help.h"
+
+#include <algorithm>
+
+// The lettering designer.
+
+namespace {
+
+// Pixels of the poster to one of the box that has its shape.
+constexpr int box_divisor = 7;
+
+constexpr std::uint32_t paper = 0xFFFFFF, ink = about_background;
+
+// The options of a set stand in the order of their enumerators; none selected is the first.
+template <typename Choice>
+Choice chosen(const option_set & options)
+{
+    const auto selected =
+        std::ranges::find_if(options, [](const option_button * each) { return each->selected(); });
+    return selected == options.end() ? Choice{} : static_cast<Choice>(selected - options.begin());
+}
+
+template <typename Choice>
+void select(const option_set & options, Choice choice)
+{
+    options.at(static_cast<std::size_t>(choice))->select();
+}
+
+lettering_choices lettering_of(const frmLettering & window)
+{
+    return {.text = window.txtLettering.text(),
+            .placing = chosen<letter_placing>(window.placing_options),
+            .overlap = window.chkOverlap.ticked(),
+            .center = window.chkCenter.ticked(),
+            .shape = chosen<poster_shape>(window.orientation_options)};
+}
+
+void shape_box(frmLettering & window)
+{
+    const poster_area poster = whole_poster(chosen<poster_shape>(window.orientation_options));
+    window.txtLettering.move({.width = poster.width / box_divisor, .height = poster.height / box_divisor});
+}
+
+void text_changed(frmLettering & window)
+{
+    window.cmdOk.enable(!window.txtLettering.text().empty());
+}
+
+void load_lettering(windows & all)
+{
+    frmLettering & window = all.lettering;
+    const lettering_choices & last = all.main.lettering;
+    window.txtLettering.set_back_color(paper);
+    window.txtLettering.set_fore_color(ink);
+    window.txtLettering.set_text(last.text);
+    window.chkCenter.tick(last.center);
+    window.chkOverlap.tick(last.overlap);
+    select(window.placing_options, last.placing);
+    select(window.orientation_options, last.shape);
+    text_changed(window);
+}
+
+void take_lettering(frmMain & main)
+{
+    clear_matrix_design(main);
+    const updating quiet(main);
+    take_design(main, {.section = "Lettering", .name = "Lettering", .shape = main.lettering.shape});
+    main.design_record.file = "__lettering";
+    main.picSample.show(false);
+}
+
+void cmdOk_click(windows & all)
+{
+    frmMain & main = all.main;
+    main.lettering = lettering_of(all.lettering);
+    if (main.lettering.text.empty()) {
+        all.lettering.unload();
+        return;
+    }
+    const std::string fault = lettering_fault(main.lettering);
+    if (!fault.empty()) {
+        main.desk.message(fault);
+        return;
+    }
+    write_work_template(main, "__lettering", lettering_lines(main.lettering, main.random));
+    take_lettering(main);
+    all.lettering.unload();
+}
+
+}  // namespace
+
+void connect_frmLettering(windows & all)
+{
+    frmLettering & window = all.lettering;
+    window.on_load = [&all] { load_lettering(all); };
+    window.txtLettering.on_change = [&window] { text_changed(window); };
+    for (option_button * option : window.orientation_options)
+        option->on_click = [&window] { shape_box(window); };
+    window.cmdOk.on_click = [&all] { cmdOk_click(all); };
+    window.cmdCancel.on_click = [&window] { window.unload(); };
+    window.cmdHelp.on_click = [&all] { show_help(all.main, "lettering.htm"); };
+    window.on_key = [&all](key) { show_help(all.main, "lettering.htm"); };
+}

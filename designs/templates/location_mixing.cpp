@@ -1,0 +1,22 @@
+#include "designs/templates/location_mixing.h"
+
+#include "designs/templates/location_order.h"
+
+void mix_locations(frmMain & main, mixing wanted)
+{
+    location_table & table = main.design_locations;
+    if (table.count < fewest_mixed)
+        return;
+    if (main.mix_step == -1 || (wanted == mixing::forced && main.chkShuffle.ticked()))
+        main.mix_step = narrow(mixing_step(table.count, main.random.next()));
+    mix(table, main.mix_step);
+}
+
+void shuffle_locations(frmMain & main, int step)
+{
+    location_table & table = main.design_locations;
+    if (table.count < fewest_shuffled)
+        return;
+    main.random.reseed();
+    shuffle(table, main.scratch_locations, step, first_dealt(table.count, main.random.next()));
+}

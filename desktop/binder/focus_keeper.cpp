@@ -1,0 +1,46 @@
+#include "desktop/binder/focus_keeper.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QLineEdit>
+
+namespace {
+
+bool takes_text(const QWidget * widget)
+{
+    const auto * const list = qobject_cast<const QComboBox *>(widget);
+    return qobject_cast<const QLineEdit *>(widget) || (list && list->isEditable());
+}
+
+}  // namespace
+
+void focus_keeper::before_loss(QWidget & lost)
+{
+    QWidget * const focus = window.focusWidget();
+    if (!focus || focus == &window || (focus != &lost && !lost.isAncestorOf(focus)))
+        return;
+    lost_focus = focus;
+    focus->clearFocus();
+}
+
+void focus_keeper::after_return()
+{
+    if (!lost_focus || window.focusWidget() || !lost_focus->isEnabled() || !lost_focus->isVisibleTo(&window))
+        return;
+    QWidget * const back = lost_focus;
+    lost_focus = nullptr;
+    back->setFocus(Qt::OtherFocusReason);
+    for (std::unique_ptr<QEvent> & event : waiting)
+        QCoreApplication::postEvent(back, event.release());
+    waiting.clear();
+}
+
+bool focus_keeper::eventFilter(QObject * watched, QEvent * event)
+{
+    const bool is_key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (!is_key || watched != &window || window.focusWidget() || !takes_text(lost_focus) ||
+        lost_focus->isEnabled())
+        return QObject::eventFilter(watched, event);
+    waiting.emplace_back(event->clone());
+    return true;
+}

@@ -1,0 +1,83 @@
+#include "desktop/looks/indicator_style.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace {
+
+constexpr int button_air = 10;  // beside the text
+
+QColor fill_of(const QStyleOption & option)
+{
+    if (!(option.state & QStyle::State_On))
+        return option.palette.color(QPalette::Base);
+    return option.palette.color(QPalette::Highlight);
+}
+
+QColor outline_of(const QStyleOption & option)
+{
+    const bool marked = option.state & (QStyle::State_On | QStyle::State_MouseOver);
+    return option.palette.color(marked ? QPalette::Highlight : QPalette::PlaceholderText);
+}
+
+void draw_box(const QStyleOption & option, QPainter & painter)
+{
+    const QRectF place = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawRoundedRect(place, 2.5, 2.5);
+    if (!(option.state & QStyle::State_On))
+        return;
+    const auto at = [&](double x, double y) {
+        return QPointF(place.left() + place.width() * x, place.top() + place.height() * y);
+    };
+    painter.setPen(QPen(option.palette.color(QPalette::HighlightedText), place.width() / 7, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.72), at(0.78, 0.30)});
+}
+
+void draw_circle(const QStyleOption & option, QPainter & painter)
+{
+    const QRectF place = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawEllipse(place);
+    if (!(option.state & QStyle::State_On))
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.color(QPalette::HighlightedText));
+    painter.drawEllipse(place.center(), place.width() * 0.2, place.height() * 0.2);
+}
+
+}  // namespace
+
+indicator_style::indicator_style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+QSize indicator_style::sizeFromContents(ContentsType type, const QStyleOption * option, const QSize & content,
+                                        const QWidget * widget) const
+{
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, content, widget);
+    return type == CT_PushButton ? usual.expandedTo({content.width() + 2 * button_air, 0}) : usual;
+}
+
+int indicator_style::styleHint(StyleHint hint, const QStyleOption * option, const QWidget * widget,
+                               QStyleHintReturn * result) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, result);
+}
+
+void indicator_style::drawPrimitive(PrimitiveElement element, const QStyleOption * option, QPainter * painter,
+                                    const QWidget * widget) const
+{
+    if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(outline_of(*option));
+    painter->setBrush(fill_of(*option));
+    if (element == PE_IndicatorCheckBox)
+        draw_box(*option, *painter);
+    else
+        draw_circle(*option, *painter);
+    painter->restore();
+}

@@ -1,0 +1,95 @@
+#include "desktop/looks/looks.h"
+
+#include "desktop/binder/captions.h"
+#include "desktop/looks/indicator_style.h"
+#include "support/colors.h"
+
+#include <QFont>
+#include <QFontInfo>
+#include <QIcon>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace {
+
+const char * const accent = "#f0b050";
+
+// Pixels. The windows are drawn for the first and have room for the second.
+constexpr int smallest_letters = 12, largest_letters = 16;
+
+struct role_color {
+    QPalette::ColorRole role;
+    const char * usual;
+    const char * disabled;
+};
+
+constexpr role_color role_colors[] = {
+    {QPalette::WindowText, "#e9eaec", "#83888f"},    {QPalette::Base, "#1a1c1f", "#24272a"},
+    {QPalette::AlternateBase, "#212428", "#24272a"}, {QPalette::Text, "#e9eaec", "#83888f"},
+    {QPalette::Button, "#3b3f45", "#2f3236"},        {QPalette::ButtonText, "#e9eaec", "#83888f"},
+    {QPalette::BrightText, "#ffffff", "#ffffff"},    {QPalette::ToolTipBase, "#3b3f45", "#3b3f45"},
+    {QPalette::ToolTipText, "#e9eaec", "#e9eaec"},   {QPalette::PlaceholderText, "#9aa0a7", "#6d7278"},
+    {QPalette::Highlight, "#f0b050", "#55595f"},     {QPalette::HighlightedText, "#1a1c1f", "#c0c4c8"},
+    {QPalette::Link, "#f0b050", "#83888f"},          {QPalette::LinkVisited, "#d8a860", "#83888f"},
+    {QPalette::Light, "#4c5158", "#3b3f45"},         {QPalette::Midlight, "#43484e", "#363a3f"},
+    {QPalette::Mid, "#585d64", "#43484e"},           {QPalette::Dark, "#17181b", "#17181b"},
+    {QPalette::Shadow, "#0c0d0e", "#0c0d0e"},
+};
+
+QPalette dark_palette()
+{
+    QPalette colors;
+    for (const role_color & known : role_colors) {
+        colors.setColor(QPalette::All, known.role, QColor(known.usual));
+        colors.setColor(QPalette::Disabled, known.role, QColor(known.disabled));
+    }
+    colors.setColor(QPalette::All, QPalette::Window, shown_color(about_background));
+    return colors;
+}
+
+// Only what the style can't say by colours: the panels, their titles, the bar of the menus and the button
+// that makes the collage.
+QString sheet()
+{
+    return QStringLiteral(R"(
+QGroupBox, QFrame[panel="true"] { border: 1px solid #3f444a; border-radius: 6px; background: #2d3034; }
+QGroupBox { margin-top: 9px; padding-top: 9px; }
+QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 2px; color: %1; background: transparent; }
+QGroupBox::title:disabled { color: #83888f; }
+QMenuBar { background: transparent; padding: 3px 6px; }
+QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
+QMenuBar::item:selected { background: %1; color: #1a1c1f; }
+QMenuBar::item:disabled { color: #83888f; }
+QPushButton[primary="true"] { background: %1; color: #1a1c1f; border: 1px solid #b98636; border-radius: 4px;
+    padding: 4px 18px; font-weight: bold; }
+QPushButton[primary="true"]:hover { background: #f7c272; }
+QPushButton[primary="true"]:pressed { background: #d2963b; }
+QPushButton[primary="true"]:focus { border: 2px solid #ffffff; }
+QPushButton[primary="true"]:disabled { background: #2f3236; color: #83888f; border-color: #43484e; }
+QListWidget::item { padding: 3px 4px; }
+QToolTip { border: 1px solid #585d64; padding: 3px; }
+)")
+        .arg(QLatin1String(accent));
+}
+
+}  // namespace
+
+QIcon application_icon()
+{
+    QIcon icon;
+    for (const char * size : {"32", "128"})
+        icon.addFile(QStringLiteral(":/icon-%1.png").arg(QLatin1String(size)));
+    return icon;
+}
+
+void apply_looks(QApplication & application)
+{
+    application.setStyle(new indicator_style);  // owned by the application
+    QFont font = application.font();
+    font.setPixelSize(std::clamp(QFontInfo(font).pixelSize(), smallest_letters, largest_letters));
+    application.setFont(font);
+    application.setPalette(dark_palette());
+    application.setStyleSheet(sheet());
+    application.setWindowIcon(application_icon());
+}

@@ -1,0 +1,104 @@
+#include "engine/output/save_image.h"
+#include "engine/output/shown_size.h"
+#include "engine/run_steps.h"
+#include "session/handlers.h"
+#include "session/window_state.h"
+#include "support/files/paths.h"
+#include "support/windows/show_help.h"
+
+namespace {
+
+constexpr int units_of_a_pixel = 15;
+constexpr int16 full_size = 3000;
+
+void wear_face(frmImage & window, image_face face)
+{
+    const bool is_finished = face == image_face::finished;
+    window.cmdClose.set_caption(is_finished ? "Cancel" : "Close");
+    for (button * each : {&window.cmdSave, &window.cmdPrint, &window.cmdView}) {
+        each->enable(is_finished);
+        each->show(is_finished);
+    }
+    window.set_caption(is_finished                  ? "S a v e   F l u r n"
+                       : face == image_face::viewed ? "I m a g e   V i e w"
+                                                    : "D e s i g n   S a m p l e");
+}
+
+// A picture that can't be read counts as an upright one.
+void take_shape(frmImage & window, picture_size own, picture_size room)
+{
+    window.is_portrait = own.width <= own.height;
+    window.is_square = own.width == own.height && own.width > 0;
+    const shown_size sizes = shown_size_of(own, room);
+    window.picDisplay.move({0, 0, sizes.picture.width, sizes.picture.height});
+    window.picScroll.move({0, 0, sizes.scroll.width, sizes.scroll.height});
+    window.frmButtons.move({0, sizes.scroll.height, sizes.scroll.width, 0});
+    window.resize(sizes.window.width * units_of_a_pixel, sizes.window.height * units_of_a_pixel);
+}
+
+void load_window(frmImage & window, frmMain & main)
+{
+    window.save_size = 0;
+    window.lblImageName.set_caption(main.image_to_show);
+    window.lblImageName.show(false);
+    wear_face(window, main.shown_as);
+    take_shape(window, jpeg_size(main.image_to_show).value_or(picture_size{.width = 2, .height = 3}),
+               main.desk.screen_room());
+    window.picDisplay.load(window.lblImageName.caption());
+    // Nobody is to take a preview for a collage.
+    if (main.shown_as != image_face::finished)
+        delete_file(finished_path(main));
+}
+
+void cmdPrint_click(frmMain & main)
+{
+    switch (
+        main.desk.print(main.run.canvas, main.optLandscape.selected() ? page::landscape : page::portrait)) {
+        case print_result::printed:
+            break;
+        case print_result::no_printer:
+            main.desk.message(
+                "There is no printer.\r\n\r\nMake one the default printer of this computer and "
+                "print again, or save the collage and print the file.");
+            break;
+        case print_result::failed:
+            main.desk.message(
+                "The collage could not be printed.\r\n\r\nSee to the printer and print again, or "
+                "save the collage and print the file.");
+    }
+    set_enable(main, true);
+}
+
+void cmdSave_click(windows & all)
+{
+    frmMain & main = all.main;
+    all.image.save_size = full_size;
+    main.desk.show_modal(all.size);
+    if (all.image.save_size == 0)
+        return;
+    main.save_image_path.clear();
+    save_new_image(main);
+    if (!main.save_image_path.empty())
+        write_collage(main, all.image.save_size);
+}
+
+void cmdView_click(frmMain & main)
+{
+    const std::string path = finished_path(main);
+    if (!main.desk.open_document(path))
+        main.desk.message("No program could be started for this picture:\r\n" + path +
+                          "\r\n\r\nSave the collage and open the file in a program of your choice.");
+}
+
+}  // namespace
+
+void connect_frmImage(windows & all)
+{
+    frmImage & window = all.image;
+    window.on_load = [&all] { load_window(all.image, all.main); };
+    window.on_key = [&all](key) { show_help(all.main, "display.htm"); };
+    window.cmdPrint.on_click = [&all] { cmdPrint_click(all.main); };
+    window.cmdSave.on_click = [&all] { cmdSave_click(all); };
+    window.cmdView.on_click = [&all] { cmdView_click(all.main); };
+    window.cmdClose.on_click = [&all] { all.image.unload(); };
+}

@@ -1,0 +1,15 @@
+#include "engine/photo/mask_path.h"
+
+#include "support/files/paths.h"
+
+std::string mask_path(const std::string & name, const std::string & install_folder,
+                      const std::string & data_folder)
+{
+    if (name.empty() || name.find("..") != std::string::npos)
+        return {};
+    if (name == "custom_shape.gif")
+        return joined(joined(data_folder, "user_images"), name);
+    if (last_separator(name) != std::string::npos)
+        return joined(data_folder, name);
+    return joined(joined(install_folder, "images"), name);
+}

@@ -1,0 +1,22 @@
+#include "engine/pixels/card.h"
+
+#include "support/numbers.h"
+
+namespace {
+
+constexpr double margins_in_short_side = 19;
+constexpr double writing_part = 5;  ///< a fifth of an upright card
+
+}  // namespace
+
+card_layout laid_out_card(int width, int height)
+{
+    if (width > height) {
+        const int margin = nearest(height / margins_in_short_side);
+        return {.margin = margin, .width = width - 6 * margin, .height = height - 2 * margin};
+    }
+    const int margin = nearest(width / margins_in_short_side);
+    return {.margin = margin,
+            .width = width - 2 * margin,
+            .height = nearest(height - (height / writing_part + 2 * margin))};
+}

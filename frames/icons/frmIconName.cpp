@@ -1,0 +1,43 @@
+#include "frames/icons/icon_list.h"
+#include "session/handlers.h"
+#include "support/windows/show_help.h"
+
+// The name of a new icon.
+
+namespace {
+
+void load_icon_name(frmIconName & window)
+{
+    window.txtName.set_text("");
+    window.cmdOk.enable(false);
+}
+
+void cmdOk_click(windows & all)
+{
+    const std::string & name = all.icon_name.txtName.text();
+    if (name.empty())
+        return;
+    if (is_icon_name_taken(all.main, name)) {
+        all.main.desk.message("You already have an icon named '" + name +
+                              "'\r\nPlease enter a different name.");
+        return;
+    }
+    const std::optional<taken_icon> taken = take_icon(all.main, name);
+    if (!taken)
+        return;
+    if (taken->renamed)
+        all.main.desk.message("New icon file imported with the name:  " + taken->file);
+    all.icon_name.unload();
+}
+
+}  // namespace
+
+void connect_frmIconName(windows & all)
+{
+    frmIconName & window = all.icon_name;
+    window.on_load = [&window] { load_icon_name(window); };
+    window.txtName.on_change = [&window] { window.cmdOk.enable(!window.txtName.text().empty()); };
+    window.cmdOk.on_click = [&all] { cmdOk_click(all); };
+    window.cmdCancel.on_click = [&window] { window.unload(); };
+    window.on_key = [&all](key) { show_help(all.main, "icons.htm"); };
+}

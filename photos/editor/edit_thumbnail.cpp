@@ -1,0 +1,87 @@
+#include "photos/editor/edit_thumbnail.h"
+
+#include "photos/editor/photo_cells.h"
+#include "photos/image_file.h"
+#include "support/files/beside.h"
+#include "support/files/paths.h"
+#include "support/platform_error.h"
+
+namespace {
+
+bitmap loaded(int format, const std::string & path)
+{
+    return format < 0 ? bitmap() : load_picture(static_cast<picture_format>(format), path);
+}
+
+orientation shape_of(const bitmap & picture)
+{
+    return picture.width() > picture.height() ? orientation::landscape : orientation::portrait;
+}
+
+// False where the place can't be written.
+bool written(int format, const bitmap & small, const std::string & thumbnail)
+{
+    try {
+        save_picture(static_cast<picture_format>(format), small, thumbnail);
+        return true;
+    } catch (const platform_error &) {
+        return false;
+    }
+}
+
+edit_thumbnail made(int format, const std::string & photo)
+{
+    if (!file_exists(photo))
+        throw platform_error(error_number::file_not_found, "File not found", photo);
+    const bitmap full = loaded(format, photo);
+    if (!full)
+        throw platform_error(error_number::invalid_call, "The picture can't be loaded.", photo);
+    const orientation shape = shape_of(full);
+    const box place = cell_place(0, shape);
+    const std::string thumbnail = edit_thumbnail_path(photo);
+    const bool kept = written(format, rescaled(full, place.width, place.height), thumbnail);
+    return {.file = kept ? thumbnail : photo, .shape = shape};
+}
+
+}  // namespace
+
+int chk_imagefile(frmMain & main, const std::string & path, std::string & base, bad_file report)
+{
+    image_file found = image_file_of(path);
+    if (found.format < 0 && report == bad_file::told)
+        main.desk.message("Bad image file: " + path);
+    base = std::move(found.base);
+    return found.format;
+}
+
+std::string edit_thumbnail_path(const std::string & photo)
+{
+    const std::string name = name_of(photo);
+    return photo.substr(0, photo.size() - name.size()) + "__thumbs" + path_separator + name;
+}
+
+bool make_thumbnail_folder(const std::string & photo)
+{
+    const std::string folder = folder_of(edit_thumbnail_path(photo));
+    if (folder_exists(folder))
+        return true;
+    if (file_exists(folder))
+        return false;
+    try {
+        make_folder(folder);
+    } catch (const platform_error &) {
+        // A place that can't be written: the photo will stand in for its thumbnail.
+    }
+    return true;
+}
+
+edit_thumbnail thumbnail_for_editing(frmMain & main, const std::string & photo)
+{
+    std::string base;
+    const int format = chk_imagefile(main, photo, base, bad_file::silent);
+    const std::string thumbnail = edit_thumbnail_path(photo);
+    if (const bitmap small = loaded(format, thumbnail))
+        return {.file = thumbnail, .shape = shape_of(small)};
+    main.desk.pump();
+    return beside(main.desk, [&] { return made(format, photo); });
+}

@@ -1,0 +1,219 @@
+#include "photos/lists/photo_list.h"
+
+#include "photos/left_out.h"
+#include "photos/lists/pls_line.h"
+#include "photos/name_order.h"
+#include "photos/photo_orientation.h"
+#include "photos/photo_shuffle.h"
+#include "photos/thumbnails/thumbnails.h"
+#include "session/windows.h"
+#include "support/files/paths.h"
+#include "support/files/text_file.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const file_request images_to_select{
+    .title = "Image file",
+    .filter = "Image files (*.jpg;*.gif;*.bmp;*.png;*.tif;*.tiff)|*.jpg;*.gif;*.bmp;*.png;*.tif;*.tiff",
+    .folder = {},
+    .extension = {}};
+
+void show_progress(frmMain & main, int index)
+{
+    if (main.all != nullptr)
+        main.all->photo_count.lblCount.set_caption("Checking " + std::to_string(index) + "  of  " +
+                                                   std::to_string(main.table.last_photo + 1) + "  photos");
+    main.desk.pump();
+}
+
+// False when the photo is gone; the entry is then taken out.
+bool swapped_for_thumbnail(frmMain & main, int index)
+{
+    std::string & entry = main.table[index];
+    entry = photo_path(entry);
+    std::string thumbnail = chk_sample_thumb(main, entry);
+    if (thumbnail.empty()) {
+        leave_out(main, entry, photo_fault::gone);
+        remove_photo(main, index);
+        --main.table.last_photo;
+        return false;
+    }
+    entry = std::move(thumbnail);
+    return true;
+}
+
+std::string measured_line(frmMain & main, const std::string & photo)
+{
+    return list_line(counted_orientation(usable_jpeg_size(chk_sample_thumb(main, photo))), photo);
+}
+
+std::string measured_list(frmMain & main, const std::string & list)
+{
+    line_source lines(list);
+    std::string text;
+    while (!lines.at_end())
+        text += text_of({measured_line(main, photo_of_line(lines.read_line()))});
+    return text;
+}
+
+bool wants_reshuffle(frmMain & main)
+{
+    const question asked{.title = "S h u f f l e   t h e   P h o t o s",
+                         .text =
+                             "We are going to use each of your photos more than once in this collage.\r\n\r\n"
+                             "Do you want to shuffle the photos before using them again?",
+                         .offered = answers::yes_no};
+    return main.desk.ask(asked) == answer::yes;
+}
+
+}  // namespace
+
+void get_photos(frmMain & main)
+{
+    const std::string & list = main.txtPhotos.tag;
+    if (!file_exists(list)) {
+        main.table.last_photo = 0;
+        return;
+    }
+    line_source lines(list);
+    int taken = 0;
+    for (; taken < photo_table::capacity && !lines.at_end(); ++taken)
+        main.table[taken] = photo_of_line(lines.read_line());
+    main.table.last_photo = narrow(taken - 1);
+}
+
+std::vector<std::string> photos_in(const std::string & folder)
+{
+    std::vector<std::string> photos;
+    for (const std::string & name : in_name_order(files_in(folder)))
+        if (lower_case(name).ends_with(".jpg"))
+            photos.push_back(folder + path_separator + name);
+    return photos;
+}
+
+void photos_of_folder(frmMain & main, const std::string & folder)
+{
+    std::vector<std::string> photos = photos_in(folder);
+    photos.resize(std::min(photos.size(), folder_limit));
+    std::ranges::move(photos, main.table.photos.begin());
+    main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
+}
+
+std::string get_photo_folder(frmMain & main)
+{
+    const std::optional<std::string> folder = main.desk.choose_folder("Select a folder and click OK");
+    if (!folder)
+        main.table.last_photo = folder_cancelled;
+    else if (!folder->empty())
+        photos_of_folder(main, *folder);
+    return folder.value_or("");
+}
+
+std::vector<std::string> choose_photos(frmMain & main)
+{
+    file_request asked = images_to_select;
+    asked.folder = main.photo_folder;
+    std::vector<std::string> photos = main.desk.choose_files(asked);
+    if (!photos.empty())
+        main.photo_folder = folder_of(photos.front());
+    return photos;
+}
+
+void get_selected_photos(frmMain & main)
+{
+    const std::vector<std::string> photos = choose_photos(main);
+    if (photos.empty())
+        main.photo_choice_cancelled = true;
+    else
+        append_to_list(main, photos);
+}
+
+void append_to_list(frmMain & main, const std::vector<std::string> & photos)
+{
+    std::string & list = main.txtPhotos.tag;
+    if (list.empty())
+        list = last_photos_path(main);
+    const int16 selected = narrow(main.selected_count + static_cast<long>(photos.size()));
+    append_photos(list, photos);
+    main.selected_count = selected;
+    main.cmdPhotos.tag = std::to_string(main.selected_count);
+}
+
+void append_photos(const std::string & list, const std::vector<std::string> & photos)
+{
+    std::string text = file_exists(list) ? read_file(list) : std::string();
+    if (!text.empty() && !text.ends_with('\n'))
+        text += "\r\n";
+    for (const std::string & photo : photos)
+        text += list_line(orientation::unknown, photo) + "\r\n";
+    replace_file(list, text);
+}
+
+std::string last_photos_path(const frmMain & main)
+{
+    return work_path(main, "piclists/last_photos.pls");
+}
+
+bool check_last_list(frmMain & main)
+{
+    const bool there = file_exists(last_photos_path(main));
+    if (!there)
+        main.desk.message("No picture list to be saved");
+    return there;
+}
+
+void save_last_list(frmMain & main, const std::string & target)
+{
+    if (!check_last_list(main))
+        return;
+    const busy pointer(main.desk);
+    const std::string list = last_photos_path(main);
+    replace_file(target, measured_list(main, list));
+    delete_file(list);
+    main.selected_count = 0;
+    set_photo_source_kind(main, photo_source::none);
+}
+
+void remove_photo(frmMain & main, int index)
+{
+    photo_table & table = main.table;
+    for (int i = index; i < table.last_photo; ++i)
+        table[i] = std::move(table[i + 1]);
+}
+
+void count_photos(frmMain & main)
+{
+    clear_thumbnail_places(main);
+    orientation_counts counts;
+    for (int index = 0; index <= main.table.last_photo;) {
+        show_progress(main, index);
+        if (!swapped_for_thumbnail(main, index))
+            continue;
+        const std::string & thumbnail = main.table[index++];
+        const std::optional<picture_size> size = usable_jpeg_size(thumbnail);
+        if (!size)
+            leave_out(main, thumbnail);
+        add_photo(counts, counted_orientation(size));
+    }
+    main.table.landscape_count = counts.landscape;
+    main.table.portrait_count = counts.portrait;
+    main.table.orientation_list = std::move(counts.list);
+}
+
+void shuffle_photos(frmMain & main)
+{
+    main.random.reseed();
+    shuffle(main.table, main.random);
+}
+
+void ask_reshuffle(frmMain & main)
+{
+    photo_table::reshuffle & choice = main.table.reshuffle_choice;
+    if (choice == photo_table::reshuffle::not_asked)
+        choice = wants_reshuffle(main) ? photo_table::reshuffle::yes : photo_table::reshuffle::no;
+    if (choice == photo_table::reshuffle::yes)
+        shuffle_photos(main);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "photos/thumbnails/thumbnail_path.h"
+#include "session/frmMain.h"
+
+#include <string>
+
+/// The small pictures that stand in for the photos in previews.
+
+/// Path of the photo's thumbnail, which is made, or made anew with a word to the user when the photo is
+/// newer. A photo that can't be read as a JPEG gets none; the path is given all the same. Empty when the
+/// photo doesn't exist. Where that place can't be written it is the photo itself.
+std::string chk_sample_thumb(frmMain & main, const std::string & photo);
+
+/// Clears the places of the table's thumbnails of what killed programs left half written there. Raises
+/// nothing.
+void clear_thumbnail_places(const frmMain & main);
+
+/// Turns every entry of the table that is a thumbnail back into its photo.
+void photos_from_thumbnails(frmMain & main);
+
+/// Turns every other entry into its thumbnail; a photo without one stays.
+void thumbnails_from_photos(frmMain & main);

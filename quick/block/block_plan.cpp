@@ -1,0 +1,83 @@
+#include "quick/block/block_plan.h"
+
+#include "quick/template_text.h"
+
+namespace {
+
+struct rectangle {
+    int top = 0, left = 0, height = 0, width = 0;
+};
+
+rectangle rectangle_of(const std::string & line)
+{
+    const std::vector<std::string> fields = fields_of(line);
+    return {.top = number_at(fields, 0),
+            .left = number_at(fields, 1),
+            .height = number_at(fields, 2),
+            .width = number_at(fields, 3)};
+}
+
+std::string line_of(const rectangle & place, int gap)
+{
+    return place_text(place.top + gap, place.left + gap, place.height - 2 * gap, place.width - 2 * gap) +
+           ":0:-1:-1:0:";
+}
+
+// Twice as high on every poster: after the turn of a landscape one that is twice as wide.
+rectangle doubled(rectangle place)
+{
+    place.height *= 2;
+    return place;
+}
+
+struct halves {
+    rectangle first, second;
+};
+
+// An odd unit is given back to the right half; on a landscape poster it is lost.
+halves cut(rectangle place, poster_shape poster)
+{
+    rectangle second = place;
+    if (poster == poster_shape::landscape) {
+        place.height = second.height = nearest(place.height / 2.0);
+        second.top += place.height;
+    } else {
+        const int odd = place.width % 2;
+        place.width = nearest(place.width / 2.0);
+        second.left += place.width;
+        second.width = place.width + odd;
+    }
+    return {.first = place, .second = second};
+}
+
+// What the line becomes; it counts among the doubled and the cut ones even when it is left out.
+std::vector<rectangle> treated(const rectangle & place, block_request & left)
+{
+    if (left.doubled > 0) {
+        --left.doubled;
+        return {doubled(place)};
+    }
+    if (left.split > 0) {
+        --left.split;
+        const halves both = cut(place, left.poster);
+        return {both.first, both.second};
+    }
+    return {place};
+}
+
+}  // namespace
+
+std::vector<std::string> block_plan(const std::vector<std::string> & block, const block_request & request,
+                                    const random_source & random)
+{
+    std::vector<std::string> plan;
+    block_request left = request;
+    for (const std::string & line : block) {
+        if (!line.starts_with('#'))
+            for (const rectangle & place : treated(rectangle_of(line), left))
+                if (!is_blank(left.blanks))
+                    plan.push_back(line_of(place, request.gap));
+        next_line(left.blanks, random);
+    }
+    return plan;
+}

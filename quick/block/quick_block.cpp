@@ -1,0 +1,28 @@
+#include "quick/block/quick_block.h"
+
+#include "quick/block/block_plan.h"
+#include "quick/quick_match.h"
+#include "quick/quick_tables.h"
+#include "quick/template_text.h"
+#include "session/window_state.h"
+
+void write_quick_block(frmMain & main)
+{
+    const blank_run blanks = start_blanks(main);
+    find_block_match(main);
+    notice_reduced(main);
+    const block_request request{.poster = selected_shape(main),
+                                .gap = pixels_in(main.cmbSpace),
+                                .doubled = main.quick.block_doubled,
+                                .split = main.quick.block_split,
+                                .blanks = blanks};
+    std::vector<std::string> lines;
+    with_table(main, "block_templates", [&](line_source & blocks) {
+        const auto block = section_of(blocks, main.quick.block_name);
+        if (block)
+            lines = block_plan(*block, request, main.random);
+        else
+            main.desk.message("Shouldn't happen");
+    });
+    write_quick_template(main, lines);
+}

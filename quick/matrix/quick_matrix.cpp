@@ -1,0 +1,97 @@
+#include "quick/matrix/quick_matrix.h"
+
+#include "quick/matrix/matrix_grid.h"
+#include "quick/matrix/matrix_plan.h"
+#include "quick/quick_tables.h"
+#include "session/window_state.h"
+
+namespace {
+
+constexpr int last_pattern = 23;
+
+std::string offer_fewer(frmMain & main, const matrix_lines & found, int wanted)
+{
+    if (cells_of(found.line) == wanted)
+        main.cmdMore.enable(false);
+    if (found.previous.empty())
+        return found.line;
+    const bool fewer = main.cmdMore.tag == "fewer";
+    main.cmdMore.set_caption(fewer ? "More photos" : "Fewer photos");
+    main.cmdMore.enable(true);
+    return fewer ? found.previous : found.line;
+}
+
+int cells_wanted(const frmMain & main, int spared_landscapes)
+{
+    return 2 * (main.quick.photos_landscape - spared_landscapes) + main.quick.photos_portrait;
+}
+
+void tell_smaller(frmMain & main)
+{
+    if (!main.quick.matrix_notice_done)
+        main.desk.message(
+            "There are no portraits in this group of photos.\r\n\r\nMaking a smaller matrix to match the "
+            "photos...");
+    main.quick.matrix_notice_done = true;
+}
+
+matrix_grid grid_for_photos(frmMain & main)
+{
+    const matrix_grid grid = matrix_grid_of(find_matrix_line(main, cells_wanted(main, 0)));
+    if (grid.columns % 2 == 0 || main.quick.photos_portrait != 0)
+        return grid;
+    tell_smaller(main);
+    return matrix_grid_of(find_matrix_line(main, cells_wanted(main, grid.rows)));
+}
+
+// A shaken preview leaves room for what hangs over, since its canvas has little beyond its edges.
+int inset_of(const frmMain & main)
+{
+    const bool shaken = main.chkRotate.ticked() || main.chkResize.ticked();
+    const bool room = main.optMatrix.selected() && main.optPreview.selected() && shaken;
+    return room ? matrix_inset(main.table.last_photo) : 0;
+}
+
+int chosen_offset(frmMain & main)
+{
+    if (main.quick.matrix_offset == -1) {
+        main.random.reseed();
+        main.quick.matrix_offset = nearest16(main.random.next() * last_pattern);
+    }
+    return main.quick.matrix_offset;
+}
+
+}  // namespace
+
+std::string find_matrix_line(frmMain & main, int wanted)
+{
+    std::string line;
+    with_table(main, "quick_matrix.ini", [&](line_source & table) {
+        const matrix_lines found = find_matrix(table, selected_shape(main), wanted);
+        if (found.corrupt)
+            main.desk.message("Corrupt quick_matrix file??");
+        matrix_grid_of(found.line);  // a fault is told here, with the name of the table
+        line = found.corrupt ? found.line : offer_fewer(main, found, wanted);
+    });
+    return line;
+}
+
+void write_quick_matrix(frmMain & main)
+{
+    if (!main.optMatrix.selected())
+        main.desk.message("write_design not for quick matrix");
+    const blank_run blanks = start_blanks(main);
+    matrix_request request{.grid = grid_for_photos(main),
+                           .poster = selected_shape(main),
+                           .portrait = main.quick.photos_portrait,
+                           .landscape = main.quick.photos_landscape,
+                           .shapes = main.quick.photo_shapes,
+                           .rotate = main.chkRotate.ticked(),
+                           .resize = main.chkResize.ticked(),
+                           .shuffle = main.chkShuffle.ticked(),
+                           .inset = inset_of(main),
+                           .blanks = blanks};
+    main.quick.preview_inset = nearest16(matrix_inset_down(request.inset) / 8.0);
+    request.offset = chosen_offset(main);
+    write_quick_template(main, matrix_plan(request, main.random));
+}

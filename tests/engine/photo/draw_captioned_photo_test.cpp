@@ -1,0 +1,103 @@
+#include "engine/photo/draw_captioned_photo.h"
+
+#include "engine/photo/draw_rotated_photo.h"
+#include "tests/engine/tilt_stage.h"
+#include "tests/pictures.h"
+#include "tests/scripted_desktop.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr rgb_triple canvas_color{9, 9, 9}, photo_color{100, 230, 50}, card_color{200, 0, 0};
+
+struct draw_captioned_photo_test : testing::Test {
+    draw_captioned_photo_test()
+    {
+        main.run.canvas = plain(32, 30, canvas_color);
+        main.run.frame_color = card_color;
+        main.run.frame_size = 3;
+        main.run.shadow_size = 5;
+    }
+
+    /// The picture without its empty rows.
+    std::string picture() const
+    {
+        const std::string all = drawn(main.run.canvas, [](rgb_triple color) {
+            return color == canvas_color ? '.' : color == photo_color ? '#' : color == card_color ? 'c' : '?';
+        });
+        std::string text;
+        for (std::size_t at = 0; at < all.size(); at += 33)
+            if (all.substr(at, 32) != std::string(32, '.'))
+                text += all.substr(at, 33);
+        return text;
+    }
+
+    scripted_desktop desk;
+    frmMain main{desk, listed({})};
+};
+
+}  // namespace
+
+TEST_F(draw_captioned_photo_test, an_upright_card_has_its_room_below_and_neither_frame_nor_shadow)
+{
+    // 14 / 19 is 1; the photo is 12 wide and 20 - (4 + 2) high.
+    draw_captioned_photo(main, plain(30, 30, photo_color), 14, 20, 3, 5, 0);
+    std::string expected = ".....cccccccccccccc.............\n";
+    for (int i = 0; i < 14; ++i)
+        expected += ".....c############c.............\n";
+    for (int i = 0; i < 5; ++i)
+        expected += ".....cccccccccccccc.............\n";
+    EXPECT_EQ(picture(), expected);
+    EXPECT_EQ(seen(main.run.canvas, 5, 3), card_color);
+    EXPECT_EQ(seen(main.run.canvas, 5, 2), canvas_color);
+}
+
+TEST_F(draw_captioned_photo_test, a_wide_card_has_its_room_at_the_right)
+{
+    draw_captioned_photo(main, plain(30, 30, photo_color), 20, 12, 3, 5, 0);
+    std::string expected = ".....cccccccccccccccccccc.......\n";
+    for (int i = 0; i < 10; ++i)
+        expected += ".....c##############ccccc.......\n";
+    expected += ".....cccccccccccccccccccc.......\n";
+    EXPECT_EQ(picture(), expected);
+}
+
+TEST_F(draw_captioned_photo_test, without_a_photo_the_card_stays_blank)
+{
+    draw_captioned_photo(main, {}, 14, 20, 3, 5, 0);
+    EXPECT_EQ(seen(main.run.canvas, 5, 3), card_color);
+    EXPECT_EQ(seen(main.run.canvas, 12, 10), card_color);
+    EXPECT_EQ(seen(main.run.canvas, 18, 22), card_color);
+}
+
+TEST_F(draw_captioned_photo_test, a_card_that_leaves_the_canvas_or_has_no_size_is_not_drawn)
+{
+    for (const int left : {-1, 19, 900})
+        draw_captioned_photo(main, plain(30, 30, photo_color), 14, 20, 3, left, 0);
+    draw_captioned_photo(main, plain(30, 30, photo_color), 14, 0, 3, 5, 0);
+    draw_captioned_photo(main, plain(30, 30, photo_color), 0, 20, 3, 5, 0);
+    EXPECT_EQ(picture(), "");
+}
+
+TEST_F(draw_captioned_photo_test, a_tilted_card_without_numbers_for_its_rotation_draws_nothing)
+{
+    draw_captioned_photo(main, plain(30, 30, photo_color), 14, 20, 3, 5, 10);
+    EXPECT_EQ(picture(), "");
+}
+
+TEST(draw_captioned_photo, a_tilted_card_is_drawn_as_a_photo_of_its_size_would_be)
+{
+    tilt_stage by_card, by_photo;
+    for (frmMain * main : {&by_card.main, &by_photo.main}) {
+        main->run.canvas = plain(900, 800, canvas_color);
+        main->run.frame_color = card_color;
+    }
+    // 190 / 19 is 10: a photo of 240 by 170 on a card of 300 by 190.
+    bitmap card = plain(300, 190, card_color);
+    paste(card, plain(240, 170, photo_color), 10, 10, plain_copy);
+    draw_captioned_photo(by_card.main, plain(50, 50, photo_color), 300, 190, 250, 300, 10);
+    draw_rotated_photo(by_photo.main, copied(card, 0, 0, 300, 190), 300, 190, 250, 300, 10, fitting::fitted);
+    EXPECT_TRUE(same(by_card.main.run.canvas, by_photo.main.run.canvas));
+    EXPECT_FALSE(same(by_card.main.run.canvas, plain(900, 800, canvas_color)));
+}

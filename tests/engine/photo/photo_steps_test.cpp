@@ -1,0 +1,33 @@
+#include "engine/photo/photo_steps.h"
+
+#include "engine/pixels/resize_image.h"
+#include "support/files/text_file.h"
+#include "support/platform_error.h"
+#include "tests/pictures.h"
+#include "tests/session/opened_session.h"
+
+TEST(photo_steps, give_what_the_same_steps_give_without_another_core)
+{
+    opened_session session;
+    const std::string photo = session.folder.at("photo.jpg"), saved = session.folder.at("saved.jpg");
+    for (const bitmap & picture : {graded(300, 200), noise(1200, 800)}) {
+        save_jpeg(picture, photo);
+        const bitmap loaded = load_photo(session.main, photo);
+        EXPECT_TRUE(same(loaded, load_picture(picture_format::jpeg, photo)));
+        const bitmap fitted = fit_photo(session.main, loaded, 70, 90);
+        EXPECT_TRUE(same(fitted, resize_image(loaded, 70, 90)));
+        save_photo(session.main, loaded, saved);
+        save_jpeg(loaded, photo);
+        EXPECT_TRUE(read_file(saved) == read_file(photo));
+    }
+    EXPECT_GT(read_file(photo).size(), 200'000U) << "a file that another core loads";
+}
+
+TEST(photo_steps, leave_what_fails_as_it_was_told)
+{
+    opened_session session;
+    EXPECT_FALSE(load_photo(session.main, session.folder.at("gone.jpg")));
+    session.folder.write("file", "x");
+    EXPECT_THROW(save_photo(session.main, graded(20, 20), session.folder.path() + "/file/x.jpg"),
+                 platform_error);
+}
