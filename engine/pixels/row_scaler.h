@@ -1,0 +1,66 @@
+#pragma once
+
+#include "engine/pixels/scaling_rows.h"
+#include "support/MFreeImage.h"
+
+/// Scaling by rows: a photo's rows come one by one and are never all there at once. Every byte is the one
+/// that `rescaled`, and then `copied`, would give.
+
+/// How a picture is scaled, and what of the result is wanted.
+struct scaling_plan {
+    picture_size source, scaled;
+    int left = 0, top = 0;  ///< of the wanted part, in the scaled picture, from its top
+    picture_size wanted;    ///< its size; it has to lie in the scaled picture
+};
+
+/// The plan that wants all of the scaled picture.
+scaling_plan all_scaled(picture_size source, picture_size scaled);
+
+/// True for a plan that can be carried out: every size at least 1 and below 32,768, the wanted part inside.
+bool is_possible(const scaling_plan & plan);
+
+/// What a scaler needs of memory. Handed on from photo to photo it is asked of the system once; each thread
+/// has its own.
+struct scaling_memory {
+    std::vector<double> widened;
+    std::vector<std::uint8_t> rows, summed, widest;
+    std::vector<const std::uint8_t *> window;
+};
+
+/// Scales one picture whose rows come from the top.
+class row_scaler {
+public:
+    /// Raises out_of_memory (7). The plan has to be possible; `memory` has to last.
+    row_scaler(const scaling_plan & plan, scaling_memory & memory, arithmetic way = best_arithmetic());
+
+    /// The source rows that are needed, from the top, the latter exclusive; the others needn't be asked for,
+    /// but they have to be counted.
+    int first_row() const { return plan.source.height - highest; }
+    int end_row() const { return plan.source.height - lowest; }
+
+    /// The next row, three bytes a pixel in the order of a bitmap's; one that isn't needed may be empty.
+    void take(std::span<const std::uint8_t> row);
+
+    /// The wanted part, complete when all rows up to `end_row` were taken.
+    bitmap result() && { return std::move(made); }
+
+private:
+    std::span<std::uint8_t> slot_of(int row);
+    void finish_row(int row);
+
+    scaling_plan plan;
+    scaling_memory & memory;
+    arithmetic way;
+    scaling_weights across, down;
+    bool across_first;      // the library's order: what becomes wider is made higher or lower first
+    std::size_t slot_size;  // bytes of a kept row
+    int slots;              // kept rows
+    int lowest, highest;    // the rows needed, from the bottom, the latter exclusive
+    int source_row;         // the row taken last, from the bottom
+    int next_row;           // of the scaled picture, from its bottom: the next to be finished
+    bitmap made;
+};
+
+/// The wanted part of a picture that is in memory.
+bitmap scaled_by_rows(const bitmap & image, const scaling_plan & plan, scaling_memory & memory,
+                      arithmetic way = best_arithmetic());
