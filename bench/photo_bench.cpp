@@ -1,10 +1,13 @@
 // Times how a photo of 12 megapixels comes to the size of its place: what the image library takes for it, and
 // what it takes by rows.
 
+#include "bench/big_photos.h"
 #include "engine/pixels/row_scaler.h"
+#include "support/jpeg_rows.h"
 #include "tests/pictures.h"
 
 #include <benchmark/benchmark.h>
+#include <filesystem>
 
 namespace {
 
@@ -15,6 +18,13 @@ const bitmap & photo()
 {
     static const bitmap image = noise(photo_size.width, photo_size.height);
     return image;
+}
+
+const std::string & file()
+{
+    static const std::string path =
+        big_photos((std::filesystem::temp_directory_path() / "tessaloom_big_photos").string(), 1).front();
+    return path;
 }
 
 picture_size place_of(const benchmark::State & state)
@@ -41,5 +51,32 @@ BENCHMARK_CAPTURE(scaled_by_rows, one_by_one, arithmetic::one_by_one)
     ->DenseRange(0, 3)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(scaled_by_rows, best, best_arithmetic())->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+
+void loaded_by_the_library(benchmark::State & state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(load_picture(picture_format::jpeg, file()));
+}
+BENCHMARK(loaded_by_the_library)->Unit(benchmark::kMillisecond);
+
+void loaded_by_rows(benchmark::State & state)
+{
+    jpeg_memory memory;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(read_jpeg(file(), memory));
+}
+BENCHMARK(loaded_by_rows)->Unit(benchmark::kMillisecond);
+
+void only_decoded(benchmark::State & state)
+{
+    jpeg_memory memory;
+    for (auto _ : state) {
+        jpeg_rows photo(file(), memory);
+        while (!photo.next().empty())
+            continue;
+        benchmark::DoNotOptimize(photo.is_sound());
+    }
+}
+BENCHMARK(only_decoded)->Unit(benchmark::kMillisecond);
 
 }  // namespace
