@@ -41,8 +41,7 @@ bool is_possible(const scaling_plan & plan)
 row_scaler::row_scaler(const scaling_plan & to_do, scaling_memory & kept, arithmetic by)
     : plan(to_do),
       memory(kept),
-      way(by),
-      across(plan.source.width, plan.scaled.width),
+      across(row_scaling_of(by, plan.source.width, plan.scaled.width)),
       down(plan.source.height, plan.scaled.height),
       across_first(plan.scaled.width <= plan.source.width),
       slot_size(row_bytes(across_first ? plan.wanted.width : plan.source.width) + 1),
@@ -51,6 +50,8 @@ row_scaler::row_scaler(const scaling_plan & to_do, scaling_memory & kept, arithm
       next_row(plan.scaled.height - 1 - plan.top),
       made(plan.wanted.width, plan.wanted.height)
 {
+    across.left = plan.left;
+    across.right = plan.left + plan.wanted.width;
     const scaling_window last = down[next_row];
     lowest = down[next_row - (plan.wanted.height - 1)].first;
     highest = last.first + static_cast<int>(last.weights.size());
@@ -72,14 +73,13 @@ void row_scaler::finish_row(int row)
         memory.window.push_back(slot_of(window.first + i).data());
     const std::span<std::uint8_t> into = made.row(row - (plan.scaled.height - plan.top - plan.wanted.height));
     if (across_first) {
-        add_rows(way, window.weights, memory.window, into);
+        add_rows(across.way, window.weights, memory.window, into);
         return;
     }
     const std::span<std::uint8_t> whole(memory.summed.data(), row_bytes(plan.source.width));
-    add_rows(way, window.weights, memory.window, whole);
-    const wanted_columns columns{.left = plan.left, .right = plan.left + plan.wanted.width};
+    add_rows(across.way, window.weights, memory.window, whole);
     memory.widest.resize(into.size() + 1);
-    scale_across(way, across, columns, whole, memory.widest, memory.widened);
+    scale_across(across, whole, memory.widest, memory.padded);
     std::memcpy(into.data(), memory.widest.data(), into.size());
 }
 
@@ -89,8 +89,7 @@ void row_scaler::take(std::span<const std::uint8_t> row)
     if (source_row < lowest || source_row >= highest)
         return;
     if (across_first)
-        scale_across(way, across, {.left = plan.left, .right = plan.left + plan.wanted.width}, row,
-                     slot_of(source_row), memory.widened);
+        scale_across(across, row, slot_of(source_row), memory.padded);
     else
         std::memcpy(slot_of(source_row).data(), row.data(), row_bytes(plan.source.width));
     const int end = plan.scaled.height - plan.top - plan.wanted.height;

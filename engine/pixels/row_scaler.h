@@ -22,8 +22,7 @@ bool is_possible(const scaling_plan & plan);
 /// What a scaler needs of memory. Handed on from photo to photo it is asked of the system once; each thread
 /// has its own.
 struct scaling_memory {
-    std::vector<double> widened;
-    std::vector<std::uint8_t> rows, summed, widest;
+    std::vector<std::uint8_t> rows, summed, widest, padded;
     std::vector<const std::uint8_t *> window;
 };
 
@@ -50,8 +49,8 @@ private:
 
     scaling_plan plan;
     scaling_memory & memory;
-    arithmetic way;
-    scaling_weights across, down;
+    row_scaling across;
+    scaling_weights down;
     bool across_first;      // the library's order: what becomes wider is made higher or lower first
     std::size_t slot_size;  // bytes of a kept row
     int slots;              // kept rows

@@ -23,23 +23,25 @@ std::size_t index_of(int position)
     return static_cast<std::size_t>(position);
 }
 
-void across_one_by_one(const scaling_weights & weights, wanted_columns wanted, const std::uint8_t * source,
-                       std::uint8_t * into)
+void sum_up(const scaling_window & window, const std::uint8_t * source, std::uint8_t * into)
 {
-    for (int x = wanted.left; x < wanted.right; ++x) {
-        const scaling_window window = weights[x];
-        const std::uint8_t * pixel = source + index_of(window.first) * channels;
-        double blue = 0, green = 0, red = 0;
-        for (const double weight : window.weights) {
-            blue += weight * pixel[0];
-            green += weight * pixel[1];
-            red += weight * pixel[2];
-            pixel += channels;
-        }
-        *into++ = rounded(blue);
-        *into++ = rounded(green);
-        *into++ = rounded(red);
+    const std::uint8_t * pixel = source + index_of(window.first) * channels;
+    double blue = 0, green = 0, red = 0;
+    for (const double weight : window.weights) {
+        blue += weight * pixel[0];
+        green += weight * pixel[1];
+        red += weight * pixel[2];
+        pixel += channels;
     }
+    into[0] = rounded(blue);
+    into[1] = rounded(green);
+    into[2] = rounded(red);
+}
+
+void across_one_by_one(const row_scaling & scaling, const std::uint8_t * source, std::uint8_t * into)
+{
+    for (int x = scaling.left; x < scaling.right; ++x, into += channels)
+        sum_up(scaling.weights[x], source, into);
 }
 
 // Bytes from `from` on.
@@ -60,17 +62,9 @@ void add_one_by_one(std::span<const double> weights, std::span<const std::uint8_
 
 constexpr std::size_t lanes = 4;
 
-[[gnu::target("avx2")]] __m256d four_bytes(const std::uint8_t * bytes)
-{
-    int four;
-    std::memcpy(&four, bytes, sizeof four);
-    return _mm256_cvtepi32_pd(_mm_cvtepu8_epi32(_mm_cvtsi32_si128(four)));
-}
-
-[[gnu::target("avx2")]] __m128i rounded_lanes(__m256d values)
-{
-    return _mm256_cvttpd_epi32(_mm256_add_pd(values, _mm256_set1_pd(0.5)));
-}
+// Pixels of a window from which on the quicker sums outweigh what it takes to see whether they settle the
+// byte.
+constexpr int worth_weighing_coarsely = 8;
 
 [[gnu::target("avx2")]] void store_four_bytes(__m128i numbers, std::uint8_t * into)
 {
@@ -79,42 +73,81 @@ constexpr std::size_t lanes = 4;
     std::memcpy(into, &four, sizeof four);
 }
 
-// Pixels as four doubles each, of which the last counts for nothing: each is needed twice or more.
-[[gnu::target("avx2")]] void widen(const std::uint8_t * source, std::size_t count, double * into)
+// Blue and green of four pixels in the lower half, red in the upper one, as pairs of 16 bits: a product of
+// pairs then meets the same four weights in both.
+[[gnu::target("avx2")]] __m256i channels_apart(const std::uint8_t * pixels)
 {
-    for (std::size_t i = 0; i + 1 < count; ++i, source += channels, into += lanes)
-        _mm256_storeu_pd(into, four_bytes(source));
-    // A fourth byte needn't be there behind the last pixel.
-    for (std::size_t i = 0; i < channels; ++i)
-        into[i] = source[i];
-    into[channels] = 0;
+    const __m256i order = _mm256_setr_epi8(0, -1, 3, -1, 6, -1, 9, -1, 1, -1, 4, -1, 7, -1, 10, -1,  //
+                                           2, -1, 5, -1, 8, -1, 11, -1, -1, -1, -1, -1, -1, -1, -1, -1);
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(pixels));
+    return _mm256_shuffle_epi8(_mm256_broadcastsi128_si256(bytes), order);
 }
 
-[[gnu::target("avx2")]] void across_four_at_once(const scaling_weights & weights, wanted_columns wanted,
-                                                 const std::uint8_t * source, std::uint8_t * into,
-                                                 std::vector<double> & work)
+[[gnu::target("avx2")]] __m128i coarse_sums(const coarse_window & window, const std::uint8_t * pixels)
 {
-    const int start = weights[wanted.left].first;
-    const scaling_window last = weights[wanted.right - 1];
-    const std::size_t count = index_of(last.first - start) + last.weights.size();
-    if (work.size() < count * lanes)
-        work.resize(count * lanes);
-    widen(source + index_of(start) * channels, count, work.data());
-    for (int x = wanted.left; x < wanted.right; ++x, into += channels) {
-        const scaling_window window = weights[x];
-        const double * pixel = work.data() + index_of(window.first - start) * lanes;
-        __m256d sum = _mm256_setzero_pd();
-        for (const double & weight : window.weights) {
-            sum = _mm256_add_pd(sum, _mm256_mul_pd(_mm256_broadcast_sd(&weight), _mm256_loadu_pd(pixel)));
-            pixel += lanes;
-        }
-        store_four_bytes(rounded_lanes(sum), into);
+    constexpr std::size_t group = coarse_weights::group;
+    __m256i sums = _mm256_setzero_si256();
+    for (std::size_t i = 0; i < window.weights.size(); i += group) {
+        long long four;
+        std::memcpy(&four, &window.weights[i], sizeof four);
+        sums = _mm256_add_epi32(
+            sums, _mm256_madd_epi16(channels_apart(pixels + i * channels), _mm256_set1_epi64x(four)));
     }
+    return _mm_hadd_epi32(_mm256_castsi256_si128(sums), _mm256_extracti128_si256(sums, 1));
 }
 
-[[gnu::target("avx2")]] void add_four_at_once(std::span<const double> weights,
-                                              std::span<const std::uint8_t * const> rows,
-                                              std::span<std::uint8_t> into)
+// `source` has room to be read behind its end, here and below.
+[[gnu::target("avx2")]] void across_coarsely(const row_scaling & scaling, const std::uint8_t * source,
+                                             std::uint8_t * into)
+{
+    for (int x = scaling.left; x < scaling.right; ++x, into += channels) {
+        const coarse_window window = scaling.coarse[x];
+        const int one = 1 << window.bits;
+        const __m128i sums = _mm_add_epi32(coarse_sums(window, source + index_of(window.first) * channels),
+                                           _mm_set1_epi32(one / 2));
+        // Nearer to the next byte, or the one before, than the doubt: then the true sum may lie there.
+        const __m128i distance =
+            _mm_and_si128(_mm_add_epi32(sums, _mm_set1_epi32(window.doubt)), _mm_set1_epi32(one - 1));
+        if (_mm_movemask_epi8(_mm_cmpgt_epi32(_mm_set1_epi32(2 * window.doubt), distance)) == 0)
+            store_four_bytes(_mm_sra_epi32(sums, _mm_cvtsi32_si128(window.bits)), into);
+        else
+            sum_up(scaling.weights[x], source, into);
+    }
+    _mm256_zeroupper();  // or all that follows is slow: a compiler may forget it in front of a jump
+}
+
+[[gnu::target("avx2")]] __m256d four_bytes(const std::uint8_t * bytes)
+{
+    int four;
+    std::memcpy(&four, bytes, sizeof four);
+    return _mm256_cvtepi32_pd(_mm_cvtepu8_epi32(_mm_cvtsi32_si128(four)));
+}
+
+[[gnu::target("avx2")]] void store_rounded(__m256d values, std::uint8_t * into)
+{
+    store_four_bytes(_mm256_cvttpd_epi32(_mm256_add_pd(values, _mm256_set1_pd(0.5))), into);
+}
+
+[[gnu::target("avx2")]] void across_in_doubles(const row_scaling & scaling, const std::uint8_t * source,
+                                               std::uint8_t * into)
+{
+    for (int x = scaling.left; x < scaling.right; ++x, into += channels) {
+        const scaling_window window = scaling.weights[x];
+        const std::uint8_t * pixel = source + index_of(window.first) * channels;
+        __m256d sums = _mm256_setzero_pd();
+        for (const double & weight : window.weights) {
+            sums = _mm256_add_pd(sums, _mm256_mul_pd(_mm256_broadcast_sd(&weight), four_bytes(pixel)));
+            pixel += channels;
+        }
+        store_rounded(sums, into);
+    }
+    _mm256_zeroupper();  // as above
+}
+
+// Gives the number of bytes done; the few at the end are left.
+[[gnu::target("avx2")]] std::size_t add_many_at_once(std::span<const double> weights,
+                                                     std::span<const std::uint8_t * const> rows,
+                                                     std::span<std::uint8_t> into)
 {
     constexpr std::size_t step = 4 * lanes;  // four sums hide how long an addition takes
     std::size_t x = 0;
@@ -128,12 +161,23 @@ constexpr std::size_t lanes = 4;
             third = _mm256_add_pd(third, _mm256_mul_pd(weight, four_bytes(bytes + 2 * lanes)));
             fourth = _mm256_add_pd(fourth, _mm256_mul_pd(weight, four_bytes(bytes + 3 * lanes)));
         }
-        store_four_bytes(rounded_lanes(first), &into[x]);
-        store_four_bytes(rounded_lanes(second), &into[x + lanes]);
-        store_four_bytes(rounded_lanes(third), &into[x + 2 * lanes]);
-        store_four_bytes(rounded_lanes(fourth), &into[x + 3 * lanes]);
+        store_rounded(first, &into[x]);
+        store_rounded(second, &into[x + lanes]);
+        store_rounded(third, &into[x + 2 * lanes]);
+        store_rounded(fourth, &into[x + 3 * lanes]);
     }
-    add_one_by_one(weights, rows, into, x);
+    _mm256_zeroupper();  // as above
+    return x;
+}
+
+// Groups of pixels are read behind the row's end, where their weights are 0.
+const std::uint8_t * with_room_behind(std::span<const std::uint8_t> row, std::vector<std::uint8_t> & work)
+{
+    constexpr std::size_t room = sizeof(__m256i);
+    if (work.size() < row.size() + room)
+        work.resize(row.size() + room);
+    std::memcpy(work.data(), row.data(), row.size());
+    return work.data();
 }
 
 #endif
@@ -144,29 +188,38 @@ arithmetic best_arithmetic()
 {
 #if defined(__x86_64__)
     if (__builtin_cpu_supports("avx2") != 0)
-        return arithmetic::four_at_once;
+        return arithmetic::many_at_once;
 #endif
     return arithmetic::one_by_one;
 }
 
-void scale_across(arithmetic way, const scaling_weights & weights, wanted_columns wanted,
-                  std::span<const std::uint8_t> source, std::span<std::uint8_t> into,
-                  [[maybe_unused]] std::vector<double> & work)
+row_scaling row_scaling_of(arithmetic way, int source, int target)
 {
-    assert(wanted.left < wanted.right && wanted.right <= weights.size());
-    const std::size_t bytes = index_of(wanted.right - wanted.left) * channels;
+    row_scaling made{.way = way, .weights = {source, target}, .coarse = {}, .left = 0, .right = target};
+    if (way == arithmetic::many_at_once && source != target)
+        made.coarse = coarse_weights(made.weights);
+    return made;
+}
+
+void scale_across(const row_scaling & scaling, std::span<const std::uint8_t> source,
+                  std::span<std::uint8_t> into, [[maybe_unused]] std::vector<std::uint8_t> & work)
+{
+    assert(scaling.left < scaling.right && scaling.right <= scaling.weights.size());
+    const std::size_t bytes = index_of(scaling.right - scaling.left) * channels;
     assert(into.size() > bytes);
-    if (weights.is_identity()) {
-        std::memcpy(into.data(), source.data() + index_of(wanted.left) * channels, bytes);
+    if (scaling.weights.is_identity()) {
+        std::memcpy(into.data(), source.data() + index_of(scaling.left) * channels, bytes);
         return;
     }
 #if defined(__x86_64__)
-    if (way == arithmetic::four_at_once) {
-        across_four_at_once(weights, wanted, source.data(), into.data(), work);
+    if (scaling.way == arithmetic::many_at_once) {
+        const auto across =
+            scaling.weights.longest() < worth_weighing_coarsely ? across_in_doubles : across_coarsely;
+        across(scaling, with_room_behind(source, work), into.data());
         return;
     }
 #endif
-    across_one_by_one(weights, wanted, source.data(), into.data());
+    across_one_by_one(scaling, source.data(), into.data());
 }
 
 void add_rows(arithmetic way, std::span<const double> weights, std::span<const std::uint8_t * const> rows,
@@ -178,8 +231,8 @@ void add_rows(arithmetic way, std::span<const double> weights, std::span<const s
         return;
     }
 #if defined(__x86_64__)
-    if (way == arithmetic::four_at_once) {
-        add_four_at_once(weights, rows, into);
+    if (way == arithmetic::many_at_once) {
+        add_one_by_one(weights, rows, into, add_many_at_once(weights, rows, into));
         return;
     }
 #endif

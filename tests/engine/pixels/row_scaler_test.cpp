@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::array ways{arithmetic::one_by_one, arithmetic::four_at_once};
+constexpr std::array ways{arithmetic::one_by_one, arithmetic::many_at_once};
 
 struct change {
     picture_size from, to;
