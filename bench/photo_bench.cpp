@@ -2,8 +2,8 @@
 // what it takes by rows.
 
 #include "bench/big_photos.h"
-#include "engine/pixels/row_scaler.h"
-#include "support/jpeg_rows.h"
+#include "engine/photo/scaled_jpeg.h"
+#include "engine/pixels/resize_image.h"
 #include "tests/pictures.h"
 
 #include <benchmark/benchmark.h>
@@ -78,5 +78,22 @@ void only_decoded(benchmark::State & state)
     }
 }
 BENCHMARK(only_decoded)->Unit(benchmark::kMillisecond);
+
+void fitted_by_the_library(benchmark::State & state)
+{
+    const picture_size place = place_of(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(
+            resize_image(load_picture(picture_format::jpeg, file()), place.width, place.height));
+}
+BENCHMARK(fitted_by_the_library)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+
+void fitted_by_rows(benchmark::State & state)
+{
+    photo_memory memory;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(read_fitted_jpeg(file(), place_of(state), memory));
+}
+BENCHMARK(fitted_by_rows)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 }  // namespace

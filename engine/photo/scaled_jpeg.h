@@ -1,0 +1,20 @@
+#pragma once
+
+#include "engine/pixels/row_scaler.h"
+#include "support/jpeg_rows.h"
+
+/// Photos that are scaled while they are read: neither the whole photo nor what is cut off is ever in memory.
+/// What comes of it is byte for byte what `load_picture` and then `rescaled` or `resize_image` give; where
+/// only the image library can tell what that is, nothing comes of it.
+
+/// Memory that one thread keeps from photo to photo.
+struct photo_memory {
+    jpeg_memory reading;
+    scaling_memory scaling;
+};
+
+/// As `rescaled`. Raises out_of_memory (7), here and below.
+std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size size, photo_memory & memory);
+
+/// As `resize_image`; nothing as well for a photo that can't be fitted.
+std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory);
