@@ -138,6 +138,12 @@ std::optional<picture_size> usable_jpeg_size(const std::string & path)
     }
 }
 
+bool take_notes(bitmap & image, const std::string & path)
+{
+    const bitmap header(FreeImage_Load(FIF_JPEG, path.c_str(), FIF_LOAD_NOPIXELS));
+    return image && header && FreeImage_CloneMetadata(image.get(), header.get()) != FALSE;
+}
+
 std::string jpeg_bytes(const bitmap & image)
 {
     return encoded(image, FIF_JPEG, superb_quality);

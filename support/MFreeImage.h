@@ -77,6 +77,10 @@ std::optional<picture_size> jpeg_size(const std::string & path);
 /// The same, but nothing where it would raise.
 std::optional<picture_size> usable_jpeg_size(const std::string & path);
 
+/// Gives the picture what that JPEG says beside its pixels (resolution, camera, comments) and a saved file
+/// repeats, as `rescaled` hands it on from a loaded one. False where the file's header can't be read.
+bool take_notes(bitmap & image, const std::string & path);
+
 /// The bitmap as JPEG of the highest quality, as bytes. Raises 5 for an empty bitmap.
 std::string jpeg_bytes(const bitmap & image);
 

@@ -43,3 +43,13 @@ std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size pl
     const std::optional<scaling_plan> plan = photo ? plan_to_fit(photo.size(), place) : std::nullopt;
     return plan ? read_by_plan(photo, *plan, memory.scaling) : std::nullopt;
 }
+
+std::optional<bitmap> read_thumbnail(const std::string & path, picture_size size, photo_memory & memory)
+{
+    jpeg_rows photo(path, memory.reading);
+    // The library copies a picture that keeps its size with more than its notes.
+    if (!photo || (photo.size().width == size.width && photo.size().height == size.height))
+        return std::nullopt;
+    std::optional<bitmap> made = read_by_plan(photo, all_scaled(photo.size(), size), memory.scaling);
+    return made && take_notes(*made, path) ? std::move(made) : std::nullopt;
+}

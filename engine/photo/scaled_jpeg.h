@@ -18,3 +18,7 @@ std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size 
 
 /// As `resize_image`; nothing as well for a photo that can't be fitted.
 std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory);
+
+/// As `rescaled`, with the notes that a saved thumbnail carries: its file has the same bytes. Nothing for a
+/// photo that has that size already.
+std::optional<bitmap> read_thumbnail(const std::string & path, picture_size size, photo_memory & memory);

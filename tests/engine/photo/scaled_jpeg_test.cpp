@@ -104,3 +104,25 @@ TEST(scaled_jpeg, leaves_a_place_that_no_photo_fits)
     photo_file narrow({.colors = jpeg_colors::grey}, 1, 3000);
     EXPECT_FALSE(read_fitted_jpeg(narrow.path, {300, 300}, narrow.memory));
 }
+
+TEST(scaled_jpeg, a_thumbnail_is_saved_with_the_bytes_and_the_notes_of_a_rescaled_photo)
+{
+    const std::string camera("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0", 32);
+    const std::vector<jpeg_marker> notes{{0xE1, camera},
+                                         {0xFE, "a comment"},
+                                         {0xE2, std::string("ICC_PROFILE\0\x01\x01profile", 21)},
+                                         {0xE1, std::string("http://ns.adobe.com/xap/1.0/\0<x/>", 33)}};
+    for (const jpeg_colors colors : {jpeg_colors::ycc, jpeg_colors::grey, jpeg_colors::rgb}) {
+        photo_file file({.colors = colors, .markers = notes}, 300, 211);
+        const std::optional<bitmap> read = read_thumbnail(file.path, {200, 150}, file.memory);
+        ASSERT_TRUE(read);
+        EXPECT_EQ(jpeg_bytes(*read), jpeg_bytes(rescaled(file.loaded(), 200, 150)));
+        EXPECT_NE(jpeg_bytes(*read), jpeg_bytes(*read_rescaled_jpeg(file.path, {200, 150}, file.memory)));
+    }
+}
+
+TEST(scaled_jpeg, a_thumbnail_of_a_photo_of_its_size_is_left_to_the_library)
+{
+    photo_file file({}, 200, 150);
+    EXPECT_FALSE(read_thumbnail(file.path, {200, 150}, file.memory));
+}
