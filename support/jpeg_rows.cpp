@@ -159,7 +159,7 @@ jpeg_rows::jpeg_rows(const std::string & path, jpeg_memory & kept) : memory(kept
     own_size = {.width = static_cast<int>(state->photo.output_width),
                 .height = static_cast<int>(state->photo.output_height)};
     row_size = static_cast<std::size_t>(own_size.width) * pixel_bytes;
-    memory.rows.resize(std::max(memory.rows.size(), row_size * band_room));
+    memory.rows.resize(std::max(memory.rows.size(), row_size * band_room + room_behind));
 }
 
 jpeg_rows::~jpeg_rows() = default;

@@ -29,6 +29,9 @@ public:
     /// As `load_picture` would give it; below 32,768 either way.
     picture_size size() const { return own_size; }
 
+    /// Bytes that can be read behind a row, whatever they are.
+    static constexpr std::size_t room_behind = 32;
+
     /// The next row from the top, in the order of a bitmap's; it stays until the next one is asked for. Empty
     /// where the file is refused or has no row left.
     std::span<const std::uint8_t> next();

@@ -5,6 +5,8 @@
 
 namespace {
 
+static_assert(jpeg_rows::room_behind >= room_behind);
+
 // All rows are read, since a fault in one that isn't needed makes the library refuse the photo.
 std::optional<bitmap> read_by_plan(jpeg_rows & photo, const scaling_plan & plan, scaling_memory & memory)
 {

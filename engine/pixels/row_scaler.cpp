@@ -1,6 +1,6 @@
 #include "engine/pixels/row_scaler.h"
 
-#include <cassert>
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -45,7 +45,7 @@ row_scaler::row_scaler(const scaling_plan & to_do, scaling_memory & kept, arithm
       down(plan.source.height, plan.scaled.height),
       across_first(plan.scaled.width <= plan.source.width),
       slot_size(row_bytes(across_first ? plan.wanted.width : plan.source.width) + 1),
-      slots(down.longest()),
+      slots(down.longest() + 1),
       source_row(plan.source.height),
       next_row(plan.scaled.height - 1 - plan.top),
       made(plan.wanted.width, plan.wanted.height)
@@ -56,12 +56,14 @@ row_scaler::row_scaler(const scaling_plan & to_do, scaling_memory & kept, arithm
     lowest = down[next_row - (plan.wanted.height - 1)].first;
     highest = last.first + static_cast<int>(last.weights.size());
     grow(memory.rows, slot_size * static_cast<std::size_t>(slots));
-    grow(memory.summed, row_bytes(plan.source.width));
+    grow(memory.waiting, row_bytes(plan.source.width) + room_behind);
+    grow(memory.summed, row_bytes(plan.source.width) + room_behind);
+    grow(memory.widest, row_bytes(plan.wanted.width) + 1);
 }
 
-std::span<std::uint8_t> row_scaler::slot_of(int row)
+std::uint8_t * row_scaler::slot_of(int row)
 {
-    return {memory.rows.data() + static_cast<std::size_t>(row % slots) * slot_size, slot_size};
+    return memory.rows.data() + static_cast<std::size_t>(row % slots) * slot_size;
 }
 
 // The window's rows in the library's order, from the bottom, though they came from the top.
@@ -70,38 +72,71 @@ void row_scaler::finish_row(int row)
     const scaling_window window = down[row];
     memory.window.clear();
     for (int i = 0; i < static_cast<int>(window.weights.size()); ++i)
-        memory.window.push_back(slot_of(window.first + i).data());
+        memory.window.push_back(slot_of(window.first + i));
     const std::span<std::uint8_t> into = made.row(row - (plan.scaled.height - plan.top - plan.wanted.height));
     if (across_first) {
         add_rows(across.way, window.weights, memory.window, into);
         return;
     }
-    const std::span<std::uint8_t> whole(memory.summed.data(), row_bytes(plan.source.width));
-    add_rows(across.way, window.weights, memory.window, whole);
-    memory.widest.resize(into.size() + 1);
-    scale_across(across, whole, memory.widest, memory.padded);
+    add_rows(across.way, window.weights, memory.window, {memory.summed.data(), row_bytes(plan.source.width)});
+    scale_across(across, {.from = memory.summed.data(), .into = memory.widest.data()});
     std::memcpy(into.data(), memory.widest.data(), into.size());
+}
+
+// Rows are scaled across in twos, as far as there are two.
+bool row_scaler::is_kept_waiting(std::span<const std::uint8_t> row)
+{
+    if (!across_first || one_waits || source_row == lowest)
+        return false;
+    std::memcpy(memory.waiting.data(), row.data(), row_bytes(plan.source.width));
+    one_waits = true;
+    return true;
+}
+
+void row_scaler::keep(std::span<const std::uint8_t> row)
+{
+    const row_across own{.from = row.data(), .into = slot_of(source_row)};
+    if (!across_first)
+        std::memcpy(own.into, own.from, row_bytes(plan.source.width));
+    else if (one_waits)
+        scale_across(across, {.from = memory.waiting.data(), .into = slot_of(source_row + 1)}, own);
+    else
+        scale_across(across, own);
+    one_waits = false;
 }
 
 void row_scaler::take(std::span<const std::uint8_t> row)
 {
     --source_row;
-    if (source_row < lowest || source_row >= highest)
+    if (source_row < lowest || source_row >= highest || is_kept_waiting(row))
         return;
-    if (across_first)
-        scale_across(across, row, slot_of(source_row), memory.padded);
-    else
-        std::memcpy(slot_of(source_row).data(), row.data(), row_bytes(plan.source.width));
+    keep(row);
     const int end = plan.scaled.height - plan.top - plan.wanted.height;
     for (; next_row >= end && down[next_row].first >= source_row; --next_row)
         finish_row(next_row);
 }
+
+namespace {
+
+// The rows at the end of a bitmap's memory have no room behind them.
+std::span<const std::uint8_t> with_room_behind(const bitmap & image, int y,
+                                               std::vector<std::uint8_t> & padded)
+{
+    const std::span<const std::uint8_t> row = image.row(y), last = image.row(image.height() - 1);
+    if (last.data() + last.size() - (row.data() + row.size()) >= static_cast<std::ptrdiff_t>(room_behind))
+        return row;
+    grow(padded, row.size() + room_behind);
+    std::ranges::copy(row, padded.begin());
+    return {padded.data(), row.size()};
+}
+
+}  // namespace
 
 bitmap scaled_by_rows(const bitmap & image, const scaling_plan & plan, scaling_memory & memory,
                       arithmetic way)
 {
     row_scaler scaler(plan, memory, way);
     for (int y = 0; y < scaler.end_row(); ++y)
-        scaler.take(image.row(plan.source.height - 1 - y));
+        scaler.take(with_room_behind(image, plan.source.height - 1 - y, memory.padded));
     return std::move(scaler).result();
 }

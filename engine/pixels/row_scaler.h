@@ -22,7 +22,7 @@ bool is_possible(const scaling_plan & plan);
 /// What a scaler needs of memory. Handed on from photo to photo it is asked of the system once; each thread
 /// has its own.
 struct scaling_memory {
-    std::vector<std::uint8_t> rows, summed, widest, padded;
+    std::vector<std::uint8_t> rows, summed, widest, waiting, padded;
     std::vector<const std::uint8_t *> window;
 };
 
@@ -37,26 +37,30 @@ public:
     int first_row() const { return plan.source.height - highest; }
     int end_row() const { return plan.source.height - lowest; }
 
-    /// The next row, three bytes a pixel in the order of a bitmap's; one that isn't needed may be empty.
+    /// The next row, three bytes a pixel in the order of a bitmap's, with `room_behind` its end; one that
+    /// isn't needed may be empty.
     void take(std::span<const std::uint8_t> row);
 
     /// The wanted part, complete when all rows up to `end_row` were taken.
     bitmap result() && { return std::move(made); }
 
 private:
-    std::span<std::uint8_t> slot_of(int row);
+    std::uint8_t * slot_of(int row);
+    bool is_kept_waiting(std::span<const std::uint8_t> row);
+    void keep(std::span<const std::uint8_t> row);
     void finish_row(int row);
 
     scaling_plan plan;
     scaling_memory & memory;
     row_scaling across;
     scaling_weights down;
-    bool across_first;      // the library's order: what becomes wider is made higher or lower first
-    std::size_t slot_size;  // bytes of a kept row
-    int slots;              // kept rows
-    int lowest, highest;    // the rows needed, from the bottom, the latter exclusive
-    int source_row;         // the row taken last, from the bottom
-    int next_row;           // of the scaled picture, from its bottom: the next to be finished
+    bool across_first;       // the library's order: what becomes wider is made higher or lower first
+    std::size_t slot_size;   // bytes of a kept row
+    int slots;               // kept rows
+    int lowest, highest;     // the rows needed, from the bottom, the latter exclusive
+    int source_row;          // the row taken last, from the bottom
+    int next_row;            // of the scaled picture, from its bottom: the next to be finished
+    bool one_waits = false;  // the row before the one taken last isn't scaled across yet
     bitmap made;
 };
 

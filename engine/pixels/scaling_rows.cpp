@@ -38,10 +38,11 @@ void sum_up(const scaling_window & window, const std::uint8_t * source, std::uin
     into[2] = rounded(red);
 }
 
-void across_one_by_one(const row_scaling & scaling, const std::uint8_t * source, std::uint8_t * into)
+void across_one_by_one(const row_scaling & scaling, const row_across & row)
 {
+    std::uint8_t * into = row.into;
     for (int x = scaling.left; x < scaling.right; ++x, into += channels)
-        sum_up(scaling.weights[x], source, into);
+        sum_up(scaling.weights[x], row.from, into);
 }
 
 // Bytes from `from` on.
@@ -62,15 +63,11 @@ void add_one_by_one(std::span<const double> weights, std::span<const std::uint8_
 
 constexpr std::size_t lanes = 4;
 
-// Pixels of a window from which on the quicker sums outweigh what it takes to see whether they settle the
-// byte.
-constexpr int worth_weighing_coarsely = 8;
-
-[[gnu::target("avx2")]] void store_four_bytes(__m128i numbers, std::uint8_t * into)
+// Short windows don't outweigh what it takes to see whether a coarse sum settles the byte.
+bool is_worth_weighing_coarsely(const row_scaling & scaling)
 {
-    const __m128i words = _mm_packus_epi32(numbers, numbers);
-    const int four = _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
-    std::memcpy(into, &four, sizeof four);
+    constexpr int pixels = 6;
+    return scaling.way == arithmetic::many_at_once && scaling.weights.longest() >= pixels;
 }
 
 // Blue and green of four pixels in the lower half, red in the upper one, as pairs of 16 bits: a product of
@@ -83,35 +80,49 @@ constexpr int worth_weighing_coarsely = 8;
     return _mm256_shuffle_epi8(_mm256_broadcastsi128_si256(bytes), order);
 }
 
-[[gnu::target("avx2")]] __m128i coarse_sums(const coarse_window & window, const std::uint8_t * pixels)
+// Blue and green of the first row's pixel and of the second's in the lower half, their reds in the upper one.
+[[gnu::target("avx2")]] __m256i coarse_sums(std::span<const std::int16_t> weights, const std::uint8_t * first,
+                                            const std::uint8_t * second)
 {
-    constexpr std::size_t group = coarse_weights::group;
-    __m256i sums = _mm256_setzero_si256();
-    for (std::size_t i = 0; i < window.weights.size(); i += group) {
+    __m256i sums = _mm256_setzero_si256(), others = sums;
+    for (std::size_t i = 0; i < weights.size(); i += coarse_weights::group) {
         long long four;
-        std::memcpy(&four, &window.weights[i], sizeof four);
-        sums = _mm256_add_epi32(
-            sums, _mm256_madd_epi16(channels_apart(pixels + i * channels), _mm256_set1_epi64x(four)));
+        std::memcpy(&four, &weights[i], sizeof four);
+        const __m256i weight = _mm256_set1_epi64x(four);
+        sums = _mm256_add_epi32(sums, _mm256_madd_epi16(channels_apart(first + i * channels), weight));
+        others = _mm256_add_epi32(others, _mm256_madd_epi16(channels_apart(second + i * channels), weight));
     }
-    return _mm_hadd_epi32(_mm256_castsi256_si128(sums), _mm256_extracti128_si256(sums, 1));
+    return _mm256_hadd_epi32(sums, others);
 }
 
-// `source` has room to be read behind its end, here and below.
-[[gnu::target("avx2")]] void across_coarsely(const row_scaling & scaling, const std::uint8_t * source,
-                                             std::uint8_t * into)
+[[gnu::target("avx2")]] void store_pixels(__m256i numbers, std::uint8_t * first, std::uint8_t * second)
 {
-    for (int x = scaling.left; x < scaling.right; ++x, into += channels) {
+    const __m128i words =
+        _mm_packus_epi32(_mm256_castsi256_si128(numbers), _mm256_extracti128_si256(numbers, 1));
+    const __m128i order = _mm_setr_epi8(0, 1, 4, -1, 2, 3, 6, -1, -1, -1, -1, -1, -1, -1, -1, -1);
+    const __m128i bytes = _mm_shuffle_epi8(_mm_packus_epi16(words, words), order);
+    const int pixel = _mm_cvtsi128_si32(bytes), other = _mm_extract_epi32(bytes, 1);
+    std::memcpy(first, &pixel, sizeof pixel);
+    std::memcpy(second, &other, sizeof other);
+}
+
+[[gnu::target("avx2")]] void across_coarsely(const row_scaling & scaling, row_across first, row_across second)
+{
+    for (int x = scaling.left; x < scaling.right; ++x, first.into += channels, second.into += channels) {
         const coarse_window window = scaling.coarse[x];
         const int one = 1 << window.bits;
-        const __m128i sums = _mm_add_epi32(coarse_sums(window, source + index_of(window.first) * channels),
-                                           _mm_set1_epi32(one / 2));
-        // Nearer to the next byte, or the one before, than the doubt: then the true sum may lie there.
-        const __m128i distance =
-            _mm_and_si128(_mm_add_epi32(sums, _mm_set1_epi32(window.doubt)), _mm_set1_epi32(one - 1));
-        if (_mm_movemask_epi8(_mm_cmpgt_epi32(_mm_set1_epi32(2 * window.doubt), distance)) == 0)
-            store_four_bytes(_mm_sra_epi32(sums, _mm_cvtsi32_si128(window.bits)), into);
-        else
-            sum_up(scaling.weights[x], source, into);
+        const std::size_t start = index_of(window.first) * channels;
+        const __m256i sums =
+            _mm256_add_epi32(coarse_sums(window.weights, first.from + start, second.from + start),
+                             _mm256_set1_epi32(one / 2 + window.doubt));
+        // Where the doubt reaches the next byte or the one before, the true sum may lie there.
+        const __m256i part = _mm256_and_si256(sums, _mm256_set1_epi32(one - 1));
+        if (_mm256_movemask_epi8(_mm256_cmpgt_epi32(_mm256_set1_epi32(2 * window.doubt), part)) == 0) {
+            store_pixels(_mm256_sra_epi32(sums, _mm_cvtsi32_si128(window.bits)), first.into, second.into);
+        } else {
+            sum_up(scaling.weights[x], first.from, first.into);
+            sum_up(scaling.weights[x], second.from, second.into);
+        }
     }
     _mm256_zeroupper();  // or all that follows is slow: a compiler may forget it in front of a jump
 }
@@ -125,21 +136,23 @@ constexpr int worth_weighing_coarsely = 8;
 
 [[gnu::target("avx2")]] void store_rounded(__m256d values, std::uint8_t * into)
 {
-    store_four_bytes(_mm256_cvttpd_epi32(_mm256_add_pd(values, _mm256_set1_pd(0.5))), into);
+    const __m128i numbers = _mm256_cvttpd_epi32(_mm256_add_pd(values, _mm256_set1_pd(0.5)));
+    const __m128i words = _mm_packus_epi32(numbers, numbers);
+    const int four = _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
+    std::memcpy(into, &four, sizeof four);
 }
 
-[[gnu::target("avx2")]] void across_in_doubles(const row_scaling & scaling, const std::uint8_t * source,
-                                               std::uint8_t * into)
+[[gnu::target("avx2")]] void across_in_doubles(const row_scaling & scaling, row_across row)
 {
-    for (int x = scaling.left; x < scaling.right; ++x, into += channels) {
+    for (int x = scaling.left; x < scaling.right; ++x, row.into += channels) {
         const scaling_window window = scaling.weights[x];
-        const std::uint8_t * pixel = source + index_of(window.first) * channels;
+        const std::uint8_t * pixel = row.from + index_of(window.first) * channels;
         __m256d sums = _mm256_setzero_pd();
         for (const double & weight : window.weights) {
             sums = _mm256_add_pd(sums, _mm256_mul_pd(_mm256_broadcast_sd(&weight), four_bytes(pixel)));
             pixel += channels;
         }
-        store_rounded(sums, into);
+        store_rounded(sums, row.into);
     }
     _mm256_zeroupper();  // as above
 }
@@ -170,16 +183,6 @@ constexpr int worth_weighing_coarsely = 8;
     return x;
 }
 
-// Groups of pixels are read behind the row's end, where their weights are 0.
-const std::uint8_t * with_room_behind(std::span<const std::uint8_t> row, std::vector<std::uint8_t> & work)
-{
-    constexpr std::size_t room = sizeof(__m256i);
-    if (work.size() < row.size() + room)
-        work.resize(row.size() + room);
-    std::memcpy(work.data(), row.data(), row.size());
-    return work.data();
-}
-
 #endif
 
 }  // namespace
@@ -201,25 +204,36 @@ row_scaling row_scaling_of(arithmetic way, int source, int target)
     return made;
 }
 
-void scale_across(const row_scaling & scaling, std::span<const std::uint8_t> source,
-                  std::span<std::uint8_t> into, [[maybe_unused]] std::vector<std::uint8_t> & work)
+void scale_across(const row_scaling & scaling, const row_across & row)
 {
     assert(scaling.left < scaling.right && scaling.right <= scaling.weights.size());
-    const std::size_t bytes = index_of(scaling.right - scaling.left) * channels;
-    assert(into.size() > bytes);
     if (scaling.weights.is_identity()) {
-        std::memcpy(into.data(), source.data() + index_of(scaling.left) * channels, bytes);
+        std::memcpy(row.into, row.from + index_of(scaling.left) * channels,
+                    index_of(scaling.right - scaling.left) * channels);
         return;
     }
 #if defined(__x86_64__)
     if (scaling.way == arithmetic::many_at_once) {
-        const auto across =
-            scaling.weights.longest() < worth_weighing_coarsely ? across_in_doubles : across_coarsely;
-        across(scaling, with_room_behind(source, work), into.data());
+        if (is_worth_weighing_coarsely(scaling))
+            across_coarsely(scaling, row, row);
+        else
+            across_in_doubles(scaling, row);
         return;
     }
 #endif
-    across_one_by_one(scaling, source.data(), into.data());
+    across_one_by_one(scaling, row);
+}
+
+void scale_across(const row_scaling & scaling, const row_across & first, const row_across & second)
+{
+#if defined(__x86_64__)
+    if (is_worth_weighing_coarsely(scaling)) {
+        across_coarsely(scaling, first, second);
+        return;
+    }
+#endif
+    scale_across(scaling, first);
+    scale_across(scaling, second);
 }
 
 void add_rows(arithmetic way, std::span<const double> weights, std::span<const std::uint8_t * const> rows,
