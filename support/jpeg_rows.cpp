@@ -17,6 +17,11 @@ constexpr std::size_t input_size = 262'144;
 constexpr JDIMENSION side_limit = 32768;
 constexpr int band_room = 4;  // rows; the decoder gives no more at a time
 
+std::size_t width_of(picture_size size)
+{
+    return static_cast<std::size_t>(size.width);
+}
+
 struct file_closer {
     void operator()(std::FILE * file) const { std::fclose(file); }
 };
@@ -130,7 +135,7 @@ struct jpeg_rows::decoding {
         if (jpeg_read_header(&photo, TRUE) != JPEG_HEADER_OK || !is_of_a_kind_known(photo))
             return false;
         choose_settings(photo);
-        return jpeg_start_decompress(&photo) == TRUE && photo.output_components == pixel_bytes;
+        return jpeg_start_decompress(&photo) == TRUE && photo.output_components == sizeof(pixel);
     }
     int read(JSAMPARRAY rows)
     {
@@ -158,8 +163,8 @@ jpeg_rows::jpeg_rows(const std::string & path, jpeg_memory & kept) : memory(kept
     }
     own_size = {.width = static_cast<int>(state->photo.output_width),
                 .height = static_cast<int>(state->photo.output_height)};
-    row_size = static_cast<std::size_t>(own_size.width) * pixel_bytes;
-    memory.rows.resize(std::max(memory.rows.size(), row_size * band_room + room_behind));
+    memory.rows.resize(
+        std::max(memory.rows.size(), width_of(own_size) * band_room + room_behind / sizeof(pixel) + 1));
 }
 
 jpeg_rows::~jpeg_rows() = default;
@@ -173,7 +178,7 @@ bool jpeg_rows::read_band()
 {
     std::array<JSAMPROW, band_room> rows;
     for (std::size_t i = 0; i < rows.size(); ++i)
-        rows[i] = memory.rows.data() + i * row_size;
+        rows[i] = channels(std::span(memory.rows).subspan(i * width_of(own_size))).data();
     taken = 0;
     band = state->read(rows.data());
     if (band == 0)
@@ -181,13 +186,13 @@ bool jpeg_rows::read_band()
     return band > 0;
 }
 
-std::span<const std::uint8_t> jpeg_rows::next()
+std::span<const pixel> jpeg_rows::next()
 {
     if (!state ||
         (taken == band && (state->photo.output_scanline >= state->photo.output_height || !read_band())))
         return {};
-    const std::uint8_t * row = memory.rows.data() + static_cast<std::size_t>(taken++) * row_size;
-    return {row, row_size};
+    const std::size_t width = width_of(own_size);
+    return {memory.rows.data() + static_cast<std::size_t>(taken++) * width, width};
 }
 
 bool jpeg_rows::is_sound()
@@ -205,7 +210,7 @@ std::optional<bitmap> read_jpeg(const std::string & path, jpeg_memory & memory)
     const picture_size size = photo.size();
     bitmap image(size.width, size.height);
     for (int y = size.height - 1; y >= 0; --y) {
-        const std::span<const std::uint8_t> row = photo.next();
+        const std::span<const pixel> row = photo.next();
         if (row.empty())
             return std::nullopt;
         std::ranges::copy(row, image.row(y).begin());

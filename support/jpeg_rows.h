@@ -11,7 +11,8 @@
 /// Memory that a reader needs. Handed on from photo to photo it is asked of the system once; each thread has
 /// its own.
 struct jpeg_memory {
-    std::vector<std::uint8_t> input, rows;
+    std::vector<std::uint8_t> input;
+    std::vector<pixel> rows;
 };
 
 /// The rows of one photo.
@@ -34,7 +35,7 @@ public:
 
     /// The next row from the top, in the order of a bitmap's; it stays until the next one is asked for. Empty
     /// where the file is refused or has no row left.
-    std::span<const std::uint8_t> next();
+    std::span<const pixel> next();
 
     /// True when the file is sound to its end. All rows have to be read: a fault behind the last one makes
     /// the library refuse the photo.
@@ -48,8 +49,7 @@ private:
     std::unique_ptr<decoding> state;
     jpeg_memory & memory;
     picture_size own_size;
-    std::size_t row_size = 0;  // bytes
-    int band = 0, taken = 0;   // rows in memory, and those of them that were given
+    int band = 0, taken = 0;  // rows in memory, and those of them that were given
 };
 
 /// The photo, or nothing where it is refused.

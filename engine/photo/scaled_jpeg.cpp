@@ -14,7 +14,7 @@ std::optional<bitmap> read_by_plan(jpeg_rows & photo, const scaling_plan & plan,
         return std::nullopt;
     row_scaler scaler(plan, memory);
     for (int y = 0; y < plan.source.height; ++y) {
-        const std::span<const std::uint8_t> row = photo.next();
+        const std::span<const pixel> row = photo.next();
         if (row.empty())
             return std::nullopt;
         scaler.take(row);

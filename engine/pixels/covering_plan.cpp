@@ -28,7 +28,7 @@ scaling_plan covering_plan(picture_size photo, int width, int height)
     const int excess = cut_rows ? plan.scaled.height - height : plan.scaled.width - width;
     if (excess <= 0)
         return plan;
-    (cut_rows ? plan.top : plan.left) = nearest(excess / 2.0);
-    plan.wanted = {.width = width, .height = height};
+    const int cut = nearest(excess / 2.0);
+    plan.wanted = {.left = cut_rows ? 0 : cut, .top = cut_rows ? cut : 0, .width = width, .height = height};
     return plan;
 }

@@ -9,8 +9,8 @@ bitmap resize_image(const bitmap & image, int width, int height)
     const scaling_plan plan =
         covering_plan({.width = image.width(), .height = image.height()}, width, height);
     bitmap scaled = rescaled(image, plan.scaled.width, plan.scaled.height);
-    const bool cut = plan.wanted.width != plan.scaled.width || plan.wanted.height != plan.scaled.height;
-    if (!cut)
+    const rectangle & wanted = plan.wanted;
+    if (wanted.width == plan.scaled.width && wanted.height == plan.scaled.height)
         return scaled;
-    return copied(scaled, plan.left, plan.top, plan.left + plan.wanted.width, plan.top + plan.wanted.height);
+    return copied(scaled, wanted.left, wanted.top, wanted.right(), wanted.bottom());
 }

@@ -14,7 +14,7 @@ bool is_usable(picture_size size)
 
 std::size_t row_bytes(int width)
 {
-    return static_cast<std::size_t>(width) * pixel_bytes;
+    return static_cast<std::size_t>(width) * sizeof(pixel);
 }
 
 template <typename Value>
@@ -28,14 +28,17 @@ void grow(std::vector<Value> & memory, std::size_t size)
 
 scaling_plan all_scaled(picture_size source, picture_size scaled)
 {
-    return {.source = source, .scaled = scaled, .left = 0, .top = 0, .wanted = scaled};
+    return {.source = source,
+            .scaled = scaled,
+            .wanted = {.left = 0, .top = 0, .width = scaled.width, .height = scaled.height}};
 }
 
 bool is_possible(const scaling_plan & plan)
 {
-    return is_usable(plan.source) && is_usable(plan.scaled) && is_usable(plan.wanted) && plan.left >= 0 &&
-           plan.top >= 0 && plan.left + plan.wanted.width <= plan.scaled.width &&
-           plan.top + plan.wanted.height <= plan.scaled.height;
+    const rectangle & wanted = plan.wanted;
+    return is_usable(plan.source) && is_usable(plan.scaled) && wanted.left >= 0 && wanted.top >= 0 &&
+           wanted.width > 0 && wanted.height > 0 && wanted.width <= plan.scaled.width - wanted.left &&
+           wanted.height <= plan.scaled.height - wanted.top;
 }
 
 row_scaler::row_scaler(const scaling_plan & to_do, scaling_memory & kept, arithmetic by)
@@ -47,11 +50,11 @@ row_scaler::row_scaler(const scaling_plan & to_do, scaling_memory & kept, arithm
       slot_size(row_bytes(across_first ? plan.wanted.width : plan.source.width) + 1),
       slots(down.longest() + 1),
       source_row(plan.source.height),
-      next_row(plan.scaled.height - 1 - plan.top),
+      next_row(plan.scaled.height - 1 - plan.wanted.top),
       made(plan.wanted.width, plan.wanted.height)
 {
-    across.left = plan.left;
-    across.right = plan.left + plan.wanted.width;
+    across.left = plan.wanted.left;
+    across.right = plan.wanted.right();
     const scaling_window last = down[next_row];
     lowest = down[next_row - (plan.wanted.height - 1)].first;
     highest = last.first + static_cast<int>(last.weights.size());
@@ -73,7 +76,8 @@ void row_scaler::finish_row(int row)
     memory.window.clear();
     for (int i = 0; i < static_cast<int>(window.weights.size()); ++i)
         memory.window.push_back(slot_of(window.first + i));
-    const std::span<std::uint8_t> into = made.row(row - (plan.scaled.height - plan.top - plan.wanted.height));
+    const std::span<std::uint8_t> into =
+        channels(made.row(row - (plan.scaled.height - plan.wanted.bottom())));
     if (across_first) {
         add_rows(across.way, window.weights, memory.window, into);
         return;
@@ -84,7 +88,7 @@ void row_scaler::finish_row(int row)
 }
 
 // Rows are scaled across in twos, as far as there are two.
-bool row_scaler::is_kept_waiting(std::span<const std::uint8_t> row)
+bool row_scaler::is_kept_waiting(std::span<const pixel> row)
 {
     if (!across_first || one_waits || source_row == lowest)
         return false;
@@ -93,9 +97,9 @@ bool row_scaler::is_kept_waiting(std::span<const std::uint8_t> row)
     return true;
 }
 
-void row_scaler::keep(std::span<const std::uint8_t> row)
+void row_scaler::keep(std::span<const pixel> row)
 {
-    const row_across own{.from = row.data(), .into = slot_of(source_row)};
+    const row_across own{.from = channels(row).data(), .into = slot_of(source_row)};
     if (!across_first)
         std::memcpy(own.into, own.from, row_bytes(plan.source.width));
     else if (one_waits)
@@ -105,13 +109,13 @@ void row_scaler::keep(std::span<const std::uint8_t> row)
     one_waits = false;
 }
 
-void row_scaler::take(std::span<const std::uint8_t> row)
+void row_scaler::take(std::span<const pixel> row)
 {
     --source_row;
     if (source_row < lowest || source_row >= highest || is_kept_waiting(row))
         return;
     keep(row);
-    const int end = plan.scaled.height - plan.top - plan.wanted.height;
+    const int end = plan.scaled.height - plan.wanted.bottom();
     for (; next_row >= end && down[next_row].first >= source_row; --next_row)
         finish_row(next_row);
 }
@@ -119,11 +123,12 @@ void row_scaler::take(std::span<const std::uint8_t> row)
 namespace {
 
 // The rows at the end of a bitmap's memory have no room behind them.
-std::span<const std::uint8_t> with_room_behind(const bitmap & image, int y,
-                                               std::vector<std::uint8_t> & padded)
+std::span<const pixel> with_room_behind(const bitmap & image, int y, std::vector<pixel> & padded)
 {
-    const std::span<const std::uint8_t> row = image.row(y), last = image.row(image.height() - 1);
-    if (last.data() + last.size() - (row.data() + row.size()) >= static_cast<std::ptrdiff_t>(room_behind))
+    const std::span<const pixel> row = image.row(y);
+    const std::uint8_t *end = channels(row).data() + row.size_bytes(),
+                       *last = channels(image.row(image.height() - 1)).data() + row.size_bytes();
+    if (last - end >= static_cast<std::ptrdiff_t>(room_behind))
         return row;
     grow(padded, row.size() + room_behind);
     std::ranges::copy(row, padded.begin());

@@ -2,6 +2,7 @@
 
 #include "engine/pixels/scaling_rows.h"
 #include "support/MFreeImage.h"
+#include "support/rectangle.h"
 
 /// Scaling by rows: a photo's rows come one by one and are never all there at once. Every byte is the one
 /// that `rescaled`, and then `copied`, would give.
@@ -9,8 +10,7 @@
 /// How a picture is scaled, and what of the result is wanted.
 struct scaling_plan {
     picture_size source, scaled;
-    int left = 0, top = 0;  ///< of the wanted part, in the scaled picture, from its top
-    picture_size wanted;    ///< its size; it has to lie in the scaled picture
+    rectangle wanted;  ///< has to lie in the scaled picture
 };
 
 /// The plan that wants all of the scaled picture.
@@ -22,7 +22,8 @@ bool is_possible(const scaling_plan & plan);
 /// What a scaler needs of memory. Handed on from photo to photo it is asked of the system once; each thread
 /// has its own.
 struct scaling_memory {
-    std::vector<std::uint8_t> rows, summed, widest, waiting, padded;
+    std::vector<std::uint8_t> rows, summed, widest, waiting;
+    std::vector<pixel> padded;
     std::vector<const std::uint8_t *> window;
 };
 
@@ -37,17 +38,16 @@ public:
     int first_row() const { return plan.source.height - highest; }
     int end_row() const { return plan.source.height - lowest; }
 
-    /// The next row, three bytes a pixel in the order of a bitmap's, with `room_behind` its end; one that
-    /// isn't needed may be empty.
-    void take(std::span<const std::uint8_t> row);
+    /// The next row, with `room_behind` its end; one that isn't needed may be empty.
+    void take(std::span<const pixel> row);
 
     /// The wanted part, complete when all rows up to `end_row` were taken.
     bitmap result() && { return std::move(made); }
 
 private:
     std::uint8_t * slot_of(int row);
-    bool is_kept_waiting(std::span<const std::uint8_t> row);
-    void keep(std::span<const std::uint8_t> row);
+    bool is_kept_waiting(std::span<const pixel> row);
+    void keep(std::span<const pixel> row);
     void finish_row(int row);
 
     scaling_plan plan;

@@ -97,7 +97,7 @@ TEST(row_scaler, a_grey_picture_becomes_what_the_library_makes_of_it)
     bitmap image = noise(90, 70);
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) {
-            const std::uint8_t level = pixel(image, x, y)->red;
+            const std::uint8_t level = pixel_at(image, x, y)->red;
             set_pixel(image, x, y, {level, level, level});
         }
     scaling_memory memory;
@@ -122,9 +122,7 @@ TEST(row_scaler, a_part_is_the_part_of_the_whole)
                                                             {30, 0, 33, 51}}) {
                 const scaling_plan plan{.source = {210, 160},
                                         .scaled = scaled,
-                                        .left = left,
-                                        .top = top,
-                                        .wanted = {right - left, bottom - top}};
+                                        .wanted = rectangle_between(left, top, right, bottom)};
                 EXPECT_TRUE(
                     same(scaled_by_rows(image, plan, memory, way), copied(whole, left, top, right, bottom)));
             }
@@ -135,8 +133,7 @@ TEST(row_scaler, a_part_is_the_part_of_the_whole)
 TEST(row_scaler, asks_only_for_the_rows_that_the_part_needs)
 {
     scaling_memory memory;
-    const row_scaler middle(
-        {.source = {100, 1000}, .scaled = {10, 100}, .left = 0, .top = 40, .wanted = {10, 20}}, memory);
+    const row_scaler middle({.source = {100, 1000}, .scaled = {10, 100}, .wanted = {0, 40, 10, 20}}, memory);
     // Each row is made of those of twice its height round its middle.
     EXPECT_EQ(middle.first_row(), 395);
     EXPECT_EQ(middle.end_row(), 605);
@@ -162,8 +159,8 @@ TEST(row_scaler, a_plan_whose_part_leaves_the_picture_is_impossible)
         change(plan);
         return is_possible(plan);
     };
-    EXPECT_FALSE(changed([](scaling_plan & plan) { plan.left = 1; }));
-    EXPECT_FALSE(changed([](scaling_plan & plan) { plan.top = -1; }));
+    EXPECT_FALSE(changed([](scaling_plan & plan) { plan.wanted.left = 1; }));
+    EXPECT_FALSE(changed([](scaling_plan & plan) { plan.wanted.top = -1; }));
     EXPECT_FALSE(changed([](scaling_plan & plan) { plan.wanted.width = 0; }));
     EXPECT_FALSE(changed([](scaling_plan & plan) { plan.wanted.height = 16; }));
     EXPECT_FALSE(changed([](scaling_plan & plan) { plan.scaled.width = 32768; }));
