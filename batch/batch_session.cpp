@@ -4,7 +4,6 @@
 #include "batch/given_photos.h"
 #include "batch/kept_files.h"
 #include "batch/missing_pictures.h"
-#include "batch/open_session.h"
 #include "batch/output_file.h"
 #include "batch/settings.h"
 #include "engine/flurn_driver.h"
@@ -16,7 +15,6 @@
 #include "quick/quick_match.h"
 #include "quick/shapes/quick_shapes.h"
 #include "quick/start_quick.h"
-#include "session/connect_all.h"
 #include "session/new_poster.h"
 #include "session/window_state.h"
 #include "support/files/paths.h"
@@ -28,11 +26,6 @@
 #include <optional>
 
 namespace {
-
-random_source chance_of(const batch_arguments & arguments)
-{
-    return arguments.seed ? seeded_random(*arguments.seed) : clock_random();
-}
 
 // ---- quick styles
 
@@ -202,19 +195,6 @@ exit_status make(open_session & running, const batch_arguments & arguments)
 }
 
 }  // namespace
-
-open_session::open_session(const batch_arguments & arguments, const batch_folders & folders)
-    : scratch(folders.scratch),
-      desk(arguments.answers_yes ? answer::yes : answer::no),
-      all(desk, chance_of(arguments))
-{
-    all.main.install_folder = folders.install_folder;
-    share_data_folder(all.main, folders.data, scratch.path());
-    connect_all(all);
-    all.main.load();
-    all.main.left_out.told_by = left_out_photos::teller::caller;
-    desk.progress = [this] { return all.main.txtDoing.text(); };
-}
 
 void check_against(frmMain & main, const batch_arguments & arguments)
 {

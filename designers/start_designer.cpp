@@ -3,6 +3,7 @@
 #include "designers/work_template.h"
 #include "designs/catalogue/catalogue.h"
 #include "photos/chosen_photos.h"
+#include "session/begin_collage.h"
 #include "session/new_poster.h"
 #include "session/start/start_up.h"
 #include "session/window_state.h"

@@ -1,5 +1,6 @@
 #include "quick/quick_controls.h"
 #include "quick/quick_match.h"
+#include "session/begin_collage.h"
 
 // The four quick styles, and the shape of the last.
 

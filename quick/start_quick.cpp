@@ -5,6 +5,7 @@
 #include "photos/lists/photo_list.h"
 #include "quick/quick_controls.h"
 #include "quick/quick_match.h"
+#include "session/begin_collage.h"
 #include "session/new_poster.h"
 #include "session/window_state.h"
 #include "session/windows.h"

@@ -1,5 +1,6 @@
 #include "designs/catalogue/catalogue.h"
 #include "photos/lists/photo_list.h"
+#include "session/begin_collage.h"
 #include "session/handlers.h"
 #include "session/new_poster.h"
 #include "session/window_state.h"

@@ -1,6 +1,7 @@
 #include "designs/catalogue/last_flurn.h"
 #include "designs/templates/unfinished.h"
 #include "photos/lists/photo_list.h"
+#include "session/begin_collage.h"
 #include "session/handlers.h"
 #include "session/start/start_up.h"
 #include "session/window_state.h"

@@ -9,6 +9,7 @@
 #include "engine/run_steps.h"
 #include "session/new_poster.h"
 #include "session/window_state.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "tests/desktop/stages.h"
 #include "tests/desktop/window_views.h"
