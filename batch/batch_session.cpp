@@ -6,16 +6,17 @@
 #include "batch/missing_pictures.h"
 #include "batch/output_file.h"
 #include "batch/settings.h"
-#include "engine/flurn_driver.h"
 #include "engine/output/flurn_file.h"
+#include "engine/preview.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
-#include "quick/quick_controls.h"
+#include "quick/no_template.h"
 #include "quick/quick_match.h"
+#include "quick/quick_template.h"
 #include "quick/shapes/quick_shapes.h"
 #include "quick/start_quick.h"
-#include "session/new_poster.h"
+#include "session/start_designed.h"
 #include "session/window_state.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
@@ -173,7 +174,7 @@ exit_status make_small(open_session & running, const batch_arguments & arguments
     delete_file(picture);
     running.desk.forget_errors();
     if (main.collage.quick_active)
-        make_preview(main);
+        make_preview(main, make_quick_template);
     else
         gen_sample(main);
     std::optional<bool> went_out;

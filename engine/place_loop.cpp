@@ -1,11 +1,12 @@
-#include "engine/flurn_driver.h"
+#include "engine/place_loop.h"
+
+#include "engine/ornaments_in_force.h"
 #include "engine/photo/draw_captioned_photo.h"
 #include "engine/photo/draw_photo.h"
 #include "engine/photo/draw_rotated_photo.h"
 #include "engine/photo/fixed_picture.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/photo/pick_matching.h"
-#include "engine/placement_loops.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
 
@@ -173,21 +174,18 @@ bool is_filled(frmMain & main, int i, int & photo)
 
 }  // namespace
 
-void place_loop(frmMain & main)
+void place_loop(frmMain & main, const sign_of_life & sign)
 {
     location_table & table = main.design_locations;
     table.count = narrow(table.count - 1);
     int photo = 0;
     for (int i = 0; i <= table.count && !main.run.cancel_requested; ++i) {
-        show_image_number(main);
         main.run.current_shape = table[i].file;
-        main.desk.pump();
+        fire(sign);
         if (!is_fixed(table[i]))
             main.run.image_number = narrow(main.run.image_number + 1);
         if (!is_filled(main, i, photo))
             break;
     }
     main.picSample.show(true);
-    if (main.run.cancel_requested)
-        report_cancel(main);
 }

@@ -43,6 +43,7 @@ public:
     void set_tool_tip(std::string text);
     const box & place() const { return own_place; }
     void move(const box & where);
+    void move_to(int left, int top);
     /// Colours as screen controls hold them: red in the low byte, then green, then blue.
     std::uint32_t back_color() const { return back; }
     void set_back_color(std::uint32_t color);

@@ -7,7 +7,7 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/looks/looks.h"
 #include "engine/run_steps.h"
-#include "session/new_poster.h"
+#include "session/start_designed.h"
 #include "session/window_state.h"
 #include "support/files/copies.h"
 #include "support/files/paths.h"

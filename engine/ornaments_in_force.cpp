@@ -1,4 +1,4 @@
-#include "engine/placement_loops.h"
+#include "engine/ornaments_in_force.h"
 
 #include "engine/layout/ornament_sizes.h"
 
@@ -17,10 +17,4 @@ void apply_shadow_size(frmMain & main, int value)
                                             .list_counts = main.enabling.shadow_fixed,
                                             .list_value = nearest(number_in(main.cmbShadow))});
     main.run.shadow_size = narrow(main.in_preview ? shadow_in_preview(size) : size);
-}
-
-void show_image_number(frmMain & main)
-{
-    main.txtDoing.set_text("Image number " + std::to_string(main.run.image_number));
-    main.txtDoing.show(true);
 }
