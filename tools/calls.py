@@ -81,12 +81,16 @@ class call_graph:
         return sorted({self.names[symbol] for symbol in self.defines.get(source, ())
                        if not MADE_BY_COMPILER.match(self.names[symbol])})
 
-    def arrows(self):
-        """(source, source whose function it needs, name of one such function)"""
-        found = {}
-        for source, symbols in self.needs.items():
+    def every_call(self):
+        """(source, source whose function it needs, name of that function)"""
+        found = []
+        for source, symbols in sorted(self.needs.items()):
             for symbol in sorted(symbols):
                 home = self.home_of(symbol, source)
                 if home != source:
-                    found.setdefault((source, home), self.names[symbol])
-        return [(source, target, name) for (source, target), name in sorted(found.items())]
+                    found.append((source, home, self.names[symbol]))
+        return found
+
+    def arrows(self):
+        """The same with one function for each two sources."""
+        return list({call[:2]: call for call in reversed(self.every_call())}.values())[::-1]
