@@ -13,11 +13,13 @@
 #include "engine/flurn_driver.h"
 #include "engine/layout/cell_geometry.h"
 #include "engine/pixels/resize_image.h"
+#include "engine/preview.h"
 #include "photos/lists/photo_list.h"
 #include "photos/thumbnails/thumbnails.h"
+#include "quick/quick_template.h"
 #include "session/connect_all.h"
-#include "session/new_poster.h"
 #include "session/start/start_up.h"
+#include "session/start_designed.h"
 #include "session/windows.h"
 #include "support/files/paths.h"
 #include "support/platform_error.h"
@@ -56,7 +58,7 @@ public:
     std::optional<std::string> choose_save(const file_request &) override { return std::nullopt; }
     std::optional<std::uint32_t> choose_color(std::uint32_t) override { return std::nullopt; }
     bool open_document(const std::string &) override { return false; }
-    print_result print(const bitmap &, page) override { return print_result::no_printer; }
+    print_result print(const bitmap &, orientation) override { return print_result::no_printer; }
     picture_size screen_room() override { return {.width = 1280, .height = 960}; }
     std::vector<std::string> font_names() override { return {}; }
     bitmap draw_text(const text_request & request) override
@@ -229,7 +231,9 @@ void measure_design(const std::string & app, const std::string & work, const std
     const std::vector<row> rows = {
         {"bare loop", [&](bench_session & session) { return bare_seconds(session, work); }},
         {"full size",
-         [](bench_session & session) { return seconds_of([&] { make_flurn(session.all.main); }); }},
+         [](bench_session & session) {
+             return seconds_of([&] { make_flurn(session.all.main, make_quick_template); });
+         }},
         {"preview",
          [](bench_session & session) { return seconds_of([&] { gen_sample(session.all.main); }); }},
     };
