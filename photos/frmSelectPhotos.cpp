@@ -1,8 +1,9 @@
+#include "photos/frmSelectPhotos.h"
+
 #include "photos/chosen_photos.h"
 #include "photos/lists/photo_list.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
 
 // Where the photos come from.
 
@@ -250,6 +251,4 @@ void connect_frmSelectPhotos(windows & all)
         close_without_choice(all);
         return false;
     };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "select_photos.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "select_photos.htm"); };
 }

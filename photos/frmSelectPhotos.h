@@ -5,6 +5,8 @@
 
 #include <string>
 
+struct windows;
+
 /// Where the photos of the collage come from: a folder, a saved list or a selection by hand. What was chosen
 /// goes to `lblPhotos` and `txtPhotos` of the main window and to their tags; a choice that isn't made leaves
 /// the former one in place and sets `photo_choice_cancelled`.
@@ -29,3 +31,6 @@ struct frmSelectPhotos : form {
     int16 saved_last_photo = -1;   ///< `last_photo` at load
     std::string saved_list_path;   ///< `photo_list_path` at load
 };
+
+/// Hooks its handlers.
+void connect_frmSelectPhotos(windows & all);

@@ -1,3 +1,5 @@
+#include "designers/matrix/frmMatrix.h"
+
 #include "designers/matrix/matrix_controls.h"
 #include "designers/matrix/matrix_layout.h"
 #include "designers/number_lists.h"
@@ -7,8 +9,7 @@
 #include "frames/sets/frame_field.h"
 #include "frames/sets/frame_sets.h"
 #include "frames/sets/frames_template.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
 
 // The matrix designer.
 
@@ -246,6 +247,4 @@ void connect_frmMatrix(windows & all)
     window.on_load = [&all] { load_matrix(all); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdhelp.on_click = [&all] { show_help(all.main, "matrix.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "matrix.htm"); };
 }

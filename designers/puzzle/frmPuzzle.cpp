@@ -1,11 +1,12 @@
+#include "designers/puzzle/frmPuzzle.h"
+
 #include "designers/number_lists.h"
 #include "designers/puzzle/puzzle_plan.h"
 #include "designers/settling.h"
 #include "designers/work_template.h"
 #include "designs/catalogue/chosen_design.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "session/start/start_up.h"
-#include "support/windows/show_help.h"
 
 #include <algorithm>
 
@@ -126,6 +127,4 @@ void connect_frmPuzzle(windows & all)
         option->on_click = [&window] { kind_changed(window); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "puzzle.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "puzzle.htm"); };
 }

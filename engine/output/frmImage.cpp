@@ -1,10 +1,11 @@
+#include "engine/output/frmImage.h"
+
 #include "engine/output/save_image.h"
 #include "engine/output/shown_size.h"
 #include "engine/run_steps.h"
-#include "session/handlers.h"
 #include "session/window_state.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
 
 namespace {
 
@@ -96,7 +97,6 @@ void connect_frmImage(windows & all)
 {
     frmImage & window = all.image;
     window.on_load = [&all] { load_window(all.image, all.main); };
-    window.on_key = [&all](key) { show_help(all.main, "display.htm"); };
     window.cmdPrint.on_click = [&all] { cmdPrint_click(all.main); };
     window.cmdSave.on_click = [&all] { cmdSave_click(all); };
     window.cmdView.on_click = [&all] { cmdView_click(all.main); };

@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// The frame sets. As chooser it leaves the one that the collage wears in `frame_set_name` of the main
 /// window; as manager (`frame_manage_mode` there) it edits and deletes them.
 struct frmCustom : form {
@@ -13,3 +15,6 @@ struct frmCustom : form {
 
     std::string edit_frame_name;  ///< the set that the editor works on; "_named_.not" for a new one
 };
+
+/// Hooks its handlers.
+void connect_frmCustom(windows & all);

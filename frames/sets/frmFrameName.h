@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// Asks for the name of a new frame set, which goes to `edit_frame_name` of the window of the sets; without
 /// one that stays "_named_.not".
 struct frmFrameName : form {
@@ -11,3 +13,6 @@ struct frmFrameName : form {
     button cmdOk{*this, "cmdOk", "Ok"};
     button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
+
+/// Hooks its handlers.
+void connect_frmFrameName(windows & all);

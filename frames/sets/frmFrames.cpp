@@ -1,11 +1,12 @@
+#include "frames/sets/frmFrames.h"
+
 #include "frames/icons/icon_list.h"
 #include "frames/sets/frame_field.h"
 #include "frames/sets/frame_rendering.h"
 #include "frames/sets/frame_saving.h"
 #include "frames/sets/frame_sets.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
 
 #include <algorithm>
 
@@ -179,6 +180,4 @@ void connect_frmFrames(windows & all)
     editor.cmdCaptions.on_click = [&all] { all.main.desk.show_modal(all.captions); };
     editor.cmdSave.on_click = [&all] { cmdSave_click(all); };
     editor.cmdCancel.on_click = [&editor] { editor.unload(); };
-    editor.cmdHelp.on_click = [&all] { show_help(all.main, "custom_frames.htm"); };
-    editor.on_key = [&all](key) { show_help(all.main, "custom_frames.htm"); };
 }

@@ -1,10 +1,12 @@
+#include "photos/editor/frmPictures.h"
+
+#include "photos/editor/frmPictures_popup.h"
 #include "photos/editor/photo_cells.h"
 #include "photos/editor/photo_grid.h"
 #include "photos/lists/list_name.h"
 #include "photos/lists/photo_list.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
 
 // The photos of a list are arranged.
 
@@ -185,7 +187,5 @@ void connect_frmPictures(windows & all)
     window.cmdSave.on_click = [&all] { cmdSave_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
     window.on_query_unload = [&window] { return !window.checking; };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "edit_photos.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "edit_photos.htm"); };
     connect_frmPictures_popup(all);
 }

@@ -1,6 +1,8 @@
+#include "photos/editor/frmPictures_popup.h"
+
 #include "photos/editor/photo_cells.h"
 #include "photos/editor/photo_grid.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 
 // The popup menu of a photo in the grid, and its keys.
 

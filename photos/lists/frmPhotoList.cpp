@@ -1,7 +1,8 @@
+#include "photos/lists/frmPhotoList.h"
+
 #include "photos/lists/photo_list.h"
 #include "photos/lists/working_list.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
 
 // A selection is gathered.
 
@@ -83,6 +84,4 @@ void connect_frmPhotoList(windows & all)
             close_without_choice(all);
         return false;
     };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "photo_list.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "photo_list.htm"); };
 }

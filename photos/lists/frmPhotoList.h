@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// Gathers a selection: photos are added to the working list, singly or by the folder.
 struct frmPhotoList : form {
     frmPhotoList() : form("frmPhotoList")
@@ -23,3 +25,6 @@ struct frmPhotoList : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 };
+
+/// Hooks its handlers.
+void connect_frmPhotoList(windows & all);

@@ -1,8 +1,9 @@
+#include "photos/lists/frmPictureList.h"
+
 #include "photos/lists/saved_lists.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
 #include "support/windows/list_faces.h"
-#include "support/windows/show_help.h"
 
 // The saved lists, to choose one or to manage them.
 
@@ -106,5 +107,4 @@ void connect_frmPictureList(windows & all)
     window.cmdDelete.on_click = [&all] { cmdDelete_click(all); };
     window.cmdEdit.on_click = [&all] { cmdEdit_click(all); };
     window.on_query_unload = [&all] { return may_close(all); };
-    window.on_key = [&all](key) { show_help(all.main, "edit_photo_list.htm"); };
 }

@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// The saved lists. As chooser it gives the path of a list, or none, in the tag of `txtPhotos` of the main
 /// window; as manager (`photo_list_edit_mode`) it edits and deletes them.
 struct frmPictureList : form {
@@ -12,3 +14,6 @@ struct frmPictureList : form {
     button cmdDelete{*this, "cmdDelete", "Delete"};
     button cmdEdit{*this, "cmdEdit", "Edit"};
 };
+
+/// Hooks its handlers.
+void connect_frmPictureList(windows & all);

@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// Asks for the name of a new photo list. The list's path goes to the tags of `cmdPhotos` and `txtPhotos` of
 /// the main window; both stay as they are when no name is given.
 struct frmPictureName : form {
@@ -12,3 +14,6 @@ struct frmPictureName : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 };
+
+/// Hooks its handlers.
+void connect_frmPictureName(windows & all);

@@ -1,6 +1,7 @@
-#include "session/handlers.h"
+#include "support/windows/frmSize.h"
+
+#include "session/windows.h"
 #include "support/numbers.h"
-#include "support/windows/show_help.h"
 
 namespace {
 
@@ -62,11 +63,9 @@ void connect_frmSize(windows & all)
     frmSize & window = all.size;
     window.on_load = [&all] { load_window(all); };
     window.on_query_unload = [&all] { return cancel(all); };
-    window.on_key = [&all](key) { show_help(all.main, "size.htm"); };
     window.optFull.on_click = [&all] { choose(all, full_size); };
     window.optWeb.on_click = [&all] { choose(all, web_size); };
     window.optCustom.on_click = [&all] { show_number(all.size, true); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&all] { all.size.request_close(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "size.htm"); };
 }

@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// Asks for the size of a saved collage. The answer goes to `save_size` of the image window.
 struct frmSize : form {
     frmSize() : form("frmSize") { set_caption("Collage Size"); }
@@ -15,3 +17,6 @@ struct frmSize : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 };
+
+/// Hooks its handlers.
+void connect_frmSize(windows & all);

@@ -1,0 +1,6 @@
+#pragma once
+
+struct windows;
+
+/// Hooks the editor's menu of a photo.
+void connect_frmPictures_popup(windows & all);
