@@ -4,30 +4,15 @@
 #include "photos/lists/list_name.h"
 #include "photos/lists/photo_list.h"
 #include "session/windows.h"
-
-namespace {
-
-// A window that is up while it lives.
-class shown {
-public:
-    shown(desktop & shown_on, form & opened) : desk(shown_on), window(opened) { desk.show(window); }
-    shown(const shown &) = delete;
-    shown & operator=(const shown &) = delete;
-    ~shown() { desk.hide(window); }
-
-private:
-    desktop & desk;
-    form & window;
-};
-
-}  // namespace
+#include "support/for_now.h"
 
 void count_with_progress(frmMain & main)
 {
     forget_left_out(main);
     {
         const busy pointer(main.desk);
-        const shown progress(main.desk, main.all->photo_count);
+        main.desk.show(main.all->photo_count);
+        const afterwards gone([&] { main.desk.hide(main.all->photo_count); });
         count_photos(main);
     }
     tell_left_out(main);

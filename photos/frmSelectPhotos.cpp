@@ -4,6 +4,7 @@
 #include "photos/lists/photo_list.h"
 #include "session/windows.h"
 #include "support/files/paths.h"
+#include "support/for_now.h"
 
 // Where the photos come from.
 
@@ -176,22 +177,6 @@ bool select_anew(windows & all)
     return false;
 }
 
-// Shows the dialog again, unless it has been closed, however the step ends.
-class hidden_meanwhile {
-public:
-    explicit hidden_meanwhile(form & hidden) : window(hidden) { window.show(false); }
-    hidden_meanwhile(const hidden_meanwhile &) = delete;
-    hidden_meanwhile & operator=(const hidden_meanwhile &) = delete;
-    ~hidden_meanwhile()
-    {
-        if (window.loaded())
-            window.show(true);
-    }
-
-private:
-    form & window;
-};
-
 void select_photos(windows & all, selecting how)
 {
     frmSelectPhotos & window = all.select_photos;
@@ -199,7 +184,11 @@ void select_photos(windows & all, selecting how)
         window.skip_next_click = false;
         return;
     }
-    const hidden_meanwhile shown_afterwards(window);
+    window.show(false);
+    const afterwards shown_again([&window] {
+        if (window.loaded())
+            window.show(true);
+    });
     show_box_controls(window, false);
     all.main.working_list_path = last_photos_path(all.main);
     all.main.txtPhotos.tag.clear();

@@ -2,21 +2,10 @@
 
 #include "engine/flurn_driver.h"
 #include "quick/matrix/quick_matrix.h"
+#include "support/for_now.h"
 #include "support/numbers.h"
 
 namespace {
-
-// While a preview is being made the triggers are void.
-class redrawing {
-public:
-    explicit redrawing(frmMain & window) : main(window) { main.preview_blocked = true; }
-    redrawing(const redrawing &) = delete;
-    redrawing & operator=(const redrawing &) = delete;
-    ~redrawing() { main.preview_blocked = false; }
-
-private:
-    frmMain & main;
-};
 
 // With the preview off nothing counts the rows anew, so the shown number takes the step itself; it stops at
 // one, where the grid will.
@@ -99,7 +88,9 @@ void redraw_sample(frmMain & main)
     // In the choosing stage no design is in force, and with the preview off the picture goes stale.
     if (main.menus_shown || !main.optPreview.selected())
         return;
-    const redrawing quiet(main);
+    // While a preview is being made the triggers are void; afterwards they count, even if they didn't before.
+    main.preview_blocked = true;
+    const afterwards open_again([&] { main.preview_blocked = false; });
     make_preview(main);
     if (main.collage.quick_active)
         settle_after_preview(main);

@@ -7,6 +7,7 @@
 #include "frames/sets/frame_sets.h"
 #include "frames/sets/frames_template.h"
 #include "session/windows.h"
+#include "support/for_now.h"
 
 // The chooser of designs.
 
@@ -88,9 +89,10 @@ void load_themes(windows & all)
     window.more_pages = false;
     window.chkFlip.tick(false);
     window.chkMirror.tick(false);
-    window.settling = true;
-    window.optPortrait.select();
-    window.settling = false;
+    {
+        const for_now quiet(window.settling, true);
+        window.optPortrait.select();
+    }
     take_layout(window, upright);
     window.optAll.select(false);
     window.optAll.select();

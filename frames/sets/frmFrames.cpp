@@ -7,6 +7,7 @@
 #include "frames/sets/frame_sets.h"
 #include "session/windows.h"
 #include "support/files/paths.h"
+#include "support/for_now.h"
 
 #include <algorithm>
 
@@ -110,16 +111,17 @@ void load_frames(windows & all)
 {
     frmFrames & editor = all.frames;
     all.main.font_extended = false;
-    editor.settling = true;
     editor.rendering = false;
     show_buttons(editor);
-    list_photo_lists(all);
-    editor.current_icon = no_choice;
-    begin_anew(editor);
-    if (all.custom.edit_frame_name != unnamed_set)
-        read_settings(all);
-    load_icons(all.main);
-    editor.settling = false;
+    {
+        const for_now quiet(editor.settling, true);
+        list_photo_lists(all);
+        editor.current_icon = no_choice;
+        begin_anew(editor);
+        if (all.custom.edit_frame_name != unnamed_set)
+            read_settings(all);
+        load_icons(all.main);
+    }
     preview_frame(all.main);
 }
 

@@ -7,33 +7,24 @@
 #include "photos/lists/photo_list.h"
 #include "session/windows.h"
 #include "support/files/paths.h"
+#include "support/for_now.h"
 
 // The photos of a list are arranged.
 
 namespace {
 
-// What opened the editor can't be used while its photos are being loaded; the notice stands there.
-class disabled_meanwhile {
-public:
-    explicit disabled_meanwhile(const form & opener)
-    {
-        for (control * each : opener.controls())
-            if (each->enabled() && dynamic_cast<label *>(each) == nullptr) {
-                each->enable(false);
-                disabled.push_back(each);
-            }
-    }
-    disabled_meanwhile(const disabled_meanwhile &) = delete;
-    disabled_meanwhile & operator=(const disabled_meanwhile &) = delete;
-    ~disabled_meanwhile()
-    {
-        for (control * each : disabled)
-            each->enable(true);
-    }
-
-private:
+// What opened the editor can't be used while its photos are being loaded; the notice stands there. Gives what
+// was disabled.
+std::vector<control *> disable_controls(const form & opener)
+{
     std::vector<control *> disabled;
-};
+    for (control * each : opener.controls())
+        if (each->enabled() && dynamic_cast<label *>(each) == nullptr) {
+            each->enable(false);
+            disabled.push_back(each);
+        }
+    return disabled;
+}
 
 form & opener_of(windows & all)
 {
@@ -51,7 +42,10 @@ void load_pictures(windows & all)
     for (int cell = 0; cell < editable_photos; ++cell)
         clear_cell(window, cell);
     window.txtCounting.show(false);
-    const disabled_meanwhile waiting(opener_of(all));
+    const afterwards usable([disabled = disable_controls(opener_of(all))] {
+        for (control * each : disabled)
+            each->enable(true);
+    });
     load_photo_grid(all.main, window.edit_list_path);
     window.cmdSave.enable(!is_empty(window));
 }
@@ -73,31 +67,12 @@ std::vector<std::string> fitting(frmMain & main, std::vector<std::string> photos
 }
 
 // While photos are added the window shows its notice in place of its buttons.
-class taking_up {
-public:
-    explicit taking_up(frmPictures & busy_window) : window(busy_window), mode(window.edit_mode)
-    {
-        window.edit_mode = editing::added_photos;
-        show_buttons(false);
-    }
-    taking_up(const taking_up &) = delete;
-    taking_up & operator=(const taking_up &) = delete;
-    ~taking_up()
-    {
-        window.edit_mode = mode;
-        show_buttons(true);
-    }
-
-private:
-    void show_buttons(bool on)
-    {
-        for (button * each : {&window.cmdSave, &window.cmdHelp, &window.cmdCancel, &window.cmdAdd})
-            each->show(on);
-        window.txtCounting.show(!on);
-    }
-    frmPictures & window;
-    editing mode;
-};
+void show_notice(frmPictures & window, bool on)
+{
+    for (button * each : {&window.cmdSave, &window.cmdHelp, &window.cmdCancel, &window.cmdAdd})
+        each->show(!on);
+    window.txtCounting.show(on);
+}
 
 void cmdAdd_click(windows & all)
 {
@@ -108,7 +83,9 @@ void cmdAdd_click(windows & all)
     const int count = write_photo_grid(all.main, work_file);
     append_photos(work_file, fitting(all.main, photos, count));
     {
-        const taking_up busy_window(all.pictures);
+        const for_now added(all.pictures.edit_mode, editing::added_photos);
+        show_notice(all.pictures, true);
+        const afterwards usable([&all] { show_notice(all.pictures, false); });
         load_photo_grid(all.main, work_file);
     }
     delete_file(work_file);
