@@ -26,12 +26,13 @@ void take_chosen_photos(frmMain & main)
     count_with_progress(main);
 }
 
-void get_photo_list(frmMain & main)
+std::optional<std::string> get_photo_list(frmMain & main)
 {
     main.photo_list_edit_mode = false;
-    main.desk.show_modal(main.all->picture_list);
-    if (main.txtPhotos.tag.empty())
-        return;
-    main.all->select_photos.txtCards.set_text(list_name(main.txtPhotos.tag));
-    main.all->select_photos.optList.tag = "True";
+    auto list = ask(main.desk, main.all->picture_list);
+    if (list) {
+        main.all->select_photos.txtCards.set_text(list_name(*list));
+        main.all->select_photos.optList.tag = "True";
+    }
+    return list;
 }

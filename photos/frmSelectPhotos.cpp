@@ -58,7 +58,6 @@ void load_select_photos(windows & all)
     window.optUnseen.show(false);
     window.txtCards.set_text("");
     window.skip_next_click = true;
-    window.cancelled = false;
     window.cmdCards.enable(true);
     show_box_controls(window, true);
     window.cmdOk.enable(true);
@@ -125,9 +124,9 @@ void optList_click(windows & all)
         return;
     }
     window.optList.tag = "False";
-    get_photo_list(all.main);
+    const auto list = get_photo_list(all.main);
     window.txtCards.show(true);
-    if (window.optList.tag != "True") {
+    if (!list) {
         window.cmdOk.enable(false);
         return;
     }
@@ -151,8 +150,7 @@ enum class selecting { anew, change };
 bool change_selection(windows & all)
 {
     frmSelectPhotos & window = all.select_photos;
-    all.main.desk.show_modal(all.photo_list);
-    if (window.cancelled) {
+    if (!ask(all.main.desk, all.photo_list)) {
         close_without_choice(all);
         return false;
     }
@@ -170,7 +168,7 @@ bool select_anew(windows & all)
     frmSelectPhotos & window = all.select_photos;
     if (all.main.selected_count < 1)
         get_selected_photos(all.main);
-    if (all.main.selected_count >= 1 && !window.cancelled)
+    if (all.main.selected_count >= 1)
         return true;
     window.optSelect.select(false);
     window.cmdOk.enable(false);
@@ -192,7 +190,6 @@ void select_photos(windows & all, selecting how)
     show_box_controls(window, false);
     all.main.working_list_path = last_photos_path(all.main);
     all.main.txtPhotos.tag.clear();
-    window.cancelled = false;
     if (how == selecting::change ? !change_selection(all) : !select_anew(all))
         return;
     all.main.txtPhotos.tag = all.main.working_list_path;

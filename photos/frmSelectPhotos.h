@@ -26,7 +26,6 @@ struct frmSelectPhotos : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 
-    bool cancelled = false;        ///< set by frmPhotoList
     bool skip_next_click = false;  ///< the next option is selected by the program, not by the user
     int16 saved_last_photo = -1;   ///< `last_photo` at load
     std::string saved_list_path;   ///< `photo_list_path` at load

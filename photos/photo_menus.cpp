@@ -8,29 +8,17 @@
 
 namespace {
 
-// The path of the list that the user names, empty after a cancel; the count of the selection then stays.
-std::string named_list(frmMain & main)
-{
-    const std::string count = main.cmdPhotos.tag;
-    main.cmdPhotos.tag.clear();
-    main.desk.show_modal(main.all->picture_name);
-    const std::string path = main.cmdPhotos.tag;
-    if (path.empty())
-        main.cmdPhotos.tag = count;
-    return path;
-}
-
 // A list of that name was to be overwritten. The list stays on the disk under its name and is not the source
 // of a collage.
 void mnuNewList_click(frmMain & main)
 {
     const std::string source = main.txtPhotos.tag;
-    const std::string list = named_list(main);
-    if (list.empty())
+    const auto list = ask(main.desk, main.all->picture_name);
+    if (!list)
         return;
-    delete_file(list);
+    delete_file(*list);
     delete_file(last_photos_path(main));
-    main.working_list_path = list;
+    main.working_list_path = *list;
     main.selected_count = 0;
     main.desk.show_modal(main.all->photo_list);
     main.selected_count = 0;
@@ -41,9 +29,8 @@ void mnuSaveLast_click(frmMain & main)
 {
     if (!check_last_list(main))
         return;
-    const std::string list = named_list(main);
-    if (!list.empty())
-        save_last_list(main, list);
+    if (const auto list = ask(main.desk, main.all->picture_name))
+        save_last_list(main, *list);
 }
 
 // A list that the user edited or deleted may have been the working list itself.

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int units_of_a_pixel = 15;
-constexpr int16 full_size = 3000;
 
 void wear_face(frmImage & window, image_face face)
 {
@@ -39,7 +38,6 @@ void take_shape(frmImage & window, picture_size own, picture_size room)
 
 void load_window(frmImage & window, frmMain & main)
 {
-    window.save_size = 0;
     window.lblImageName.set_caption(main.image_to_show);
     window.lblImageName.show(false);
     wear_face(window, main.shown_as);
@@ -73,14 +71,13 @@ void cmdPrint_click(frmMain & main)
 void cmdSave_click(windows & all)
 {
     frmMain & main = all.main;
-    all.image.save_size = full_size;
-    main.desk.show_modal(all.size);
-    if (all.image.save_size == 0)
+    const auto size = ask(main.desk, all.size);
+    if (!size)
         return;
     main.save_image_path.clear();
     save_new_image(main);
     if (!main.save_image_path.empty())
-        write_collage(main, all.image.save_size);
+        write_collage(main, *size);
 }
 
 void cmdView_click(frmMain & main)

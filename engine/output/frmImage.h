@@ -1,7 +1,6 @@
 #pragma once
 
 #include "support/forms.h"
-#include "support/numbers.h"
 
 struct windows;
 
@@ -20,7 +19,6 @@ struct frmImage : form {
 
     bool is_square = false;
     bool is_portrait = true;  ///< squares count as well
-    int16 save_size = 0;      ///< long side in pixels to save at; 0: cancelled
 };
 
 /// Hooks its handlers.

@@ -74,23 +74,19 @@ void write_settings(const frmMain & main)
 // The settings are there before the folder has a name under which it is listed.
 void give_name(frmMain & main, const std::string & name)
 {
-    std::string & edited = main.all->custom.edit_frame_name;
-    edited = unnamed_set;
     write_settings(main);
     rename_folder(folder_of_set(main), frame_set_folder(main, name));
-    edited = name;
+    main.all->custom.edit_frame_name = name;
 }
 
 bool has_name(frmMain & main)
 {
-    const std::string & edited = main.all->custom.edit_frame_name;
-    if (edited != unnamed_set)
+    if (main.all->custom.edit_frame_name != unnamed_set)
         return true;
-    main.desk.show_modal(main.all->frame_name);
-    if (edited == unnamed_set)
-        return false;
-    give_name(main, std::string(edited));
-    return true;
+    const auto name = ask(main.desk, main.all->frame_name);
+    if (name)
+        give_name(main, *name);
+    return name.has_value();
 }
 
 void show_progress(frmFrames & editor, bool on)
@@ -110,11 +106,11 @@ void render(frmMain & main, const std::string & caption, int number)
     main.all->frames.txtCaption.set_text(caption);
     render_portrait_frame(main, frame_path(main, 'p', number));
 }
-    frmFrames & editor = main.all->frames;
 
 // An empty caption stands for the usual one.
 void render_captions(frmMain & main, const std::string & usual, const std::vector<std::string> & captions)
 {
+    frmFrames & editor = main.all->frames;
     const int count = static_cast<int>(captions.size());
     if (count > 0)
         show_progress(editor, true);

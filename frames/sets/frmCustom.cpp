@@ -44,7 +44,7 @@ void take_selected(windows & all)
 {
     if (all.custom.lstFrames.list_index() < 0)
         return;
-    all.main.collage.frame_set_name = all.custom.lstFrames.text();
+    all.custom.result = all.custom.lstFrames.text();
     all.custom.unload();
 }
 

@@ -30,7 +30,7 @@ void cmdOk_click(windows & all)
         all.main.desk.message(fault);
         return;
     }
-    all.custom.edit_frame_name = name;
+    all.frame_name.result = name;
     all.frame_name.unload();
 }
 

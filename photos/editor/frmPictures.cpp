@@ -100,8 +100,8 @@ answer wants_same_name(windows & all)
                               .offered = answers::yes_no_cancel});
 }
 
-// The path to save at, empty when the user backs out.
-std::string target(windows & all)
+// The path to save at, nothing when the user backs out.
+std::optional<std::string> target(windows & all)
 {
     frmPictures & window = all.pictures;
     if (window.edit_mode == editing::selection)
@@ -109,17 +109,11 @@ std::string target(windows & all)
     if (window.same_name_allowed) {
         const answer given = wants_same_name(all);
         if (given == answer::cancel)
-            return {};
+            return std::nullopt;
         if (given == answer::yes)
             return window.edit_list_path;
     }
-    const std::string before = all.main.txtPhotos.tag;
-    all.main.txtPhotos.tag.clear();
-    all.main.desk.show_modal(all.picture_name);
-    std::string path = all.main.txtPhotos.tag;
-    if (path.empty())
-        all.main.txtPhotos.tag = before;
-    return path;
+    return ask(all.main.desk, all.picture_name);
 }
 
 // What the grid had no room for, or what couldn't be loaded, stays in a selection: it has no other list to go
@@ -127,13 +121,13 @@ std::string target(windows & all)
 void cmdSave_click(windows & all)
 {
     frmPictures & window = all.pictures;
-    const std::string path = target(all);
-    if (path.empty())
+    const auto path = target(all);
+    if (!path)
         return;
     const bool selection = window.edit_mode == editing::selection;
     const int count =
-        write_photo_grid(all.main, path, selection ? window.left_behind : std::vector<std::string>());
-    all.main.txtPhotos.tag = path;
+        write_photo_grid(all.main, *path, selection ? window.left_behind : std::vector<std::string>());
+    all.main.txtPhotos.tag = *path;
     all.main.selected_count = narrow(count);
     all.main.cmdPhotos.tag = std::to_string(count);
     window.unload();

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "support/forms.h"
+#include "support/numbers.h"
+
+#include <optional>
 
 struct windows;
 
@@ -24,6 +27,8 @@ struct frmPhotoList : form {
     button cmdDone{*this, "cmdDone", "Done"};
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
+
+    std::optional<int16> result;  ///< how many photos are selected
 };
 
 /// Hooks its handlers.

@@ -37,7 +37,7 @@ void cmdOk_click(windows & all)
     const std::string path = joined(all.main.data_folder, "piclists/") + name + ".pls";
     if (keeps_old_list(all, path))
         return;
-    all.main.cmdPhotos.tag = all.main.txtPhotos.tag = path;
+    all.picture_name.result = all.main.cmdPhotos.tag = all.main.txtPhotos.tag = path;
     all.picture_name.unload();
 }
 

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "support/forms.h"
+#include "support/numbers.h"
+
+#include <optional>
 
 struct windows;
 
-/// Asks for the size of a saved collage. The answer goes to `save_size` of the image window.
+/// Asks for the size of a saved collage.
 struct frmSize : form {
     frmSize() : form("frmSize") { set_caption("Collage Size"); }
     option_set sizes;
@@ -16,6 +19,8 @@ struct frmSize : form {
     button cmdOk{*this, "cmdOk", "Ok"};
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
+
+    std::optional<int16> result;  ///< pixels of the long side
 };
 
 /// Hooks its handlers.
