@@ -4,6 +4,7 @@
 #include "designers/puzzle/puzzle_plan.h"
 #include "designers/work_template.h"
 #include "designs/catalogue/chosen_design.h"
+#include "designs/templates/location_line.h"
 #include "session/start/start_up.h"
 #include "session/windows.h"
 #include "support/for_now.h"
@@ -96,7 +97,7 @@ void cmdOk_click(windows & all)
         main.desk.message(fault);
         return;
     }
-    const std::vector<std::string> lines = puzzle_lines(choices, main.random);
+    const std::vector<std::string> lines = template_lines(puzzle_plan(choices, main.random));
     if (lines.empty()) {
         main.desk.message("There would be no pieces left.\r\n\r\nPlease choose fewer missing pieces.");
         return;
