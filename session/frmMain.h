@@ -15,7 +15,7 @@
 #include "support/desktop.h"
 #include "support/files/folder_lock.h"
 #include "support/for_now.h"
-#include "support/forms.h"
+#include "support/list_controls.h"
 #include "support/random.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "designers/matrix/matrix_choices.h"
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 struct windows;
 

@@ -4,8 +4,6 @@
 #include "photos/editor/photo_grid.h"
 #include "session/windows.h"
 
-// The popup menu of a photo in the grid, and its keys.
-
 namespace {
 
 picture & cell_of(frmPictures & window, int cell)

@@ -2,5 +2,5 @@
 
 struct windows;
 
-/// Hooks the editor's menu of a photo.
+/// Hooks the popup menu of the photos in the grid, and their keys.
 void connect_frmPictures_popup(windows & all);

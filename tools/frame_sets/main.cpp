@@ -8,6 +8,7 @@
 #include "batch/batch_desktop.h"
 #include "frames/sets/frame_sets.h"
 #include "session/connect_all.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 

@@ -1,0 +1,85 @@
+#include "session/main_window/background.h"
+
+#include "session/main_window/redraw.h"
+#include "support/files/paths.h"
+
+namespace {
+
+void show_picture_controls(frmMain & main, bool show)
+{
+    main.txtBGimage.show(show);
+    main.cmdBGimage.show(show);
+    main.frmBlend.show(show);
+}
+
+void optSolid_click(frmMain & main)
+{
+    show_picture_controls(main, false);
+    main.bg_color = main.picBGcolor.back_color();
+    main.cmdFlurn.enable(true);
+    refresh_preview(main);
+}
+
+void optBGimage_click(frmMain & main)
+{
+    if (!main.collage.bg_from_design)
+        show_picture_controls(main, true);
+    if (main.txtBGimage.text().empty()) {
+        const updating quiet(main);
+        main.cmdBGimage.click();
+    }
+    refresh_after_change(main);
+    main.cmdFlurn.enable(true);
+}
+
+void txtBGimage_change(frmMain & main)
+{
+    // Code that empties the box settles the two options itself.
+    if (main.txtBGimage.text().empty() && !main.updating_controls) {
+        main.skip_preview_click = true;
+        main.optSolid.select();
+    }
+    main.cmdFlurn.enable(true);
+    refresh_after_change(main);
+}
+
+// Pictures are loaded as JPEG, so nothing else is offered. A cancel leaves everything as it is.
+void cmdBGimage_click(frmMain & main)
+{
+    const std::optional<std::string> chosen = main.desk.choose_file({.title = "Background image",
+                                                                     .filter = "Image files (*.jpg)|*.jpg",
+                                                                     .folder = main.image_folder,
+                                                                     .extension = {}});
+    if (!chosen)
+        return;
+    main.image_folder = folder_of(*chosen);
+    const picture_size size = jpeg_size(*chosen).value_or(picture_size{});
+    main.bg_portrait = size.width <= size.height;
+    main.txtBGimage.set_text(*chosen);
+}
+
+void cmdBGcolor_click(frmMain & main)
+{
+    const std::optional<std::uint32_t> chosen = main.desk.choose_color(main.picBGcolor.back_color());
+    if (!chosen)
+        return;
+    main.picBGcolor.set_back_color(*chosen);
+    refresh_after_change(main);
+}
+
+}  // namespace
+
+void connect_background(frmMain & main)
+{
+    main.optSolid.on_click = [&main] { optSolid_click(main); };
+    main.optBGimage.on_click = [&main] { optBGimage_click(main); };
+    main.txtBGimage.on_change = [&main] { txtBGimage_change(main); };
+    main.txtBGimage.on_enter = [&main] { main.optPreview.select(false); };
+    main.cmdBGimage.on_click = [&main] { cmdBGimage_click(main); };
+    main.cmdBGcolor.on_click = [&main] { cmdBGcolor_click(main); };
+    main.picBGcolor.on_click = [&main] { main.cmdBGcolor.click(); };
+    main.cmbBlend.on_typed = main.cmbBlend.on_click = [&main] { refresh_after_change(main); };
+    for (option_button * each : main.border_options)
+        each->on_click = [&main] { refresh_after_change(main); };
+    main.chkOutline.on_change = [&main] { refresh_after_change(main); };
+}

@@ -1,0 +1,65 @@
+#include "session/main_window/buttons.h"
+
+#include "engine/flurn_driver.h"
+#include "quick/quick_template.h"
+#include "session/main_window/redraw.h"
+#include "session/window_state.h"
+#include "support/windows/show_help.h"
+
+namespace {
+
+void leave_finishing_stage(frmMain & main)
+{
+    show_menus(main, true);
+    show_work_controls(main, false);
+    main.collage.quick_active = false;
+}
+
+void cmdCancel_click(frmMain & main)
+{
+    main.trace = " CC " + main.trace;
+    {
+        const updating quiet(main);
+        main.optPreview.select(false);
+    }
+    if (main.run.run_active)
+        main.run.cancel_requested = true;
+    else
+        leave_finishing_stage(main);
+}
+
+void optPreview_click(frmMain & main)
+{
+    main.preview_blocked = false;
+    {
+        const updating quiet(main);
+        main.chkRandom.tick(false);
+    }
+    if (main.skip_preview_click)
+        main.skip_preview_click = false;
+    else
+        refresh_preview(main);
+}
+
+void optSample_click(frmMain & main)
+{
+    main.preview_blocked = false;
+    show_ready_made(main);
+}
+
+void show_own_help(frmMain & main)
+{
+    show_help(main, main.mnuFile.visible() ? "help_main.htm" : "finishing.htm");
+}
+
+}  // namespace
+
+void connect_buttons(frmMain & main)
+{
+    main.cmdFlurn.on_click = [&main] { make_flurn(main, make_quick_template); };
+    main.cmdCancel.on_click = [&main] { cmdCancel_click(main); };
+    main.cmdHelp.on_click = [&main] { show_help(main, "finishing.htm"); };
+    main.optPreview.on_click = [&main] { optPreview_click(main); };
+    main.optSample.on_click = [&main] { optSample_click(main); };
+    main.on_key = [&main](key) { show_own_help(main); };
+}
