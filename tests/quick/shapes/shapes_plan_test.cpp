@@ -34,6 +34,16 @@ std::vector<std::string> masks_of(const shapes_layout & plan)
     return masks;
 }
 
+// Another one for each change of a single number.
+template <typename Rows, typename Row>
+int sum_by_place(const Rows & rows, int Row::*number)
+{
+    int sum = 0, place = 0;
+    for (const Row & row : rows)
+        sum += ++place * row.*number;
+    return sum;
+}
+
 }  // namespace
 
 TEST(shapes_plan, the_number_of_photos_decides_the_grid)
@@ -63,6 +73,25 @@ TEST(shapes_plan, every_grid_of_the_table_is_full)
 {
     for (const shapes_grid_size & each : shapes_grid_sizes)
         EXPECT_EQ(each.cells % each.columns, 0) << each.cells;
+}
+
+TEST(shapes_tables, grids_grow_and_lie_upright_down_to_the_stopper)
+{
+    for (std::size_t i = 0; i + 1 < shapes_grid_sizes.size(); ++i) {
+        const auto [cells, columns] = shapes_grid_sizes[i];
+        EXPECT_LT(cells, shapes_grid_sizes[i + 1].cells);
+        EXPECT_LE(columns, cells / columns) << cells;
+    }
+    EXPECT_GT(shapes_grid_sizes.back().cells, 200);
+}
+
+TEST(shapes_tables, hold_the_numbers_that_were_chosen)
+{
+    EXPECT_EQ(sum_by_place(shapes_grid_sizes, &shapes_grid_size::cells), 92204);
+    EXPECT_EQ(sum_by_place(shapes_grid_sizes, &shapes_grid_size::columns), 48223);
+    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::down), -85);
+    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::right), 110);
+    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::growth), 200);
 }
 
 TEST(shapes_plan, squares_stand_in_the_middle_between_their_ornaments)
