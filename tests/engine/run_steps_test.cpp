@@ -1,5 +1,6 @@
 #include "engine/run_steps.h"
 
+#include "designs/templates/location_order.h"
 #include "engine/flurn_driver.h"
 #include "engine/layout/run_layout.h"
 #include "engine/quick_template.h"
@@ -124,6 +125,37 @@ TEST(place_photos, the_order_changes_only_for_plain_designs_that_were_asked_to)
     EXPECT_EQ(first_top(false, true, {}), 100);
     // Two shuffles of their own step and start each.
     EXPECT_NE(first_top(true, true, {0.0, 0.0, 0.3, 0.4, 0.3, 0.7}), 100);
+}
+
+TEST(place_photos, the_order_is_turned_as_often_as_two_numbers_say_and_once_more)
+{
+    struct row {
+        double count, factor;
+        int shuffles;
+    };
+    // 1 to 8 and then 0, times 1 to 3.
+    for (const row & each : {row{0.0, 0.0, 2}, row{0.0, 0.5, 3}, row{0.0, 0.99, 4}, row{0.25, 0.5, 7},
+                             row{0.8, 0.99, 25}, row{0.95, 0.99, 1}}) {
+        bare_run run;
+        int drawn = 0;
+        run.main.random = {.next = [&] { return ++drawn == 1 ? each.count
+                                                : drawn == 2 ? each.factor
+                                                             : 0.3; },
+                           .reseed = [] {}};
+        run.main.collage.random_design = run.main.collage.design_rotated = true;
+        location_table expected, scratch;
+        expected.add(measures(530, 630, 300, 400));
+        for (int16 i = 1; i < 12; ++i) {
+            run.add_location(measures(narrow(100 + i), 0, 1, 1));
+            expected.add(measures(narrow(530 + i), 430, 1, 1));
+        }
+        place_photos(run.main, run_size::full);
+        EXPECT_EQ(drawn, 2 + 2 * each.shuffles);
+        for (int i = 0; i < each.shuffles; ++i)
+            shuffle(expected, scratch, 3, 4);  // of 0.3: the third step of seven, the fourth of eleven places
+        for (int i = 0; i < 12; ++i)
+            EXPECT_EQ(run.main.design_locations[i], expected[i]) << each.shuffles << " at " << i;
+    }
 }
 
 TEST(place_photos, a_stretched_design_is_stretched_before_the_bleed_comes)
