@@ -7,7 +7,6 @@
 #include "engine/pixels/mask.h"
 #include "engine/pixels/resize_image.h"
 #include "engine/pixels/soft_edge_paste.h"
-#include "tests/scripted_desktop.h"
 
 #include <benchmark/benchmark.h>
 
@@ -35,18 +34,19 @@ bitmap square_mask()
     return mask;
 }
 
-/// A window with a canvas of full size.
-struct stage {
-    stage() { main.run.canvas = colored(canvas_width, canvas_height); }
-    scripted_desktop desk;
-    frmMain main{desk, listed({})};
-};
+constexpr rectangle photo_place{
+    .left = photo_left, .top = photo_top, .width = photo_width, .height = photo_height};
+
+bitmap full_canvas()
+{
+    return colored(canvas_width, canvas_height);
+}
 
 void fill_canvas(benchmark::State & state)
 {
-    stage on;
+    bitmap canvas = full_canvas();
     for (auto _ : state)
-        fill(on.main.run.canvas, {7, 8, 9});
+        fill(canvas, {7, 8, 9});
 }
 BENCHMARK(fill_canvas)->Unit(benchmark::kMicrosecond);
 
@@ -60,59 +60,57 @@ BENCHMARK(resize_photo)->Unit(benchmark::kMicrosecond);
 
 void paste_photo(benchmark::State & state)
 {
-    stage on;
+    bitmap canvas = full_canvas();
     const bitmap photo = colored(photo_width, photo_height);
     for (auto _ : state)
-        paste(on.main.run.canvas, photo, photo_left, photo_top, plain_copy);
+        paste(canvas, photo, photo_left, photo_top, plain_copy);
 }
 BENCHMARK(paste_photo)->Unit(benchmark::kMicrosecond);
 
 void frame(benchmark::State & state)
 {
-    stage on;
-    on.main.run.frame_size = static_cast<int16>(state.range(0));
-    for (auto _ : state) {
-        int left = photo_left, row = canvas_height - photo_top - photo_height;
-        draw_frame(on.main, on.main.run.canvas, left, row, photo_height, photo_width, 0);
-    }
+    bitmap canvas = full_canvas();
+    const ornaments worn{.frame = static_cast<int>(state.range(0))};
+    for (auto _ : state)
+        draw_frame(canvas, photo_place, worn, 0);
 }
 BENCHMARK(frame)->Arg(1)->Arg(10)->Arg(60)->Unit(benchmark::kMicrosecond);
 
 void shadow(benchmark::State & state)
 {
-    stage on;
-    on.main.run.shadow_size = static_cast<int16>(state.range(0));
+    bitmap canvas = full_canvas();
+    const ornaments worn{.shadow = static_cast<int>(state.range(0))};
     for (auto _ : state)
-        draw_shadow(on.main, on.main.run.canvas, photo_left, photo_top, photo_height, photo_width, 0);
+        draw_shadow(canvas, photo_place, worn);
 }
 BENCHMARK(shadow)->Arg(5)->Arg(10)->Arg(50)->Unit(benchmark::kMicrosecond);
 
 void corners(benchmark::State & state)
 {
     const int side = static_cast<int>(state.range(0));
-    stage on;
+    bitmap canvas = full_canvas();
     bitmap photo = colored(side, side);
     for (auto _ : state)
-        cut_corners(photo, on.main.run.canvas, side, side, photo_left, photo_top);
+        cut_corners(photo, canvas, {.left = photo_left, .top = photo_top, .width = side, .height = side});
 }
 BENCHMARK(corners)->Arg(100)->Arg(320)->Arg(700)->Unit(benchmark::kMicrosecond);
 
 void soft_edges(benchmark::State & state)
 {
     const int side = static_cast<int>(state.range(0));
-    stage on;
+    bitmap canvas = full_canvas();
     const bitmap photo = colored(side, side);
     for (auto _ : state)
-        soft_edge_paste(on.main.run.canvas, photo, side, side, photo_top, photo_left);
+        soft_edge_paste(canvas, photo, {.left = photo_left, .top = photo_top, .width = side, .height = side});
 }
 BENCHMARK(soft_edges)->Arg(100)->Arg(320)->Arg(700)->Unit(benchmark::kMicrosecond);
 
 void shape_of_a_photo(benchmark::State & state)
 {
-    stage on;
+    bitmap canvas = full_canvas();
     const bitmap mask = square_mask(), photo = colored(shape_size, shape_size);
     for (auto _ : state)
-        paint_mask(on.main.run.canvas, mask, photo, shape_border::lightened, photo_left, photo_top);
+        paint_mask(canvas, mask, photo, shape_border::lightened, {photo_left, photo_top});
 }
 BENCHMARK(shape_of_a_photo)->Unit(benchmark::kMicrosecond);
 

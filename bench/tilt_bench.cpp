@@ -1,6 +1,5 @@
 // Times tilted photos: at full size one of 700 by 700, which may cost 110 ms, in a preview a thumbnail, 3 ms.
 
-#include "engine/photo/draw_rotated_photo.h"
 #include "tests/engine/tilt_stage.h"
 #include "tests/pictures.h"
 
@@ -16,8 +15,8 @@ void draw_tilted(benchmark::State & state, int side, picture_size canvas)
     const bitmap photo = graded(side, side);
     for (auto _ : state) {
         stage.wear(10, 20);
-        draw_rotated_photo(stage.main, copied(photo, 0, 0, side, side), side, side, canvas.height / 3,
-                           canvas.width / 3, static_cast<int>(state.range(0)), fitting::fitted);
+        stage.draw(photo, {.left = canvas.width / 3, .top = canvas.height / 3, .width = side, .height = side},
+                   static_cast<int>(state.range(0)));
     }
 }
 

@@ -1,21 +1,6 @@
 #include "desktop/printing.h"
 
-#include <algorithm>
-
-namespace {
-
-// Rows of a bitmap count from the bottom.
-QImage image_of(const bitmap & source)
-{
-    QImage image(source.width(), source.height(), QImage::Format_BGR888);
-    for (int y = 0; y < source.height(); ++y) {
-        const auto row = source.row(source.height() - 1 - y);
-        std::copy(row.begin(), row.end(), image.scanLine(y));
-    }
-    return image;
-}
-
-}  // namespace
+#include "desktop/qt_picture.h"
 
 QRect fitted(const QSize & picture, const QRect & page)
 {

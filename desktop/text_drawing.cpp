@@ -1,5 +1,6 @@
 #include "desktop/text_drawing.h"
 
+#include "desktop/qt_picture.h"
 #include "desktop/qt_text.h"
 
 #include <QFontDatabase>
@@ -23,23 +24,6 @@ QSize measured(const QFontMetrics & metrics, const QString & text, int extra_wid
 {
     const int width = std::min(widest_text, metrics.horizontalAdvance(text) + extra_width);
     return {std::max(1, width), metrics.height()};
-}
-
-// The painter's rows count from the top and hold four bytes a pixel, blue first; the bitmap's count from the
-// bottom.
-bitmap bitmap_of(const QImage & painted)
-{
-    bitmap copy(painted.width(), painted.height());
-    for (int y = 0; y < painted.height(); ++y) {
-        const auto * from = reinterpret_cast<const QRgb *>(painted.constScanLine(y));
-        std::uint8_t * to = copy.row(painted.height() - 1 - y).data();
-        for (int x = 0; x < painted.width(); ++x, ++from, to += pixel_bytes) {
-            to[0] = static_cast<std::uint8_t>(qBlue(*from));
-            to[1] = static_cast<std::uint8_t>(qGreen(*from));
-            to[2] = static_cast<std::uint8_t>(qRed(*from));
-        }
-    }
-    return copy;
 }
 
 }  // namespace

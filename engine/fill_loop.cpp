@@ -1,8 +1,7 @@
 #include "engine/layout/cell_geometry.h"
 #include "engine/layout/ornament_sizes.h"
-#include "engine/photo/draw_captioned_photo.h"
-#include "engine/photo/draw_photo.h"
-#include "engine/photo/draw_rotated_photo.h"
+#include "engine/layout/worn_ornaments.h"
+#include "engine/photo/lay_photo.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/placement_loops.h"
 #include "photos/left_out.h"
@@ -52,14 +51,14 @@ void open_saved_matrix(frmMain & main, grid_walk & walk)
         walk.saved.emplace(path, line_writer::mode::fresh);
 }
 
-void set_ornament_sizes(frmMain & main, const location & cells)
+ornaments worn_in_cell(const frmMain & main, int rotation)
 {
-    apply_frame_size(main, cells.frame);
-    apply_shadow_size(main, cells.shadow);
-    if (!main.in_preview)
-        return;
-    main.run.frame_size = narrow(bounded_in_preview(main.run.frame_size));
-    main.run.shadow_size = narrow(bounded_in_preview(main.run.shadow_size));
+    ornaments worn = worn_at(main, main.design_locations[1], rotation);
+    if (main.in_preview) {
+        worn.frame = bounded_in_preview(worn.frame);
+        worn.shadow = bounded_in_preview(worn.shadow);
+    }
+    return worn;
 }
 
 void next_in_table(frmMain & main, grid_walk & walk)
@@ -156,28 +155,18 @@ bool is_last(const grid_walk & walk, grid_position at, cell_span span)
            grid_ends(walk.layer, at.row + 1, walk.limits);
 }
 
-void draw_tilted(frmMain & main, grid_walk & walk, bitmap image, const cell_area & area, int rotation)
-{
-    draw_rotated_photo(main, std::move(image), area.width, area.height, area.top, area.left, rotation,
-                       fitting::to_fit);
-    if (walk.saved)
-        walk.saved->write_line(matrix_line(area, rotation, main.run.collage_margin));
-}
-
 void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo photo, const shaken & by)
 {
+    photo_place place{.area = {}, .rotation = by.rotation, .worn = worn_in_cell(main, by.rotation)};
     if (main.chkCaption.ticked()) {
-        const cell_area card = upright_area(walk.layer, at, photo.span);
-        draw_captioned_photo(main, photo.image, card.width, card.height, card.top, card.left, by.rotation);
+        place.area = upright_area(walk.layer, at, photo.span);
+        lay_card(main, photo.image, place);
         return;
     }
-    const cell_area area = photo_area(walk.layer, at, photo.span, by);
-    if (by.rotation != 0) {
-        draw_tilted(main, walk, std::move(photo.image), area, by.rotation);
-        return;
-    }
-    main.run.shape_color = 0;
-    draw_photo(main, photo.image, area.width, area.height, area.top, area.left);
+    place.area = photo_area(walk.layer, at, photo.span, by);
+    lay_photo(main, std::move(photo.image), place);
+    if (walk.saved && by.rotation != 0)
+        walk.saved->write_line(matrix_line(place.area, by.rotation, main.run.collage_margin));
 }
 
 // False for a photo that turns out too long for the cell: it is left out of the run.
@@ -221,7 +210,6 @@ int fill_cell(frmMain & main, grid_walk & walk, grid_position at, row_lean & lea
     show_image_number(main);
     main.desk.pump();
     main.run.image_number = narrow(main.run.image_number + 1);
-    set_ornament_sizes(main, main.design_locations[1]);
     const cell_span span = put_photo(main, walk, at, lean);
     ++walk.cell;
     next_in_table(main, walk);

@@ -1,8 +1,7 @@
 #include "engine/flurn_driver.h"
-#include "engine/photo/draw_captioned_photo.h"
-#include "engine/photo/draw_photo.h"
-#include "engine/photo/draw_rotated_photo.h"
+#include "engine/layout/worn_ornaments.h"
 #include "engine/photo/fixed_picture.h"
+#include "engine/photo/lay_photo.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/photo/pick_matching.h"
 #include "engine/placement_loops.h"
@@ -119,26 +118,25 @@ void read_upcoming(frmMain & main, int from, int photo)
         read_ahead(main, main.table[*next]);
 }
 
-void draw_upright(frmMain & main, const location & place, const picked_picture & picked_one, int & photo)
+// The place as it is to be drawn. Only a shape has a mask and a colour.
+photo_place drawn_place(const frmMain & main, const location & place)
 {
-    main.run.shape_color = is_shape(place) ? place.spare : int16{0};
-    draw_photo(main, picked_one.image, place.width, place.height, place.top, place.left);
-    if (main.run.shape_color != 0 && picked_one.moved_on)
-        --photo;
+    return {.area = {.left = place.left, .top = place.top, .width = place.width, .height = place.height},
+            .rotation = place.rotation,
+            .worn = worn_at(main, place, place.rotation),
+            .mask = place.file,
+            .shape_color = is_shape(place) ? place.spare : 0};
 }
 
 void draw_place(frmMain & main, const location & place, picked_picture picked_one, int & photo)
 {
-    apply_frame_size(main, place.frame);
-    apply_shadow_size(main, place.shadow);
+    const photo_place at = drawn_place(main, place);
     if (main.chkCaption.ticked())
-        draw_captioned_photo(main, picked_one.image, place.width, place.height, place.top, place.left,
-                             place.rotation);
-    else if (place.rotation == 0)
-        draw_upright(main, place, picked_one, photo);
+        lay_card(main, picked_one.image, at);
     else
-        draw_rotated_photo(main, std::move(picked_one.image), place.width, place.height, place.top,
-                           place.left, place.rotation, fitting::to_fit);
+        lay_photo(main, std::move(picked_one.image), at);
+    if (is_painted(main, place) && picked_one.moved_on)
+        --photo;
 }
 
 // False for a photo that turns out too long for the place: it is left out of the run.
@@ -180,7 +178,6 @@ void place_loop(frmMain & main)
     int photo = 0;
     for (int i = 0; i <= table.count && !main.run.cancel_requested; ++i) {
         show_image_number(main);
-        main.run.current_shape = table[i].file;
         main.desk.pump();
         if (!is_fixed(table[i]))
             main.run.image_number = narrow(main.run.image_number + 1);

@@ -18,15 +18,12 @@ struct run_state {
     bool cancel_requested = false;
     int16 image_number = 0;                 ///< shown while a run goes on, from 1
     int16 photo_cursor = 0;                 ///< next photo of the grid loop, kept between layers
-    int16 frame_size = 0, shadow_size = 0;  ///< in force for the current photo
-    rgb_triple frame_color, shadow_color;   ///< never pure black: that is the transparent key
+    int16 frame_size = 0, shadow_size = 0;  ///< of the lists when the run began
+    rgb_triple frame_color, shadow_color;   ///< likewise; never pure black: that is the transparent key
     bool match_active = false;
     int16 next_portrait = 0, next_landscape = 0;  ///< cursors of the orientation matching
     int16 evolve_portrait_wraps = 0, evolve_landscape_wraps = 0;
-    int16 shape_color = 0;                        ///< colour code of the shape being drawn; 0: a photo
-    int16 current_width = 0, current_height = 0;  ///< of the location being drawn
-    std::string current_shape;                    ///< mask of the location being drawn
-    mask_shelf masks;                             ///< outlives the run: a preview uses the same again
+    mask_shelf masks;  ///< outlives the run: a preview uses the same again
     photo_ahead ahead;
     int16 first_cell_height = 0, first_cell_width = 0;  ///< in a grid its rows and columns
     int16 caption_height = 0;                           ///< pixels, of the prepared caption

@@ -4,7 +4,7 @@
 #include "support/platform_error.h"
 
 #include <FreeImage.h>
-#include <cstring>
+#include <algorithm>
 
 namespace {
 
@@ -29,10 +29,9 @@ bitmap made(FIBITMAP * result)
 bool is_grey(const bitmap & image)
 {
     for (int y = 0; y < image.height(); ++y) {
-        const std::span<const std::uint8_t> row = image.row(y);
-        for (std::size_t at = 0; at + 2 < row.size(); at += pixel_bytes)
-            if (row[at] != row[at + 1] || row[at] != row[at + 2])
-                return false;
+        const auto is_colored = [](pixel each) { return each.blue != each.green || each.blue != each.red; };
+        if (std::ranges::any_of(image.row(y), is_colored))
+            return false;
     }
     return true;
 }
@@ -91,14 +90,26 @@ int bitmap::height() const
     return handle ? narrow(FreeImage_GetHeight(handle.get())) : 0;
 }
 
-std::span<std::uint8_t> bitmap::row(int y)
+std::span<std::uint8_t> channels(std::span<pixel> row)
 {
-    return {FreeImage_GetScanLine(handle.get(), y), static_cast<std::size_t>(width()) * pixel_bytes};
+    return {reinterpret_cast<std::uint8_t *>(row.data()), row.size_bytes()};
 }
 
-std::span<const std::uint8_t> bitmap::row(int y) const
+std::span<const std::uint8_t> channels(std::span<const pixel> row)
 {
-    return {FreeImage_GetScanLine(handle.get(), y), static_cast<std::size_t>(width()) * pixel_bytes};
+    return {reinterpret_cast<const std::uint8_t *>(row.data()), row.size_bytes()};
+}
+
+std::span<pixel> bitmap::row(int y)
+{
+    return {reinterpret_cast<pixel *>(FreeImage_GetScanLine(handle.get(), y)),
+            static_cast<std::size_t>(width())};
+}
+
+std::span<const pixel> bitmap::row(int y) const
+{
+    return {reinterpret_cast<const pixel *>(FreeImage_GetScanLine(handle.get(), y)),
+            static_cast<std::size_t>(width())};
 }
 
 rgb_triple get_rgb_triple(std::uint32_t color)
@@ -191,31 +202,21 @@ bitmap rotated(const bitmap & image, double degrees)
     return made(FreeImage_Rotate(image.get(), degrees, nullptr));
 }
 
-std::optional<rgb_triple> pixel(const bitmap & image, int x, int y)
+std::optional<rgb_triple> pixel_at(const bitmap & image, int x, int y)
 {
     if (!inside(image, x, y))
         return std::nullopt;
-    const std::uint8_t * bytes = image.row(y).data() + static_cast<std::ptrdiff_t>(x) * pixel_bytes;
-    return rgb_triple{.red = bytes[FI_RGBA_RED], .green = bytes[FI_RGBA_GREEN], .blue = bytes[FI_RGBA_BLUE]};
+    return image.row(y)[static_cast<std::size_t>(x)];
 }
 
 void set_pixel(bitmap & image, int x, int y, rgb_triple color)
 {
-    if (!inside(image, x, y))
-        return;
-    std::uint8_t * bytes = image.row(y).data() + static_cast<std::ptrdiff_t>(x) * pixel_bytes;
-    bytes[FI_RGBA_RED] = color.red;
-    bytes[FI_RGBA_GREEN] = color.green;
-    bytes[FI_RGBA_BLUE] = color.blue;
+    if (inside(image, x, y))
+        image.row(y)[static_cast<std::size_t>(x)] = color;
 }
 
 void fill(bitmap & image, rgb_triple color)
 {
-    if (!image)
-        return;
-    for (int x = 0; x < image.width(); ++x)
-        set_pixel(image, x, 0, color);
-    const std::span<const std::uint8_t> first = image.row(0);
-    for (int y = 1; y < image.height(); ++y)
-        std::memcpy(image.row(y).data(), first.data(), first.size());
+    for (int y = 0; y < image.height(); ++y)
+        std::ranges::fill(image.row(y), pixel(color));
 }

@@ -11,9 +11,9 @@
 struct FIBITMAP;
 
 /// The thin binding to the image library: the one file that knows it. Bitmaps have 24 bits a pixel, always:
-/// whatever is loaded is turned into that at once. Row 0 is the **bottom** row in `row`, `pixel` and
-/// `set_pixel`; `copied` and `paste` count from the **top**. Both are the library's own conventions. Library
-/// messages are dropped.
+/// whatever is loaded is turned into that at once. Row 0 is the **bottom** row in `row`, `pixel_at`
+/// and `set_pixel`; `copied` and `paste` count from the **top**. Both are the library's own conventions.
+/// Library messages are dropped.
 
 /// A colour in the order in which the session holds it.
 struct rgb_triple {
@@ -23,6 +23,20 @@ struct rgb_triple {
 
 /// A colour as screen controls hold it, red in the low byte, then green, then blue; higher bytes are ignored.
 rgb_triple get_rgb_triple(std::uint32_t color);
+
+/// A pixel as it lies in a bitmap's memory.
+struct pixel {
+    std::uint8_t blue = 0, green = 0, red = 0;
+
+    constexpr pixel() = default;
+    constexpr pixel(rgb_triple color) : blue(color.blue), green(color.green), red(color.red) {}
+    constexpr operator rgb_triple() const { return {.red = red, .green = green, .blue = blue}; }
+};
+static_assert(sizeof(pixel) == 3);
+
+/// The bytes of a row, one after the other: for loops to which the three channels are alike.
+std::span<std::uint8_t> channels(std::span<pixel> row);
+std::span<const std::uint8_t> channels(std::span<const pixel> row);
 
 /// A bitmap of 24 bits a pixel, or none: a load that failed gives an empty one. Owns its memory.
 class bitmap {
@@ -36,10 +50,9 @@ public:
     int width() const;
     int height() const;
 
-    /// The pixels of a row, bottom row first, three bytes each in the order blue, green, red. The row has to
-    /// exist.
-    std::span<std::uint8_t> row(int y);
-    std::span<const std::uint8_t> row(int y) const;
+    /// The pixels of a row, bottom row first. The row has to exist.
+    std::span<pixel> row(int y);
+    std::span<const pixel> row(int y) const;
 
     /// For the binding's own functions.
     explicit bitmap(FIBITMAP * owned);
@@ -51,9 +64,6 @@ private:
     };
     std::unique_ptr<FIBITMAP, unloader> handle;
 };
-
-/// Bytes a pixel takes in a row.
-inline constexpr int pixel_bytes = 3;
 
 /// The library's own codes, as far as the system passes them.
 enum class picture_format { bmp = 0, ico = 1, jpeg = 2, png = 13, tiff = 18, gif = 25 };
@@ -108,7 +118,7 @@ bool paste(bitmap & target, const bitmap & source, int left, int top, int alpha)
 bitmap rotated(const bitmap & image, double degrees);
 
 /// A pixel, row 0 at the bottom; nothing outside the bitmap.
-std::optional<rgb_triple> pixel(const bitmap & image, int x, int y);
+std::optional<rgb_triple> pixel_at(const bitmap & image, int x, int y);
 
 /// Sets a pixel, row 0 at the bottom; outside the bitmap nothing happens.
 void set_pixel(bitmap & image, int x, int y, rgb_triple color);

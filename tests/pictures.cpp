@@ -15,7 +15,7 @@ bitmap noise(int width, int height)
     bitmap image(width, height);
     std::uint32_t state = 1;
     for (int y = 0; y < height; ++y)
-        for (std::uint8_t & byte : image.row(y)) {
+        for (std::uint8_t & byte : channels(image.row(y))) {
             state = state * 1664525 + 1013904223;
             byte = static_cast<std::uint8_t>(state >> 24);
         }
@@ -32,7 +32,7 @@ bitmap graded(int width, int height)
 
 rgb_triple seen(const bitmap & image, int x, int y)
 {
-    const std::optional<rgb_triple> found = pixel(image, x, image.height() - 1 - y);
+    const std::optional<rgb_triple> found = pixel_at(image, x, image.height() - 1 - y);
     EXPECT_TRUE(found) << "no pixel at " << x << ", " << y << " in " << image.width() << " by "
                        << image.height();
     return found.value_or(rgb_triple{});
@@ -43,7 +43,7 @@ bool same(const bitmap & left, const bitmap & right)
     if (left.width() != right.width() || left.height() != right.height())
         return false;
     for (int y = 0; y < left.height(); ++y)
-        if (!std::ranges::equal(left.row(y), right.row(y)))
+        if (!std::ranges::equal(channels(left.row(y)), channels(right.row(y))))
             return false;
     return true;
 }

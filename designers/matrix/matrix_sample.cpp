@@ -46,7 +46,7 @@ std::vector<sample_piece> grid_pieces(const matrix_choices & choices, const grid
             const shake & by = shake_table.at(pieces.size() % shake_table.size());
             const shaken cell =
                 shaken_cell(layer, at, span, by, {.resize = choices.resize, .rotate = choices.rotate}, lean);
-            const cell_area area = photo_area(layer, at, span, cell);
+            const rectangle area = photo_area(layer, at, span, cell);
             pieces.push_back({.top = area.top,
                               .left = area.left,
                               .height = area.height,
@@ -150,12 +150,8 @@ void paint_piece(bitmap & sample, const sample_piece & piece, int divisor)
         const auto row = sample.row(sample.height() - 1 - y);
         for (int x = left; x < right; ++x) {
             const point middle{.x = (x + 0.5) * divisor, .y = (y + 0.5) * divisor};
-            if (const auto color = piece_color(piece, back(middle), divisor)) {
-                const std::size_t first = static_cast<std::size_t>(x) * pixel_bytes;
-                row[first] = color->blue;
-                row[first + 1] = color->green;
-                row[first + 2] = color->red;
-            }
+            if (const auto color = piece_color(piece, back(middle), divisor))
+                row[static_cast<std::size_t>(x)] = *color;
         }
     }
 }

@@ -1,6 +1,6 @@
 #include "desktop/binder/picture_view.h"
 
-#include "support/MFreeImage.h"
+#include "desktop/qt_picture.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -41,16 +41,6 @@ QImage picture_of(const std::string & path, double density)
     return dense;
 }
 
-// Files that the toolkit can't read, but the image library can.
-QImage from_library(const std::string & path)
-{
-    const bitmap loaded = load_picture(picture_format::tiff, path);
-    QImage image(loaded.width(), loaded.height(), QImage::Format_BGR888);
-    for (int y = 0; y < image.height(); ++y)
-        std::ranges::copy(loaded.row(loaded.height() - 1 - y), image.scanLine(y));
-    return image;
-}
-
 // A photo of any size, read as small as it is shown.
 QImage small_picture(const std::string & path, const QSize & size)
 {
@@ -60,7 +50,8 @@ QImage small_picture(const std::string & path, const QSize & size)
     reader.setAutoTransform(false);
     reader.setScaledSize(size);
     const QImage image = reader.read();
-    return image.isNull() ? from_library(path) : image;
+    // There are files that the toolkit can't read, but the image library can.
+    return image.isNull() ? image_of(load_picture(picture_format::tiff, path)) : image;
 }
 
 std::optional<picture_key> direction_of(int pressed)

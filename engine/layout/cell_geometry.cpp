@@ -119,18 +119,18 @@ shaken shaken_cell(const grid & layer, grid_position at, cell_span span, const s
     return cell;
 }
 
-cell_area upright_area(const grid & layer, grid_position at, cell_span span)
+rectangle upright_area(const grid & layer, grid_position at, cell_span span)
 {
     const int doubled = 2 * layer.cell_width + layer.column_gap;
-    return {.top = top_of(layer, at.row),
-            .left = left_of(layer, at.column),
-            .height = layer.cell_height,
-            .width = span == cell_span::twice ? narrow(doubled) : layer.cell_width};
+    return {.left = left_of(layer, at.column),
+            .top = top_of(layer, at.row),
+            .width = span == cell_span::twice ? narrow(doubled) : layer.cell_width,
+            .height = layer.cell_height};
 }
 
-cell_area photo_area(const grid & layer, grid_position at, cell_span span, const shaken & by)
+rectangle photo_area(const grid & layer, grid_position at, cell_span span, const shaken & by)
 {
-    cell_area area = upright_area(layer, at, span);
+    rectangle area = upright_area(layer, at, span);
     area.height = nearest16(layer.cell_height * by.scale);
     if (span == cell_span::single)
         area.width = nearest16(layer.cell_width * by.scale);
@@ -146,7 +146,7 @@ cell_area photo_area(const grid & layer, grid_position at, cell_span span, const
     return area;
 }
 
-std::string matrix_line(const cell_area & area, int rotation, int margin)
+std::string matrix_line(const rectangle & area, int rotation, int margin)
 {
     std::string line;
     for (const int number : {area.top - margin, area.left - margin, area.height, area.width})

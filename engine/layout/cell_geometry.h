@@ -2,6 +2,7 @@
 
 #include "designs/templates/location.h"
 #include "engine/layout/shake_table.h"
+#include "support/rectangle.h"
 
 /// Where the cells of a grid layer stand. Pixels of the canvas, y down; positions, areas and shifts raise
 /// overflow (6) where they leave 16 bits.
@@ -60,16 +61,11 @@ struct shaken {
 shaken shaken_cell(const grid & layer, grid_position at, cell_span span, const shake & by,
                    shake_switches allowed, row_lean & lean);
 
-struct cell_area {
-    int top = 0, left = 0, height = 0, width = 0;
-    bool operator==(const cell_area &) const = default;
-};
-
 /// The cell as it stands, unshaken: what a captioned card fills.
-cell_area upright_area(const grid & layer, grid_position at, cell_span span);
+rectangle upright_area(const grid & layer, grid_position at, cell_span span);
 
 /// The area that the photo is fitted to.
-cell_area photo_area(const grid & layer, grid_position at, cell_span span, const shaken & by);
+rectangle photo_area(const grid & layer, grid_position at, cell_span span, const shaken & by);
 
 /// The photo as a location line of a template, for designs made of a shaken grid; `margin` is the bleed.
-std::string matrix_line(const cell_area & area, int rotation, int margin);
+std::string matrix_line(const rectangle & area, int rotation, int margin);

@@ -9,14 +9,24 @@ constexpr double writing_part = 5;  ///< a fifth of an upright card
 
 }  // namespace
 
-card_layout laid_out_card(int width, int height)
+rectangle photo_on_card(int width, int height)
 {
     if (width > height) {
         const int margin = nearest(height / margins_in_short_side);
-        return {.margin = margin, .width = width - 6 * margin, .height = height - 2 * margin};
+        return {.left = margin, .top = margin, .width = width - 6 * margin, .height = height - 2 * margin};
     }
     const int margin = nearest(width / margins_in_short_side);
-    return {.margin = margin,
+    return {.left = margin,
+            .top = margin,
             .width = width - 2 * margin,
             .height = nearest(height - (height / writing_part + 2 * margin))};
+}
+
+bitmap captioned_card(picture_size size, const bitmap & photo, rgb_triple color)
+{
+    bitmap card(size.width, size.height);
+    fill(card, color);
+    const rectangle place = photo_on_card(size.width, size.height);
+    paste(card, photo, place.left, place.top, plain_copy);
+    return card;
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-/// Where the photo stands on a caption card, in pixels; `margin` is its distance from the card's left and
-/// top.
-struct card_layout {
-    int margin = 0;
-    int width = 0, height = 0;
-    bool operator==(const card_layout &) const = default;
-};
+#include "support/MFreeImage.h"
+#include "support/rectangle.h"
 
-/// The room for writing is below the photo, on a card that is wider than high at its right.
-card_layout laid_out_card(int width, int height);
+/// Caption cards: a photo with room for writing beside it.
+
+/// Where the photo stands on a card of that size, in pixels. The room for writing is below the photo, on a
+/// card that is wider than high at its right.
+rectangle photo_on_card(int width, int height);
+
+/// A card of that size and colour with the photo, fitted, in its place.
+bitmap captioned_card(picture_size size, const bitmap & photo, rgb_triple color);

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 
 namespace {
 
@@ -20,8 +19,8 @@ struct corner_cut {
         const int canvas_y = bottom_row + y;
         if (y < 0 || y >= photo.height() || canvas_y < 0 || canvas_y >= canvas.height())
             return;
-        const std::span<std::uint8_t> to = photo.row(y);
-        const std::span<const std::uint8_t> from = canvas.row(canvas_y);
+        const std::span<pixel> to = photo.row(y);
+        const std::span<const pixel> from = canvas.row(canvas_y);
         for (std::size_t i = 0; i < table.size(); ++i) {
             if (table[i] < depth)
                 continue;
@@ -30,28 +29,24 @@ struct corner_cut {
         }
     }
 
-    void restore(std::span<std::uint8_t> to, std::span<const std::uint8_t> from, int x) const
+    void restore(std::span<pixel> to, std::span<const pixel> from, int x) const
     {
-        const std::ptrdiff_t to_byte = static_cast<std::ptrdiff_t>(x) * pixel_bytes;
-        const std::ptrdiff_t from_byte = static_cast<std::ptrdiff_t>(left + x) * pixel_bytes;
-        if (to_byte < 0 || from_byte < 0 || to_byte >= std::ssize(to) || from_byte >= std::ssize(from))
-            return;
-        std::memcpy(&to[static_cast<std::size_t>(to_byte)], &from[static_cast<std::size_t>(from_byte)],
-                    pixel_bytes);
+        if (x >= 0 && left + x >= 0 && x < std::ssize(to) && left + x < std::ssize(from))
+            to[static_cast<std::size_t>(x)] = from[static_cast<std::size_t>(left + x)];
     }
 };
 
 }  // namespace
 
-void cut_corners(bitmap & photo, const bitmap & canvas, int width, int height, int left, int bottom_row)
+void cut_corners(bitmap & photo, const bitmap & canvas, const rectangle & place)
 {
     if (!photo || !canvas)
         return;
-    const std::span<const std::uint8_t> table = corner_table(std::min(width, height));
-    const corner_cut cut{photo, canvas, left, bottom_row};
+    const std::span<const std::uint8_t> table = corner_table(std::min(place.width, place.height));
+    const corner_cut cut{photo, canvas, place.left, canvas.height() - place.bottom()};
     const std::uint8_t deepest = *std::ranges::max_element(table);
     for (std::size_t depth = 0; depth <= deepest; ++depth) {
-        cut.cut_row(static_cast<int>(depth), depth, table, width);
-        cut.cut_row(height - static_cast<int>(depth), depth, table, width);
+        cut.cut_row(static_cast<int>(depth), depth, table, place.width);
+        cut.cut_row(place.height - static_cast<int>(depth), depth, table, place.width);
     }
 }

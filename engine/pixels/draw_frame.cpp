@@ -9,26 +9,18 @@ constexpr int steep_rotation = 10;
 
 }  // namespace
 
-bool rounded_photos(const frmMain & main)
+void draw_frame(bitmap & target, const rectangle & photo, const ornaments & worn, int rotation)
 {
-    return main.chkRounded.visible() && main.chkRounded.enabled() && main.chkRounded.ticked();
-}
-
-void draw_frame(const frmMain & main, bitmap & target, int & left, int & row, int height, int width,
-                int rotation)
-{
-    if (main.run.frame_size == 0 || rounded_photos(main))
+    if (worn.frame == 0 || worn.corners == photo_corners::rounded)
         return;
     // All bounds are inclusive, so a band is one line wider than this.
-    const int wide = main.run.frame_size - (rotation < steep_rotation && !main.in_preview ? 1 : 0);
-    const int high = row + wide + height;
-    const int right = left + width + wide;
-    --left;
-    --row;
-    const int outer_left = left - wide, low = row - wide;
-    const rgb_triple color = main.run.frame_color;
-    fill_bounds(target, {.left = outer_left, .right = right, .low = low, .high = row}, color);
-    fill_bounds(target, {.left = outer_left, .right = left, .low = low, .high = high}, color);
-    fill_bounds(target, {.left = left + width + 1, .right = right, .low = low, .high = high}, color);
+    const int wide = worn.frame - (rotation < steep_rotation && worn.size == run_size::full ? 1 : 0);
+    const int row = target.height() - photo.bottom();
+    const int outer_left = photo.left - 1 - wide, right = photo.right() + wide;
+    const int low = row - 1 - wide, high = row + photo.height + wide;
+    const rgb_triple color = worn.frame_color;
+    fill_bounds(target, {.left = outer_left, .right = right, .low = low, .high = row - 1}, color);
+    fill_bounds(target, {.left = outer_left, .right = photo.left - 1, .low = low, .high = high}, color);
+    fill_bounds(target, {.left = photo.right(), .right = right, .low = low, .high = high}, color);
     fill_bounds(target, {.left = outer_left, .right = right, .low = high - wide, .high = high}, color);
 }

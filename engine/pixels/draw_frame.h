@@ -1,11 +1,8 @@
 #pragma once
 
-#include "session/frmMain.h"
+#include "engine/pixels/ornaments.h"
+#include "support/rectangle.h"
 
-/// Four bands of the frame colour around a photo that stands at column `left` and, counted from the bottom of
-/// `target`, at row `row`. Lowers `left` and `row` by 1. Nothing without a frame size or with rounded photos.
-void draw_frame(const frmMain & main, bitmap & target, int & left, int & row, int height, int width,
-                int rotation);
-
-/// True when photos are drawn with round corners: the box is visible, enabled and ticked by its own flags.
-bool rounded_photos(const frmMain & main);
+/// Four bands of the frame colour around the photo that stands at `photo` of the target and is turned by so
+/// many degrees afterwards. Nothing without a frame size and for rounded photos.
+void draw_frame(bitmap & target, const rectangle & photo, const ornaments & worn, int rotation);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "session/frmMain.h"
+#include "engine/pixels/ornaments.h"
+#include "support/rectangle.h"
 
-/// Two fading bands, right of and below the photo at (`left`, `top`) and its frame. `left` is the one that
-/// draw_frame lowered. Nothing below a shadow size of 1 or with rounded photos.
-void draw_shadow(const frmMain & main, bitmap & target, int left, int top, int height, int width,
-                 int rotation);
+/// Two fading bands, right of and below the photo and its frame. Nothing below a shadow size of 1 and for
+/// rounded photos.
+void draw_shadow(bitmap & target, const rectangle & photo, const ornaments & worn);

@@ -4,19 +4,22 @@
 
 namespace {
 
+constexpr std::ptrdiff_t pixel_size = sizeof(pixel);
+
 marked_pixel mark_at(const marked_picture & picture, int x, int y)
 {
     if (picture.marks == nullptr)
         return static_cast<marked_pixel>(full_mark) << 24;
     const rgb_triple color =
-        pixel(*picture.marks, x - picture.marked.left, y - picture.marked.low).value_or(rgb_triple{});
+        pixel_at(*picture.marks, x - picture.marked.left, y - picture.marked.low).value_or(rgb_triple{});
     const int level = std::max({color.red, color.green, color.blue});
     return static_cast<marked_pixel>(level * 255 / 256) << 24;
 }
 
-marked_pixel color_at(const std::uint8_t * bytes)
+marked_pixel unmarked(pixel color)
 {
-    return bytes[0] | static_cast<marked_pixel>(bytes[1]) << 8 | static_cast<marked_pixel>(bytes[2]) << 16;
+    return color.blue | static_cast<marked_pixel>(color.green) << 8 |
+           static_cast<marked_pixel>(color.red) << 16;
 }
 
 /// The steps of one coordinate that fall into `low` to `high`, exclusive.
@@ -49,11 +52,14 @@ void read_walk(const marked_picture & picture, const pixel_walk & walk, marked_p
     const column_span known = steps_inside(walk, common(whole, here));
     if (known.first < known.last) {
         const int x = walk.x + known.first * walk.step_x, y = walk.y + known.first * walk.step_y;
-        const std::uint8_t * bytes = part.row(y - picture.low).data() + (x - picture.left) * pixel_bytes;
-        const std::ptrdiff_t pitch = part.height() > 1 ? part.row(1).data() - part.row(0).data() : 0;
-        const std::ptrdiff_t step = walk.step_x * pixel_bytes + walk.step_y * pitch;
+        // A row may end in bytes that are no pixel: along a column the step is in bytes.
+        const std::uint8_t * bytes =
+            channels(part.row(y - picture.low)).data() + (x - picture.left) * pixel_size;
+        const std::ptrdiff_t pitch =
+            part.height() > 1 ? channels(part.row(1)).data() - channels(part.row(0)).data() : 0;
+        const std::ptrdiff_t step = walk.step_x * pixel_size + walk.step_y * pitch;
         for (int i = known.first; i < known.last; ++i)
-            into[i] = color_at(bytes + (i - known.first) * step);
+            into[i] = unmarked(*reinterpret_cast<const pixel *>(bytes + (i - known.first) * step));
     }
     const column_span marked = steps_inside(walk, common(whole, picture.marked));
     for (int i = marked.first; i < marked.last; ++i)

@@ -26,25 +26,12 @@ std::uint8_t lightened(std::uint8_t channel)
     return static_cast<std::uint8_t>(channel > brightest ? almost_white : channel + lightening);
 }
 
-rgb_triple color_at(const std::uint8_t * bytes)
-{
-    return {.red = bytes[2], .green = bytes[1], .blue = bytes[0]};
-}
-
-void put(std::uint8_t * bytes, rgb_triple color)
-{
-    bytes[0] = color.blue;
-    bytes[1] = color.green;
-    bytes[2] = color.red;
-}
-
 /// Tells the parts of a mask pixel by pixel. Most pixels are like the one before, so that is asked first.
 class part_teller {
 public:
     explicit part_teller(rgb_triple ground_color) : ground(ground_color), last(ground_color) {}
-    mask_part operator()(const std::uint8_t * bytes)
+    mask_part operator()(rgb_triple seen)
     {
-        const rgb_triple seen = color_at(bytes);
         if (seen != last) {
             last = seen;
             part = part_of_mask(seen, ground);
@@ -57,37 +44,35 @@ private:
     mask_part part = part_of_mask(ground, ground);
 };
 
-/// Walks the part of the mask that lies on the canvas; `colors_of(y)` gives, for a row of the mask, what
+/// Walks the part of the mask that lies on the canvas; `color_of(y)` gives, for a row of the mask, what
 /// gives the colour of a pixel that is neither ground nor key.
-template <typename Colors>
-void paint(bitmap & canvas, const bitmap & mask, int column, int row, Colors colors_of)
+template <typename Color>
+void paint(bitmap & canvas, const bitmap & mask, mask_spot at, Color color_of)
 {
     if (!canvas || !mask)
         return;
-    part_teller part_at(color_at(mask.row(0).data()));
-    const int first_x = std::max(0, -column), end_x = std::min(mask.width(), canvas.width() - column);
-    const int first_y = std::max(0, -row), end_y = std::min(mask.height(), canvas.height() - row);
+    part_teller part_at(mask.row(0).front());
+    const int first_x = std::max(0, -at.column), end_x = std::min(mask.width(), canvas.width() - at.column);
+    const int first_y = std::max(0, -at.row), end_y = std::min(mask.height(), canvas.height() - at.row);
     for (int y = first_y; y < end_y; ++y) {
-        const std::uint8_t * from = mask.row(y).data();
-        std::uint8_t * to = canvas.row(row + y).data() + static_cast<std::ptrdiff_t>(column) * pixel_bytes;
-        const auto color = colors_of(y);
-        for (int x = first_x; x < end_x; ++x) {
-            const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(x) * pixel_bytes;
-            switch (const mask_part part = part_at(from + at)) {
+        const pixel * from = mask.row(y).data();
+        pixel * to = canvas.row(at.row + y).data() + at.column;
+        const auto color = color_of(y);
+        for (int x = first_x; x < end_x; ++x)
+            switch (const mask_part part = part_at(from[x])) {
                 case mask_part::ground:
                     break;
                 case mask_part::white_key:
-                    put(to + at, white);
+                    to[x] = white;
                     break;
                 case mask_part::black_key:
-                    put(to + at, black);
+                    to[x] = black;
                     break;
                 case mask_part::inside:
                 case mask_part::border:
-                    put(to + at, color(part, at));
+                    to[x] = color(part, x);
                     break;
             }
-        }
     }
 }
 
@@ -119,21 +104,18 @@ rgb_triple border_color(rgb_triple photo, shape_border drawn)
     return {lightened(photo.red), lightened(photo.green), lightened(photo.blue)};
 }
 
-void paint_mask(bitmap & canvas, const bitmap & mask, rgb_triple color, int column, int row)
+void paint_mask(bitmap & canvas, const bitmap & mask, rgb_triple color, mask_spot at)
 {
-    paint(canvas, mask, column, row,
-          [color](int) { return [color](mask_part, std::ptrdiff_t) { return color; }; });
+    paint(canvas, mask, at, [color](int) { return [color](mask_part, int) { return color; }; });
 }
 
-void paint_mask(bitmap & canvas, const bitmap & mask, const bitmap & photo, shape_border drawn, int column,
-                int row)
+void paint_mask(bitmap & canvas, const bitmap & mask, const bitmap & photo, shape_border drawn, mask_spot at)
 {
     if (photo.width() < mask.width() || photo.height() < mask.height())
         return;
-    paint(canvas, mask, column, row, [&photo, drawn](int y) {
-        return [from = photo.row(y).data(), drawn](mask_part part, std::ptrdiff_t at) {
-            const rgb_triple color = color_at(from + at);
-            return part == mask_part::inside ? color : border_color(color, drawn);
+    paint(canvas, mask, at, [&photo, drawn](int y) {
+        return [from = photo.row(y).data(), drawn](mask_part part, int x) -> rgb_triple {
+            return part == mask_part::inside ? rgb_triple(from[x]) : border_color(from[x], drawn);
         };
     });
 }

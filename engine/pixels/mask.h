@@ -19,10 +19,13 @@ enum class shape_border { lightened, outlined };
 /// A photo's pixel on the soft border of a mask: lightened, the brightest almost to white, or black.
 rgb_triple border_color(rgb_triple photo, shape_border drawn);
 
-/// Paints the mask with one colour, its bottom left pixel at (`column`, `row`) of the canvas, row 0 at the
-/// bottom. What lies outside the canvas is ignored.
-void paint_mask(bitmap & canvas, const bitmap & mask, rgb_triple color, int column, int row);
+/// The canvas pixel on which a mask's bottom left one lies, row 0 at the bottom.
+struct mask_spot {
+    int column = 0, row = 0;
+};
+
+/// Paints the mask with one colour. What lies outside the canvas is ignored.
+void paint_mask(bitmap & canvas, const bitmap & mask, rgb_triple color, mask_spot at);
 
 /// The same with a photo of the mask's size.
-void paint_mask(bitmap & canvas, const bitmap & mask, const bitmap & photo, shape_border drawn, int column,
-                int row);
+void paint_mask(bitmap & canvas, const bitmap & mask, const bitmap & photo, shape_border drawn, mask_spot at);

@@ -8,7 +8,7 @@ namespace {
 std::size_t bytes_of(const bitmap & mask)
 {
     return mask ? static_cast<std::size_t>(mask.width()) * static_cast<std::size_t>(mask.height()) *
-                      pixel_bytes
+                      static_cast<int>(sizeof(pixel))
                 : 0;
 }
 

@@ -1,8 +1,18 @@
 #pragma once
 
-#include "session/frmMain.h"
+#include "engine/pixels/mask.h"
+#include "support/rectangle.h"
 
-/// Paints the mask named by `main.run.current_shape`, scaled to `size` by `size`, on the canvas at (`left`,
-/// `top`): with the colour of the code 1 to 7, or with `photo` where that is given. A mask that is missing
-/// paints nothing.
-void paste_shape(frmMain & main, int color, const bitmap & photo, int size, int left, int top);
+#include <optional>
+
+/// A shape instead of a rectangle: what a mask cuts out.
+struct shape_paint {
+    const bitmap * mask = nullptr;     ///< of the shape's size; none: nothing is painted
+    std::optional<rgb_triple> fill{};  ///< of a painted shape; none: it shows a photo
+    shape_border border = shape_border::lightened;
+    int column = 0;  ///< of the canvas, on which the mask's left edge lies
+};
+
+/// Paints the shape on the canvas, on the rows of `place`: with its photo where one is given, else in its own
+/// colour.
+void paste_shape(bitmap & canvas, const bitmap & photo, const rectangle & place, const shape_paint & shape);

@@ -1,14 +1,9 @@
 #pragma once
 
 #include "support/MFreeImage.h"
+#include "support/rectangle.h"
 
 /// Rectangles of bitmaps, row by row, without scratch bitmaps.
-
-/// Columns and rows of a bitmap, from the top; right and bottom exclusive.
-struct rectangle {
-    int left = 0, top = 0, right = 0, bottom = 0;
-    bool operator==(const rectangle &) const = default;
-};
 
 /// Columns and rows of a bitmap, row 0 at the **bottom**; all four bounds inclusive.
 struct pixel_bounds {
@@ -22,6 +17,7 @@ void fill_bounds(bitmap & target, const pixel_bounds & bounds, rgb_triple color)
 /// empty or leaves the target.
 void blend_rectangle(bitmap & target, const rectangle & area, rgb_triple color, int alpha);
 
-/// What `copied` and then `paste` do with a part of a photo, `plain_copy` as alpha included: swapped sides
-/// are put in order, and a part that is empty, leaves the source or would leave the target is refused whole.
-void paste_rectangle(bitmap & target, const bitmap & source, rectangle part, int left, int top, int alpha);
+/// What `copied` and then `paste` do with a part of a photo, `plain_copy` as alpha included: a negative width
+/// or height is put in order, and a part that is empty, leaves the source or would leave the target is
+/// refused whole.
+void paste_rectangle(bitmap & target, const bitmap & source, rectangle part, position at, int alpha);

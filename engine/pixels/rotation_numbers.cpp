@@ -71,7 +71,7 @@ int frame_in_rotation(int frame_size, int rotation)
     return std::max(frame_size, 0) - (rotation < 10 ? 1 : 0);
 }
 
-tilted_place evolved(const tilted_place & place, picture_size photo)
+rectangle evolved(const rectangle & place, picture_size photo)
 {
     const bool wide = place.width > place.height;
     const bool across = wide ? photo.height > photo.width : photo.width > photo.height;
@@ -79,10 +79,10 @@ tilted_place evolved(const tilted_place & place, picture_size photo)
         return place;
     const int width = place.height, height = place.width;
     const int side = wide ? 1 : -1;
-    return {.width = width,
-            .height = height,
+    return {.left = nearest16(place.left + side * width / 4.0),
             .top = nearest16(place.top - side * height / 4.0),
-            .left = nearest16(place.left + side * width / 4.0)};
+            .width = width,
+            .height = height};
 }
 
 tilt_sizes tilt_sizes_of(const rotation_numbers & numbers, int rotation)

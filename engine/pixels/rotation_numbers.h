@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/pixels/area_turn.h"
+#include "support/rectangle.h"
 
 #include <array>
 #include <string>
@@ -49,14 +50,9 @@ int frame_in_rotation(int frame_size, int rotation);
 /// Frames that are wider than this in the turned area are drawn round the photo before it is turned.
 inline constexpr int widest_turned_frame = 12;
 
-struct tilted_place {
-    int width = 0, height = 0, top = 0, left = 0;
-    bool operator==(const tilted_place &) const = default;
-};
-
 /// The place turned by a quarter about its middle, roughly, when the photo lies across it. Raises overflow
 /// (6).
-tilted_place evolved(const tilted_place & place, picture_size photo);
+rectangle evolved(const rectangle & place, picture_size photo);
 
 /// The sizes that follow from the numbers.
 struct tilt_sizes {

@@ -68,10 +68,10 @@ int fade(int lost)
 std::vector<shadow_line> right_shadow(const rectangle & framed, int shadow_size)
 {
     std::vector<shadow_line> lines;
-    for (const band_line & line :
-         lines_of(band_along(framed.top, framed.bottom - framed.top, shadow_size, 3))) {
-        const int x = framed.right + line.away;
-        lines.push_back({{x, line.start, x + 1, line.start + line.length}, line.alpha});
+    for (const band_line & line : lines_of(band_along(framed.top, framed.height, shadow_size, 3))) {
+        lines.push_back(
+            {{.left = framed.right() + line.away, .top = line.start, .width = 1, .height = line.length},
+             line.alpha});
     }
     return lines;
 }
@@ -79,10 +79,10 @@ std::vector<shadow_line> right_shadow(const rectangle & framed, int shadow_size)
 std::vector<shadow_line> bottom_shadow(const rectangle & framed, int shadow_size)
 {
     std::vector<shadow_line> lines;
-    for (const band_line & line :
-         lines_of(band_along(framed.left, framed.right - framed.left, shadow_size, 2))) {
-        const int y = framed.bottom + line.away;
-        lines.push_back({{line.start, y, line.start + line.length, y + 1}, line.alpha});
+    for (const band_line & line : lines_of(band_along(framed.left, framed.width, shadow_size, 2))) {
+        lines.push_back(
+            {{.left = line.start, .top = framed.bottom() + line.away, .width = line.length, .height = 1},
+             line.alpha});
     }
     return lines;
 }

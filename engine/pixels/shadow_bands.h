@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/pixels/rectangles.h"
+#include "support/rectangle.h"
 
 #include <vector>
 

@@ -17,20 +17,22 @@ int ring_alpha(const soft_class & edge, int i)
 
 }  // namespace
 
-void soft_edge_paste(bitmap & target, const bitmap & image, int width, int height, int top, int left)
+void soft_edge_paste(bitmap & target, const bitmap & image, const rectangle & place)
 {
-    const soft_class edge = soft_class_of(std::min(width, height));
+    const soft_class edge = soft_class_of(std::min(place.width, place.height));
     const auto part = [&](const rectangle & area, int alpha) {
-        paste_rectangle(target, image, area, left + area.left, top + area.top, alpha);
+        paste_rectangle(target, image, area, {.left = place.left + area.left, .top = place.top + area.top},
+                        alpha);
     };
-    part({edge.feather, edge.feather, width - edge.feather, height - edge.feather}, plain_copy);
+    const rectangle photo{.left = 0, .top = 0, .width = place.width, .height = place.height};
+    part(grown(photo, -edge.feather), plain_copy);
     // Corners of a ring belong to two strips and are pasted twice, which rounds the fading off.
     for (int i = 1; i <= edge.feather; ++i) {
-        const int from = edge.feather - i, right = width - from, bottom = height - from;
+        const rectangle ring = grown(photo, i - edge.feather);
         const int alpha = ring_alpha(edge, i);
-        part({from, from, from + 1, bottom}, alpha);
-        part({from, from, right, from + 1}, alpha);
-        part({right - 1, from, right, bottom}, alpha);
-        part({from, bottom - 1, right, bottom}, alpha);
+        part({.left = ring.left, .top = ring.top, .width = 1, .height = ring.height}, alpha);
+        part({.left = ring.left, .top = ring.top, .width = ring.width, .height = 1}, alpha);
+        part({.left = ring.right() - 1, .top = ring.top, .width = 1, .height = ring.height}, alpha);
+        part({.left = ring.left, .top = ring.bottom() - 1, .width = ring.width, .height = 1}, alpha);
     }
 }

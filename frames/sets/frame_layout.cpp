@@ -20,12 +20,8 @@ void fill_columns(bitmap & frame, int y, span columns, rgb_triple color)
 {
     const int first = std::max(0, columns.first);
     const int last = std::min(frame.width() - 1, columns.last);
-    std::uint8_t * at = frame.row(y).data() + static_cast<std::ptrdiff_t>(first) * pixel_bytes;
-    for (int x = first; x <= last; ++x, at += pixel_bytes) {
-        at[0] = color.blue;
-        at[1] = color.green;
-        at[2] = color.red;
-    }
+    for (int x = first; x <= last; ++x)
+        frame.row(y)[static_cast<std::size_t>(x)] = color;
 }
 
 bitmap ground(const picture_size & size, rgb_triple outside, rgb_triple inside)
@@ -38,10 +34,11 @@ bitmap ground(const picture_size & size, rgb_triple outside, rgb_triple inside)
     return frame;
 }
 
-bool is_key(const std::uint8_t * color, rgb_triple key)
+bool is_key(pixel color, rgb_triple key)
 {
-    return std::abs(color[0] - key.blue) <= key_tolerance &&
-           std::abs(color[1] - key.green) <= key_tolerance && std::abs(color[2] - key.red) <= key_tolerance;
+    return std::abs(color.blue - key.blue) <= key_tolerance &&
+           std::abs(color.green - key.green) <= key_tolerance &&
+           std::abs(color.red - key.red) <= key_tolerance;
 }
 
 bool fits(const caption_band & band, const picture_size & text)
@@ -160,10 +157,10 @@ void lay_icon(bitmap & frame, const bitmap & icon, rgb_triple key)
     const int columns = std::min(icon.width() - left_out_of_icon, frame.width());
     const int rows = std::min(icon.height() - left_out_of_icon, frame.height());
     for (int y = 0; y < rows; ++y) {
-        const std::uint8_t * from = icon.row(y).data();
-        std::uint8_t * to = frame.row(y).data();
-        for (int x = 0; x < columns; ++x, from += pixel_bytes, to += pixel_bytes)
-            if (!is_key(from, key))
-                std::copy_n(from, pixel_bytes, to);
+        const std::span<const pixel> from = icon.row(y);
+        const std::span<pixel> to = frame.row(y);
+        for (std::size_t x = 0; x < static_cast<std::size_t>(std::max(columns, 0)); ++x)
+            if (!is_key(from[x], key))
+                to[x] = from[x];
     }
 }

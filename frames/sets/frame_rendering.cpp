@@ -65,7 +65,7 @@ bitmap portrait_frame(desktop & desk, const frame_look & look, const std::string
     const caption_band band = portrait_band(look.icon_path.empty() ? icon_room::none : icon_room::left);
     paste_caption(frame, drawn_caption(desk, look, caption, band, work_folder), band);
     const bitmap icon = icon_of(look);
-    if (const auto key = pixel(icon, 0, 0))
+    if (const auto key = pixel_at(icon, 0, 0))
         lay_icon(frame, icon, *key);
     return frame;
 }
@@ -81,7 +81,7 @@ bitmap landscape_frame(desktop & desk, const frame_look & look, const std::strin
     const bitmap whole = icon_of(look);
     const bitmap icon =
         rescaled(whole, nearest(whole.width() * icon_part), nearest(whole.height() * icon_part));
-    if (const auto key = pixel(icon, 1, 1))
+    if (const auto key = pixel_at(icon, 1, 1))
         lay_icon(frame, icon, *key);
     return frame;
 }

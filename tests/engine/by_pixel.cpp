@@ -119,7 +119,7 @@ void cut_corners_by_pixel(bitmap & photo, const bitmap & canvas, int width, int 
                           int bottom_row, std::span<const std::uint8_t> table)
 {
     const auto take = [&](int x, int y) {
-        if (const std::optional<rgb_triple> background = pixel(canvas, left + x, bottom_row + y))
+        if (const std::optional<rgb_triple> background = pixel_at(canvas, left + x, bottom_row + y))
             set_pixel(photo, x, y, *background);
     };
     for (int i = 0; i < static_cast<int>(table.size()); ++i)
@@ -137,10 +137,10 @@ void paste_mask_by_pixel(bitmap & canvas, const bitmap & mask, const mask_painti
     const auto brighter = [](int channel) {
         return static_cast<std::uint8_t>(channel > 220 ? 254 : channel + 33);
     };
-    const rgb_triple ground = pixel(mask, 0, 0).value_or(rgb_triple{});
+    const rgb_triple ground = pixel_at(mask, 0, 0).value_or(rgb_triple{});
     for (int i = 0; i < size; ++i)
         for (int j = 0; j < size; ++j) {
-            const auto [r, g, b] = pixel(mask, i, j).value_or(rgb_triple{});
+            const auto [r, g, b] = pixel_at(mask, i, j).value_or(rgb_triple{});
             if (r > 200 && b > 200 && g < 80) {
                 set_pixel(canvas, column + i, row + j, {255, 255, 255});
             } else if (r > 200 && g > 200 && b < 80) {
@@ -151,7 +151,7 @@ void paste_mask_by_pixel(bitmap & canvas, const bitmap & mask, const mask_painti
             } else if (!painting.photo) {
                 set_pixel(canvas, column + i, row + j, painting.fill);
             } else {
-                const rgb_triple seen_there = pixel(painting.photo, i, j).value();
+                const rgb_triple seen_there = pixel_at(painting.photo, i, j).value();
                 if (r <= 40 || g <= 40 || b <= 40)
                     set_pixel(canvas, column + i, row + j, seen_there);
                 else if (painting.outlined)

@@ -153,7 +153,6 @@ TEST(place_loop, a_coloured_shape_uses_no_photo)
     run.add_photo(red);
     run.add_photo(green);
     EXPECT_EQ(run.placed(), "r.g");
-    EXPECT_EQ(run.main.run.current_shape, "");
 }
 
 TEST(place_loop, a_shape_with_a_photo_uses_it)
@@ -268,46 +267,4 @@ TEST(place_loop, captioned_photos_stand_on_cards)
     EXPECT_EQ(run.placed(), "r");
     EXPECT_EQ(letter_at(run.main.run.canvas, 10, 10), 'y');
     EXPECT_EQ(letter_at(run.main.run.canvas, 30, 66), 'y');
-}
-
-TEST(apply_frame_size, reads_the_window)
-{
-    collage_fixture run;
-    run.main.cmbFrame.set_text("12");
-    const auto size_for = [&](int value) {
-        apply_frame_size(run.main, value);
-        return run.main.run.frame_size;
-    };
-    EXPECT_EQ(size_for(-1), 12);
-    EXPECT_EQ(size_for(5), 5);
-    run.main.cmbFrame.enable(false);
-    EXPECT_EQ(size_for(5), 12);
-    run.main.frmHideOrnaments.show(false);
-    EXPECT_EQ(size_for(5), 5);
-    EXPECT_EQ(size_for(-1), 0);
-    run.main.frmHideOrnaments.show(true);
-    run.main.picFrameColor.tag = "False";
-    EXPECT_EQ(size_for(-1), 0);
-    run.main.picFrameColor.tag = "True";
-    run.main.in_preview = true;
-    EXPECT_EQ(size_for(-1), 3);
-}
-
-TEST(apply_shadow_size, reads_the_window_as_the_run_found_it)
-{
-    collage_fixture run;
-    run.main.cmbShadow.set_text("14");
-    const auto size_for = [&](int value) {
-        apply_shadow_size(run.main, value);
-        return run.main.run.shadow_size;
-    };
-    EXPECT_EQ(size_for(5), 0);
-    run.main.enabling.shadow_usable = true;
-    EXPECT_EQ(size_for(5), 5);
-    EXPECT_EQ(size_for(-1), -1);
-    run.main.enabling.shadow_fixed = true;
-    EXPECT_EQ(size_for(-1), 14);
-    EXPECT_EQ(size_for(0), 0);
-    run.main.in_preview = true;
-    EXPECT_EQ(size_for(-1), 4);
 }

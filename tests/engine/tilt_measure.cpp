@@ -1,6 +1,5 @@
 #include "tests/engine/tilt_measure.h"
 
-#include "engine/photo/draw_rotated_photo.h"
 #include "engine/pixels/draw_frame.h"
 #include "engine/pixels/draw_shadow.h"
 #include "tests/pictures.h"
@@ -9,6 +8,8 @@
 #include <numbers>
 
 namespace {
+
+constexpr int channel_count = sizeof(pixel);
 
 // Each channel shows one thing, on a black canvas: green the photo, blue photo and frame, red the shadow.
 constexpr rgb_triple photo_color{.red = 0, .green = 255, .blue = 255};
@@ -51,16 +52,16 @@ four_corners turned_rectangle(const picture_point & corner, const tilted_cell & 
 
 int value(const bitmap & image, int x, int y, channel shown)
 {
-    const int at = x * pixel_bytes + static_cast<int>(shown);
-    return image.row(image.height() - 1 - y)[static_cast<std::size_t>(at)];
+    const int at = x * channel_count + static_cast<int>(shown);
+    return channels(image.row(image.height() - 1 - y))[static_cast<std::size_t>(at)];
 }
 
 double total(const bitmap & image, channel shown)
 {
     double found = 0;
     for (int y = 0; y < image.height(); ++y) {
-        const std::span<const std::uint8_t> row = image.row(y);
-        for (std::size_t i = static_cast<std::size_t>(shown); i < row.size(); i += pixel_bytes)
+        const std::span<const std::uint8_t> row = channels(image.row(y));
+        for (std::size_t i = static_cast<std::size_t>(shown); i < row.size(); i += channel_count)
             found += row[i];
     }
     return found;
@@ -142,13 +143,16 @@ double whole_shadow(tilt_stage & stage, const tilted_cell & cell, bool framed_ea
 {
     const int room = room_of(cell);
     bitmap ground(cell.width + 2 * room, cell.height + 2 * room);
-    int left = room, row = ground.height() - room - cell.height;
+    ornaments worn = stage.worn(cell.rotation);
+    const rectangle photo{.left = room, .top = room, .width = cell.width, .height = cell.height};
     const int border = framed_early ? cell.frame : 0;
     if (framed_early)
-        stage.main.run.frame_size = 0;
-    draw_frame(stage.main, ground, left, row, cell.height, cell.width, cell.rotation);
-    draw_shadow(stage.main, ground, left, room, cell.height + 2 * border, cell.width + 2 * border,
-                cell.rotation);
+        worn.frame = 0;
+    draw_frame(ground, photo, worn, cell.rotation);
+    draw_shadow(
+        ground,
+        {.left = room, .top = room, .width = cell.width + 2 * border, .height = cell.height + 2 * border},
+        worn);
     return total(ground, channel::red);
 }
 
@@ -180,8 +184,9 @@ void draw(tilt_stage & stage, const tilted_cell & cell, staged_tilt & scene)
     stage.main.run.frame_color = frame_color;
     stage.main.run.shadow_color = shadow_color;
     stage.main.run.canvas = std::move(scene.canvas);
-    draw_rotated_photo(stage.main, plain(cell.width, cell.height, photo_color), cell.width, cell.height,
-                       scene.top, scene.left, cell.rotation, fitting::fitted);
+    stage.draw(plain(cell.width, cell.height, photo_color),
+               {.left = scene.left, .top = scene.top, .width = cell.width, .height = cell.height},
+               cell.rotation);
     scene.canvas = std::move(stage.main.run.canvas);
     stage.wear(cell.frame, cell.shadow);
 }
@@ -191,7 +196,7 @@ void stripe(bitmap & canvas)
 {
     for (int y = 0; y < canvas.height(); ++y) {
         int x = y;
-        for (std::uint8_t & byte : canvas.row(y))
+        for (std::uint8_t & byte : channels(canvas.row(y)))
             byte = x++ / 5 % 2 == 0 ? 60 : 200;
     }
 }
@@ -200,9 +205,9 @@ int changed_outside(const bitmap & before, const bitmap & after, const four_corn
 {
     int changed = 0;
     for (int y = 0; y < before.height(); ++y) {
-        const std::span<const std::uint8_t> one = before.row(y), other = after.row(y);
+        const std::span<const std::uint8_t> one = channels(before.row(y)), other = channels(after.row(y));
         for (std::size_t i = 0; i < one.size(); ++i) {
-            const std::size_t x = i / pixel_bytes;
+            const std::size_t x = i / channel_count;
             if (one[i] != other[i] &&
                 !inside(figure, {.x = static_cast<double>(x) + 0.5, .y = before.height() - y - 0.5}, 3.5))
                 ++changed;
@@ -230,7 +235,7 @@ tilt_findings measured(tilt_stage & stage, const tilted_cell & cell)
 {
     staged_tilt scene = staged(cell);
     draw(stage, cell, scene);
-    const int frame = stage.main.run.frame_size, shadow = stage.main.run.shadow_size;
+    const int frame = stage.frame, shadow = stage.shadow;
     // A wide frame is drawn first: then the frame's corner is the one that stays.
     const bool framed_early = frame - (cell.rotation < 10 ? 1 : 0) > 12;
     const double early = framed_early ? cell.frame : 0;

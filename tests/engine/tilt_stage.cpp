@@ -1,5 +1,7 @@
 #include "tests/engine/tilt_stage.h"
 
+#include "engine/layout/worn_ornaments.h"
+#include "engine/photo/lay_photo.h"
 #include "support/files/text_file.h"
 #include "tests/pictures.h"
 
@@ -22,13 +24,27 @@ tilt_stage::tilt_stage() : main(desk, listed({}))
     main.run.shadow_color = {.red = 20, .green = 20, .blue = 30};
 }
 
-void tilt_stage::wear(int frame, int shadow)
+void tilt_stage::wear(int of_list, int of_shadow_list)
 {
-    main.cmbFrame.set_text(std::to_string(frame));
-    main.run.frame_size = narrow(frame);
-    main.run.shadow_size = narrow(shadow);
+    main.cmbFrame.set_text(std::to_string(of_list));
+    frame = of_list;
+    shadow = of_shadow_list;
     if (main.in_preview) {
-        main.run.frame_size = narrow(frame < 1 ? 0 : frame / 6 + 1);
-        main.run.shadow_size = nearest16(shadow / 4.0);
+        frame = of_list < 1 ? 0 : of_list / 6 + 1;
+        shadow = nearest(of_shadow_list / 4.0);
     }
+}
+
+ornaments tilt_stage::worn(int rotation) const
+{
+    ornaments found = worn_by_boxes(main, rotation);
+    found.frame = frame;
+    found.shadow = shadow;
+    return found;
+}
+
+void tilt_stage::draw(const bitmap & photo, const rectangle & area, int rotation)
+{
+    lay_photo(main, copied(photo, 0, 0, photo.width(), photo.height()),
+              {.area = area, .rotation = rotation, .worn = worn(rotation)});
 }

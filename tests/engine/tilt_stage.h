@@ -1,6 +1,8 @@
 #pragma once
 
+#include "engine/pixels/ornaments.h"
 #include "session/frmMain.h"
+#include "support/rectangle.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 
@@ -12,10 +14,15 @@ struct tilt_stage {
     tilt_stage();
     /// Frame and shadow of the photo as the loops would settle them: `cmbFrame` holds the frame of the full
     /// size.
-    void wear(int frame, int shadow);
+    void wear(int of_list, int of_shadow_list);
+
+    /// Puts the photo there, turned, with what it wears.
+    void draw(const bitmap & photo, const rectangle & area, int rotation);
+    ornaments worn(int rotation) const;
 
     scripted_desktop desk;
     frmMain main;
+    int frame = 0, shadow = 0;  ///< in force for the next photo
 };
 
 /// The folder that all stages take as `install_folder`.

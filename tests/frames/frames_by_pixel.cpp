@@ -68,7 +68,7 @@ void print_caption(bitmap & frame, const bitmap & text, picture_size surface, rg
     for (int row = 1; row < bottom; ++row)
         for (int column = 1; column < surface.width - 15; ++column) {
             const int from_top = row - text_top;
-            const auto of_text = pixel(text, column - text_left, text.height() - 1 - from_top);
+            const auto of_text = pixel_at(text, column - text_left, text.height() - 1 - from_top);
             set_pixel(frame, left + column - 1, frame.height() - 1 - (top + row - 1),
                       of_text.value_or(ground));
         }
@@ -76,10 +76,10 @@ void print_caption(bitmap & frame, const bitmap & text, picture_size surface, rg
 
 void lay_icon_by_pixel(bitmap & frame, const bitmap & icon, int key_at)
 {
-    const rgb_triple key = *pixel(icon, key_at, key_at);
+    const rgb_triple key = *pixel_at(icon, key_at, key_at);
     for (int x = 0; x <= icon.width() - 3; ++x)
         for (int y = 0; y <= icon.height() - 3; ++y) {
-            const rgb_triple color = *pixel(icon, x, y);
+            const rgb_triple color = *pixel_at(icon, x, y);
             const bool near = std::abs(color.red - key.red) <= 110 &&
                               std::abs(color.green - key.green) <= 110 &&
                               std::abs(color.blue - key.blue) <= 110;

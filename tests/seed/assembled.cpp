@@ -162,7 +162,7 @@ covering assembled(const jigsaw & puzzle, const laid_out & pieces)
         for (int y = 0; y < mask.height(); ++y) {
             const auto row = mask.row(mask.height() - 1 - y);
             for (int x = 0; x < mask.width(); ++x) {
-                const int level = row[static_cast<std::size_t>(x) * pixel_bytes];
+                const int level = row[static_cast<std::size_t>(x)].blue;
                 const int to_x = one.left + x, to_y = one.top + y;
                 if (level > lightest_rim || to_x < 0 || to_y < 0 || to_x >= seen.width || to_y >= seen.height)
                     continue;

@@ -74,12 +74,12 @@ TEST(icons, stand_free_on_their_key_at_both_sizes)
         const bitmap smaller = rescaled(icon, icon.width() * 8 / 10, icon.height() * 8 / 10);
         for (const bitmap * image : {&icon, &smaller}) {
             const int corner = image == &icon ? 0 : 1;
-            const rgb_triple key = *pixel(*image, corner, corner);
+            const rgb_triple key = *pixel_at(*image, corner, corner);
             EXPECT_EQ(key, (rgb_triple{255, 255, 255})) << file;
             int drawn = 0;
             for (int y = 0; y < image->height(); ++y)
                 for (int x = 0; x < image->width(); ++x) {
-                    const bool clear = dropped(*pixel(*image, x, y), key);
+                    const bool clear = dropped(*pixel_at(*image, x, y), key);
                     drawn += clear ? 0 : 1;
                     // The last columns and rows are not copied.
                     const bool rim = x == 0 || y == 0 || x > image->width() - 4 || y > image->height() - 4;

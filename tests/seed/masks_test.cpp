@@ -42,8 +42,8 @@ std::vector<part> parts_of(const bitmap & mask)
 {
     std::vector<part> parts;
     for (int y = 0; y < mask.height(); ++y) {
-        const auto row = mask.row(y);
-        for (std::size_t x = 0; x < row.size(); x += pixel_bytes)
+        const auto row = channels(mask.row(y));
+        for (std::size_t x = 0; x < row.size(); x += sizeof(pixel))
             parts.push_back(part_of(row[x]));
     }
     return parts;
@@ -101,7 +101,7 @@ TEST(masks, are_square_with_a_white_ground_at_the_lower_left)
         const bitmap mask = load_picture(picture_format::gif, path);
         ASSERT_TRUE(mask) << path;
         EXPECT_EQ(mask.width(), mask.height()) << path;
-        EXPECT_EQ(pixel(mask, 0, 0), (rgb_triple{255, 255, 255})) << path;
+        EXPECT_EQ(pixel_at(mask, 0, 0), (rgb_triple{255, 255, 255})) << path;
     }
 }
 
@@ -112,8 +112,8 @@ TEST(masks, hold_no_colour_that_would_be_taken_for_a_key)
         const bitmap small = rescaled(mask, 57, 57);
         for (const bitmap * image : {&mask, &small}) {
             for (int y = 0; y < image->height(); ++y) {
-                const auto row = image->row(y);
-                for (std::size_t x = 0; x < row.size(); x += pixel_bytes)
+                const auto row = channels(image->row(y));
+                for (std::size_t x = 0; x < row.size(); x += sizeof(pixel))
                     ASSERT_TRUE(row[x] == row[x + 1] && row[x] == row[x + 2]) << path;
             }
         }

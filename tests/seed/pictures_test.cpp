@@ -61,7 +61,7 @@ double brightness_behind_a_caption(const std::string & name)
     int count = 0;
     for (int y = ground.height() * 90 / 100; y < ground.height() * 97 / 100; ++y)  // row 0 is at the bottom
         for (int x = ground.width() / 4; x < ground.width() * 3 / 4; ++x, ++count) {
-            const rgb_triple seen = pixel(ground, x, y).value();
+            const rgb_triple seen = pixel_at(ground, x, y).value();
             sum += 0.2126 * light(seen.red) + 0.7152 * light(seen.green) + 0.0722 * light(seen.blue);
         }
     return sum / count;
@@ -82,7 +82,7 @@ TEST(seed_pictures, the_white_sheet_is_large_and_white_all_over)
     EXPECT_EQ(white.width(), 3200);
     EXPECT_EQ(white.height(), 3200);
     for (int y = 0; y < white.height(); ++y) {
-        const auto row = white.row(y);
+        const auto row = channels(white.row(y));
         ASSERT_TRUE(std::ranges::all_of(row, [](std::uint8_t level) { return level == 255; })) << "row " << y;
     }
 }

@@ -40,8 +40,8 @@ std::size_t tones(const bitmap & coarse)
 {
     std::set<int> found;
     for (int y = 0; y < coarse.height(); ++y) {
-        const auto row = coarse.row(y);
-        for (std::size_t x = 0; x + 2 < row.size(); x += pixel_bytes)
+        const auto row = channels(coarse.row(y));
+        for (std::size_t x = 0; x + 2 < row.size(); x += sizeof(pixel))
             found.insert((row[x] + row[x + 1] + row[x + 2]) / 3 / 4);
     }
     return found.size();
@@ -50,7 +50,7 @@ std::size_t tones(const bitmap & coarse)
 double brightness(const bitmap & photo)
 {
     const bitmap point = rescaled(photo, 1, 1);
-    const auto row = point.row(0);
+    const auto row = channels(point.row(0));
     return (row[0] + row[1] + row[2]) / 3.0;
 }
 
@@ -58,7 +58,7 @@ double brightness(const bitmap & photo)
 int main_hue(const bitmap & photo)
 {
     const bitmap point = rescaled(photo, 1, 1);
-    const auto row = point.row(0);
+    const auto row = channels(point.row(0));
     const double red = row[2], green = row[1], blue = row[0];
     const double turn = std::atan2(std::sqrt(3.0) * (green - blue), 2 * red - green - blue);
     return static_cast<int>(std::floor((turn / std::numbers::pi + 1) * 6));
@@ -69,11 +69,11 @@ double distance(const bitmap & one, const bitmap & other)
 {
     double sum = 0;
     for (int y = 0; y < one.height(); ++y) {
-        const auto a = one.row(y), b = other.row(y);
+        const auto a = channels(one.row(y)), b = channels(other.row(y));
         for (std::size_t x = 0; x < a.size(); ++x)
             sum += std::abs(a[x] - b[x]);
     }
-    return sum / (one.height() * static_cast<double>(one.row(0).size()));
+    return sum / (one.height() * static_cast<double>(channels(one.row(0)).size()));
 }
 
 }  // namespace

@@ -75,8 +75,9 @@ TEST(bitmap, rows_and_pixels_count_from_the_bottom_and_a_row_is_blue_green_red)
     bitmap image(2, 3);
     set_pixel(image, 1, 0, orange);
     EXPECT_EQ(seen(image, 1, 2), orange);
-    EXPECT_EQ(pixel(image, 1, 0), orange);
-    const std::vector<std::uint8_t> row(image.row(0).begin(), image.row(0).end());
+    EXPECT_EQ(pixel_at(image, 1, 0), orange);
+    const std::span<const std::uint8_t> bytes = channels(image.row(0));
+    const std::vector<std::uint8_t> row(bytes.begin(), bytes.end());
     EXPECT_EQ(row, (std::vector<std::uint8_t>{0, 0, 0, 20, 120, 250}));
 }
 
@@ -85,14 +86,14 @@ TEST(bitmap, pixels_outside_are_neither_read_nor_written)
     bitmap image = plain(2, 2, orange);
     const int outside[][2] = {{-1, 0}, {0, -1}, {2, 0}, {0, 2}};
     for (const auto & [x, y] : outside) {
-        EXPECT_EQ(pixel(image, x, y), std::nullopt);
+        EXPECT_EQ(pixel_at(image, x, y), std::nullopt);
         set_pixel(image, x, y, white);
     }
     EXPECT_TRUE(same(image, plain(2, 2, orange)));
     bitmap none;
     set_pixel(none, 0, 0, white);
     fill(none, white);
-    EXPECT_EQ(pixel(none, 0, 0), std::nullopt);
+    EXPECT_EQ(pixel_at(none, 0, 0), std::nullopt);
 }
 
 TEST(bitmap, filling_takes_every_pixel)
@@ -269,7 +270,7 @@ TEST_F(picture_test, a_grey_jpeg_comes_in_24_bits)
     const bitmap image = loaded(flat_jpeg(20, 10, {90}, adobe_mark::absent));
     ASSERT_EQ(image.width(), 20);
     ASSERT_EQ(image.height(), 10);
-    EXPECT_EQ(image.row(0).size(), 60u);
+    EXPECT_EQ(image.row(0).size(), 20u);
     EXPECT_EQ(seen(image, 19, 9), (rgb_triple{.red = 90, .green = 90, .blue = 90}));
 }
 
@@ -279,7 +280,7 @@ TEST_F(picture_test, a_cmyk_jpeg_comes_as_red_green_and_blue)
     const bitmap image = loaded(flat_jpeg(9, 17, {0, 128, 255, 255}, adobe_mark::present));
     ASSERT_EQ(image.width(), 9);
     ASSERT_EQ(image.height(), 17);
-    EXPECT_EQ(image.row(0).size(), 27u);
+    EXPECT_EQ(image.row(0).size(), 9u);
     expect_near(seen(image, 8, 16), {.red = 0, .green = 128, .blue = 255}, 1);
 }
 
@@ -325,7 +326,7 @@ TEST_F(picture_test, a_gif_comes_in_24_bits_whatever_its_palette)
     for (const bool transparent : {false, true}) {
         const bitmap colored = loaded(small_gif("\xFA\x78\x14", transparent), picture_format::gif);
         ASSERT_EQ(colored.width(), 2);
-        EXPECT_EQ(colored.row(0).size(), 6u);
+        EXPECT_EQ(colored.row(0).size(), 2u);
         EXPECT_EQ(seen(colored, 0, 0), black);
         EXPECT_EQ(seen(colored, 1, 0), orange);
         EXPECT_EQ(seen(loaded(small_gif("\xFF\xFF\xFF", transparent), picture_format::gif), 1, 0), white);

@@ -37,8 +37,8 @@ TEST(save_design, moves_the_template_makes_a_sample_and_adds_a_section)
     EXPECT_EQ(size_of(session.at("samples/saved600.jpg")).width, 300);
     EXPECT_EQ(size_of(session.at("samples/saved600.jpg")).height, 450);
     const bitmap sample = load_picture(picture_format::jpeg, session.at("samples/saved600.jpg"));
-    EXPECT_GT(pixel(sample, 30, 30)->red, 150);
-    EXPECT_GT(pixel(sample, 270, 420)->blue, 150);
+    EXPECT_GT(pixel_at(sample, 30, 30)->red, 150);
+    EXPECT_GT(pixel_at(sample, 270, 420)->blue, 150);
     expect_states(session.main, "mnuSaveDesign-");
     EXPECT_FALSE(session.has("tmp/unfinished"));
 }

@@ -163,33 +163,33 @@ TEST(cell_geometry, big_photos_stay_inside_on_the_outer_cells_but_not_on_the_las
 
 TEST(cell_geometry, an_upright_single_photo_is_scaled_and_shifted)
 {
-    const cell_area area = photo_area(three_by_four, {.row = 1, .column = 2}, cell_span::single,
+    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 2}, cell_span::single,
                                       {.scale = 0.85, .shift_top = 9, .shift_left = -12});
     // 165 and 234 are the corner of the cell; 127.5 goes to the even 128
-    EXPECT_EQ(area, (cell_area{.top = 174, .left = 222, .height = 128, .width = 85}));
+    EXPECT_EQ(area, (rectangle{.left = 222, .top = 174, .width = 85, .height = 128}));
 }
 
 TEST(cell_geometry, an_upright_double_photo_is_scaled_without_its_gap_and_not_shifted)
 {
-    const cell_area area = photo_area(three_by_four, {.row = 1, .column = 1}, cell_span::twice,
+    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 1}, cell_span::twice,
                                       {.scale = 0.85, .shift_top = 9, .shift_left = -12});
-    EXPECT_EQ(area, (cell_area{.top = 165, .left = 127, .height = 128, .width = 177}));
+    EXPECT_EQ(area, (rectangle{.left = 127, .top = 165, .width = 177, .height = 128}));
 }
 
 TEST(cell_geometry, a_tilted_double_photo_is_summed_then_scaled_then_rounded)
 {
-    const cell_area area = photo_area(three_by_four, {.row = 1, .column = 1}, cell_span::twice,
+    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 1}, cell_span::twice,
                                       {.scale = 0.9, .rotation = 5, .shift_top = 9, .shift_left = -12});
     // 207 x 0.9 = 186.3
-    EXPECT_EQ(area, (cell_area{.top = 174, .left = 115, .height = 135, .width = 186}));
+    EXPECT_EQ(area, (rectangle{.left = 115, .top = 174, .width = 186, .height = 135}));
 }
 
 TEST(cell_geometry, a_card_fills_its_cell_or_both)
 {
     EXPECT_EQ(upright_area(three_by_four, {.row = 2, .column = 1}, cell_span::single),
-              (cell_area{.top = 320, .left = 127, .height = 150, .width = 100}));
+              (rectangle{.left = 127, .top = 320, .width = 100, .height = 150}));
     EXPECT_EQ(upright_area(three_by_four, {.row = 2, .column = 1}, cell_span::twice),
-              (cell_area{.top = 320, .left = 127, .height = 150, .width = 207}));
+              (rectangle{.left = 127, .top = 320, .width = 207, .height = 150}));
 }
 
 TEST(cell_geometry, a_cell_beyond_16_bits_is_an_overflow)
@@ -204,7 +204,7 @@ TEST(cell_geometry, a_cell_beyond_16_bits_is_an_overflow)
 
 TEST(cell_geometry, a_matrix_line_has_two_digits_and_no_bleed)
 {
-    EXPECT_EQ(matrix_line({.top = 433, .left = 427, .height = 150, .width = 100}, -5, 430),
+    EXPECT_EQ(matrix_line({.left = 427, .top = 433, .width = 100, .height = 150}, -5, 430),
               "03:-03:150:100:-05:-1:-1:0:");
 }
 

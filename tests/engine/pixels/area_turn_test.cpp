@@ -44,7 +44,7 @@ picture_point middle_of_light(const bitmap & image)
     double light = 0, x = 0, y = 0;
     for (int row = 0; row < image.height(); ++row)
         for (int column = 0; column < image.width(); ++column) {
-            const int value = image.row(row)[static_cast<std::size_t>(column) * pixel_bytes];
+            const int value = image.row(row)[static_cast<std::size_t>(column)].blue;
             light += value;
             x += value * (column + 0.5);
             y += value * (row + 0.5);
@@ -79,7 +79,7 @@ TEST(area_turn, gives_some_columns_of_some_rows_as_the_whole_would_have_them)
                   [&](int row, int first, std::span<const marked_pixel> pixels) {
                       ++rows;
                       for (std::size_t i = 0; i < pixels.size(); ++i) {
-                          const rgb_triple color = *pixel(whole, first + static_cast<int>(i), row);
+                          const rgb_triple color = *pixel_at(whole, first + static_cast<int>(i), row);
                           EXPECT_EQ(pixels[i], static_cast<marked_pixel>(color.blue | color.green << 8 |
                                                                          color.red << 16));
                       }
@@ -103,7 +103,7 @@ TEST(area_turn, turns_marks_like_a_channel_of_their_own)
                   spans_of({.left = 0, .low = 0, .right = expected.width(), .high = expected.height()}),
                   [&](int row, int, std::span<const marked_pixel> pixels) {
                       for (std::size_t i = 0; i < pixels.size(); ++i)
-                          EXPECT_EQ(pixels[i] >> 24, expected.row(row)[i * pixel_bytes]);
+                          EXPECT_EQ(pixels[i] >> 24, expected.row(row)[i].blue);
                   });
     }
 }

@@ -13,11 +13,11 @@ constexpr rgb_triple sky{.red = 90, .green = 120, .blue = 200};
 // The same, one pixel after the other.
 void print_by_pixel(bitmap & target, const bitmap & caption, int left, int low)
 {
-    const rgb_triple ground = *pixel(caption, 0, 0);
+    const rgb_triple ground = *pixel_at(caption, 0, 0);
     for (int y = first_text_row(caption); y <= caption.height() - 5; ++y)
         for (int x = 0; x <= caption.width() - 5; ++x)
-            if (is_text(*pixel(caption, x, y), ground))
-                set_pixel(target, x + left, y + low, *pixel(caption, x, y));
+            if (is_text(*pixel_at(caption, x, y), ground))
+                set_pixel(target, x + left, y + low, *pixel_at(caption, x, y));
 }
 
 }  // namespace

@@ -36,8 +36,8 @@ TEST(mask_shelf, a_mask_that_could_not_be_loaded_is_kept_too)
 TEST(mask_shelf, the_mask_unused_for_longest_makes_room)
 {
     constexpr int third = 1900;  // a square that takes a little less than a third of the room
-    static_assert(3 * third * third * pixel_bytes < mask_shelf::room);
-    static_assert(4 * third * third * pixel_bytes > mask_shelf::room);
+    static_assert(3 * third * third * static_cast<int>(sizeof(pixel)) < mask_shelf::room);
+    static_assert(4 * third * third * static_cast<int>(sizeof(pixel)) > mask_shelf::room);
     mask_shelf shelf;
     for (int size = 1; size <= 3; ++size)
         shelf.keep(key_of("a", size), bitmap(third, third));

@@ -86,7 +86,7 @@ TEST(paint_mask, paints_inside_and_border_in_one_colour_and_leaves_the_ground)
     set_pixel(mask, 2, 1, grey);
     set_pixel(mask, 3, 2, {255, 0, 255});
     set_pixel(mask, 0, 2, {255, 255, 0});
-    paint_mask(canvas, mask, {165, 255, 50}, 1, 1);
+    paint_mask(canvas, mask, {165, 255, 50}, {1, 1});
     EXPECT_EQ(
         drawn(
             canvas,
@@ -108,13 +108,13 @@ TEST(paint_mask, agrees_with_its_slow_twin)
         for (const int column : {5, -60, 80, 400, -400})
             for (const shape_border drawn_border : {shape_border::lightened, shape_border::outlined}) {
                 bitmap found = plain(190, 180, {1, 2, 3}), expected = plain(190, 180, {1, 2, 3});
-                paint_mask(found, mask, photo, drawn_border, column, column / 2);
+                paint_mask(found, mask, photo, drawn_border, {column, column / 2});
                 paste_mask_by_pixel(
                     expected, mask,
                     {.fill = {}, .photo = photo, .outlined = drawn_border == shape_border::outlined}, 169,
                     column, column / 2);
                 EXPECT_TRUE(same(found, expected)) << column;
-                paint_mask(found, mask, rgb_triple{255, 115, 0}, column, column / 2);
+                paint_mask(found, mask, rgb_triple{255, 115, 0}, {column, column / 2});
                 paste_mask_by_pixel(expected, mask, {.fill = {255, 115, 0}, .photo = none}, 169, column,
                                     column / 2);
                 EXPECT_TRUE(same(found, expected)) << column;
@@ -125,10 +125,10 @@ TEST(paint_mask, agrees_with_its_slow_twin)
 TEST(paint_mask, without_a_mask_a_canvas_or_a_photo_nothing_happens)
 {
     bitmap canvas = plain(20, 20, {9, 9, 9}), none;
-    paint_mask(canvas, none, light, 2, 2);
-    paint_mask(none, plain(5, 5, light), light, 2, 2);
-    paint_mask(canvas, with_ground(plain(5, 5, dark), light), none, shape_border::lightened, 2, 2);
-    paint_mask(canvas, with_ground(plain(5, 5, dark), light), bitmap(5, 4), shape_border::lightened, 2, 2);
+    paint_mask(canvas, none, light, {2, 2});
+    paint_mask(none, plain(5, 5, light), light, {2, 2});
+    paint_mask(canvas, with_ground(plain(5, 5, dark), light), none, shape_border::lightened, {2, 2});
+    paint_mask(canvas, with_ground(plain(5, 5, dark), light), bitmap(5, 4), shape_border::lightened, {2, 2});
     EXPECT_TRUE(same(canvas, plain(20, 20, {9, 9, 9})));
     EXPECT_FALSE(none);
 }

@@ -68,7 +68,7 @@ TEST(paste_rectangle, weighs_every_value_on_every_other_as_the_library_does)
     for (const int alpha : {0, 1, 5, 10, 127, 128, 200, 252, 255, plain_copy}) {
         bitmap by_library = copied(below, 0, 0, 256, 256), by_us = copied(below, 0, 0, 256, 256);
         ASSERT_TRUE(paste(by_library, above, 0, 0, alpha));
-        paste_rectangle(by_us, above, {0, 0, 256, 256}, 0, 0, alpha);
+        paste_rectangle(by_us, above, {0, 0, 256, 256}, {0, 0}, alpha);
         EXPECT_TRUE(same(by_us, by_library)) << alpha;
     }
 }
@@ -82,7 +82,7 @@ TEST(paste_rectangle, agrees_with_copy_and_paste_for_every_part_of_a_small_photo
                 for (int bottom = -1; bottom <= 4; ++bottom) {
                     bitmap expected = plain(6, 5, {200, 100, 50}), found = plain(6, 5, {200, 100, 50});
                     paste(expected, copied(source, left, top, right, bottom), 3, 2, 99);
-                    paste_rectangle(found, source, {left, top, right, bottom}, 3, 2, 99);
+                    paste_rectangle(found, source, rectangle_between(left, top, right, bottom), {3, 2}, 99);
                     ASSERT_TRUE(same(found, expected)) << left << top << right << bottom;
                 }
 }
@@ -94,7 +94,7 @@ TEST(paste_rectangle, is_refused_whole_where_it_would_leave_the_target)
         for (int top = -3; top <= 5; ++top) {
             bitmap expected(5, 4), found(5, 4);
             paste(expected, source, left, top, plain_copy);
-            paste_rectangle(found, source, {0, 0, 3, 2}, left, top, plain_copy);
+            paste_rectangle(found, source, {0, 0, 3, 2}, {left, top}, plain_copy);
             ASSERT_EQ(dots(found), dots(expected)) << left << ", " << top;
         }
 }
@@ -106,7 +106,7 @@ TEST(blend_rectangle, agrees_with_the_paste_of_a_plain_bitmap)
             for (int width = 0; width <= 3; ++width) {
                 bitmap expected = graded(5, 4), found = graded(5, 4);
                 paste(expected, plain(width, 2, {250, 20, 130}), left, top, 77);
-                blend_rectangle(found, {left, top, left + width, top + 2}, {250, 20, 130}, 77);
+                blend_rectangle(found, {left, top, width, 2}, {250, 20, 130}, 77);
                 ASSERT_TRUE(same(found, expected)) << left << ", " << top << ", " << width;
             }
 }

@@ -67,34 +67,34 @@ TEST(rotation_numbers, give_a_thinner_frame_below_ten_degrees_and_so_to_every_tu
 
 TEST(evolved, turns_a_location_that_the_photo_lies_across)
 {
-    const tilted_place wide{.width = 300, .height = 200, .top = 100, .left = 50};
+    const rectangle wide{.left = 50, .top = 100, .width = 300, .height = 200};
     EXPECT_EQ(evolved(wide, {.width = 60, .height = 90}),
-              (tilted_place{.width = 200, .height = 300, .top = 25, .left = 100}));
-    const tilted_place high{.width = 200, .height = 300, .top = 100, .left = 50};
+              (rectangle{.left = 100, .top = 25, .width = 200, .height = 300}));
+    const rectangle high{.left = 50, .top = 100, .width = 200, .height = 300};
     EXPECT_EQ(evolved(high, {.width = 90, .height = 60}),
-              (tilted_place{.width = 300, .height = 200, .top = 150, .left = -25}));
+              (rectangle{.left = -25, .top = 150, .width = 300, .height = 200}));
 }
 
 TEST(evolved, rounds_the_quarter_of_a_side_to_even)
 {
-    const tilted_place wide{.width = 310, .height = 202, .top = 100, .left = 50};  // 77.5 and 50.5
+    const rectangle wide{.left = 50, .top = 100, .width = 310, .height = 202};  // 77.5 and 50.5
     EXPECT_EQ(evolved(wide, {.width = 1, .height = 2}),
-              (tilted_place{.width = 202, .height = 310, .top = 22, .left = 100}));
+              (rectangle{.left = 100, .top = 22, .width = 202, .height = 310}));
 }
 
 TEST(evolved, leaves_a_location_that_the_photo_fits_and_square_photos_alone)
 {
-    const tilted_place wide{.width = 300, .height = 200, .top = 100, .left = 50};
+    const rectangle wide{.left = 50, .top = 100, .width = 300, .height = 200};
     EXPECT_EQ(evolved(wide, {.width = 90, .height = 60}), wide);
     EXPECT_EQ(evolved(wide, {.width = 90, .height = 90}), wide);
-    const tilted_place square{.width = 200, .height = 200, .top = 100, .left = 50};
+    const rectangle square{.left = 50, .top = 100, .width = 200, .height = 200};
     EXPECT_EQ(evolved(square, {.width = 60, .height = 90}), square);
     EXPECT_EQ(evolved(square, {.width = 90, .height = 60}),
-              (tilted_place{.width = 200, .height = 200, .top = 150, .left = 0}));
+              (rectangle{.left = 0, .top = 150, .width = 200, .height = 200}));
 }
 
 TEST(evolved, overflows_beyond_16_bits)
 {
-    const tilted_place high{.width = 200, .height = 300, .top = 32760, .left = 0};
+    const rectangle high{.left = 0, .top = 32760, .width = 200, .height = 300};
     EXPECT_THROW(evolved(high, {.width = 90, .height = 60}), platform_error);
 }

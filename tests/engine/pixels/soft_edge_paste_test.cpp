@@ -20,7 +20,8 @@ TEST(soft_classes, change_at_120_200_and_270)
 TEST(soft_edge_paste, fades_from_the_core_to_the_edge)
 {
     bitmap target(60, 50);
-    soft_edge_paste(target, plain(40, 30, {255, 255, 255}), 40, 30, 10, 10);
+    soft_edge_paste(target, plain(40, 30, {255, 255, 255}),
+                    {.left = 10, .top = 10, .width = 40, .height = 30});
     std::string along_the_middle;
     for (int x = 9; x <= 17; ++x)
         along_the_middle += std::to_string(seen(target, x, 25).red) + ' ';
@@ -36,7 +37,8 @@ TEST(soft_edge_paste, fades_from_the_core_to_the_edge)
 TEST(soft_edge_paste, corners_belong_to_two_strips)
 {
     bitmap target(60, 50);
-    soft_edge_paste(target, plain(40, 30, {255, 255, 255}), 40, 30, 10, 10);
+    soft_edge_paste(target, plain(40, 30, {255, 255, 255}),
+                    {.left = 10, .top = 10, .width = 40, .height = 30});
     // 4, then 4 + (255 - 4) * 5 / 256.
     EXPECT_EQ(seen(target, 10, 10).red, 8);
     EXPECT_EQ(seen(target, 49, 39).red, 8);
@@ -45,7 +47,8 @@ TEST(soft_edge_paste, corners_belong_to_two_strips)
 TEST(soft_edge_paste, a_large_photo_has_no_line_at_its_edge)
 {
     bitmap target(320, 320);
-    soft_edge_paste(target, plain(300, 300, {255, 255, 255}), 300, 300, 10, 10);
+    soft_edge_paste(target, plain(300, 300, {255, 255, 255}),
+                    {.left = 10, .top = 10, .width = 300, .height = 300});
     EXPECT_EQ(seen(target, 10, 160).red, 0);    // 255 - 80 * 3.2 is below 0
     EXPECT_EQ(seen(target, 11, 160).red, 1);    // 255 - 79 * 3.2 is 2.2
     EXPECT_EQ(seen(target, 89, 160).red, 251);  // 255 - 3.2 is 251.8
@@ -68,7 +71,8 @@ TEST(soft_edge_paste, agrees_with_its_slow_twin)
         for (const int left : {7, -1, 130}) {
             const bitmap photo = graded(size.width, size.height);
             bitmap found = plain(420, 420, {30, 200, 90}), expected = plain(420, 420, {30, 200, 90});
-            soft_edge_paste(found, photo, size.width, size.height, 11, left);
+            soft_edge_paste(found, photo,
+                            {.left = left, .top = 11, .width = size.width, .height = size.height});
             soft_edge_by_paste(expected, photo, size.width, size.height, 11, left);
             EXPECT_TRUE(same(found, expected)) << size.width << " by " << size.height << " at " << left;
         }
@@ -77,7 +81,7 @@ TEST(soft_edge_paste, agrees_with_its_slow_twin)
 TEST(soft_edge_paste, a_photo_of_another_size_than_told_agrees_too)
 {
     bitmap found(200, 200), expected(200, 200);
-    soft_edge_paste(found, graded(99, 100), 100, 100, 20, 20);
+    soft_edge_paste(found, graded(99, 100), {.left = 20, .top = 20, .width = 100, .height = 100});
     soft_edge_by_paste(expected, graded(99, 100), 100, 100, 20, 20);
     EXPECT_TRUE(same(found, expected));
 }
@@ -85,8 +89,8 @@ TEST(soft_edge_paste, a_photo_of_another_size_than_told_agrees_too)
 TEST(soft_edge_paste, without_a_photo_or_a_target_nothing_happens)
 {
     bitmap target(60, 50), none;
-    soft_edge_paste(target, {}, 40, 30, 10, 10);
+    soft_edge_paste(target, {}, {.left = 10, .top = 10, .width = 40, .height = 30});
     EXPECT_TRUE(same(target, bitmap(60, 50)));
-    soft_edge_paste(none, plain(40, 30, {255, 255, 255}), 40, 30, 10, 10);
+    soft_edge_paste(none, plain(40, 30, {255, 255, 255}), {.left = 10, .top = 10, .width = 40, .height = 30});
     EXPECT_FALSE(none);
 }

@@ -132,11 +132,11 @@ TEST_F(frame_rendering, the_key_of_an_icon_is_taken_out_with_all_that_is_near_it
     set_pixel(icon, 17, 17, {255, 0, 0});
     set_pixel(icon, 18, 17, {255, 0, 0});
     bitmap frame = plain(60, 60, {1, 2, 3});
-    lay_icon(frame, icon, *pixel(icon, 0, 0));
-    EXPECT_EQ(pixel(frame, 5, 5), (rgb_triple{1, 2, 3}));
-    EXPECT_EQ(pixel(frame, 6, 5), (rgb_triple{211, 100, 100}));
-    EXPECT_EQ(pixel(frame, 17, 17), (rgb_triple{255, 0, 0}));
-    EXPECT_EQ(pixel(frame, 18, 17), (rgb_triple{1, 2, 3}));
+    lay_icon(frame, icon, *pixel_at(icon, 0, 0));
+    EXPECT_EQ(pixel_at(frame, 5, 5), (rgb_triple{1, 2, 3}));
+    EXPECT_EQ(pixel_at(frame, 6, 5), (rgb_triple{211, 100, 100}));
+    EXPECT_EQ(pixel_at(frame, 17, 17), (rgb_triple{255, 0, 0}));
+    EXPECT_EQ(pixel_at(frame, 18, 17), (rgb_triple{1, 2, 3}));
 }
 
 TEST(split_color, has_blue_in_front)

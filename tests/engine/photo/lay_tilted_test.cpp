@@ -1,5 +1,5 @@
-#include "engine/photo/draw_rotated_photo.h"
-
+#include "engine/photo/lay_photo.h"
+#include "engine/photo/rotation_table.h"
 #include "engine/pixels/draw_frame.h"
 #include "engine/pixels/draw_shadow.h"
 #include "engine/pixels/resize_image.h"
@@ -28,7 +28,7 @@ bitmap grabbed(const bitmap & canvas, int left, int top, int width, int height)
     bitmap area(width, height);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
-            if (const auto color = pixel(canvas, left + x, canvas.height() - 1 - (top + height - 1 - y)))
+            if (const auto color = pixel_at(canvas, left + x, canvas.height() - 1 - (top + height - 1 - y)))
                 set_pixel(area, x, y, *color);
     return area;
 }
@@ -36,19 +36,21 @@ bitmap grabbed(const bitmap & canvas, int left, int top, int width, int height)
 /// A photo in one of the upright steps: nothing was framed before.
 struct placed {
     int width, height, top, left, rotation;
+
+    rectangle area() const { return {.left = left, .top = top, .width = width, .height = height}; }
 };
 
 /// The slow way with the library's own calls on whole bitmaps, for a photo that fits and has no early frame.
-void draw_by_steps(frmMain & main, const bitmap & photo, const placed & place)
+void draw_by_steps(tilt_stage & stage, const bitmap & photo, const placed & place)
 {
+    frmMain & main = stage.main;
+    const ornaments worn = stage.worn(place.rotation);
     const std::string section = rotation_section(place.width, place.height, place.rotation);
-    rotation_numbers numbers;
-    for (const rotation_key & key : rotation_keys)
-        numbers.*key.number = GetRotateValue(main, section, key.name);
-    numbers = scaled(numbers, reference_factor(place.width, place.height),
-                     main.in_preview ? preview_divisor(place.width, place.height) : 1);
-    const int ring = frame_in_rotation(main.run.frame_size, place.rotation);
-    const int extra = std::max<int>(main.run.shadow_size, 0);
+    const rotation_numbers numbers =
+        scaled(numbers_of_section(main, section), reference_factor(place.width, place.height),
+               main.in_preview ? preview_divisor(place.width, place.height) : 1);
+    const int ring = frame_in_rotation(worn.frame, place.rotation);
+    const int extra = std::max(worn.shadow, 0);
     const bitmap white =
         copied(load_picture(picture_format::jpeg, main.install_folder + "/images/white.jpg"), 0, 0,
                2 * ring + place.width + extra + 2, 2 * ring + place.height + extra + 2);
@@ -58,13 +60,14 @@ void draw_by_steps(frmMain & main, const bitmap & photo, const placed & place)
     bitmap turned = rotated(grabbed(main.run.canvas, place.left - numbers.grab_left,
                                     place.top - numbers.grab_top, numbers.grab_width, numbers.grab_height),
                             place.rotation);
-    int left = numbers.put_left, row = turned.height() - (numbers.put_top + place.height);
+    const rectangle upright{
+        .left = numbers.put_left, .top = numbers.put_top, .width = place.width, .height = place.height};
     if (main.chkSoftEdge.ticked()) {
-        soft_edge_paste(turned, photo, place.width, place.height, numbers.put_top, left);
+        soft_edge_paste(turned, photo, upright);
     } else {
-        paste(turned, photo, left, numbers.put_top, 255);
-        draw_frame(main, turned, left, row, place.height, place.width, place.rotation);
-        draw_shadow(main, turned, left, numbers.put_top, place.height, place.width, place.rotation);
+        paste(turned, photo, upright.left, upright.top, 255);
+        draw_frame(turned, upright, worn, place.rotation);
+        draw_shadow(turned, upright, worn);
     }
     const bitmap back = rotated(turned, -place.rotation);
     const auto part = [&](const bitmap & whole) {
@@ -74,9 +77,9 @@ void draw_by_steps(frmMain & main, const bitmap & photo, const placed & place)
     const int bottom_row = main.run.canvas.height() - (place.top - numbers.paste_top) - mask_part.height();
     for (int x = 0; x < mask_part.width(); ++x)
         for (int y = 0; y < mask_part.height(); ++y)
-            if (*pixel(mask_part, x, y) != rgb_triple{})
+            if (*pixel_at(mask_part, x, y) != rgb_triple{})
                 set_pixel(main.run.canvas, x + place.left - numbers.paste_left, y + bottom_row,
-                          *pixel(photo_part, x, y));
+                          *pixel_at(photo_part, x, y));
 }
 
 /// Both ways on a busy canvas.
@@ -84,18 +87,17 @@ void expect_same_as_by_steps(tilt_stage & stage, const placed & place, const std
 {
     const bitmap photo = graded(place.width, place.height);
     stage.main.run.canvas = patterned(700, 500);
-    draw_by_steps(stage.main, photo, place);
+    draw_by_steps(stage, photo, place);
     const bitmap expected = std::move(stage.main.run.canvas);
     stage.main.run.canvas = patterned(700, 500);
-    draw_rotated_photo(stage.main, copied(photo, 0, 0, place.width, place.height), place.width, place.height,
-                       place.top, place.left, place.rotation, fitting::fitted);
+    stage.draw(photo, place.area(), place.rotation);
     EXPECT_TRUE(same(stage.main.run.canvas, expected)) << what << " at " << place.rotation;
     EXPECT_FALSE(same(expected, patterned(700, 500))) << what << " at " << place.rotation;
 }
 
 }  // namespace
 
-TEST(draw_rotated_photo, gives_the_pixels_of_the_librarys_own_calls_on_whole_areas)
+TEST(lay_tilted_photo, gives_the_pixels_of_the_librarys_own_calls_on_whole_areas)
 {
     tilt_stage stage;
     stage.main.in_preview = true;  // where the areas are small
@@ -107,7 +109,7 @@ TEST(draw_rotated_photo, gives_the_pixels_of_the_librarys_own_calls_on_whole_are
         expect_same_as_by_steps(stage, {64, 43, 190, 260, rotation}, "bare");
 }
 
-TEST(draw_rotated_photo, gives_them_at_full_size_and_with_soft_edges)
+TEST(lay_tilted_photo, gives_them_at_full_size_and_with_soft_edges)
 {
     tilt_stage stage;
     stage.wear(7, 20);
@@ -116,7 +118,7 @@ TEST(draw_rotated_photo, gives_them_at_full_size_and_with_soft_edges)
     expect_same_as_by_steps(stage, {200, 110, 150, 250, 15}, "soft");
 }
 
-TEST(draw_rotated_photo, is_drawn_where_it_hangs_over_the_canvas)
+TEST(lay_tilted_photo, is_drawn_where_it_hangs_over_the_canvas)
 {
     tilt_stage stage;
     stage.main.in_preview = true;
@@ -125,35 +127,35 @@ TEST(draw_rotated_photo, is_drawn_where_it_hangs_over_the_canvas)
         expect_same_as_by_steps(stage, {90, 110, top, left, 10}, "over the edge");
 }
 
-TEST(draw_rotated_photo, draws_nothing_where_the_table_has_no_section)
+TEST(lay_tilted_photo, draws_nothing_where_the_table_has_no_section)
 {
     tilt_stage stage;
     stage.main.run.canvas = patterned(300, 300);
-    draw_rotated_photo(stage.main, graded(60, 40), 60, 40, 100, 100, 8, fitting::fitted);  // looks for "L13"
+    stage.draw(graded(60, 40), {.left = 100, .top = 100, .width = 60, .height = 40}, 8);  // looks for "L13"
     EXPECT_TRUE(same(stage.main.run.canvas, patterned(300, 300)));
     stage.main.install_folder = tilt_folder().at("nothing_here");
-    draw_rotated_photo(stage.main, graded(60, 40), 60, 40, 100, 100, 10, fitting::fitted);
+    stage.draw(graded(60, 40), {.left = 100, .top = 100, .width = 60, .height = 40}, 10);
     EXPECT_TRUE(same(stage.main.run.canvas, patterned(300, 300)));
 }
 
-TEST(draw_rotated_photo, draws_nothing_without_a_white_sheet_or_with_one_that_is_too_small)
+TEST(lay_tilted_photo, draws_nothing_without_a_white_sheet_or_with_one_that_is_too_small)
 {
     const temporary_folder folder;
     folder.write("rotate.ini", read_file(SEED_FOLDER "/rotate.ini"));
     tilt_stage stage;
     stage.main.install_folder = folder.path();
     stage.main.run.canvas = patterned(300, 300);
-    draw_rotated_photo(stage.main, graded(60, 40), 60, 40, 100, 100, 10, fitting::fitted);
+    stage.draw(graded(60, 40), {.left = 100, .top = 100, .width = 60, .height = 40}, 10);
     EXPECT_TRUE(same(stage.main.run.canvas, patterned(300, 300)));
     save_jpeg(plain(61, 42, {255, 255, 255}), folder.at("images/white.jpg"));
-    draw_rotated_photo(stage.main, graded(60, 40), 60, 40, 100, 100, 10, fitting::fitted);
+    stage.draw(graded(60, 40), {.left = 100, .top = 100, .width = 60, .height = 40}, 10);
     EXPECT_TRUE(same(stage.main.run.canvas, patterned(300, 300)));
     save_jpeg(plain(62, 42, {255, 255, 255}), folder.at("images/white.jpg"));
-    draw_rotated_photo(stage.main, graded(60, 40), 60, 40, 100, 100, 10, fitting::fitted);
+    stage.draw(graded(60, 40), {.left = 100, .top = 100, .width = 60, .height = 40}, 10);
     EXPECT_FALSE(same(stage.main.run.canvas, patterned(300, 300)));
 }
 
-TEST(draw_rotated_photo, takes_its_mask_from_the_sheet_even_where_that_is_not_white)
+TEST(lay_tilted_photo, takes_its_mask_from_the_sheet_even_where_that_is_not_white)
 {
     const temporary_folder folder;
     folder.write("rotate.ini", read_file(SEED_FOLDER "/rotate.ini"));
@@ -164,53 +166,56 @@ TEST(draw_rotated_photo, takes_its_mask_from_the_sheet_even_where_that_is_not_wh
     tilt_stage stage;
     stage.main.install_folder = folder.path();
     stage.main.run.canvas = bitmap(300, 300);
-    draw_rotated_photo(stage.main, plain(60, 40, {0, 200, 0}), 60, 40, 100, 100, 90, fitting::fitted);
+    stage.draw(plain(60, 40, {0, 200, 0}), {.left = 100, .top = 100, .width = 60, .height = 40}, 90);
     // Upright the left part of the photo lies on the black of the sheet; turned to the right that is the
     // upper part.
     EXPECT_EQ(seen(stage.main.run.canvas, 80, 110), (rgb_triple{}));
     EXPECT_GT(seen(stage.main.run.canvas, 80, 150).green, 190);
 }
 
-TEST(draw_rotated_photo, draws_nothing_of_a_photo_that_could_not_be_loaded)
+TEST(lay_tilted_photo, draws_nothing_of_a_photo_that_could_not_be_loaded)
 {
     tilt_stage stage;
     stage.wear(10, 10);
     stage.main.run.canvas = patterned(300, 300);
-    draw_rotated_photo(stage.main, {}, 60, 40, 100, 100, 10, fitting::to_fit);
+    stage.draw({}, {.left = 100, .top = 100, .width = 60, .height = 40}, 10);
     EXPECT_TRUE(same(stage.main.run.canvas, patterned(300, 300)));
 }
 
-TEST(draw_rotated_photo, fits_the_photo_to_its_place)
+TEST(lay_tilted_photo, fits_the_photo_to_its_place)
 {
     tilt_stage stage;
     bitmap whole = graded(200, 400);
     stage.main.run.canvas = patterned(300, 300);
-    draw_rotated_photo(stage.main, copied(whole, 0, 0, 200, 400), 60, 40, 100, 100, -15, fitting::to_fit);
+    stage.draw(whole, {.left = 100, .top = 100, .width = 60, .height = 40}, -15);
     const bitmap fitted = std::move(stage.main.run.canvas);
     stage.main.run.canvas = patterned(300, 300);
-    draw_rotated_photo(stage.main, resize_image(whole, 60, 40), 60, 40, 100, 100, -15, fitting::fitted);
+    stage.draw(resize_image(whole, 60, 40), {.left = 100, .top = 100, .width = 60, .height = 40}, -15);
     EXPECT_TRUE(same(fitted, stage.main.run.canvas));
     EXPECT_FALSE(same(fitted, patterned(300, 300)));
 }
 
-TEST(draw_rotated_photo, a_frame_of_13_is_drawn_in_the_turned_area_at_5_degrees_and_before_the_turn_at_10)
+TEST(lay_tilted_photo, a_frame_of_13_is_drawn_in_the_turned_area_at_5_degrees_and_before_the_turn_at_10)
 {
     for (const auto & [rotation, early] : {std::pair{5, false}, {-20, false}, {10, true}}) {
         tilt_stage stage;
         stage.wear(13, 0);
         stage.main.run.canvas = bitmap(500, 500);
-        draw_rotated_photo(stage.main, graded(60, 40), 60, 40, 200, 200, rotation, fitting::fitted);
-        // A frame that is on the photo already is taken off the run.
-        EXPECT_EQ(stage.main.run.frame_size == 0, early) << rotation;
+        stage.draw(plain(60, 40, {0, 200, 0}), {.left = 200, .top = 200, .width = 60, .height = 40},
+                   rotation);
+        // The corner about which the photo turns is its own, or that of its frame: then the photo has moved.
+        const bool moved = seen(stage.main.run.canvas, 200, 200).green < 150 ||
+                           seen(stage.main.run.canvas, 200, 200).red > 100;
+        EXPECT_EQ(moved, early) << rotation;
     }
 }
 
-TEST(draw_rotated_photo, a_wide_frame_moves_the_corner_out_and_has_the_width_of_the_list)
+TEST(lay_tilted_photo, a_wide_frame_moves_the_corner_out_and_has_the_width_of_the_list)
 {
     tilt_stage stage;
     stage.wear(30, 0);
     stage.main.run.canvas = bitmap(400, 400);
-    draw_rotated_photo(stage.main, plain(100, 60, {0, 200, 0}), 100, 60, 200, 200, 90, fitting::fitted);
+    stage.draw(plain(100, 60, {0, 200, 0}), {.left = 200, .top = 200, .width = 100, .height = 60}, 90);
     // The frame's corner at (170, 170), from there 120 to the left and 160 down.
     const auto framed = [](const rgb_triple & color) { return color.red > 240; };
     EXPECT_TRUE(framed(seen(stage.main.run.canvas, 168, 172)));
@@ -222,13 +227,13 @@ TEST(draw_rotated_photo, a_wide_frame_moves_the_corner_out_and_has_the_width_of_
     EXPECT_EQ(seen(stage.main.run.canvas, 110, 334), (rgb_triple{}));
 }
 
-TEST(draw_rotated_photo, stands_on_no_black_where_the_list_holds_a_wider_frame_than_the_location)
+TEST(lay_tilted_photo, stands_on_no_black_where_the_list_holds_a_wider_frame_than_the_location)
 {
     tilt_stage stage;
     stage.wear(60, 0);
-    stage.main.run.frame_size = 20;
+    stage.frame = 20;
     stage.main.run.canvas = plain(500, 500, {90, 90, 90});
-    draw_rotated_photo(stage.main, plain(100, 60, {0, 200, 0}), 100, 60, 200, 200, 90, fitting::fitted);
+    stage.draw(plain(100, 60, {0, 200, 0}), {.left = 200, .top = 200, .width = 100, .height = 60}, 90);
     int dark = 0;
     for (int y = 0; y < 500; ++y)
         for (int x = 0; x < 500; ++x) {
@@ -238,17 +243,17 @@ TEST(draw_rotated_photo, stands_on_no_black_where_the_list_holds_a_wider_frame_t
     EXPECT_EQ(dark, 0);
 }
 
-TEST(draw_rotated_photo, evolves_with_the_box_ticked)
+TEST(lay_tilted_photo, evolves_with_the_box_ticked)
 {
     tilt_stage stage;
     stage.main.chkEvolve.tick(true);
     stage.main.run.canvas = patterned(400, 400);
-    draw_rotated_photo(stage.main, graded(50, 90), 90, 60, 150, 150, 20, fitting::to_fit);
+    stage.draw(graded(50, 90), {.left = 150, .top = 150, .width = 90, .height = 60}, 20);
     const bitmap turned = std::move(stage.main.run.canvas);
     stage.main.chkEvolve.tick(false);
     stage.main.run.canvas = patterned(400, 400);
-    draw_rotated_photo(stage.main, graded(50, 90), 60, 90, 128, 165, 20,
-                       fitting::to_fit);  // 127.5 is 128, to even
+    stage.draw(graded(50, 90), {.left = 165, .top = 128, .width = 60, .height = 90},
+               20);  // 127.5 is 128, to even
     EXPECT_TRUE(same(turned, stage.main.run.canvas));
 }
 

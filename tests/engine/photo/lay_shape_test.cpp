@@ -1,5 +1,4 @@
-#include "engine/pixels/paste_shape.h"
-
+#include "engine/photo/lay_photo.h"
 #include "support/files/paths.h"
 #include "tests/engine/gif_file.h"
 #include "tests/pictures.h"
@@ -12,15 +11,12 @@ namespace {
 
 constexpr rgb_triple canvas_color{9, 9, 9}, photo_color{100, 230, 50};
 
-struct paste_shape_test : testing::Test {
-    paste_shape_test()
+struct lay_shape_test : testing::Test {
+    lay_shape_test()
     {
         main.install_folder = folder.at("program");
         main.data_folder = folder.at("data");
         main.run.canvas = plain(12, 14, canvas_color);
-        main.run.current_width = 4;
-        main.run.current_height = 4;
-        main.run.current_shape = "shape.gif";
         folder.write("program/images/shape.gif", mask());
     }
 
@@ -36,7 +32,10 @@ struct paste_shape_test : testing::Test {
 
     std::string painted(int color, const bitmap & photo, int left, int top)
     {
-        paste_shape(main, color, photo, 4, left, top);
+        lay_photo(main, copied(photo, 0, 0, photo.width(), photo.height()),
+                  {.area = {.left = left, .top = top, .width = 4, .height = 0},
+                   .mask = shape,
+                   .shape_color = color});
         return drawn(main.run.canvas, [](rgb_triple seen_there) {
             return seen_there == canvas_color                ? '.'
                    : seen_there == photo_color               ? '#'
@@ -51,6 +50,7 @@ struct paste_shape_test : testing::Test {
     temporary_folder folder;
     scripted_desktop desk;
     frmMain main{desk, listed({})};
+    std::string shape = "shape.gif";
 };
 
 const std::string blank_row = "............\n";
@@ -65,7 +65,7 @@ std::string rows(int count)
 
 }  // namespace
 
-TEST_F(paste_shape_test, a_photo_shows_inside_and_lightens_along_the_border)
+TEST_F(lay_shape_test, a_photo_shows_inside_and_lightens_along_the_border)
 {
     EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2), rows(2) +
                                                               "....#w......\n"
@@ -75,7 +75,7 @@ TEST_F(paste_shape_test, a_photo_shows_inside_and_lightens_along_the_border)
                                                               rows(8));
 }
 
-TEST_F(paste_shape_test, a_colour_fills_inside_and_border_alike)
+TEST_F(lay_shape_test, a_colour_fills_inside_and_border_alike)
 {
     EXPECT_EQ(painted(7, {}, 3, 2), rows(2) +
                                         "....7w......\n"
@@ -85,12 +85,12 @@ TEST_F(paste_shape_test, a_colour_fills_inside_and_border_alike)
                                         rows(8));
 }
 
-TEST_F(paste_shape_test, code_5_is_white)
+TEST_F(lay_shape_test, code_5_is_white)
 {
     EXPECT_EQ(painted(5, {}, 3, 2).substr(blank_row.size() * 3, 12), "....ww......");
 }
 
-TEST_F(paste_shape_test, an_outline_makes_the_border_black)
+TEST_F(lay_shape_test, an_outline_makes_the_border_black)
 {
     main.chkOutline.tick(true);
     EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2).substr(blank_row.size() * 3, 12), "....#b......");
@@ -98,7 +98,7 @@ TEST_F(paste_shape_test, an_outline_makes_the_border_black)
     EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2).substr(blank_row.size() * 3, 12), "....#+......");
 }
 
-TEST_F(paste_shape_test, lands_one_width_further_left_on_a_landscape_canvas)
+TEST_F(lay_shape_test, lands_one_width_further_left_on_a_landscape_canvas)
 {
     main.run.canvas = plain(14, 6, canvas_color);
     EXPECT_EQ(painted(7, {}, 8, 1),
@@ -110,7 +110,7 @@ TEST_F(paste_shape_test, lands_one_width_further_left_on_a_landscape_canvas)
               "..............\n");
 }
 
-TEST_F(paste_shape_test, lands_one_width_further_left_on_a_square_canvas)
+TEST_F(lay_shape_test, lands_one_width_further_left_on_a_square_canvas)
 {
     main.run.canvas = plain(6, 6, canvas_color);
     EXPECT_EQ(painted(7, {}, 4, 1),
@@ -122,60 +122,60 @@ TEST_F(paste_shape_test, lands_one_width_further_left_on_a_square_canvas)
               "......\n");
 }
 
-TEST_F(paste_shape_test, letters_stay_where_they_are_on_a_landscape_canvas)
+TEST_F(lay_shape_test, letters_stay_where_they_are_on_a_landscape_canvas)
 {
     main.run.canvas = plain(14, 6, canvas_color);
     main.lblDesign.set_caption("Lettering");
     EXPECT_EQ(painted(7, {}, 8, 1).substr(15, 14), ".........7w...");
 }
 
-TEST_F(paste_shape_test, is_cut_at_the_edge_of_the_canvas)
+TEST_F(lay_shape_test, is_cut_at_the_edge_of_the_canvas)
 {
     EXPECT_EQ(painted(7, {}, -1, -2), "7b..........\n77..........\n" + rows(12));
     EXPECT_EQ(painted(7, {}, 900, -900), "7b..........\n77..........\n" + rows(12));
 }
 
-TEST_F(paste_shape_test, a_mask_that_is_missing_or_damaged_paints_nothing)
+TEST_F(lay_shape_test, a_mask_that_is_missing_or_damaged_paints_nothing)
 {
     for (const std::string name :
          {"none.gif", "", "../data/shape.gif", "shape.jpg", "shape.png", "broken.gif"}) {
         folder.write("program/images/broken.gif", "GIF89a");
-        main.run.current_shape = name;
+        shape = name;
         EXPECT_EQ(painted(7, {}, 3, 2), rows(14)) << name;
         EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2), rows(14)) << name;
     }
 }
 
-TEST_F(paste_shape_test, without_a_photo_nothing_is_painted)
+TEST_F(lay_shape_test, without_a_photo_nothing_is_painted)
 {
     EXPECT_EQ(painted(0, {}, 3, 2), rows(14));
 }
 
-TEST_F(paste_shape_test, masks_lie_in_three_places)
+TEST_F(lay_shape_test, masks_lie_in_three_places)
 {
     folder.write("data/user_images/custom_shape.gif", mask());
     folder.write("data/alpha/char_a.gif", mask());
     for (const std::string name : {"custom_shape.gif", "alpha/char_a.gif", "/alpha/char_a.gif"}) {
-        main.run.current_shape = name;
+        shape = name;
         main.run.canvas = plain(12, 14, canvas_color);
         EXPECT_EQ(painted(7, {}, 3, 2).substr(blank_row.size() * 2, 12), "....7w......") << name;
     }
 }
 
-TEST_F(paste_shape_test, a_name_ending_in_g_is_a_jpeg)
+TEST_F(lay_shape_test, a_name_ending_in_g_is_a_jpeg)
 {
     const bitmap half = colored(16, 16, [](int x, int) {
         return x < 8 ? rgb_triple{255, 255, 255} : rgb_triple{};
     });
     for (const std::string name : {"half.jpg", "half.JPG"}) {
         save_jpeg(half, folder.at("program/images/" + name));
-        main.run.current_shape = name;
+        shape = name;
         main.run.canvas = plain(12, 14, canvas_color);
         EXPECT_EQ(painted(7, {}, 3, 2).substr(blank_row.size() * 2, 12), ".....77.....") << name;
     }
 }
 
-TEST_F(paste_shape_test, the_mask_is_scaled_to_the_size)
+TEST_F(lay_shape_test, the_mask_is_scaled_to_the_size)
 {
     std::vector<std::string> large;
     for (int y = 0; y < 40; ++y)
@@ -185,7 +185,7 @@ TEST_F(paste_shape_test, the_mask_is_scaled_to_the_size)
               rows(2) + ".....77.....\n.....77.....\n.....77.....\n.....77.....\n" + rows(8));
 }
 
-TEST_F(paste_shape_test, a_mask_that_was_used_before_paints_the_same_and_a_changed_one_anew)
+TEST_F(lay_shape_test, a_mask_that_was_used_before_paints_the_same_and_a_changed_one_anew)
 {
     const std::string first = painted(7, {}, 3, 2);
     main.run.canvas = plain(12, 14, canvas_color);

@@ -1,0 +1,125 @@
+#include "engine/photo/lay_photo.h"
+
+#include "engine/photo/photo_steps.h"
+#include "engine/photo/rotation_table.h"
+#include "engine/photo/shape_mask.h"
+#include "engine/pixels/card.h"
+#include "engine/pixels/draw_photo.h"
+#include "engine/pixels/draw_rotated_photo.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+bool is_shape(const rectangle & area)
+{
+    return area.width == 0 || area.height == 0;
+}
+
+/// A shape's square.
+rectangle drawn_area(const rectangle & area)
+{
+    return {.left = area.left,
+            .top = area.top,
+            .width = narrow(area.width == 0 ? area.height : area.width),
+            .height = narrow(area.height == 0 ? area.width : area.height)};
+}
+
+/// A shape lands its own width further left on a landscape or square canvas, which the templates reckon with;
+/// letters don't.
+int shape_column(const frmMain & main, const rectangle & place)
+{
+    const bool upright = main.run.canvas.height() > main.run.canvas.width();
+    return upright || main.lblDesign.caption() == "Lettering" ? place.left : place.left - place.width;
+}
+
+void lay_shape(frmMain & main, const bitmap & image, const photo_place & at, const rectangle & place)
+{
+    const bool painted = at.shape_color != 0;
+    bitmap fitted = painted ? bitmap() : fit_photo(main, image, place.width, place.height);
+    const bool outlined = main.chkOutline.visible() && main.chkOutline.ticked();
+    draw_shape(main.run.canvas, std::move(fitted), place, at.worn,
+               {.mask = shape_mask(main, at.mask, place.width),
+                .fill = painted ? std::optional(shape_fill(at.shape_color)) : std::nullopt,
+                .border = outlined ? shape_border::outlined : shape_border::lightened,
+                .column = shape_column(main, place)});
+}
+
+void lay_upright(frmMain & main, const bitmap & image, const photo_place & at)
+{
+    const rectangle place = drawn_area(at.area);
+    // A wide gap can leave nothing of a cell: a frame without a photo would stand there as two stray lines.
+    if (place.width < 1 || place.height < 1)
+        return;
+    if (is_shape(at.area))
+        lay_shape(main, image, at, place);
+    else
+        draw_photo(main.run.canvas, fit_photo(main, image, place.width, place.height), place, at.worn);
+}
+
+/// Width of the frame that is drawn before the turn. Beyond the size in force the photo would stand on black.
+int early_frame(const frmMain & main, int frame_size)
+{
+    const double chosen = number_in(main.cmbFrame);
+    const int width = !main.in_preview ? nearest(chosen) : chosen < 1 ? 0 : std::max(nearest(chosen / 8), 1);
+    return std::clamp(width, 0, std::max(frame_size, 0));
+}
+
+rectangle tilted_area(const frmMain & main, const bitmap & image, const rectangle & area)
+{
+    if (!main.chkEvolve.ticked())
+        return area;
+    return evolved(area, {.width = image.width(), .height = image.height()});
+}
+
+/// `fitted` fills its area.
+void tilt_onto_canvas(frmMain & main, bitmap fitted, const photo_place & at, const rectangle & area)
+{
+    const int rotation = rounded_rotation(at.rotation);
+    bitmap pixels;
+    const mask_sheet sheet = rotation_sheet(main, pixels);
+    draw_rotated_photo(
+        main.run.canvas, std::move(fitted),
+        {.place = area,
+         .rotation = rotation,
+         .worn = at.worn,
+         .early_frame = early_frame(main, at.worn.frame),
+         .numbers = numbers_of_section(main, rotation_section(area.width, area.height, rotation))},
+        sheet);
+}
+
+void lay_tilted(frmMain & main, bitmap image, const photo_place & at)
+{
+    if (!image)
+        return;
+    const rectangle area = tilted_area(main, image, at.area);
+    // The photo goes before the turn begins, which takes as much memory again.
+    image = fit_photo(main, image, area.width, area.height);
+    image = copied(image, 0, 0, area.width, area.height);
+    tilt_onto_canvas(main, std::move(image), at, area);
+}
+
+}  // namespace
+
+void lay_photo(frmMain & main, bitmap image, const photo_place & at)
+{
+    if (at.rotation == 0)
+        lay_upright(main, image, at);
+    else
+        lay_tilted(main, std::move(image), at);
+}
+
+void lay_card(frmMain & main, const bitmap & image, const photo_place & at)
+{
+    const rectangle & area = at.area;
+    const rectangle photo = photo_on_card(area.width, area.height);
+    bitmap card = captioned_card({.width = area.width, .height = area.height},
+                                 fit_photo(main, image, photo.width, photo.height), at.worn.frame_color);
+    if (at.rotation == 0) {
+        paste(main.run.canvas, card, area.left, area.top, plain_copy);
+    } else if (card) {
+        const rectangle tilted = tilted_area(main, card, area);
+        tilt_onto_canvas(main, std::move(card), at, tilted);
+    }
+}

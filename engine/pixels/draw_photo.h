@@ -1,0 +1,13 @@
+#pragma once
+
+#include "engine/pixels/ornaments.h"
+#include "engine/pixels/paste_shape.h"
+
+/// Puts one upright photo, fitted to `place` of the canvas, down there: round, soft or hard, then framed and
+/// shadowed.
+void draw_photo(bitmap & canvas, bitmap photo, const rectangle & place, const ornaments & worn);
+
+/// The same through a mask; `place` is the shape's square. A painted shape takes no photo and has no soft
+/// edges.
+void draw_shape(bitmap & canvas, bitmap photo, const rectangle & place, const ornaments & worn,
+                const shape_paint & shape);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "engine/pixels/ornaments.h"
+#include "engine/pixels/rotation_numbers.h"
+
+/// The sheet whose turned outline is the mask of a tilted photo.
+struct mask_sheet {
+    picture_size size;               ///< 0 by 0 without one: nothing is drawn
+    const bitmap * drawn = nullptr;  ///< its pixels; none: it is white all over
+};
+
+/// How a photo is tilted.
+struct tilt {
+    rectangle place;   ///< of the canvas, before the turn
+    int rotation = 0;  ///< degrees clockwise as seen, a multiple of 5
+    ornaments worn;
+    int early_frame = 0;       ///< width of a frame that is drawn before the turn
+    rotation_numbers numbers;  ///< of the photo's section of `rotate.ini`; all 0: nothing is drawn
+};
+
+/// Puts one photo, fitted to the place, on the canvas turned about its own upper left corner, which stays
+/// where it is. Only the photo's own pixels are disturbed.
+void draw_rotated_photo(bitmap & canvas, bitmap photo, tilt how, const mask_sheet & sheet);
