@@ -147,6 +147,24 @@ TEST(gen_sample, a_wide_frame_of_a_tilted_photo_has_an_eighth_of_the_lists_width
     EXPECT_EQ(width_seen("300"), 16U);  // no wider than the location's own, 90 pixels of the poster
 }
 
+TEST(gen_sample, a_matrix_that_was_laid_out_smaller_is_drawn_nearer_in_the_posters_proportions)
+{
+    two_halves run;
+    run.main.collage.quick_active = true;
+    run.main.optMatrix.select();
+    run.main.quick.preview_inset = 20;
+    const bitmap sample = run.sample();
+    EXPECT_EQ(size_of(sample), "333 by 500");
+    // 13 and 320, 20 and 480 of the collage: the halves meet at 151 and end at 294, the layout ends at 437.
+    EXPECT_EQ(letter_at(sample, 0, 0), 'r');
+    EXPECT_EQ(letter_at(sample, 145, 200), 'r');
+    EXPECT_EQ(letter_at(sample, 154, 200), 'g');
+    EXPECT_EQ(letter_at(sample, 302, 200), 'g');
+    EXPECT_EQ(letter_at(sample, 308, 200), '.');
+    EXPECT_EQ(letter_at(sample, 100, 450), 'r');
+    EXPECT_EQ(letter_at(sample, 100, 456), '.');
+}
+
 TEST(gen_sample, a_large_caption_at_the_bottom_draws_the_picture_nearer)
 {
     two_halves small, large;
