@@ -2,6 +2,7 @@
 
 #include "photos/lists/pls_line.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,6 @@ inline std::string list_text(const std::vector<std::string> & photos)
 {
     std::string text;
     for (const std::string & photo : photos)
-        text += list_line(orientation::unknown, photo) + "\r\n";
+        text += list_line(std::nullopt, photo) + "\r\n";
     return text;
 }
