@@ -2,6 +2,7 @@
 
 #include "quick/scatter/scatter_tables.h"
 #include "support/platform_error.h"
+#include "tests/sum_by_place.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -39,13 +40,9 @@ int degrees_of(std::size_t column)
     return 5 * from_there - (from_there <= 0 ? 5 : 0);
 }
 
-// Another one for each change of a single number.
-long sum_by_place(const std::array<double, scatter_tilts> & hundredths)
+long measured(const std::array<double, scatter_tilts> & table)
 {
-    long sum = 0, place = 0;
-    for (const double number : hundredths)
-        sum += ++place * std::lround(number * 100);
-    return sum;
+    return sum_by_place(table, [](double number) { return std::lround(number * 100); });
 }
 
 }  // namespace
@@ -149,14 +146,14 @@ TEST(scatter_tables, cells_of_two_by_three_reach_as_far_as_geometry_says)
 TEST(scatter_tables, hold_the_numbers_that_were_measured)
 {
     EXPECT_DOUBLE_EQ(turned_wide.top[6], -0.90);
-    EXPECT_EQ(sum_by_place(turned_wide.top), -1288);
-    EXPECT_EQ(sum_by_place(turned_wide.bottom), 9269);
-    EXPECT_EQ(sum_by_place(turned_wide.left), -1926);
-    EXPECT_EQ(sum_by_place(turned_wide.right), 10160);
-    EXPECT_EQ(sum_by_place(turned_tall.top), -500);
-    EXPECT_EQ(sum_by_place(turned_tall.bottom), 11533);
-    EXPECT_EQ(sum_by_place(turned_tall.left), -2820);
-    EXPECT_EQ(sum_by_place(turned_tall.right), 7174);
+    EXPECT_EQ(measured(turned_wide.top), -1288);
+    EXPECT_EQ(measured(turned_wide.bottom), 9269);
+    EXPECT_EQ(measured(turned_wide.left), -1926);
+    EXPECT_EQ(measured(turned_wide.right), 10160);
+    EXPECT_EQ(measured(turned_tall.top), -500);
+    EXPECT_EQ(measured(turned_tall.bottom), 11533);
+    EXPECT_EQ(measured(turned_tall.left), -2820);
+    EXPECT_EQ(measured(turned_tall.right), 7174);
 }
 
 TEST(scatter_plan, a_tilt_beyond_the_table_is_a_fault)

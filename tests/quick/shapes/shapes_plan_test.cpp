@@ -3,6 +3,7 @@
 #include "designs/templates/location_line.h"
 #include "quick/shapes/shapes_tables.h"
 #include "support/files/text_file.h"
+#include "tests/sum_by_place.h"
 
 #include <gtest/gtest.h>
 
@@ -33,16 +34,6 @@ std::vector<std::string> masks_of(const shapes_layout & plan)
     for (const location & place : plan.places)
         masks.push_back(place.file);
     return masks;
-}
-
-// Another one for each change of a single number.
-template <typename Rows, typename Row>
-int sum_by_place(const Rows & rows, int Row::*number)
-{
-    int sum = 0, place = 0;
-    for (const Row & row : rows)
-        sum += ++place * row.*number;
-    return sum;
 }
 
 }  // namespace
