@@ -46,6 +46,3 @@ void read_job_option(batch_arguments & read, const std::string & name, const std
 
 /// Throws bad_arguments when something is missing to make the collage that is asked for.
 void check_complete(const batch_arguments & read);
-
-/// The text of --help.
-std::string usage();

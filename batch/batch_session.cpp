@@ -4,20 +4,19 @@
 #include "batch/given_photos.h"
 #include "batch/kept_files.h"
 #include "batch/missing_pictures.h"
-#include "batch/open_session.h"
 #include "batch/output_file.h"
 #include "batch/settings.h"
-#include "engine/flurn_driver.h"
 #include "engine/output/flurn_file.h"
+#include "engine/preview.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
-#include "quick/quick_controls.h"
+#include "quick/no_template.h"
 #include "quick/quick_match.h"
+#include "quick/quick_template.h"
 #include "quick/shapes/quick_shapes.h"
 #include "quick/start_quick.h"
-#include "session/connect_all.h"
-#include "session/new_poster.h"
+#include "session/start_designed.h"
 #include "session/window_state.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
@@ -28,11 +27,6 @@
 #include <optional>
 
 namespace {
-
-random_source chance_of(const batch_arguments & arguments)
-{
-    return arguments.seed ? seeded_random(*arguments.seed) : clock_random();
-}
 
 // ---- quick styles
 
@@ -180,7 +174,7 @@ exit_status make_small(open_session & running, const batch_arguments & arguments
     delete_file(picture);
     running.desk.forget_errors();
     if (main.collage.quick_active)
-        make_preview(main);
+        make_preview(main, make_quick_template);
     else
         gen_sample(main);
     std::optional<bool> went_out;
@@ -202,19 +196,6 @@ exit_status make(open_session & running, const batch_arguments & arguments)
 }
 
 }  // namespace
-
-open_session::open_session(const batch_arguments & arguments, const batch_folders & folders)
-    : scratch(folders.scratch),
-      desk(arguments.answers_yes ? answer::yes : answer::no),
-      all(desk, chance_of(arguments))
-{
-    all.main.install_folder = folders.install_folder;
-    share_data_folder(all.main, folders.data, scratch.path());
-    connect_all(all);
-    all.main.load();
-    all.main.left_out.told_by = left_out_photos::teller::caller;
-    desk.progress = [this] { return all.main.txtDoing.text(); };
-}
 
 void check_against(frmMain & main, const batch_arguments & arguments)
 {

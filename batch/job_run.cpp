@@ -1,7 +1,6 @@
-#include "batch/batch_desktop.h"
-#include "batch/batch_session.h"
+#include "batch/job_run.h"
+
 #include "batch/job_list.h"
-#include "batch/open_session.h"
 #include "batch/output_file.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"

@@ -2,6 +2,7 @@
 
 #include "photos/lists/pls_line.h"
 #include "photos/thumbnails/thumbnail_path.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 

@@ -1,5 +1,7 @@
 #include "batch/batch_desktop.h"
 #include "batch/batch_session.h"
+#include "batch/job_run.h"
+#include "batch/usage.h"
 #include "desktop/program_folders.h"
 #include "support/files/paths.h"
 #include "support/files/scratch_folder.h"

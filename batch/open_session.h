@@ -1,9 +1,19 @@
 #pragma once
 
+#include "batch/arguments.h"
 #include "batch/batch_desktop.h"
-#include "batch/batch_session.h"
+#include "session/start/start_up.h"
 #include "session/windows.h"
 #include "support/files/scratch_folder.h"
+
+#include <string>
+
+/// Where the program lies, where the user's data is read, and where scratch folders are made.
+struct batch_folders {
+    std::string install_folder;
+    folder_choice data;
+    std::string scratch;
+};
 
 /// A session as the program with a window has it, up to the point where the window would be shown.
 struct open_session {
@@ -13,10 +23,3 @@ struct open_session {
     /// Throws end_of_program when start-up is blocked; raises what start-up raises.
     open_session(const batch_arguments & arguments, const batch_folders & folders);
 };
-
-/// Throws bad_arguments for a design, a control or a value that doesn't exist.
-void check_against(frmMain & main, const batch_arguments & arguments);
-
-/// Makes one collage in a session that has just been opened, or prints its controls. Throws and raises as
-/// run_batch does.
-exit_status make_collage(open_session & running, const batch_arguments & arguments);

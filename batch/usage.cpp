@@ -1,4 +1,4 @@
-#include "batch/arguments.h"
+#include "batch/usage.h"
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include "quick/start_quick.h"
 #include "session/connect_all.h"
 #include "session/windows.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/numbers.h"
 #include "tests/pictures.h"

@@ -9,6 +9,7 @@
 #include "quick/scatter/quick_scatter.h"
 #include "session/connect_all.h"
 #include "session/windows.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"

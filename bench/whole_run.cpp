@@ -13,11 +13,13 @@
 #include "engine/flurn_driver.h"
 #include "engine/layout/cell_geometry.h"
 #include "engine/pixels/resize_image.h"
+#include "engine/preview.h"
 #include "photos/lists/photo_list.h"
 #include "photos/thumbnails/thumbnails.h"
+#include "quick/quick_template.h"
 #include "session/connect_all.h"
-#include "session/new_poster.h"
 #include "session/start/start_up.h"
+#include "session/start_designed.h"
 #include "session/windows.h"
 #include "support/files/paths.h"
 #include "support/platform_error.h"
@@ -229,7 +231,9 @@ void measure_design(const std::string & app, const std::string & work, const std
     const std::vector<row> rows = {
         {"bare loop", [&](bench_session & session) { return bare_seconds(session, work); }},
         {"full size",
-         [](bench_session & session) { return seconds_of([&] { make_flurn(session.all.main); }); }},
+         [](bench_session & session) {
+             return seconds_of([&] { make_flurn(session.all.main, make_quick_template); });
+         }},
         {"preview",
          [](bench_session & session) { return seconds_of([&] { gen_sample(session.all.main); }); }},
     };

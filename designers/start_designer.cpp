@@ -3,6 +3,7 @@
 #include "designers/work_template.h"
 #include "designs/catalogue/catalogue.h"
 #include "photos/chosen_photos.h"
+#include "session/begin_collage.h"
 #include "session/new_poster.h"
 #include "session/start/start_up.h"
 #include "session/window_state.h"
@@ -87,11 +88,6 @@ void enter_poster(frmMain & main, designer chosen)
     main.optPreview.select(false);  // still on from another collage, its click would not come
 }
 
-void menu_click(frmMain & main, designer chosen)
-{
-    start_designer(main, chosen, [&main] { main.desk.show_modal(main.all->select_photos); });
-}
-
 }  // namespace
 
 void start_designer(frmMain & main, designer chosen, const std::function<void()> & choose_photos)
@@ -111,11 +107,4 @@ void start_designer(frmMain & main, designer chosen, const std::function<void()>
     main.lblOutput.set_caption("");
     enter_poster(main, chosen);
     main.optPreview.select();
-}
-
-void connect_designer_menus(frmMain & main)
-{
-    main.mnuMatrix.on_click = [&main] { menu_click(main, designer::matrix); };
-    main.mnuLettering.on_click = [&main] { menu_click(main, designer::lettering); };
-    main.mnuPuzzle.on_click = [&main] { menu_click(main, designer::puzzle); };
 }

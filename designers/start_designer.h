@@ -12,6 +12,3 @@ enum class designer { matrix, lettering, puzzle };
 /// `choose_photos` lets the user choose photos, as the photo chooser does. Ends in the choosing stage when
 /// either is cancelled.
 void start_designer(frmMain & main, designer chosen, const std::function<void()> & choose_photos);
-
-/// Hooks the three menu entries.
-void connect_designer_menus(frmMain & main);

@@ -1,9 +1,10 @@
+#include "engine/fill_loop.h"
+
 #include "designs/templates/location_line.h"
 #include "engine/layout/cell_geometry.h"
 #include "engine/layout/worn_ornaments.h"
 #include "engine/photo/lay_photo.h"
 #include "engine/photo/photo_steps.h"
-#include "engine/placement_loops.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
 #include "support/files/paths.h"
@@ -21,6 +22,7 @@ constexpr line_digits saved_digits{.place = 2, .rotation = 2};
 struct grid_walk {
     grid layer;
     grid_limits limits;
+    sign_of_life sign;
     int photo = 0;
     int cell = 0;
     bool one_fitted = false;
@@ -202,8 +204,7 @@ cell_span put_photo(frmMain & main, grid_walk & walk, grid_position at, row_lean
 // Fills the cell and gives the number of columns it took.
 int fill_cell(frmMain & main, grid_walk & walk, grid_position at, row_lean & lean)
 {
-    show_image_number(main);
-    main.desk.pump();
+    fire(walk.sign);
     main.run.image_number = narrow(main.run.image_number + 1);
     const cell_span span = put_photo(main, walk, at, lean);
     ++walk.cell;
@@ -236,12 +237,13 @@ grid_limits limits_of(const frmMain & main)
 
 }  // namespace
 
-void fill_loop(frmMain & main)
+void fill_loop(frmMain & main, const sign_of_life & sign)
 {
     // A template that wasn't found has no rows.
     if (main.design_locations.count >= 2 && main.table.last_photo >= 0) {
         grid_walk walk{.layer = layer_of(main),
                        .limits = limits_of(main),
+                       .sign = sign,
                        .photo = main.run.photo_cursor,
                        .saved = std::nullopt};
         open_saved_matrix(main, walk);

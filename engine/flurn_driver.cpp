@@ -2,7 +2,6 @@
 
 #include "designs/catalogue/last_flurn.h"
 #include "engine/photo/photo_steps.h"
-#include "engine/quick_template.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
 #include "photos/thumbnails/thumbnails.h"
@@ -104,9 +103,10 @@ void make_collage(frmMain & main, borrowed_settings & before)
         before.display = &main.optPreview;
         return;
     }
-    place_photos(main, run_size::full);
-    if (!main.run.run_active)
-        return;  // cancelled
+    if (place_photos(main, run_size::full) == run_end::cancelled) {
+        report_cancel(main);
+        return;
+    }
     finish_canvas(main);
     keep_collage(main);
     keep_last_flurn(main);
@@ -129,10 +129,10 @@ void take_failure(frmMain & main, borrowed_settings & before)
     main.picSample.show(false);
 }
 
-void full_run(frmMain & main, borrowed_settings & before)
+void full_run(frmMain & main, const template_maker & make_template, borrowed_settings & before)
 {
     set_output_size(main);
-    make_quick_template(main, run_size::full);
+    make_template(main, run_size::full);
     offer_saving(main);
     read_new_template(main, run_size::full);
     bend_template(main, run_size::full);
@@ -146,12 +146,12 @@ void full_run(frmMain & main, borrowed_settings & before)
 
 }  // namespace
 
-void make_flurn(frmMain & main)
+void make_flurn(frmMain & main, const template_maker & make_template)
 {
     borrowed_settings before = borrow_settings(main);
     // Whatever ends the run, the window is usable afterwards.
     try {
-        full_run(main, before);
+        full_run(main, make_template, before);
     } catch (...) {
         end_run(main);
         give_back(main, before);
@@ -159,13 +159,4 @@ void make_flurn(frmMain & main)
     }
     end_run(main);
     give_back(main, before);
-}
-
-void report_cancel(frmMain & main)
-{
-    main.run.run_active = false;
-    main.run.cancel_requested = false;
-    main.txtDoing.show(false);
-    main.desk.message("Flurning has been canceled.");
-    set_enable(main, true);
 }

@@ -1,10 +1,10 @@
-#include "engine/flurn_driver.h"
+#include "engine/place_loop.h"
+
 #include "engine/layout/worn_ornaments.h"
 #include "engine/photo/fixed_picture.h"
 #include "engine/photo/lay_photo.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/photo/pick_matching.h"
-#include "engine/placement_loops.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
 
@@ -171,20 +171,17 @@ bool is_filled(frmMain & main, int i, int & photo)
 
 }  // namespace
 
-void place_loop(frmMain & main)
+void place_loop(frmMain & main, const sign_of_life & sign)
 {
     location_table & table = main.design_locations;
     table.count = narrow(table.count - 1);
     int photo = 0;
     for (int i = 0; i <= table.count && !main.run.cancel_requested; ++i) {
-        show_image_number(main);
-        main.desk.pump();
+        fire(sign);
         if (!is_fixed(table[i]))
             main.run.image_number = narrow(main.run.image_number + 1);
         if (!is_filled(main, i, photo))
             break;
     }
     main.picSample.show(true);
-    if (main.run.cancel_requested)
-        report_cancel(main);
 }

@@ -1,7 +1,7 @@
+#include "engine/preview.h"
+
 #include "designs/templates/template_reader.h"
-#include "engine/flurn_driver.h"
 #include "engine/layout/run_layout.h"
-#include "engine/quick_template.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
 #include "session/window_state.h"
@@ -91,9 +91,10 @@ void make_sample(frmMain & main)
         report_cancel(main);
         return;
     }
-    place_photos(main, run_size::preview);
-    if (!main.run.run_active)
-        return;  // cancelled
+    if (place_photos(main, run_size::preview) == run_end::cancelled) {
+        report_cancel(main);
+        return;
+    }
     finish_canvas(main);
     save_sample(main);
     main.trace += " (end sample)";
@@ -133,11 +134,11 @@ void show_picture(frmMain & main, const std::string & path)
     main.picSample.show(true);
 }
 
-void make_new_sample(frmMain & main)
+void make_new_sample(frmMain & main, const template_maker & make_template)
 {
     set_enable(main, false);
     set_sample_size(main);
-    make_quick_template(main, run_size::preview);
+    make_template(main, run_size::preview);
     gen_sample(main);
 }
 
@@ -157,7 +158,7 @@ void gen_sample(frmMain & main)
     tell_left_out(main);
 }
 
-void make_preview(frmMain & main)
+void make_preview(frmMain & main, const template_maker & make_template)
 {
     if (main.design_record.file.empty() && !main.collage.quick_active)
         return;
@@ -169,7 +170,7 @@ void make_preview(frmMain & main)
     try {
         const busy pointer(main.desk);
         if (main.optPreview.selected())
-            make_new_sample(main);
+            make_new_sample(main, make_template);
         show_picture(main, finished_path(main));
     } catch (...) {
         set_enable(main, true);

@@ -3,12 +3,15 @@
 #include "designs/templates/location_mixing.h"
 #include "designs/templates/template_reader.h"
 #include "engine/background.h"
-#include "engine/flurn_driver.h"
+#include "engine/canvas.h"
+#include "engine/fill_loop.h"
+#include "engine/image_number.h"
 #include "engine/layout/ornament_sizes.h"
 #include "engine/layout/run_layout.h"
 #include "engine/layout/surroundings.h"
 #include "engine/photo/photo_steps.h"
-#include "engine/placement_loops.h"
+#include "engine/pixels/key_color.h"
+#include "engine/place_loop.h"
 #include "photos/lists/photo_list.h"
 #include "session/window_state.h"
 #include "support/files/paths.h"
@@ -101,14 +104,27 @@ void turn_the_order(frmMain & main)
         shuffle_locations(main, whole(main.random.next() * 7 + 1) % 7);
 }
 
-void fill_all_layers(frmMain & main)
+void fill_all_layers(frmMain & main, const sign_of_life & sign)
 {
     main.run.photo_cursor = 0;
-    fill_loop(main);
+    fill_loop(main, sign);
     while (main.design_locations.count >= 3) {
         drop_layer(main.design_locations);
-        fill_loop(main);
+        fill_loop(main, sign);
     }
+}
+
+// A grid runs to its end whatever the user wishes.
+run_end run_loops(frmMain & main)
+{
+    const sign_of_life sign = [&main] { show_image_number(main); };
+    if (main.work_style == "Place") {
+        place_loop(main, sign);
+        return main.run.cancel_requested ? run_end::cancelled : run_end::complete;
+    }
+    if (layout_of(main) == layout::grids)
+        fill_all_layers(main, sign);
+    return run_end::complete;
 }
 
 std::string failure_text(const frmMain & main, const platform_error & error)
@@ -167,7 +183,7 @@ void lay_ground(frmMain & main, run_size size)
     main.trace += "AAA  ";
 }
 
-void place_photos(frmMain & main, run_size size)
+run_end place_photos(frmMain & main, run_size size)
 {
     turn_if_needed(main);
     move_to_canvas(main, size);
@@ -176,12 +192,10 @@ void place_photos(frmMain & main, run_size size)
     main.trace += "GGG  ";
     const int16 wraps = main.chkEvolve.ticked() ? 0 : evolve_off;
     main.run.evolve_portrait_wraps = main.run.evolve_landscape_wraps = wraps;
-    if (main.work_style == "Place")
-        place_loop(main);
-    else if (layout_of(main) == layout::grids)
-        fill_all_layers(main);
+    const run_end end = run_loops(main);
     forget_ahead(main);
     main.trace += "BBB  ";
+    return end;
 }
 
 void finish_canvas(frmMain & main)
@@ -213,5 +227,14 @@ void end_run(frmMain & main)
     main.run.run_active = false;
     main.run.cancel_requested = false;
     main.txtDoing.show(false);
+    set_enable(main, true);
+}
+
+void report_cancel(frmMain & main)
+{
+    main.run.run_active = false;
+    main.run.cancel_requested = false;
+    main.txtDoing.show(false);
+    main.desk.message("Flurning has been canceled.");
     set_enable(main, true);
 }

@@ -20,8 +20,10 @@ void begin_run(frmMain & main);
 /// Canvas with its background, colours and sizes of the ornaments. Raises 7.
 void lay_ground(frmMain & main, run_size size);
 
-/// Brings the locations to the canvas and draws all of them.
-void place_photos(frmMain & main, run_size size);
+enum class run_end { complete, cancelled };
+
+/// Brings the locations to the canvas and draws all of them, unless the user cancels in between.
+run_end place_photos(frmMain & main, run_size size);
 
 /// Lays the caption over the collage.
 void finish_canvas(frmMain & main);
@@ -31,3 +33,6 @@ bool went_through(frmMain & main, const std::function<void()> & work);
 
 /// The state in which no run is going on; the canvas is released.
 void end_run(frmMain & main);
+
+/// Ends a run after `cmdCancel`.
+void report_cancel(frmMain & main);

@@ -1,25 +1,10 @@
+#include "frames/frame_menus.h"
+
 #include "frames/icons/icon_list.h"
 #include "frames/sets/frame_sets.h"
-#include "session/handlers.h"
-
-// The menu of the frames.
+#include "session/windows.h"
 
 namespace {
-
-void mnuNewFrame_click(frmMain & main)
-{
-    main.all->custom.edit_frame_name = unnamed_set;
-    new_custom_frame(main);
-}
-
-void mnuEditFrame_click(frmMain & main)
-{
-    main.frame_manage_mode = true;
-    if (start_custom_frames(main).empty())
-        main.desk.message("You have no custom frames at this time.");
-    else
-        main.desk.show_modal(main.all->custom);
-}
 
 std::string icon_fault(const std::string & path)
 {
@@ -31,7 +16,24 @@ std::string icon_fault(const std::string & path)
     return {};
 }
 
-void mnuIcon_click(frmMain & main)
+}  // namespace
+
+void add_custom_frame(frmMain & main)
+{
+    main.all->custom.edit_frame_name = unnamed_set;
+    new_custom_frame(main);
+}
+
+void edit_custom_frames(frmMain & main)
+{
+    main.frame_manage_mode = true;
+    if (start_custom_frames(main).empty())
+        main.desk.message("You have no custom frames at this time.");
+    else
+        main.desk.show_modal(main.all->custom);
+}
+
+void import_icon(frmMain & main)
 {
     const auto path = main.desk.choose_file(
         {.title = "Image file", .filter = "Image files |*.bmp", .folder = {}, .extension = {}});
@@ -43,13 +45,4 @@ void mnuIcon_click(frmMain & main)
         main.desk.show_modal(main.all->icon_name);
     else
         main.desk.message(fault);
-}
-
-}  // namespace
-
-void connect_frame_menus(windows & all)
-{
-    all.main.mnuNewFrame.on_click = [&all] { mnuNewFrame_click(all.main); };
-    all.main.mnuEditFrame.on_click = [&all] { mnuEditFrame_click(all.main); };
-    all.main.mnuIcon.on_click = [&all] { mnuIcon_click(all.main); };
 }

@@ -1,10 +1,10 @@
+#include "photos/photo_menus.h"
+
 #include "photos/lists/photo_list.h"
 #include "photos/lists/saved_lists.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
-
-// The menu of the photo lists.
 
 namespace {
 
@@ -20,9 +20,23 @@ std::string named_list(frmMain & main)
     return path;
 }
 
+// A list that the user edited or deleted may have been the working list itself.
+void recount_working_list(frmMain & main)
+{
+    const std::string list = last_photos_path(main);
+    int count = 0;
+    if (file_exists(list))
+        for (line_source lines(list); !lines.at_end(); ++count)
+            lines.read_line();
+    main.selected_count = narrow(count);
+    main.cmdPhotos.tag = std::to_string(count);
+}
+
+}  // namespace
+
 // A list of that name was to be overwritten. The list stays on the disk under its name and is not the source
 // of a collage.
-void mnuNewList_click(frmMain & main)
+void add_photo_list(frmMain & main)
 {
     const std::string source = main.txtPhotos.tag;
     const std::string list = named_list(main);
@@ -37,7 +51,7 @@ void mnuNewList_click(frmMain & main)
     main.txtPhotos.tag = source;
 }
 
-void mnuSaveLast_click(frmMain & main)
+void save_last_photo_list(frmMain & main)
 {
     if (!check_last_list(main))
         return;
@@ -46,20 +60,8 @@ void mnuSaveLast_click(frmMain & main)
         save_last_list(main, list);
 }
 
-// A list that the user edited or deleted may have been the working list itself.
-void recount_working_list(frmMain & main)
-{
-    const std::string list = last_photos_path(main);
-    int count = 0;
-    if (file_exists(list))
-        for (line_source lines(list); !lines.at_end(); ++count)
-            lines.read_line();
-    main.selected_count = narrow(count);
-    main.cmdPhotos.tag = std::to_string(count);
-}
-
 // The lists are managed and no source of a collage.
-void mnuEditSelections_click(frmMain & main)
+void edit_photo_lists(frmMain & main)
 {
     main.picSplash.show(false);
     main.picSample.load("");
@@ -73,13 +75,4 @@ void mnuEditSelections_click(frmMain & main)
     main.desk.show_modal(main.all->picture_list);
     main.txtPhotos.tag = source;
     recount_working_list(main);
-}
-
-}  // namespace
-
-void connect_photo_menus(windows & all)
-{
-    all.main.mnuNewList.on_click = [&all] { mnuNewList_click(all.main); };
-    all.main.mnuEditSelections.on_click = [&all] { mnuEditSelections_click(all.main); };
-    all.main.mnuSaveLast.on_click = [&all] { mnuSaveLast_click(all.main); };
 }

@@ -1,5 +1,9 @@
-#include "quick/quick_controls.h"
+#include "quick/quick_orientation.h"
+
+#include "quick/no_template.h"
+#include "quick/poster_sides.h"
 #include "quick/quick_match.h"
+#include "session/main_window/redraw.h"
 
 // The orientation of the poster.
 
@@ -88,7 +92,7 @@ void orientation_click(frmMain & main, poster_shape shape)
         update_orientation(main, shape);
     if (shape != poster_shape::square)
         main.bg_portrait = shape == poster_shape::portrait;
-    place_at(main.frmDisplay, layout.display_left, layout.display_top);
+    main.frmDisplay.move_to(layout.display_left, layout.display_top);
     main.picSample.show(true);
 }
 

@@ -1,7 +1,10 @@
-#include "quick/quick_controls.h"
-#include "quick/quick_match.h"
+#include "quick/quick_styles.h"
 
-// The four quick styles, and the shape of the last.
+#include "quick/no_template.h"
+#include "quick/poster_sides.h"
+#include "quick/quick_match.h"
+#include "session/begin_collage.h"
+#include "session/main_window/redraw.h"
 
 namespace {
 
@@ -36,10 +39,10 @@ void lay_out_block(frmMain & main)
                &main.cmbShapes, &main.chkMix},
               false);
     const box evolve = main.chkEvolve.place();
-    place_at(main.frmSpace, main.frmShake.place().left, main.frmShake.place().top);
-    place_at(main.cmbBlanks, evolve.left - 55, evolve.top + 282);
-    place_at(main.lblBlanks, evolve.left - 35, evolve.top - 700);
-    place_at(main.frmSquares, main.chkMatch.place().left - 30, evolve.top - 440);
+    main.frmSpace.move_to(main.frmShake.place().left, main.frmShake.place().top);
+    main.cmbBlanks.move_to(evolve.left - 55, evolve.top + 282);
+    main.lblBlanks.move_to(evolve.left - 35, evolve.top - 700);
+    main.frmSquares.move_to(main.chkMatch.place().left - 30, evolve.top - 440);
     enable_borders(main);
     main.chkMatch.enable(true);
     settle_matching(main, match_box::ticked);
@@ -106,9 +109,9 @@ void optMatrix_click(frmMain & main)
 void show_shapes_controls(frmMain & main)
 {
     const box shake = main.frmShake.place();
-    place_at(main.frmSpace, shake.left, shake.top);
-    place_at(main.cmbSpace, shake.left, shake.top);
-    place_at(main.frmAlign, 222, shake.top);
+    main.frmSpace.move_to(shake.left, shake.top);
+    main.cmbSpace.move_to(shake.left, shake.top);
+    main.frmAlign.move_to(222, shake.top);
     show_each({&main.frmSpace, &main.cmbSpace, &main.frmAlign, &main.frmSquares}, true);
     show_each({&main.cmdMore, &main.frmShake}, false);
     enable_borders(main);

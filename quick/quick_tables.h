@@ -3,6 +3,7 @@
 #include "quick/blank_run.h"
 #include "session/frmMain.h"
 #include "support/files/text_file.h"
+#include "support/list_controls.h"
 
 #include <functional>
 #include <string_view>

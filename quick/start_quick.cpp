@@ -3,8 +3,10 @@
 #include "designs/catalogue/catalogue.h"
 #include "photos/chosen_photos.h"
 #include "photos/lists/photo_list.h"
-#include "quick/quick_controls.h"
+#include "quick/no_template.h"
 #include "quick/quick_match.h"
+#include "session/begin_collage.h"
+#include "session/main_window/redraw.h"
 #include "session/new_poster.h"
 #include "session/window_state.h"
 #include "session/windows.h"
@@ -168,11 +170,6 @@ void enter_poster(frmMain & main)
     main.picSample.show(false);
 }
 
-void mnuQuick_click(frmMain & main)
-{
-    begin_quick(main, [&main] { main.desk.show_modal(main.all->select_photos); });
-}
-
 }  // namespace
 
 bool start_quick(frmMain & main)
@@ -227,9 +224,4 @@ void take_new_photos(frmMain & main)
     // Where scatter was selected instead it has drawn itself.
     if (block == main.optBlock.selected())
         refresh_preview(main);
-}
-
-void connect_quick_menu(frmMain & main)
-{
-    main.mnuQuick.on_click = [&main] { mnuQuick_click(main); };
 }

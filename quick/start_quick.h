@@ -18,6 +18,3 @@ bool start_quick(frmMain & main);
 /// Goes on with other photos, which have been counted: finds their template and redraws. For other collages
 /// just redraws.
 void take_new_photos(frmMain & main);
-
-/// Hooks the menu entry.
-void connect_quick_menu(frmMain & main);

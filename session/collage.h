@@ -5,8 +5,6 @@
 
 #include <string>
 
-struct frmMain;
-
 enum class collage_kind { none, quick, designed, matrix, lettering, puzzle };
 
 /// Which collage this is: made anew when one begins, so that nothing of the one before has a say in it.
@@ -32,10 +30,3 @@ struct collage {
     forced_settings forced;           ///< by the design: they go back when the next collage begins
     forced_settings forced_by_style;  ///< by the quick style: they go back with the next style as well
 };
-
-/// Where every collage begins: what the one before forced goes back to what the user had, what the user chose
-/// stays, and the record is that of a new collage.
-void begin_collage(frmMain & main, collage_kind kind);
-
-/// Where another quick style takes over in the same collage.
-void leave_quick_style(frmMain & main);

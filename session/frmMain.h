@@ -14,7 +14,7 @@
 #include "session/collage.h"
 #include "support/desktop.h"
 #include "support/files/folder_lock.h"
-#include "support/forms.h"
+#include "support/list_controls.h"
 #include "support/random.h"
 
 #include <array>

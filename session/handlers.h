@@ -2,29 +2,18 @@
 
 #include "session/windows.h"
 
-/// The hooks of all windows, one for each file of handlers; `connect_all` runs them. Other files reach a
+/// The hooks of all dialogs, one for each file of handlers; `connect_all` runs them. Other files reach a
 /// handler through its control, not through these.
 
-void connect_load(frmMain & main);
-void connect_ornaments(frmMain & main);
-void connect_background(frmMain & main);
-void connect_caption(frmMain & main);
-void connect_shake(frmMain & main);
-void connect_output(frmMain & main);
-void connect_menus(frmMain & main);
-void connect_designed(frmMain & main);
-void connect_buttons(frmMain & main);
 void connect_frmThemes(windows & all);
 void connect_frmNewDesign(windows & all);
 void connect_frmDesigns(windows & all);
-void connect_design_menus(windows & all);
 void connect_frmCustom(windows & all);
 void connect_frmFrameName(windows & all);
 void connect_frmFrames(windows & all);
 void connect_frmCaptions(windows & all);
 void connect_frmIconName(windows & all);
 void connect_frmCaptionText(windows & all);
-void connect_frame_menus(windows & all);
 void connect_frmMatrix(windows & all);
 void connect_frmLettering(windows & all);
 void connect_frmPuzzle(windows & all);
@@ -35,14 +24,6 @@ void connect_frmPhotoList(windows & all);
 void connect_frmPictureName(windows & all);
 void connect_frmPictureList(windows & all);
 void connect_frmPictures(windows & all);
-void connect_frmPictures_popup(windows & all);
-void connect_photo_menus(windows & all);
 void connect_frmSize(windows & all);
 void connect_frmFont(windows & all);
 void connect_frmAbout(windows & all);
-
-/// The load step of the main window: its start state.
-void load_main(frmMain & main);
-
-/// Allows the full-size collage to be made.
-void enable_flurn(frmMain & main);

@@ -1,3 +1,5 @@
+#include "session/start_designed.h"
+
 #include "photos/chosen_photos.h"
 #include "session/new_poster.h"
 #include "session/start/start_up.h"

@@ -71,6 +71,14 @@ void control::move(const box & where)
         changed();
 }
 
+void control::move_to(int left, int top)
+{
+    box where = own_place;
+    where.left = left;
+    where.top = top;
+    move(where);
+}
+
 void control::set_back_color(std::uint32_t color)
 {
     if (replaced(back, color))

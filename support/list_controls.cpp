@@ -1,11 +1,10 @@
-#include "support/forms.h"
+#include "support/list_controls.h"
+
 #include "support/numbers.h"
 #include "support/platform_error.h"
 #include "support/replaced.h"
 
 #include <algorithm>
-
-// The controls with entries, and the scale.
 
 namespace {
 

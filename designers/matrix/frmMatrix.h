@@ -1,7 +1,7 @@
 #pragma once
 
 #include "designers/matrix/matrix_choices.h"
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 /// Designs a regular grid of photos, shown in small while it changes. A cancel leaves the tag of the main
 /// window's `lblDesign` empty.

@@ -3,6 +3,7 @@
 #include "designers/matrix/frmMatrix.h"
 #include "designs/templates/run_size.h"
 #include "session/frmMain.h"
+#include "support/list_controls.h"
 
 /// The matrix designer's procedures on its own controls.
 

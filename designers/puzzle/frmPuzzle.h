@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 /// Designs a jigsaw puzzle. A cancel leaves the tag of the main window's `lblDesign` empty.
 struct frmPuzzle : form {

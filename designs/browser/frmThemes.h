@@ -1,7 +1,7 @@
 #pragma once
 
 #include "designs/browser/theme_designs.h"
-#include "support/forms.h"
+#include "support/list_controls.h"
 #include "support/numbers.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "designs/catalogue/listed_design.h"
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 #include <vector>
 

@@ -5,6 +5,7 @@
 #include "designs/package/package_rules.h"
 #include "designs/templates/unfinished.h"
 #include "support/files/archive.h"
+#include "support/files/copies.h"
 #include "support/files/inner_path.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"

@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/catalogue.h"
 #include "designs/catalogue/catalogue_lines.h"
+#include "support/files/copies.h"
 #include "support/files/inner_path.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"

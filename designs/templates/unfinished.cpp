@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/catalogue.h"
 #include "designs/package/manifest.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"

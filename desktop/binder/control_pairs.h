@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/binder/picture_view.h"
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 #include <QAction>
 #include <QCheckBox>

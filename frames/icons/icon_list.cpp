@@ -2,6 +2,7 @@
 
 #include "frames/icons/icon_line.h"
 #include "session/windows.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/letter_case.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 /// The frame sets. As chooser it leaves the one that the collage wears in `frame_set_name` of the main
 /// window; as manager (`frame_manage_mode` there) it edits and deletes them.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/forms.h"
+#include "support/list_controls.h"
 #include "support/numbers.h"
 
 #include <string>

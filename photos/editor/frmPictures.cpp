@@ -1,3 +1,4 @@
+#include "photos/editor/frmPictures_popup.h"
 #include "photos/editor/photo_cells.h"
 #include "photos/editor/photo_grid.h"
 #include "photos/lists/list_name.h"

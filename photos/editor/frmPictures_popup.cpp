@@ -1,8 +1,8 @@
+#include "photos/editor/frmPictures_popup.h"
+
 #include "photos/editor/photo_cells.h"
 #include "photos/editor/photo_grid.h"
-#include "session/handlers.h"
-
-// The popup menu of a photo in the grid, and its keys.
+#include "session/windows.h"
 
 namespace {
 

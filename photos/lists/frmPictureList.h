@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 /// The saved lists. As chooser it gives the path of a list, or none, in the tag of `txtPhotos` of the main
 /// window; as manager (`photo_list_edit_mode`) it edits and deletes them.

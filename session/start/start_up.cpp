@@ -3,6 +3,7 @@
 #include "session/start/displaced.h"
 #include "session/start/supplied_catalogue.h"
 #include "support/files/archive.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/numbers.h"

@@ -66,12 +66,6 @@ void remove_tree(const std::string & path);
 /// Gives a folder another name that no folder with anything in it has. Raises 70, 75, 76.
 void rename_folder(const std::string & from, const std::string & to);
 
-/// Copies one file, overwriting. Raises 53, 61, 70, 75. The copy is whole or not there.
-void copy_file(const std::string & from, const std::string & to);
-
-/// Copies a folder with all that lies in it, overwriting files of the same name. Raises as copy_file.
-void copy_folder(const std::string & from, const std::string & to);
-
 /// True when the user can make files in the folder.
 bool folder_writable(const std::string & folder);
 

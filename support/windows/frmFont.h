@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 /// Chooses the font of the caption of the main window, and, while `font_extended` is set there, its size and
 /// colour.

@@ -1,5 +1,7 @@
 #include "batch/arguments.h"
 
+#include "batch/usage.h"
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/batch_session.h"
+#include "batch/job_run.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "tests/pictures.h"

@@ -1,3 +1,4 @@
+#include "support/files/copies.h"
 #include "support/platform_error.h"
 #include "tests/batch/batch_program.h"
 #include "tests/photo_lists.h"

@@ -2,6 +2,7 @@
 
 #include "desktop/binder/binder.h"
 #include "desktop/binder/picture_view.h"
+#include "support/list_controls.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "engine/flurn_driver.h"
+#include "engine/canvas.h"
 #include "tests/engine/collage_fixture.h"
 
 #include <gtest/gtest.h>

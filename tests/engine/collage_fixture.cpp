@@ -2,6 +2,7 @@
 
 #include "engine/flurn_driver.h"
 #include "photos/thumbnails/thumbnails.h"
+#include "quick/quick_template.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "tests/pictures.h"
@@ -75,7 +76,7 @@ bitmap collage_fixture::full_run()
     desk.on_modal<frmImage>([&](frmImage &) {
         shown = copied(main.run.canvas, 0, 0, main.run.canvas.width(), main.run.canvas.height());
     });
-    make_flurn(main);
+    make_flurn(main, make_quick_template);
     return shown;
 }
 
@@ -105,7 +106,7 @@ void look_at_start(collage_fixture & run, const std::function<void()> & look)
         look();
         run.main.run.cancel_requested = true;
     });
-    make_flurn(run.main);
+    make_flurn(run.main, make_quick_template);
     EXPECT_TRUE(looked);
     EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
 }

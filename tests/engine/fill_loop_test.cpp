@@ -1,4 +1,6 @@
-#include "engine/placement_loops.h"
+#include "engine/fill_loop.h"
+
+#include "engine/image_number.h"
 #include "engine/run_steps.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
@@ -22,7 +24,7 @@ struct grid_run : collage_fixture {
     }
     std::string filled()
     {
-        fill_loop(main);
+        fill_loop(main, [this] { show_image_number(main); });
         return sampled(main.run.canvas, 5, 10);
     }
 };
@@ -296,7 +298,7 @@ TEST(fill_loop, a_grid_whose_cells_have_no_size_is_an_overflow)
     run.main.design_locations[1] = {};
     run.add_photo(red);
     try {
-        fill_loop(run.main);
+        fill_loop(run.main, {});
         FAIL();
     } catch (const platform_error & error) {
         EXPECT_EQ(code(error), 6);

@@ -1,6 +1,8 @@
 #include "engine/flurn_driver.h"
 
+#include "engine/pixels/key_color.h"
 #include "photos/thumbnails/thumbnails.h"
+#include "quick/quick_template.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
@@ -55,7 +57,7 @@ TEST(make_flurn, the_window_is_shut_while_the_collage_is_made_and_shown)
         EXPECT_FALSE(run.main.frmOutput.enabled());
         EXPECT_EQ(run.desk.busy_depth, 0);
     });
-    make_flurn(run.main);
+    make_flurn(run.main, make_quick_template);
     EXPECT_TRUE(looked);
     EXPECT_EQ(run.main.txtDoing.text(), "Finishing touches...");
 }

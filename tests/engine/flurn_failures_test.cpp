@@ -1,5 +1,7 @@
 #include "engine/flurn_driver.h"
+#include "engine/run_steps.h"
 #include "photos/thumbnails/thumbnails.h"
+#include "quick/quick_template.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -40,7 +42,7 @@ TEST(make_flurn, a_cancel_while_it_gets_ready_ends_it)
     run.home.write("data/designs.ini", "[Design001]\r\nName=Match\r\nStyle=Place\r\n");
     run.home.write("data/designs/__quick", text_of(quarters()));
     run.desk.on_pump(1, [&] { run.main.run.cancel_requested = true; });
-    make_flurn(run.main);
+    make_flurn(run.main, make_quick_template);
     EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
     EXPECT_FALSE(run.main.collage.quick_active);
     EXPECT_TRUE(run.main.optPreview.selected());
@@ -58,7 +60,7 @@ TEST(make_flurn, a_cancel_between_two_photos_ends_it_without_a_picture)
         run.main.optPreview.select(false);
         run.main.run.cancel_requested = true;
     });
-    make_flurn(run.main);
+    make_flurn(run.main, make_quick_template);
     EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
     EXPECT_TRUE(run.main.optPreview.selected());
     EXPECT_FALSE(file_exists(joined(run.main.data_folder, "tmp/finished.jpg")));
@@ -86,7 +88,7 @@ TEST(make_flurn, an_error_in_the_run_shows_how_far_it_came_and_its_number)
     run.main.optPreview.select();
     run.main.collage.quick_active = false;
     run.main.collage.matrix_session = true;
-    make_flurn(run.main);
+    make_flurn(run.main, make_quick_template);
     EXPECT_EQ(run.desk.next_message(), "MMM  HHH  CCC  AAA  XX  CAUGHT AN ERROR  6");
     EXPECT_FALSE(run.main.collage.matrix_session);
     EXPECT_FALSE(run.main.collage.quick_active);
@@ -104,7 +106,7 @@ TEST(make_flurn, an_error_before_the_run_began_leaves_the_window_usable)
     run.use_template({"0:0:300:100:182:0:0:0:"});
     run.main.collage.design_mirrored = true;
     run.main.optPreview.select();
-    EXPECT_THROW(make_flurn(run.main), platform_error);
+    EXPECT_THROW(make_flurn(run.main, make_quick_template), platform_error);
     EXPECT_TRUE(run.main.optPreview.selected());
     expect_usable(run.main);
 }
@@ -115,7 +117,7 @@ TEST(make_flurn, a_full_disk_is_told_with_its_file_and_leaves_the_old_picture)
     const std::string path = run.home.write("data/tmp/finished.jpg", "old");
     {
         const full_disk limit(1000);
-        make_flurn(run.main);
+        make_flurn(run.main, make_quick_template);
     }
     const std::string message = run.desk.next_message();
     EXPECT_EQ(message, run.main.trace +
@@ -130,7 +132,7 @@ TEST(make_flurn, a_missing_work_folder_is_told_with_its_file)
 {
     four_photos run;
     std::filesystem::remove_all(joined(run.main.data_folder, "tmp"));
-    make_flurn(run.main);
+    make_flurn(run.main, make_quick_template);
     const std::string message = run.desk.next_message();
     EXPECT_NE(message.find("XX  CAUGHT AN ERROR  "), std::string::npos);
     EXPECT_NE(message.find("finished.jpg"), std::string::npos);

@@ -1,4 +1,4 @@
-#include "engine/flurn_driver.h"
+#include "engine/preview.h"
 #include "photos/thumbnails/thumbnails.h"
 #include "support/files/paths.h"
 #include "tests/engine/collage_fixture.h"

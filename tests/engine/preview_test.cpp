@@ -1,5 +1,7 @@
-#include "engine/flurn_driver.h"
+#include "engine/preview.h"
+
 #include "engine/layout/run_layout.h"
+#include "quick/quick_template.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
@@ -254,13 +256,13 @@ TEST(make_preview, shows_the_new_picture)
     two_halves run;
     run.main.optPreview.select();
     run.main.picSample.show(false);
-    make_preview(run.main);
+    make_preview(run.main, make_quick_template);
     EXPECT_EQ(run.main.picSample.file(), joined(run.main.data_folder, "tmp/finished.jpg"));
     EXPECT_EQ(run.main.picSample.load_count(), 1);
     EXPECT_TRUE(run.main.picSample.visible());
     EXPECT_TRUE(run.main.enabling.last);
     EXPECT_EQ(run.desk.busy_depth, 0);
-    make_preview(run.main);
+    make_preview(run.main, make_quick_template);
     EXPECT_EQ(run.main.picSample.load_count(), 2);
 }
 
@@ -268,10 +270,10 @@ TEST(make_preview, does_nothing_without_a_design_or_with_the_preview_off)
 {
     two_halves run;
     run.main.optSample.select();
-    make_preview(run.main);
+    make_preview(run.main, make_quick_template);
     run.main.optPreview.select();
     run.main.design_record = {};
-    make_preview(run.main);
+    make_preview(run.main, make_quick_template);
     EXPECT_EQ(run.main.picSample.load_count(), 0);
     EXPECT_EQ(run.desk.pumps, 0);
 }
@@ -284,7 +286,7 @@ TEST(make_preview, shows_the_stored_sample_of_a_quick_style_while_it_is_off)
     for (const char * name : {"p_nb", "p_sb", "p_lb", "l_sb", "p_s", "p_o", "p_r", "l_ro", "p_so", "p_srr"})
         run.picture("install/images/preview/" + std::string(name) + ".jpg", red, 4, 4);
     const auto shown = [&] {
-        make_preview(run.main);
+        make_preview(run.main, make_quick_template);
         return name_of(run.main.picSample.file());
     };
     run.main.optBlock.select();

@@ -1,5 +1,6 @@
+#include "engine/fill_loop.h"
 #include "engine/photo/photo_steps.h"
-#include "engine/placement_loops.h"
+#include "engine/place_loop.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 
@@ -20,10 +21,11 @@ struct told_run {
     std::size_t questions = 0, images = 0;
 };
 
+using loop_of_a_run = void (*)(frmMain &, const sign_of_life &);
 using preparation = std::function<void(collage_fixture &)>;
 
 // One loop over five photos, three of them upright; the fourth can't be read.
-told_run run_of(bool ahead, const preparation & prepare, void (*loop)(frmMain &))
+told_run run_of(bool ahead, const preparation & prepare, loop_of_a_run loop)
 {
     collage_fixture run;
     run.main.run.ahead.is_on = ahead;
@@ -35,7 +37,7 @@ told_run run_of(bool ahead, const preparation & prepare, void (*loop)(frmMain &)
     run.add_path(run.home.at("d.jpg"));
     run.add_path(noisy_photo(run, "e.jpg", 320, 400));
     prepare(run);
-    loop(run.main);
+    loop(run.main, {});
     forget_ahead(run.main);
     return {.canvas = std::move(run.main.run.canvas),
             .messages = run.desk.messages,
@@ -43,7 +45,7 @@ told_run run_of(bool ahead, const preparation & prepare, void (*loop)(frmMain &)
             .images = static_cast<std::size_t>(run.main.run.image_number)};
 }
 
-void expect_same_run(const preparation & prepare, void (*loop)(frmMain &))
+void expect_same_run(const preparation & prepare, loop_of_a_run loop)
 {
     const told_run with = run_of(true, prepare, loop), without = run_of(false, prepare, loop);
     EXPECT_TRUE(same(with.canvas, without.canvas));

@@ -1,6 +1,5 @@
 #include "designs/catalogue/catalogue.h"
 #include "designs/catalogue/chosen_design.h"
-#include "engine/flurn_driver.h"
 #include "pack/package_check.h"
 #include "pack/package_maker.h"
 #include "session/connect_all.h"

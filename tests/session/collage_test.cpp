@@ -1,5 +1,6 @@
 #include "session/collage.h"
 
+#include "session/begin_collage.h"
 #include "session/new_poster.h"
 #include "tests/session/opened_session.h"
 

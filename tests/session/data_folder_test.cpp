@@ -1,5 +1,5 @@
 #include "designs/catalogue/catalogue.h"
-#include "session/handlers.h"
+#include "session/main_window/load.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"

@@ -1,5 +1,6 @@
 #include "session/new_poster.h"
 
+#include "session/begin_collage.h"
 #include "support/platform_error.h"
 #include "tests/session/opened_session.h"
 

@@ -1,4 +1,5 @@
-#include "session/new_poster.h"
+#include "session/start_designed.h"
+
 #include "support/MFreeImage.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"

@@ -1,5 +1,4 @@
-#include "support/forms.h"
-
+#include "support/list_controls.h"
 #include "support/platform_error.h"
 
 #include <gtest/gtest.h>

@@ -9,6 +9,7 @@
 #include "frames/sets/frame_sets.h"
 #include "session/connect_all.h"
 #include "support/files/archive.h"
+#include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 

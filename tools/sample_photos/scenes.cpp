@@ -1,5 +1,18 @@
 #include "scenes.h"
 
+#include "scenes_close.h"
+#include "scenes_food.h"
+#include "scenes_garden.h"
+#include "scenes_harbour.h"
+#include "scenes_land.h"
+#include "scenes_people.h"
+#include "scenes_rooms.h"
+#include "scenes_sky.h"
+#include "scenes_sport.h"
+#include "scenes_town.h"
+#include "scenes_travel.h"
+#include "scenes_water.h"
+
 std::vector<scene> all_scenes()
 {
     const auto wide = format::landscape, tall = format::portrait;

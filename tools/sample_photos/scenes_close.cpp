@@ -1,6 +1,7 @@
+#include "scenes_close.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 #include <numbers>
 

@@ -1,7 +1,7 @@
-// Food and drink.
+#include "scenes_food.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-// Gardens and feasts in them.
+#include "scenes_garden.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 #include <numbers>
 

@@ -1,7 +1,7 @@
-// Bridges and harbours.
+#include "scenes_harbour.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
+#include "scenes_land.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 #include <numbers>
 

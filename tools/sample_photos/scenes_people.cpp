@@ -1,6 +1,7 @@
+#include "scenes_people.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 void girl_with_balloons(canvas & photo)
 {

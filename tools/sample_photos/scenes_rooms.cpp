@@ -1,7 +1,7 @@
-// Rooms, and a wall in the sun.
+#include "scenes_rooms.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 #include <numbers>
 

@@ -1,7 +1,7 @@
-// Nights with lights in the sky.
+#include "scenes_sky.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 #include <numbers>
 

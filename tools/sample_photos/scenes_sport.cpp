@@ -1,7 +1,7 @@
-// Sport.
+#include "scenes_sport.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 #include <array>
 #include <numbers>

@@ -1,6 +1,7 @@
+#include "scenes_town.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 namespace {
 

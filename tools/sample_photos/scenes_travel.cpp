@@ -1,7 +1,7 @@
-// Far places.
+#include "scenes_travel.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 namespace {
 

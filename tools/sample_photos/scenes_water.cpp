@@ -1,6 +1,7 @@
+#include "scenes_water.h"
+
 #include "nature.h"
 #include "noise.h"
-#include "scenes.h"
 
 void mountain_lake(canvas & photo)
 {

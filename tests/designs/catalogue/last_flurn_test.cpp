@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/saved_design.h"
 #include "engine/flurn_driver.h"
+#include "quick/quick_template.h"
 #include "session/connect_all.h"
 #include "support/files/paths.h"
 #include "tests/designs/own_designs.h"
@@ -69,7 +70,7 @@ TEST(last_flurn, is_the_finished_one_and_not_one_that_was_broken_off)
     finished_session session;
     session.home.write("data/designs/__quick", "0:0:1500:1000:0:0:0:0:\r\n");
     session.desk.on_pump(1, [&] { session.main.run.cancel_requested = true; });
-    make_flurn(session.main);
+    make_flurn(session.main, make_quick_template);
     EXPECT_EQ(session.desk.next_message(), "Flurning has been canceled.");
     save_as(session.desk, session.main, "Mine", {});
     EXPECT_EQ(read_file(session.at("designs/saved600")), text_of(quarters()));

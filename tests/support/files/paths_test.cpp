@@ -1,5 +1,6 @@
 #include "support/files/paths.h"
 
+#include "support/files/copies.h"
 #include "support/files/text_file.h"
 #include "tests/raised_by.h"
 #include "tests/temporary_folder.h"

@@ -1,6 +1,4 @@
-#include "session/collage.h"
-
-#include "session/frmMain.h"
+#include "session/begin_collage.h"
 
 void begin_collage(frmMain & main, collage_kind kind)
 {

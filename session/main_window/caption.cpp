@@ -1,8 +1,8 @@
-#include "quick/quick_controls.h"
-#include "session/handlers.h"
-#include "session/window_state.h"
+#include "session/main_window/caption.h"
 
-// The caption of the collage.
+#include "session/main_window/redraw.h"
+#include "session/window_state.h"
+#include "session/windows.h"
 
 namespace {
 

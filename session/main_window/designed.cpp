@@ -1,10 +1,11 @@
+#include "session/main_window/designed.h"
+
 #include "designs/catalogue/catalogue.h"
 #include "photos/lists/photo_list.h"
-#include "session/handlers.h"
-#include "session/new_poster.h"
+#include "session/begin_collage.h"
+#include "session/start_designed.h"
 #include "session/window_state.h"
-
-// " Designed flurn": a design of the catalogue, then the photos for it.
+#include "session/windows.h"
 
 namespace {
 
@@ -18,7 +19,9 @@ void ask_for_photos(frmMain & main)
         get_photos(main);
 }
 
-void mnuDesigned_click(frmMain & main)
+}  // namespace
+
+void begin_designed(frmMain & main)
 {
     begin_collage(main, collage_kind::designed);
     clear_stage(main);
@@ -29,11 +32,4 @@ void mnuDesigned_click(frmMain & main)
         main.cmdCancel.click();
     else
         start_designed(main, [&main] { ask_for_photos(main); });
-}
-
-}  // namespace
-
-void connect_designed(frmMain & main)
-{
-    main.mnuDesigned.on_click = [&main] { mnuDesigned_click(main); };
 }

@@ -1,8 +1,7 @@
-#include "quick/quick_controls.h"
-#include "session/handlers.h"
-#include "support/files/paths.h"
+#include "session/main_window/background.h"
 
-// The background of the collage, plain or a picture, and the border around it.
+#include "session/main_window/redraw.h"
+#include "support/files/paths.h"
 
 namespace {
 
@@ -17,7 +16,7 @@ void optSolid_click(frmMain & main)
 {
     show_picture_controls(main, false);
     main.bg_color = main.picBGcolor.back_color();
-    enable_flurn(main);
+    main.cmdFlurn.enable(true);
     refresh_preview(main);
 }
 
@@ -30,7 +29,7 @@ void optBGimage_click(frmMain & main)
         main.cmdBGimage.click();
     }
     refresh_after_change(main);
-    enable_flurn(main);
+    main.cmdFlurn.enable(true);
 }
 
 void txtBGimage_change(frmMain & main)
@@ -40,7 +39,7 @@ void txtBGimage_change(frmMain & main)
         main.skip_preview_click = true;
         main.optSolid.select();
     }
-    enable_flurn(main);
+    main.cmdFlurn.enable(true);
     refresh_after_change(main);
 }
 
@@ -69,11 +68,6 @@ void cmdBGcolor_click(frmMain & main)
 }
 
 }  // namespace
-
-void enable_flurn(frmMain & main)
-{
-    main.cmdFlurn.enable(true);
-}
 
 void connect_background(frmMain & main)
 {

@@ -1,12 +1,12 @@
+#include "session/main_window/load.h"
+
 #include "designs/catalogue/last_flurn.h"
 #include "designs/templates/unfinished.h"
 #include "photos/lists/photo_list.h"
-#include "session/handlers.h"
+#include "session/begin_collage.h"
 #include "session/start/start_up.h"
 #include "session/window_state.h"
 #include "support/files/paths.h"
-
-// The start state of the main window, and its fixed size.
 
 namespace {
 
@@ -55,29 +55,19 @@ void blacken(frmMain & main)
     main.set_back_color(0);
 }
 
-box moved(const control & each, int left, int top)
-{
-    box place = each.place();
-    place.left = left;
-    place.top = top;
-    return place;
-}
-
 void place_outline(frmMain & main)
 {
     const box border = main.frmBorder.place();
     const box own = main.chkOutline.place();
-    main.chkOutline.move(
-        moved(main.chkOutline, border.left - 50 - own.width, border.top + (border.height - own.height) / 2));
+    main.chkOutline.move_to(border.left - 50 - own.width, border.top + (border.height - own.height) / 2);
 }
 
 void place_shared_groups(frmMain & main)
 {
     const box shake = main.frmShake.place();
-    main.frmSpace.move(moved(main.frmSpace, shake.left + 340, shake.top + 200));
-    main.frmAlign.move(moved(main.frmAlign, main.frmAlign.place().left, shake.top + 200));
-    main.frmSquares.move(
-        moved(main.frmSquares, main.chkMatch.place().left + 30, main.chkEvolve.place().top - 125));
+    main.frmSpace.move_to(shake.left + 340, shake.top + 200);
+    main.frmAlign.move_to(main.frmAlign.place().left, shake.top + 200);
+    main.frmSquares.move_to(main.chkMatch.place().left + 30, main.chkEvolve.place().top - 125);
 }
 
 void reset_caption(frmMain & main)

@@ -1,8 +1,7 @@
-#include "quick/quick_controls.h"
-#include "session/handlers.h"
-#include "support/numbers.h"
+#include "session/main_window/ornaments.h"
 
-// Frames, shadows and the three ways of drawing a photo, of which at most one is ticked.
+#include "session/main_window/redraw.h"
+#include "support/numbers.h"
 
 namespace {
 

@@ -1,7 +1,6 @@
-#include "quick/quick_controls.h"
-#include "session/handlers.h"
+#include "session/main_window/shake.h"
 
-// Shaking and aligning the design.
+#include "session/main_window/redraw.h"
 
 namespace {
 

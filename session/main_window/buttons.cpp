@@ -1,10 +1,10 @@
+#include "session/main_window/buttons.h"
+
 #include "engine/flurn_driver.h"
-#include "quick/quick_controls.h"
-#include "session/handlers.h"
+#include "quick/quick_template.h"
+#include "session/main_window/redraw.h"
 #include "session/window_state.h"
 #include "support/windows/show_help.h"
-
-// The buttons of the finishing stage, the preview's switch, and the help keys.
 
 namespace {
 
@@ -56,7 +56,7 @@ void show_own_help(frmMain & main)
 
 void connect_buttons(frmMain & main)
 {
-    main.cmdFlurn.on_click = [&main] { make_flurn(main); };
+    main.cmdFlurn.on_click = [&main] { make_flurn(main, make_quick_template); };
     main.cmdCancel.on_click = [&main] { cmdCancel_click(main); };
     main.cmdHelp.on_click = [&main] { show_help(main, "finishing.htm"); };
     main.optPreview.on_click = [&main] { optPreview_click(main); };

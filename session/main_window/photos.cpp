@@ -1,11 +1,10 @@
+#include "session/main_window/photos.h"
+
 #include "photos/chosen_photos.h"
 #include "photos/lists/photo_list.h"
-#include "quick/quick_controls.h"
 #include "quick/start_quick.h"
-#include "session/handlers.h"
+#include "session/main_window/redraw.h"
 #include "session/windows.h"
-
-// The photos of the collage, their order, and how many there are.
 
 namespace {
 
@@ -50,7 +49,7 @@ void cmdPhotos_click(frmMain & main)
 
 }  // namespace
 
-void connect_output(frmMain & main)
+void connect_photos(frmMain & main)
 {
     main.chkMatch.on_change = [&main] { refresh_preview(main); };
     main.chkRandom.on_change = [&main] { chkRandom_change(main); };

@@ -1,4 +1,4 @@
-#include "engine/quick_template.h"
+#include "quick/quick_template.h"
 
 #include "designs/catalogue/catalogue.h"
 #include "quick/block/quick_block.h"

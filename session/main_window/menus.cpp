@@ -1,0 +1,86 @@
+#include "session/main_window/menus.h"
+
+#include "designers/start_designer.h"
+#include "designs/design_menus.h"
+#include "designs/package/package_import.h"
+#include "frames/frame_menus.h"
+#include "photos/photo_menus.h"
+#include "quick/start_quick.h"
+#include "session/main_window/closing.h"
+#include "session/main_window/designed.h"
+#include "session/windows.h"
+#include "support/windows/show_help.h"
+
+namespace {
+
+void choose_photos(frmMain & main)
+{
+    main.desk.show_modal(main.all->select_photos);
+}
+
+void quick(frmMain & main)
+{
+    begin_quick(main, [&main] { choose_photos(main); });
+}
+
+template <designer Chosen>
+void designed_by(frmMain & main)
+{
+    start_designer(main, Chosen, [&main] { choose_photos(main); });
+}
+
+void help_topics(frmMain & main)
+{
+    show_help(main, "help_main.htm");
+}
+
+void tutorials(frmMain & main)
+{
+    main.desk.open_document(documentation_address("/tutorials.htm"));
+}
+
+void answers_to_questions(frmMain & main)
+{
+    main.desk.open_document(documentation_address("/faq.htm"));
+}
+
+void about(frmMain & main)
+{
+    main.desk.show_modal(main.all->about);
+}
+
+struct hooked_entry {
+    menu_entry frmMain::*entry;
+    void (*action)(frmMain & main);
+};
+
+constexpr hooked_entry hooked_entries[] = {
+    {&frmMain::mnuQuit, quit_program},
+    {&frmMain::mnuQuick, quick},
+    {&frmMain::mnuDesigned, begin_designed},
+    {&frmMain::mnuMatrix, designed_by<designer::matrix>},
+    {&frmMain::mnuLettering, designed_by<designer::lettering>},
+    {&frmMain::mnuPuzzle, designed_by<designer::puzzle>},
+    {&frmMain::mnuImport, import_package},
+    {&frmMain::mnuEditDesigns, edit_designs},
+    {&frmMain::mnuSaveDesign, save_last_design},
+    {&frmMain::mnuSaveLast, save_last_photo_list},
+    {&frmMain::mnuNewList, add_photo_list},
+    {&frmMain::mnuEditSelections, edit_photo_lists},
+    {&frmMain::mnuNewFrame, add_custom_frame},
+    {&frmMain::mnuEditFrame, edit_custom_frames},
+    {&frmMain::mnuIcon, import_icon},
+    {&frmMain::mnuHelpTopics, help_topics},
+    {&frmMain::mnuStarted, tutorials},
+    {&frmMain::mnuFAQ, answers_to_questions},
+    {&frmMain::mnuHelpAbout, about},
+};
+
+}  // namespace
+
+void connect_menus(frmMain & main)
+{
+    main.mnuSeparator.enable(false);  // a divider, never to be chosen
+    for (const hooked_entry & each : hooked_entries)
+        (main.*each.entry).on_click = [&main, action = each.action] { action(main); };
+}

@@ -1,0 +1,63 @@
+#include "session/main_window/redraw.h"
+
+#include "engine/preview.h"
+#include "quick/matrix/quick_matrix.h"
+#include "quick/poster_sides.h"
+#include "quick/quick_template.h"
+
+namespace {
+
+// While a preview is being made the triggers are void.
+class redrawing {
+public:
+    explicit redrawing(frmMain & window) : main(window) { main.preview_blocked = true; }
+    redrawing(const redrawing &) = delete;
+    redrawing & operator=(const redrawing &) = delete;
+    ~redrawing() { main.preview_blocked = false; }
+
+private:
+    frmMain & main;
+};
+
+// What the run has counted is shown: the cells of the shapes, and whether the matrix could have fewer photos.
+void settle_after_preview(frmMain & main)
+{
+    if (main.optShapes.selected())
+        show_rows_cols(main);
+    if (main.optMatrix.selected())
+        find_matrix_line(main, main.quick.photos_portrait + 2 * main.quick.photos_landscape);
+}
+
+}  // namespace
+
+void refresh_preview(frmMain & main)
+{
+    if (!main.updating_controls && !main.preview_blocked)
+        redraw_sample(main);
+}
+
+void refresh_after_change(frmMain & main)
+{
+    main.chkOutline.tag = "skip";
+    refresh_preview(main);
+    main.chkOutline.tag.clear();
+}
+
+void redraw_sample(frmMain & main)
+{
+    // In the choosing stage no design is in force, and with the preview off the picture goes stale.
+    if (main.menus_shown || !main.optPreview.selected())
+        return;
+    const redrawing quiet(main);
+    make_preview(main, make_quick_template);
+    if (main.collage.quick_active)
+        settle_after_preview(main);
+}
+
+void show_ready_made(frmMain & main)
+{
+    // Of the shapes there is none: what was drawn last says more than a picture of another style.
+    if (!main.menus_shown && main.collage.quick_active && !main.updating_controls &&
+        !main.optShapes.selected())
+        make_preview(main, make_quick_template);
+}
