@@ -26,7 +26,7 @@ ROWS = [
         "a caption at the top stands too high"),
     Row("engine/output/shown_size.cpp", "own.height * 4 == own.width * 3", "own.width * 4 == own.height * 3",
         "a camera's picture is shown as wide as any other"),
-    Row("engine/background.cpp", "number_in(main.cmbBlend) >= 100", "number_in(main.cmbBlend) > 100",
+    Row("engine/canvas.cpp", "number_in(main.cmbBlend) >= 100", "number_in(main.cmbBlend) > 100",
         "a picture that covers all is blended with the colour below it"),
     Row("engine/flurn_driver.cpp", "    main.collage.matrix_session = before.matrix_session;\n", "",
         "a second Flurn of a matrix can't be saved as a design"),
