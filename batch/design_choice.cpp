@@ -31,11 +31,11 @@ poster_shape shape_of(const design_record & design, const std::string & asked)
 // The window offers a design only where it fits; here it is up to the caller.
 void note_misfit(const design_record & design, poster_shape shape)
 {
-    const design_view view =
-        shape == poster_shape::landscape ? design_view::landscape : design_view::portrait;
+    const orientation view =
+        shape == poster_shape::landscape ? orientation::landscape : orientation::portrait;
     if (shape != poster_shape::square && !fits_orientation(design, view))
         std::fprintf(stderr, "%s isn't made for a %s poster; it is used all the same.\n", design.name.c_str(),
-                     view == design_view::landscape ? "landscape" : "portrait");
+                     view == orientation::landscape ? "landscape" : "portrait");
 }
 
 bool wears_frames(const frmMain & main)

@@ -20,7 +20,7 @@ std::string list_of_photos(const frmMain & main)
 {
     std::string text;
     for (int i = 0; i <= main.table.last_photo; ++i)
-        text += list_line(orientation::unknown, photo_path(main.table[i])) + "\r\n";
+        text += list_line(std::nullopt, photo_path(main.table[i])) + "\r\n";
     return text;
 }
 

@@ -9,9 +9,9 @@ QRect fitted(const QSize & picture, const QRect & page)
     return place;
 }
 
-bool print_on(QPrinter & printer, const bitmap & image, page orientation)
+bool print_on(QPrinter & printer, const bitmap & image, orientation page)
 {
-    printer.setPageOrientation(orientation == page::landscape ? QPageLayout::Landscape
+    printer.setPageOrientation(page == orientation::landscape ? QPageLayout::Landscape
                                                               : QPageLayout::Portrait);
     QPainter painter;
     if (!image || !painter.begin(&printer))

@@ -9,4 +9,4 @@
 QRect fitted(const QSize & picture, const QRect & page);
 
 /// Prints on that printer, on one page of its paper in that orientation. False when the printer refuses.
-bool print_on(QPrinter & printer, const bitmap & image, page orientation);
+bool print_on(QPrinter & printer, const bitmap & image, orientation page);

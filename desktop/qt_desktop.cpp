@@ -277,13 +277,13 @@ bool qt_desktop::open_document(const std::string & target)
                                              : QUrl(shown(target)));
 }
 
-print_result qt_desktop::print(const bitmap & image, page orientation)
+print_result qt_desktop::print(const bitmap & image, orientation page)
 {
     const QPrinterInfo info = printer();
     if (info.isNull())
         return print_result::no_printer;
     QPrinter paper(info, QPrinter::HighResolution);
-    return print_on(paper, image, orientation) ? print_result::printed : print_result::failed;
+    return print_on(paper, image, page) ? print_result::printed : print_result::failed;
 }
 
 // A window fills the screen to nine tenths, which leaves room for its frame.

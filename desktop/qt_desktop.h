@@ -29,7 +29,7 @@ public:
     std::optional<std::string> choose_save(const file_request & asked) override;
     std::optional<std::uint32_t> choose_color(std::uint32_t initial) override;
     bool open_document(const std::string & target) override;
-    print_result print(const bitmap & image, page orientation) override;
+    print_result print(const bitmap & image, orientation page) override;
     picture_size screen_room() override;
     std::vector<std::string> font_names() override;
     bitmap draw_text(const text_request & request) override;

@@ -2,6 +2,7 @@
 
 #include "engine/photo/fixed_picture.h"
 #include "engine/pixels/background_fit.h"
+#include "session/window_state.h"
 #include "support/files/paths.h"
 
 #include <utility>
@@ -30,20 +31,14 @@ bitmap small_own_background(const frmMain & main)
     return image ? std::move(image) : loaded(main.txtBGimage.text());
 }
 
-collage_shape shape_of(const frmMain & main)
-{
-    if (main.optSquare.selected())
-        return collage_shape::square;
-    return main.optLandscape.selected() ? collage_shape::landscape : collage_shape::portrait;
-}
-
 bitmap small_background(const frmMain & main)
 {
     const bitmap image =
         has_own_background(main) ? small_own_background(main) : loaded(main.txtBGimage.text());
     if (!image)
         return {};
-    return continued(preview_background(image, shape_of(main)), main.collage_width, main.collage_height);
+    return continued(preview_background(image, selected_shape(main)), main.collage_width,
+                     main.collage_height);
 }
 
 bitmap full_background(const frmMain & main)

@@ -1,7 +1,7 @@
 #include "engine/fill_loop.h"
 
+#include "designs/templates/location_line.h"
 #include "engine/layout/cell_geometry.h"
-#include "engine/layout/ornament_sizes.h"
 #include "engine/layout/worn_ornaments.h"
 #include "engine/photo/lay_photo.h"
 #include "engine/photo/photo_steps.h"
@@ -15,6 +15,8 @@
 #include <utility>
 
 namespace {
+
+constexpr line_digits saved_digits{.place = 2, .rotation = 2};
 
 // One layer on its way.
 struct grid_walk {
@@ -51,16 +53,6 @@ void open_saved_matrix(frmMain & main, grid_walk & walk)
     delete_file(path);
     if (main.collage.matrix_resize || main.collage.matrix_rotate || main.collage.matrix_both)
         walk.saved.emplace(path, line_writer::mode::fresh);
-}
-
-ornaments worn_in_cell(const frmMain & main, int rotation)
-{
-    ornaments worn = worn_at(main, main.design_locations[1], rotation);
-    if (main.in_preview) {
-        worn.frame = bounded_in_preview(worn.frame);
-        worn.shadow = bounded_in_preview(worn.shadow);
-    }
-    return worn;
 }
 
 void next_in_table(frmMain & main, grid_walk & walk)
@@ -159,7 +151,9 @@ bool is_last(const grid_walk & walk, grid_position at, cell_span span)
 
 void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo photo, const shaken & by)
 {
-    photo_place place{.area = {}, .rotation = by.rotation, .worn = worn_in_cell(main, by.rotation)};
+    photo_place place{.area = {},
+                      .rotation = by.rotation,
+                      .worn = worn_in_grid(main, main.design_locations[1], by.rotation)};
     if (main.chkCaption.ticked()) {
         place.area = upright_area(walk.layer, at, photo.span);
         lay_card(main, photo.image, place);
@@ -168,7 +162,8 @@ void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo ph
     place.area = photo_area(walk.layer, at, photo.span, by);
     lay_photo(main, std::move(photo.image), place);
     if (walk.saved && by.rotation != 0)
-        walk.saved->write_line(matrix_line(place.area, by.rotation, main.run.collage_margin));
+        walk.saved->write_line(
+            location_text(location_of_cell(place.area, by.rotation, main.run.collage_margin), saved_digits));
 }
 
 // False for a photo that turns out too long for the cell: it is left out of the run.

@@ -49,7 +49,7 @@ bool match_is_active(const frmMain & main)
 void reset_matching(frmMain & main)
 {
     main.run.next_portrait = main.run.next_landscape = 0;
-    main.table.photo_orientation.fill(orientation::unknown);
+    main.table.photo_orientation.fill({});
 }
 
 void set_ornaments(frmMain & main, run_size size)

@@ -1,13 +1,13 @@
 #include "photos/photo_orientation.h"
 
-orientation counted_orientation(std::optional<picture_size> size)
+std::optional<orientation> counted_orientation(std::optional<picture_size> size)
 {
     if (!size)
-        return orientation::not_loadable;
+        return std::nullopt;
     return size->height > size->width ? orientation::portrait : orientation::landscape;
 }
 
-void add_photo(orientation_counts & counts, orientation shape)
+void add_photo(orientation_counts & counts, std::optional<orientation> shape)
 {
     if (shape == orientation::portrait) {
         ++counts.portrait;

@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-/// Portrait when higher than wide; a square photo is landscape, and no size is not loadable.
-orientation counted_orientation(std::optional<picture_size> size);
+/// Portrait when higher than wide; a square photo is landscape. Nothing for a photo that isn't loadable.
+std::optional<orientation> counted_orientation(std::optional<picture_size> size);
 
 /// How many photos of either orientation a table holds.
 struct orientation_counts {
@@ -16,4 +16,4 @@ struct orientation_counts {
 };
 
 /// Adds one photo; one that isn't loadable adds nothing.
-void add_photo(orientation_counts & counts, orientation shape);
+void add_photo(orientation_counts & counts, std::optional<orientation> shape);

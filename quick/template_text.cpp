@@ -1,13 +1,5 @@
 #include "quick/template_text.h"
 
-std::string place_text(int top, int left, int height, int width)
-{
-    std::string text;
-    for (const int value : {top, left, height, width})
-        text += (text.empty() ? "" : ":") + formatted(narrow(value), 2);
-    return text;
-}
-
 std::vector<std::string> fields_of(std::string_view line)
 {
     return split(line, ':', std::string_view::npos);

@@ -10,9 +10,6 @@
 
 /// What the quick templates and the tables they are made from have in common.
 
-/// "top:left:height:width", each with at least two digits. Raises overflow (6) beyond 16 bits.
-std::string place_text(int top, int left, int height, int width);
-
 /// Field `index` of a line of a table as a whole number of 16 bits, nearest, ties to even. Raises subscript
 /// (9) when there is none, overflow (6).
 int16 number_at(const std::vector<std::string> & fields, std::size_t index);

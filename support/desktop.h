@@ -2,6 +2,7 @@
 
 #include "support/MFreeImage.h"
 #include "support/forms.h"
+#include "support/orientation.h"
 
 #include <optional>
 #include <string>
@@ -35,7 +36,6 @@ struct text_request {
     int extra_width = 0;  ///< pixels added to the right of the text
 };
 
-enum class page { portrait, landscape };
 enum class print_result { printed, no_printer, failed };
 
 class desktop {
@@ -70,7 +70,7 @@ public:
     /// Opens a file or an address with the user's default program; false when there is none.
     virtual bool open_document(const std::string & target) = 0;
     /// Prints on the default printer: whole, centred, proportions kept, on a page of that orientation.
-    virtual print_result print(const bitmap & image, page orientation) = 0;
+    virtual print_result print(const bitmap & image, orientation page) = 0;
 
     /// What the screen has for a window, in pixels at 100%.
     virtual picture_size screen_room() = 0;

@@ -2,6 +2,7 @@
 #include "designers/poster_area.h"
 #include "designers/work_template.h"
 #include "designs/catalogue/chosen_design.h"
+#include "designs/templates/location_line.h"
 #include "session/handlers.h"
 #include "session/start/start_up.h"
 #include "support/colors.h"
@@ -89,7 +90,7 @@ void cmdOk_click(windows & all)
         main.desk.message(fault);
         return;
     }
-    write_work_template(main, "__lettering", lettering_lines(main.lettering, main.random));
+    write_work_template(main, "__lettering", template_lines(lettering_plan(main.lettering, main.random)));
     take_lettering(main);
     all.lettering.unload();
 }

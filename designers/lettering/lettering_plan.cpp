@@ -88,7 +88,7 @@ int line_gap(int size, letter_placing placing)
 class letter_walk {
 public:
     letter_walk(const lettering_choices & wanted, const random_source & random);
-    std::vector<std::string> lines();
+    std::vector<location> letters();
 
 private:
     void begin_line(std::size_t position);
@@ -102,7 +102,7 @@ private:
     int gap, first_shift = 0;
     double shift_scale;
     int top = usual_top, left = usual_left;
-    std::vector<std::string> written;
+    std::vector<location> written;
 };
 
 letter_walk::letter_walk(const lettering_choices & wanted, const random_source & random)
@@ -134,13 +134,15 @@ void letter_walk::add_letter(char letter, std::size_t position)
 {
     const int extra = is_capital(letter) ? nearest(text.size / 5.0) : 0;
     const int shift = extra != 0 ? nearest(shift_at(position) - extra * 0.9) : shift_at(position);
-    written.push_back(formatted(narrow(top + shift)) + ":" + formatted(narrow(left)) +
-                      ":0:" + formatted(narrow(text.size + extra)) + ":0:0:-1:0:alpha/char_" +
-                      lower_case(std::string_view(&letter, 1)) + ".gif");
+    written.push_back({.top = narrow(top + shift),
+                       .left = narrow(left),
+                       .width = narrow(text.size + extra),
+                       .frame = 0,
+                       .file = "alpha/char_" + lower_case(std::string_view(&letter, 1)) + ".gif"});
     left += extra + gap + text.size;
 }
 
-std::vector<std::string> letter_walk::lines()
+std::vector<location> letter_walk::letters()
 {
     const int between = line_gap(text.size, choices.placing);
     if (choices.center)
@@ -206,7 +208,7 @@ std::string lettering_fault(const lettering_choices & choices)
     return {};
 }
 
-std::vector<std::string> lettering_lines(const lettering_choices & choices, const random_source & random)
+std::vector<location> lettering_plan(const lettering_choices & choices, const random_source & random)
 {
-    return letter_walk(choices, random).lines();
+    return letter_walk(choices, random).letters();
 }

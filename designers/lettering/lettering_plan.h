@@ -1,6 +1,7 @@
 #pragma once
 
 #include "designers/lettering/lettering_choices.h"
+#include "designs/templates/location.h"
 #include "support/random.h"
 
 #include <cstddef>
@@ -34,4 +35,4 @@ std::string lettering_fault(const lettering_choices & choices);
 
 /// The template, a line a letter. The text has to be one without a fault. Chance is reseeded: a wave starts
 /// somewhere else each time. Raises overflow (6) beyond 16 bits.
-std::vector<std::string> lettering_lines(const lettering_choices & choices, const random_source & random);
+std::vector<location> lettering_plan(const lettering_choices & choices, const random_source & random);

@@ -8,6 +8,7 @@
 #include "designers/poster_area.h"
 #include "designers/settling.h"
 #include "designers/work_template.h"
+#include "designs/templates/location_line.h"
 #include "support/files/paths.h"
 
 #include <utility>
@@ -109,7 +110,7 @@ void write_matrix_design(const frmMatrix & window, frmMain & main, run_size size
     main.collage_width = narrow(poster.width);
     main.collage_height = narrow(poster.height);
     write_work_template(main, size == run_size::preview ? "__matrix" : "__matrix_",
-                        matrix_lines(choices, layout));
+                        template_lines(matrix_locations(choices, layout)));
 }
 
 void fit_rows(frmMatrix & window)

@@ -89,43 +89,49 @@ int centred(int room, const course & along, int border)
     return nearest((room - span_of(along)) / 2.0 + border);
 }
 
-std::string joined_numbers(std::initializer_list<int> numbers)
+// A grid stands in two locations: its corner, its rows and columns and how it may be shaken; its gaps and its
+// cells.
+std::vector<location> grid_locations(const matrix_choices & choices, const matrix_layout & layout)
 {
-    std::string text;
-    for (const int number : numbers)
-        text += formatted(narrow(number)) + ":";
-    return text;
+    const bool both = choices.photos == matrix_photos::both;
+    const location start{.top = narrow(layout.top),
+                         .left = narrow(layout.left),
+                         .height = narrow(layout.rows),
+                         .width = narrow(layout.columns),
+                         .rotation = narrow(both ? 1 : 0),
+                         .frame = narrow(choices.rotate ? 1 : 0),
+                         .shadow = narrow(choices.resize ? 1 : 0)};
+    const location cells{.top = narrow(layout.gap_v),
+                         .left = narrow(layout.gap_h),
+                         .height = narrow(layout.cell_height),
+                         .width = narrow(layout.cell_width)};
+    return {start, cells};
 }
 
-std::vector<std::string> grid_lines(const matrix_choices & choices, const matrix_layout & layout)
+location bare_location(const rectangle & area, const std::string & file)
 {
-    const int both = choices.photos == matrix_photos::both ? 1 : 0;
-    return {
-        joined_numbers({layout.top, layout.left, layout.rows, layout.columns, both, choices.rotate ? 1 : 0,
-                        choices.resize ? 1 : 0, 0}),
-        joined_numbers({layout.gap_v, layout.gap_h, layout.cell_height, layout.cell_width, 0, -1, -1, 0})};
-}
-
-std::vector<std::string> frame_lines(const framed_cell & cell)
-{
-    return {
-        joined_numbers({cell.top, cell.left, cell.height, cell.width, 0, 0, 0, 0}) + cell.file,
-        joined_numbers({cell.photo_top, cell.photo_left, cell.photo_height, cell.photo_width, 0, 0, 0, 0})};
+    return {.top = narrow(area.top),
+            .left = narrow(area.left),
+            .height = narrow(area.height),
+            .width = narrow(area.width),
+            .frame = 0,
+            .shadow = 0,
+            .file = file};
 }
 
 framed_cell cell_at(const matrix_layout & layout, int row, int column)
 {
-    framed_cell cell{.top = layout.top + row * (layout.cell_height + layout.gap_v),
-                     .left = layout.left + column * (layout.cell_width + layout.gap_h),
-                     .height = layout.cell_height,
-                     .width = layout.cell_width};
-    const frame_insets & insets = cell.height > cell.width ? upright_insets : wide_insets;
-    cell.photo_top = cell.top + nearest(cell.height * insets.top);
-    cell.photo_left = cell.left + nearest(cell.width * insets.left);
-    cell.photo_height = nearest(cell.height * insets.height);
-    cell.photo_width = nearest(cell.width * insets.width);
-    cell.file = insets.prefix;
-    return cell;
+    const rectangle area{.left = layout.left + column * (layout.cell_width + layout.gap_h),
+                         .top = layout.top + row * (layout.cell_height + layout.gap_v),
+                         .width = layout.cell_width,
+                         .height = layout.cell_height};
+    const frame_insets & insets = area.height > area.width ? upright_insets : wide_insets;
+    return {.area = area,
+            .photo = {.left = area.left + nearest(area.width * insets.left),
+                      .top = area.top + nearest(area.height * insets.top),
+                      .width = nearest(area.width * insets.width),
+                      .height = nearest(area.height * insets.height)},
+            .file = insets.prefix};
 }
 
 // With a list the caption of the cell's photo, as it comes to cells of that shape; else the next in turn.
@@ -197,13 +203,14 @@ std::vector<framed_cell> framed_cells(const matrix_choices & choices, const matr
     return cells;
 }
 
-std::vector<std::string> matrix_lines(const matrix_choices & choices, const matrix_layout & layout)
+std::vector<location> matrix_locations(const matrix_choices & choices, const matrix_layout & layout)
 {
     if (!choices.frames)
-        return grid_lines(choices, layout);
-    std::vector<std::string> lines;
-    for (const framed_cell & cell : framed_cells(choices, layout))
-        for (std::string & line : frame_lines(cell))
-            lines.push_back(std::move(line));
-    return lines;
+        return grid_locations(choices, layout);
+    std::vector<location> places;
+    for (const framed_cell & cell : framed_cells(choices, layout)) {
+        places.push_back(bare_location(cell.area, cell.file));
+        places.push_back(bare_location(cell.photo, {}));
+    }
+    return places;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "designers/matrix/matrix_choices.h"
+#include "designs/templates/location.h"
 #include "designs/templates/run_size.h"
+#include "support/rectangle.h"
 
 #include <string>
 #include <vector>
@@ -25,8 +27,7 @@ std::string matrix_fault(const matrix_choices & choices);
 
 /// One cell that wears a frame: the frame's picture fills the cell, the photo lies on it.
 struct framed_cell {
-    int top = 0, left = 0, height = 0, width = 0;
-    int photo_top = 0, photo_left = 0, photo_height = 0, photo_width = 0;
+    rectangle area, photo;
     std::string file{};  ///< of the frame, below the data folder
 };
 
@@ -35,4 +36,4 @@ struct framed_cell {
 std::vector<framed_cell> framed_cells(const matrix_choices & choices, const matrix_layout & layout);
 
 /// The template: a grid, or a frame and a photo for each cell. Raises overflow (6) beyond 16 bits.
-std::vector<std::string> matrix_lines(const matrix_choices & choices, const matrix_layout & layout);
+std::vector<location> matrix_locations(const matrix_choices & choices, const matrix_layout & layout);

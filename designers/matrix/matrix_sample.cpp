@@ -46,12 +46,7 @@ std::vector<sample_piece> grid_pieces(const matrix_choices & choices, const grid
             const shake & by = shake_table.at(pieces.size() % shake_table.size());
             const shaken cell =
                 shaken_cell(layer, at, span, by, {.resize = choices.resize, .rotate = choices.rotate}, lean);
-            const rectangle area = photo_area(layer, at, span, cell);
-            pieces.push_back({.top = area.top,
-                              .left = area.left,
-                              .height = area.height,
-                              .width = area.width,
-                              .rotation = cell.rotation});
+            pieces.push_back({.area = photo_area(layer, at, span, cell), .rotation = cell.rotation});
             column += lies ? 1 : 0;
         }
     }
@@ -62,15 +57,8 @@ std::vector<sample_piece> framed_pieces(const std::vector<framed_cell> & cells)
 {
     std::vector<sample_piece> pieces;
     for (const framed_cell & cell : cells) {
-        pieces.push_back({.kind = sample_kind::frame,
-                          .top = cell.top,
-                          .left = cell.left,
-                          .height = cell.height,
-                          .width = cell.width});
-        pieces.push_back({.top = cell.photo_top,
-                          .left = cell.photo_left,
-                          .height = cell.photo_height,
-                          .width = cell.photo_width});
+        pieces.push_back({.kind = sample_kind::frame, .area = cell.area});
+        pieces.push_back({.kind = sample_kind::photo, .area = cell.photo});
     }
     return pieces;
 }
@@ -84,20 +72,20 @@ struct point {
 // A little landscape, whatever the shape of the photo.
 rgb_triple photo_color(const sample_piece & piece, point at)
 {
-    const double u = at.x / piece.width, v = at.y / piece.height;
+    const double u = at.x / piece.area.width, v = at.y / piece.area.height;
     if (v > 0.70 + 0.35 * (u - 0.9) * (u - 0.9))
         return near_hill;
     if (v > 0.56 + 0.8 * (u - 0.3) * (u - 0.3))
         return far_hill;
-    const double right = at.x - 0.74 * piece.width, down = at.y - 0.27 * piece.height;
-    const double radius = 0.12 * std::min(piece.width, piece.height);
+    const double right = at.x - 0.74 * piece.area.width, down = at.y - 0.27 * piece.area.height;
+    const double radius = 0.12 * std::min(piece.area.width, piece.area.height);
     return right * right + down * down < radius * radius ? sun : sky;
 }
 
 // Nothing outside the piece.
 std::optional<rgb_triple> piece_color(const sample_piece & piece, point at, int line)
 {
-    const double to_edge = std::min({at.x, at.y, piece.width - at.x, piece.height - at.y});
+    const double to_edge = std::min({at.x, at.y, piece.area.width - at.x, piece.area.height - at.y});
     if (to_edge < 0)
         return std::nullopt;
     if (to_edge < line)
@@ -115,7 +103,7 @@ public:
     {}
     point operator()(point at) const
     {
-        const double x = at.x - piece.left, y = at.y - piece.top;
+        const double x = at.x - piece.area.left, y = at.y - piece.area.top;
         return {.x = x * cosine + y * sine, .y = y * cosine - x * sine};
     }
     /// Rows and columns of the poster that the piece reaches.
@@ -124,11 +112,11 @@ public:
     };
     bounds reach() const
     {
-        const double swing = piece.height * -sine, sink = piece.width * sine;
-        return {.left = piece.left + std::min(0.0, swing),
-                .top = piece.top + std::min(0.0, sink),
-                .right = piece.left + piece.width * cosine + std::max(0.0, swing),
-                .bottom = piece.top + piece.height * cosine + std::max(0.0, sink)};
+        const double swing = piece.area.height * -sine, sink = piece.area.width * sine;
+        return {.left = piece.area.left + std::min(0.0, swing),
+                .top = piece.area.top + std::min(0.0, sink),
+                .right = piece.area.left + piece.area.width * cosine + std::max(0.0, swing),
+                .bottom = piece.area.top + piece.area.height * cosine + std::max(0.0, sink)};
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "designers/matrix/matrix_choices.h"
 #include "support/MFreeImage.h"
+#include "support/rectangle.h"
 
 #include <vector>
 
@@ -12,7 +13,7 @@ enum class sample_kind { photo, frame };
 /// One photo or frame, in pixels of the poster, turned about its top-left corner, degrees clockwise.
 struct sample_piece {
     sample_kind kind = sample_kind::photo;
-    int top = 0, left = 0, height = 0, width = 0;
+    rectangle area{};
     int rotation = 0;
     bool operator==(const sample_piece &) const = default;
 };

@@ -3,6 +3,7 @@
 #include "designers/settling.h"
 #include "designers/work_template.h"
 #include "designs/catalogue/chosen_design.h"
+#include "designs/templates/location_line.h"
 #include "session/handlers.h"
 #include "session/start/start_up.h"
 #include "support/windows/show_help.h"
@@ -95,7 +96,7 @@ void cmdOk_click(windows & all)
         main.desk.message(fault);
         return;
     }
-    const std::vector<std::string> lines = puzzle_lines(choices, main.random);
+    const std::vector<std::string> lines = template_lines(puzzle_plan(choices, main.random));
     if (lines.empty()) {
         main.desk.message("There would be no pieces left.\r\n\r\nPlease choose fewer missing pieces.");
         return;

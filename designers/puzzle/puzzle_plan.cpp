@@ -111,10 +111,9 @@ int first_left(const puzzle_choices & choices, int piece)
     return choices.shape == poster_shape::landscape ? left + piece : left;
 }
 
-std::string piece_line(int top, int left, int piece, const std::string & image)
+location piece_at(int top, int left, int piece, const std::string & image)
 {
-    return formatted(narrow(top)) + ":" + formatted(narrow(left)) + ":0:" + formatted(narrow(piece)) +
-           ":0:-1:-1:0:" + image;
+    return {.top = narrow(top), .left = narrow(left), .width = narrow(piece), .file = image};
 }
 
 int two_thirds(int count)
@@ -161,11 +160,11 @@ std::string puzzle_fault(const puzzle_choices & choices)
     return {};
 }
 
-std::vector<std::string> puzzle_lines(const puzzle_choices & choices, const random_source & random)
+std::vector<location> puzzle_plan(const puzzle_choices & choices, const random_source & random)
 {
     const int piece = piece_size(choices);
     missing_pieces missing(choices, random);
-    std::vector<std::string> lines;
+    std::vector<location> pieces;
     int top = first_top(choices, piece);
     for (int r = 0; r < choices.rows; ++r) {
         const step row = step_at(choices, down_steps, r, choices.rows);
@@ -177,10 +176,10 @@ std::vector<std::string> puzzle_lines(const puzzle_choices & choices, const rand
             if (c > 0)
                 left = nearest(piece * column.factor + left);
             if (!missing.next_is_missing())
-                lines.push_back(piece_line(top, left, piece, image_of(choices, row, column)));
+                pieces.push_back(piece_at(top, left, piece, image_of(choices, row, column)));
         }
     }
-    return lines;
+    return pieces;
 }
 
 puzzle_grid fit_grid(const puzzle_choices & choices, grid_lead lead)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "designers/puzzle/puzzle_choices.h"
+#include "designs/templates/location.h"
 #include "support/random.h"
 
 #include <string>
@@ -17,7 +18,7 @@ std::string puzzle_fault(const puzzle_choices & choices);
 /// The template, a line a piece, row by row. Up to nine missing pieces are spread over the puzzle, one for
 /// each run of pieces; for more, each piece is left out by chance, so that none at all may be left. Raises
 /// overflow (6) beyond 16 bits.
-std::vector<std::string> puzzle_lines(const puzzle_choices & choices, const random_source & random);
+std::vector<location> puzzle_plan(const puzzle_choices & choices, const random_source & random);
 
 /// What a change of one count does to the other.
 enum class grid_lead { rows, columns };

@@ -47,9 +47,9 @@ bool fits_ratio(const design_record & design, std::string_view ratio)
     return design.ratio == ratio || (design.distort == "Yes" && ratio == "3x4");
 }
 
-bool fits_orientation(const design_record & design, design_view view)
+bool fits_orientation(const design_record & design, orientation view)
 {
-    const std::string_view in_force = view == design_view::portrait ? "Portrait" : "Landscape";
+    const std::string_view in_force = view == orientation::portrait ? "Portrait" : "Landscape";
     return design.background == in_force || design.turn_bg == "Yes";
 }
 
@@ -85,10 +85,10 @@ std::vector<int> filled_slots(int count)
     return slots;
 }
 
-std::string sample_name(const design_record & design, design_view view)
+std::string sample_name(const design_record & design, orientation view)
 {
     if (design.sample.empty())
         return {};
-    const std::string_view other = view == design_view::portrait ? "Landscape" : "Portrait";
+    const std::string_view other = view == orientation::portrait ? "Landscape" : "Portrait";
     return design.background == other ? design.sample + "_" : design.sample;
 }

@@ -2,6 +2,7 @@
 
 #include "designs/browser/theme_designs.h"
 #include "designs/catalogue/design_record.h"
+#include "support/orientation.h"
 
 #include <span>
 #include <string>
@@ -11,9 +12,6 @@
 /// What the design browser lists: which designs pass, and where they stand on its pages.
 
 enum class design_family { all, scatter, block, theme, saved, frame };
-
-/// How the poster stands for which designs are looked for.
-enum class design_view { portrait, landscape };
 
 /// The first entry of the list of photo counts.
 inline constexpr std::string_view any_number = "Any number";
@@ -28,7 +26,7 @@ bool design_passes_family(const design_record & design, design_family family);
 bool fits_ratio(const design_record & design, std::string_view ratio);
 
 /// False for a design that was drawn for the other orientation and may not be turned.
-bool fits_orientation(const design_record & design, design_view view);
+bool fits_orientation(const design_record & design, orientation view);
 
 /// " 7 images", "12 images"; empty for a design that doesn't tell its count.
 std::string count_label(std::string_view count);
@@ -54,4 +52,4 @@ std::vector<int> filled_slots(int count);
 
 /// The file of the sample: a design seen in the other orientation than it was drawn for has a twin, whose
 /// name has "_" behind it. Empty for a design without a sample.
-std::string sample_name(const design_record & design, design_view view);
+std::string sample_name(const design_record & design, orientation view);

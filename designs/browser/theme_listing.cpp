@@ -54,7 +54,7 @@ void clear_page(frmThemes & window)
 // The walk of a listing, with the photo counts it meets.
 struct listing {
     design_family family;
-    design_view view;
+    orientation view;
     count_list kept;
     std::string wanted_count;
     std::vector<std::string> counts{};
@@ -136,9 +136,9 @@ void show_page(frmThemes & window, const listing & made)
 
 }  // namespace
 
-design_view view_of(const frmThemes & window)
+orientation view_of(const frmThemes & window)
 {
-    return window.optPortrait.selected() ? design_view::portrait : design_view::landscape;
+    return window.optPortrait.selected() ? orientation::portrait : orientation::landscape;
 }
 
 void GetDesigns(frmThemes & window, frmMain & main, count_list counts)

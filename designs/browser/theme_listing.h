@@ -5,7 +5,7 @@
 #include "session/frmMain.h"
 
 /// How the poster stands in the browser.
-design_view view_of(const frmThemes & window);
+orientation view_of(const frmThemes & window);
 
 /// What a listing does with the list of photo counts.
 enum class count_list { kept, made_anew };

@@ -193,7 +193,7 @@ text_lines saved_section(const design_to_save & design)
                      is_matrix ? "Style=Matrix" : "Style=Place"};
     if (design.kind == design_to_save::layout::quick_shape)
         append(lines, std::array<std::string, 2>{"Frames=No", "Quick Shape=Yes"});
-    const bool is_wide = design.background == design_to_save::page::landscape;
+    const bool is_wide = design.background == orientation::landscape;
     append(lines, std::array<std::string, 3>{"Match=Yes", "Turn BG=No",
                                              is_wide ? "Background=Landscape" : "Background=Portrait"});
     if (design.sample == design_to_save::part::present)

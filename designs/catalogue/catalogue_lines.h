@@ -3,6 +3,7 @@
 #include "designs/catalogue/design_name.h"
 #include "designs/catalogue/finished_flurn.h"
 #include "support/numbers.h"
+#include "support/orientation.h"
 
 #include <optional>
 #include <string>
@@ -28,12 +29,11 @@ bool holds_name(const text_lines & catalogue, std::string_view name);
 /// What a new section is made of.
 struct design_to_save {
     using layout = saved_layout;
-    enum class page { portrait, landscape };
     enum class part { absent, present };
     int number = 0;
     std::string name;
     layout kind = layout::quick;
-    page background = page::portrait;
+    orientation background = orientation::portrait;
     part sample = part::absent, description = part::absent;
 };
 

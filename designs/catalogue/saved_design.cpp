@@ -23,7 +23,7 @@ design_to_save::part save_sample(const flurn_to_save & flurn, design_to_save & d
     }
     const bool is_wide = flurn.how.is_landscape;
     const picture_size size = is_wide ? wide_sample : high_sample;
-    design.background = is_wide ? design_to_save::page::landscape : design_to_save::page::portrait;
+    design.background = is_wide ? orientation::landscape : orientation::portrait;
     replace_file(path, jpeg_bytes(rescaled(collage, size.width, size.height)));
     return design_to_save::part::present;
 }

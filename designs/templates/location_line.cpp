@@ -27,6 +27,26 @@ std::optional<location> parse_location(std::string_view line)
                     .file = field_at(fields, 8)};
 }
 
+std::string location_text(const location & place, line_digits digits)
+{
+    std::string line;
+    for (const int16 number : {place.top, place.left, place.height, place.width})
+        line += formatted(number, digits.place) + ':';
+    line += formatted(place.rotation, digits.rotation) + ':';
+    for (const int16 number : {place.frame, place.shadow, place.spare})
+        line += formatted(number) + ':';
+    return line + place.file;
+}
+
+std::vector<std::string> template_lines(const std::vector<location> & places, line_digits digits)
+{
+    std::vector<std::string> lines;
+    lines.reserve(places.size());
+    for (const location & place : places)
+        lines.push_back(location_text(place, digits));
+    return lines;
+}
+
 location softened(const location & place)
 {
     location larger = place;

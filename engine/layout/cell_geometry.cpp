@@ -146,10 +146,11 @@ rectangle photo_area(const grid & layer, grid_position at, cell_span span, const
     return area;
 }
 
-std::string matrix_line(const rectangle & area, int rotation, int margin)
+location location_of_cell(const rectangle & area, int rotation, int margin)
 {
-    std::string line;
-    for (const int number : {area.top - margin, area.left - margin, area.height, area.width})
-        line += formatted(number, 2) + ':';
-    return line + formatted(rotation, 2) + ":-1:-1:0:";
+    return {.top = narrow(area.top - margin),
+            .left = narrow(area.left - margin),
+            .height = narrow(area.height),
+            .width = narrow(area.width),
+            .rotation = narrow(rotation)};
 }

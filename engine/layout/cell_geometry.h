@@ -67,5 +67,5 @@ rectangle upright_area(const grid & layer, grid_position at, cell_span span);
 /// The area that the photo is fitted to.
 rectangle photo_area(const grid & layer, grid_position at, cell_span span, const shaken & by);
 
-/// The photo as a location line of a template, for designs made of a shaken grid; `margin` is the bleed.
-std::string matrix_line(const rectangle & area, int rotation, int margin);
+/// The photo as a location of a template, for designs made of a shaken grid; `margin` is the bleed.
+location location_of_cell(const rectangle & area, int rotation, int margin);

@@ -99,8 +99,8 @@ std::optional<int> find_match(const match_request & request, match_cursors & cur
         }
         if (search.index > request.last_photo)
             continue;
-        const orientation lies = look(search.index, search.wish);
-        if (lies == search.wish || (takes_any && lies != orientation::not_loadable)) {
+        const std::optional<orientation> lies = look(search.index, search.wish);
+        if (lies == search.wish || (takes_any && lies)) {
             cursor_of(cursors, search.wish) = narrow(search.index + 1);
             return search.index;
         }

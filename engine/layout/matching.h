@@ -33,7 +33,7 @@ orientation wished(const match_request & request, const match_cursors & cursors)
 orientation orientation_of(int width, int height);
 
 /// Tells how a photo lies, while it looks for the orientation `wish`.
-using photo_look = std::function<orientation(int index, orientation wish)>;
+using photo_look = std::function<std::optional<orientation>(int index, orientation wish)>;
 
 /// The index of the photo to be used, its cursor moved behind it; nothing after a full round that found none.
 /// A near-square location takes the photo at the cursor, however it lies. One that isn't loadable is taken by

@@ -49,3 +49,13 @@ ornaments worn_at(const frmMain & main, const location & place, int rotation)
     worn.shadow = shadow_at(main, place.shadow);
     return worn;
 }
+
+ornaments worn_in_grid(const frmMain & main, const location & cells, int rotation)
+{
+    ornaments worn = worn_at(main, cells, rotation);
+    if (main.in_preview) {
+        worn.frame = bounded_in_preview(worn.frame);
+        worn.shadow = bounded_in_preview(worn.shadow);
+    }
+    return worn;
+}

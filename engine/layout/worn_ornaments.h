@@ -13,3 +13,6 @@ ornaments worn_by_boxes(const frmMain & main, int rotation);
 
 /// Of the photo at that location, turned by `rotation`.
 ornaments worn_at(const frmMain & main, const location & place, int rotation);
+
+/// Of a photo in a grid with those cells; in a preview its frame and shadow have a bound of their own.
+ornaments worn_in_grid(const frmMain & main, const location & cells, int rotation);

@@ -52,8 +52,8 @@ void load_window(frmImage & window, frmMain & main)
 
 void cmdPrint_click(frmMain & main)
 {
-    switch (
-        main.desk.print(main.run.canvas, main.optLandscape.selected() ? page::landscape : page::portrait)) {
+    switch (main.desk.print(main.run.canvas,
+                            main.optLandscape.selected() ? orientation::landscape : orientation::portrait)) {
         case print_result::printed:
             break;
         case print_result::no_printer:

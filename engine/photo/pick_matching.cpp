@@ -33,31 +33,31 @@ void keep_cursors(run_state & run, const match_cursors & cursors)
     run.evolve_landscape_wraps = cursors.landscape_wraps;
 }
 
-orientation told_by_header(const std::string & path)
+std::optional<orientation> told_by_header(const std::string & path)
 {
     const std::optional<picture_size> size = usable_jpeg_size(path);
-    return size ? orientation_of(size->width, size->height) : orientation::not_loadable;
+    return size ? std::optional(orientation_of(size->width, size->height)) : std::nullopt;
 }
 
-orientation how_it_lies(frmMain & main, int index)
+std::optional<orientation> how_it_lies(frmMain & main, int index)
 {
-    orientation & known = main.table.photo_orientation.at(static_cast<std::size_t>(index));
+    seen_orientation & seen = main.table.photo_orientation.at(static_cast<std::size_t>(index));
     if (is_left_out(main, index))
-        known = orientation::not_loadable;
-    else if (known == orientation::unknown)
-        known = told_by_header(main.table[index]);
-    return known;
+        seen = {.is_known = true};
+    else if (!seen.is_known)
+        seen = {.is_known = true, .lies = told_by_header(main.table[index])};
+    return seen.lies;
 }
 
 // How the photo lies; it is loaded into `image` only when it will be used.
-orientation looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientation wish, bitmap & image)
+std::optional<orientation> looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientation wish,
+                                     bitmap & image)
 {
-    const orientation known = how_it_lies(main, index);
-    if (known != wish && (!is_wanted_anyhow || known == orientation::not_loadable)) {
-        if (known == orientation::not_loadable)
-            leave_out(main, main.table[index]);
-        return known;
-    }
+    const std::optional<orientation> lies = how_it_lies(main, index);
+    if (!lies)
+        leave_out(main, main.table[index]);
+    if (!lies || (lies != wish && !is_wanted_anyhow))
+        return lies;
     image = load_photo(main, main.table[index]);
     if (!image)
         leave_out(main, main.table[index]);

@@ -78,10 +78,10 @@ bitmap continued(const bitmap & image, int width, int height)
     return larger;
 }
 
-bitmap preview_background(const bitmap & image, collage_shape shape)
+bitmap preview_background(const bitmap & image, poster_shape shape)
 {
-    if (shape == collage_shape::square)
+    if (shape == poster_shape::square)
         return preview_square(image);
-    return shape == collage_shape::portrait ? rescaled(image, short_side, long_side)
-                                            : rescaled(image, long_side, short_side);
+    return shape == poster_shape::portrait ? rescaled(image, short_side, long_side)
+                                           : rescaled(image, long_side, short_side);
 }

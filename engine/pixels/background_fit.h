@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/templates/poster_shape.h"
 #include "support/MFreeImage.h"
 
 #include <string>
@@ -23,8 +24,7 @@ bitmap squared(const bitmap & image);
 
 /// The picture in the size of a preview's collage: 300 by 450, 450 by 300, or for a square one the middle of
 /// the picture, 300 by 300.
-enum class collage_shape { portrait, landscape, square };
-bitmap preview_background(const bitmap & image, collage_shape shape);
+bitmap preview_background(const bitmap & image, poster_shape shape);
 
 /// The picture mirrored beyond its right and lower edge up to that size, twice its own at most: a preview's
 /// collage is larger than the picture behind it. A picture that is as large comes back as it is.

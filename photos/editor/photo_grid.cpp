@@ -172,7 +172,7 @@ int write_photo_grid(frmMain & main, const std::string & path, const std::vector
         if (!is_empty(cell))
             lines.push_back(list_line(cell_shape(cell.place()), cell.tag));
     for (const std::string & photo : behind)
-        lines.push_back(list_line(orientation::unknown, photo));
+        lines.push_back(list_line(std::nullopt, photo));
     replace_file(path, text_of(lines));
     for (int number = 0; number < editable_photos; ++number) {
         window.picIn[static_cast<std::size_t>(number)].tag = "0";

@@ -148,7 +148,7 @@ void append_photos(const std::string & list, const std::vector<std::string> & ph
     if (!text.empty() && !text.ends_with('\n'))
         text += "\r\n";
     for (const std::string & photo : photos)
-        text += list_line(orientation::unknown, photo) + "\r\n";
+        text += list_line(std::nullopt, photo) + "\r\n";
     replace_file(list, text);
 }
 

@@ -1,12 +1,18 @@
 #pragma once
 
 #include "support/numbers.h"
+#include "support/orientation.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 /// What is known of a photo's orientation during a run.
-enum class orientation : std::uint8_t { unknown = 0, landscape = 1, portrait = 2, not_loadable = 3 };
+struct seen_orientation {
+    bool is_known = false;
+    std::optional<orientation> lies{};  ///< nothing for a photo that isn't loadable
+    bool operator==(const seen_orientation &) const = default;
+};
 
 /// The working table of photos: full paths in use order. During a preview it holds thumbnails, at full size
 /// photos.
@@ -15,7 +21,7 @@ struct photo_table {
     std::array<std::string, capacity> photos{};
     int16 last_photo = -1;  ///< index of the last valid entry; -1: empty
     std::array<std::string, capacity> shuffled_photos{};
-    std::array<orientation, capacity> photo_orientation{};  ///< cache of a run's matching
+    std::array<seen_orientation, capacity> photo_orientation{};  ///< cache of a run's matching
     int16 landscape_count = 0, portrait_count = 0;
     std::string orientation_list{};  ///< "p:" or "l:" for each readable photo, in table order
     /// Whether the user wants the photos shuffled before they are used again.

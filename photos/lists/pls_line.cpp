@@ -8,7 +8,7 @@ std::string photo_of_line(std::string_view line)
     return std::string(line.substr(std::min(line.size(), letter_and_blank)));
 }
 
-std::string list_line(orientation shape, std::string_view path)
+std::string list_line(std::optional<orientation> shape, std::string_view path)
 {
     return (shape == orientation::portrait ? "P " : "L ") + std::string(path);
 }

@@ -11,5 +11,5 @@
 /// The path of the line; empty for a line of fewer than three characters.
 std::string photo_of_line(std::string_view line);
 
-/// "P " for a portrait, "L " for anything else, and the path.
-std::string list_line(orientation shape, std::string_view path);
+/// "P " for a portrait, "L " for anything else, what isn't known included, and the path.
+std::string list_line(std::optional<orientation> shape, std::string_view path);

@@ -1,26 +1,24 @@
 #include "quick/block/block_plan.h"
 
 #include "quick/template_text.h"
+#include "support/rectangle.h"
 
 namespace {
-
-struct rectangle {
-    int top = 0, left = 0, height = 0, width = 0;
-};
 
 rectangle rectangle_of(const std::string & line)
 {
     const std::vector<std::string> fields = fields_of(line);
-    return {.top = number_at(fields, 0),
-            .left = number_at(fields, 1),
-            .height = number_at(fields, 2),
-            .width = number_at(fields, 3)};
+    const int top = number_at(fields, 0), left = number_at(fields, 1), height = number_at(fields, 2);
+    return {.left = left, .top = top, .width = number_at(fields, 3), .height = height};
 }
 
-std::string line_of(const rectangle & place, int gap)
+location inside_gap(const rectangle & place, int gap)
 {
-    return place_text(place.top + gap, place.left + gap, place.height - 2 * gap, place.width - 2 * gap) +
-           ":0:-1:-1:0:";
+    const rectangle area = grown(place, -gap);
+    return {.top = narrow(area.top),
+            .left = narrow(area.left),
+            .height = narrow(area.height),
+            .width = narrow(area.width)};
 }
 
 // Twice as high on every poster: after the turn of a landscape one that is twice as wide.
@@ -67,16 +65,16 @@ std::vector<rectangle> treated(const rectangle & place, block_request & left)
 
 }  // namespace
 
-std::vector<std::string> block_plan(const std::vector<std::string> & block, const block_request & request,
-                                    const random_source & random)
+std::vector<location> block_plan(const std::vector<std::string> & block, const block_request & request,
+                                 const random_source & random)
 {
-    std::vector<std::string> plan;
+    std::vector<location> plan;
     block_request left = request;
     for (const std::string & line : block) {
         if (!line.starts_with('#'))
             for (const rectangle & place : treated(rectangle_of(line), left))
                 if (!is_blank(left.blanks))
-                    plan.push_back(line_of(place, request.gap));
+                    plan.push_back(inside_gap(place, request.gap));
         next_line(left.blanks, random);
     }
     return plan;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/templates/location_line.h"
 #include "designs/templates/poster_shape.h"
 #include "quick/blank_run.h"
 
@@ -17,8 +18,11 @@ struct block_request {
     blank_run blanks{};
 };
 
-/// The template lines of a block. `block` holds its lines, "top:left:height:width" and comments, in pixels of
+/// How the locations of a block are written.
+inline constexpr line_digits block_digits{.place = 2};
+
+/// The locations of a block. `block` holds its lines, "top:left:height:width" and comments, in pixels of
 /// the upright poster; a comment takes a place in the run of blanks. A landscape poster is turned later, so
 /// it is cut across. Raises subscript (9) for a line with too few fields, overflow (6).
-std::vector<std::string> block_plan(const std::vector<std::string> & block, const block_request & request,
-                                    const random_source & random);
+std::vector<location> block_plan(const std::vector<std::string> & block, const block_request & request,
+                                 const random_source & random);

@@ -16,13 +16,13 @@ void write_quick_block(frmMain & main)
                                 .doubled = main.quick.block_doubled,
                                 .split = main.quick.block_split,
                                 .blanks = blanks};
-    std::vector<std::string> lines;
+    std::vector<location> places;
     with_table(main, "block_templates", [&](line_source & blocks) {
         const auto block = section_of(blocks, main.quick.block_name);
         if (block)
-            lines = block_plan(*block, request, main.random);
+            places = block_plan(*block, request, main.random);
         else
             main.desk.message("Shouldn't happen");
     });
-    write_quick_template(main, lines);
+    write_quick_template(main, template_lines(places, block_digits));
 }

@@ -2,7 +2,7 @@
 
 #include "quick/matrix/matrix_patterns.h"
 #include "quick/matrix/matrix_shapes.h"
-#include "quick/template_text.h"
+#include "support/rectangle.h"
 
 #include <algorithm>
 
@@ -113,10 +113,6 @@ double scale_at(const cell_place & at, int columns, double scale)
     return scale > 1 && at_edge ? 1 : scale;
 }
 
-struct rectangle {
-    int top = 0, left = 0, height = 0, width = 0;
-};
-
 struct shift {
     int top = 0, left = 0;
 };
@@ -132,10 +128,10 @@ shift shift_of(const matrix_request & request, const grid_places & grid, const s
 // The cell in its place, its middle where that of an unscaled one would be.
 rectangle scaled_cell(const grid_places & grid, const cell_place & at, const shift & by, double scale)
 {
-    rectangle place{.top = (grid.row_gap + grid.cell_height) * at.row + grid.top + by.top,
-                    .left = (grid.column_gap + grid.cell_width) * at.column + grid.left + by.left,
-                    .height = nearest16(grid.cell_height * scale),
-                    .width = nearest16(grid.cell_width * scale)};
+    rectangle place{.left = (grid.column_gap + grid.cell_width) * at.column + grid.left + by.left,
+                    .top = (grid.row_gap + grid.cell_height) * at.row + grid.top + by.top,
+                    .width = nearest16(grid.cell_width * scale),
+                    .height = nearest16(grid.cell_height * scale)};
     place.top = nearest16(place.top + (grid.cell_height - place.height) / 2.0);
     place.left = nearest16(place.left + (grid.cell_width - place.width) / 2.0);
     return place;
@@ -163,8 +159,8 @@ void keep_proportion(rectangle & place)
         place.height = std::max<int>(place.height, nearest16(place.width * least_proportion));
 }
 
-std::string cell_line(const matrix_request & request, const grid_places & grid, const cell_place & at,
-                      const shake & shaken)
+location cell_location(const matrix_request & request, const grid_places & grid, const cell_place & at,
+                       const shake & shaken)
 {
     const double scale = request.resize ? scale_at(at, request.grid.columns, shaken.scale) : 1;
     rectangle place = scaled_cell(grid, at, shift_of(request, grid, shaken), scale);
@@ -172,8 +168,11 @@ std::string cell_line(const matrix_request & request, const grid_places & grid, 
         widen(place, grid, scale, request, shaken.rotation);
     else if (shaken.rotation != 0)
         keep_proportion(place);
-    return place_text(place.top, place.left, place.height, place.width) + ":" +
-           formatted(shaken.rotation, 2) + ":-1:-1:0:";
+    return {.top = narrow(place.top),
+            .left = narrow(place.left),
+            .height = narrow(place.height),
+            .width = narrow(place.width),
+            .rotation = narrow(shaken.rotation)};
 }
 
 // Worth it in a grid of some size whose photos are mixed.
@@ -204,7 +203,7 @@ int matrix_inset_down(int inset)
     return nearest(inset * 1.25);
 }
 
-std::vector<std::string> matrix_plan(const matrix_request & request, const random_source & random)
+std::vector<location> matrix_plan(const matrix_request & request, const random_source & random)
 {
     const int photos = request.portrait + request.landscape;
     const bool turned = request.poster == poster_shape::landscape;
@@ -212,14 +211,14 @@ std::vector<std::string> matrix_plan(const matrix_request & request, const rando
     matrix_shapes shapes = shapes_for(request);
     pattern_walk patterns(turned ? photos + 1 : 0, request.offset, request.rotate);
     blank_run blanks = request.blanks;
-    std::vector<std::string> plan;
+    std::vector<location> plan;
     for (cell_place at; at.row < request.grid.rows; ++at.row) {
         shapes.begin_row();
         for (at.column = 0; at.column < request.grid.columns;) {
             at.two = shapes.takes_two(at.column);
             const shake shaken = patterns.next(at.row, at.column);
             if (!is_blank(blanks))
-                plan.push_back(cell_line(request, grid, at, shaken));
+                plan.push_back(cell_location(request, grid, at, shaken));
             at.column += at.two ? 2 : 1;
             // The last cell of a row takes no place in the run of blanks.
             if (at.column < request.grid.columns)

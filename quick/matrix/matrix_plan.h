@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/templates/location_line.h"
 #include "designs/templates/poster_shape.h"
 #include "quick/blank_run.h"
 #include "quick/matrix/matrix_grid.h"
@@ -26,6 +27,9 @@ int matrix_inset(int last_photo);
 /// Those that it leaves free at top and bottom.
 int matrix_inset_down(int inset);
 
-/// The template lines of a quick matrix, in pixels of the upright poster, row by row. Raises overflow (6),
+/// How the locations of a quick matrix are written.
+inline constexpr line_digits matrix_digits{.place = 2, .rotation = 2};
+
+/// The locations of a quick matrix, in pixels of the upright poster, row by row. Raises overflow (6),
 /// also for a grid without rows or columns.
-std::vector<std::string> matrix_plan(const matrix_request & request, const random_source & random);
+std::vector<location> matrix_plan(const matrix_request & request, const random_source & random);

@@ -93,5 +93,5 @@ void write_quick_matrix(frmMain & main)
                            .blanks = blanks};
     main.quick.preview_inset = nearest16(matrix_inset_down(request.inset) / 8.0);
     request.offset = chosen_offset(main);
-    write_quick_template(main, matrix_plan(request, main.random));
+    write_quick_template(main, template_lines(matrix_plan(request, main.random), matrix_digits));
 }

@@ -1,5 +1,6 @@
 #include "quick/shapes/quick_shapes.h"
 
+#include "designs/templates/location_line.h"
 #include "quick/quick_tables.h"
 #include "quick/shapes/shapes_plan.h"
 #include "session/window_state.h"
@@ -38,5 +39,5 @@ void write_quick_shapes(frmMain & main)
     main.shape_row_bias = layout.row_bias;
     main.shape_column_bias = layout.column_bias;
     main.quick.shape_file = layout.file;
-    write_quick_template(main, layout.lines);
+    write_quick_template(main, template_lines(layout.places));
 }

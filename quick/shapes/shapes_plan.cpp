@@ -139,17 +139,16 @@ private:
     int last = 0;
 };
 
-std::string number_text(double value)
-{
-    return formatted(nearest16(value));
-}
-
 // A shape's height is that of its mask, so its size stands in the place of the width alone.
-std::string line_of(double top, double left, double size, const std::string & mask)
+location cell_at(double top, double left, double size, const std::string & mask)
 {
-    const std::string height = mask.empty() ? number_text(size) : "0";
-    return number_text(top) + ":" + number_text(left) + ":" + height + ":" + number_text(size) +
-           ":0:0:-1:0:" + mask;
+    const int16 width = nearest16(size);
+    return {.top = nearest16(top),
+            .left = nearest16(left),
+            .height = mask.empty() ? width : int16{0},
+            .width = width,
+            .frame = 0,
+            .file = mask};
 }
 
 // Writes one row, whose first cell stands at (`top`, `left`).
@@ -166,8 +165,8 @@ public:
             const shapes_mix & by = shapes_mixes[static_cast<std::size_t>(mix)];
             const int unit = request.mix ? mix_unit : 0;
             if (!is_blank(blanks))
-                plan.lines.push_back(line_of(top + unit * by.down, left + unit * by.right,
-                                             size + unit * by.growth, masks.next(random)));
+                plan.places.push_back(cell_at(top + unit * by.down, left + unit * by.right,
+                                              size + unit * by.growth, masks.next(random)));
             mix = mix == last_mix ? 1 : mix + 1;
             next_line(blanks, random);
             left += size + request.gap;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/templates/location.h"
 #include "designs/templates/poster_shape.h"
 #include "quick/blank_run.h"
 
@@ -26,10 +27,10 @@ struct shapes_layout {
     double rows = 0, columns = 0;
     double row_bias = 0, column_bias = 0;  ///< those of the request, raised where none would be left
     std::string file;                      ///< mask of the cell written last, empty for squares
-    std::vector<std::string> lines;
+    std::vector<location> places;
 };
 
-/// The template lines of a grid of shapes, in pixels of the upright poster, row by row. A grid has from 6 to
+/// The locations of a grid of shapes, in pixels of the upright poster, row by row. A grid has from 6 to
 /// 84 cells before the user's own rows and columns. Draws one number a row, and one for each written leaf or
 /// puzzle piece. Raises overflow (6).
 shapes_layout shapes_plan(const shapes_request & request, const random_source & random);

@@ -1,5 +1,6 @@
 #include "designers/lettering/lettering_plan.h"
 #include "designers/lettering/lettering_text.h"
+#include "designs/templates/location_line.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -19,7 +20,7 @@ std::string letter_line(const char * corner, int size, char letter)
 
 lines written(const lettering_choices & choices, double chance = 0)
 {
-    return lettering_lines(choices, listed({chance}));
+    return template_lines(lettering_plan(choices, listed({chance})));
 }
 
 std::string many(std::size_t count, char sign = 'a')
@@ -107,13 +108,13 @@ TEST(lettering_measure, a_short_word_is_limited_by_the_width_then_by_the_height)
 
 // ---- the template
 
-TEST(lettering_lines, one_word_stands_at_the_top_left)
+TEST(lettering_plan, one_word_stands_at_the_top_left)
 {
     EXPECT_EQ(written({.text = "Hi"}),
               (lines{letter_line("-52:50", 1014, 'h'), letter_line("100:1086", 845, 'i')}));
 }
 
-TEST(lettering_lines, capitals_have_the_pictures_of_the_small_letters)
+TEST(lettering_plan, capitals_have_the_pictures_of_the_small_letters)
 {
     const lines all = written({.text = "aA"});
     ASSERT_EQ(all.size(), 2U);
@@ -121,13 +122,13 @@ TEST(lettering_lines, capitals_have_the_pictures_of_the_small_letters)
     EXPECT_NE(all[0], all[1]);
 }
 
-TEST(lettering_lines, a_centred_word_stands_in_the_middle)
+TEST(lettering_plan, a_centred_word_stands_in_the_middle)
 {
     EXPECT_EQ(written({.text = "Hi", .center = true}),
               (lines{letter_line("916:60", 1014, 'h'), letter_line("1068:1096", 845, 'i')}));
 }
 
-TEST(lettering_lines, letters_that_overlap_lean_into_each_other)
+TEST(lettering_plan, letters_that_overlap_lean_into_each_other)
 {
     EXPECT_EQ(written({.text = "Hi", .overlap = true}),
               (lines{letter_line("-62:50", 1082, 'h'), letter_line("100:982", 902, 'i')}));
@@ -135,14 +136,14 @@ TEST(lettering_lines, letters_that_overlap_lean_into_each_other)
               (lines{letter_line("877:158", 1082, 'h'), letter_line("1039:1090", 902, 'i')}));
 }
 
-TEST(lettering_lines, a_second_line_stands_below_the_first)
+TEST(lettering_plan, a_second_line_stands_below_the_first)
 {
     EXPECT_EQ(written({.text = "ab\r\ncd"}),
               (lines{letter_line("100:50", 619, 'a'), letter_line("100:691", 619, 'b'),
                      letter_line("804:50", 619, 'c'), letter_line("804:691", 619, 'd')}));
 }
 
-TEST(lettering_lines, each_line_is_centred_by_itself)
+TEST(lettering_plan, each_line_is_centred_by_itself)
 {
     // 939 high, 85 between: 40 lower than the middle of 2900. The CR isn't a letter of its line.
     EXPECT_EQ(written({.text = "ab\nc", .center = true}),
@@ -150,7 +151,7 @@ TEST(lettering_lines, each_line_is_centred_by_itself)
                      letter_line("1532:530", 939, 'c')}));
 }
 
-TEST(lettering_lines, a_long_line_is_broken_and_its_rest_stands_below)
+TEST(lettering_plan, a_long_line_is_broken_and_its_rest_stands_below)
 {
     const lines all = written({.text = many(30)});
     ASSERT_EQ(all.size(), 30U);
@@ -160,7 +161,7 @@ TEST(lettering_lines, a_long_line_is_broken_and_its_rest_stands_below)
     EXPECT_EQ(all[29], letter_line("197:50", 64, 'a'));
 }
 
-TEST(lettering_lines, a_wave_walks_its_five_shifts_from_a_start_of_its_own)
+TEST(lettering_plan, a_wave_walks_its_five_shifts_from_a_start_of_its_own)
 {
     EXPECT_EQ(written({.text = "abc", .placing = letter_placing::serpent}),
               (lines{letter_line("211:50", 619, 'a'), letter_line("156:691", 619, 'b'),
@@ -171,7 +172,7 @@ TEST(lettering_lines, a_wave_walks_its_five_shifts_from_a_start_of_its_own)
                      letter_line("100:1332", 619, 'c')}));
 }
 
-TEST(lettering_lines, offset_letters_walk_25_shifts_and_punctuation_is_a_gap)
+TEST(lettering_plan, offset_letters_walk_25_shifts_and_punctuation_is_a_gap)
 {
     const lines expected{letter_line("174:50", 619, 'a'), letter_line("193:1337", 619, 'b')};
     EXPECT_EQ(written({.text = "a b", .placing = letter_placing::offset}, 0.5), expected);
@@ -183,7 +184,7 @@ TEST(lettering_lines, offset_letters_walk_25_shifts_and_punctuation_is_a_gap)
               expected);
 }
 
-TEST(lettering_lines, a_shifted_capital_rises_by_most_of_what_it_is_larger)
+TEST(lettering_plan, a_shifted_capital_rises_by_most_of_what_it_is_larger)
 {
     // "Ab": sizes 940, 845; the shift of 90 is 152 there, less 152 for the capital.
     EXPECT_EQ(written({.text = "Ab", .placing = letter_placing::serpent})[0],
@@ -217,7 +218,7 @@ TEST(lettering_fault, a_text_that_leaves_its_letters_no_room_is_told)
     EXPECT_EQ(lettering_fault({.text = "Happy birthday, Grandmother! 80 years young.\nSummer 2026"}), "");
 }
 
-TEST(lettering_lines, any_text_without_a_fault_names_only_pictures_that_there_are)
+TEST(lettering_plan, any_text_without_a_fault_names_only_pictures_that_there_are)
 {
     const std::string alphabet = "abcdefghijklmnopqrstuvwxyz0123456789";
     std::string text;

@@ -1,5 +1,6 @@
 #include "designers/start_designer.h"
 
+#include "engine/layout/worn_ornaments.h"
 #include "support/colors.h"
 #include "support/platform_error.h"
 #include "tests/designers/designer_session.h"
@@ -175,7 +176,7 @@ TEST(mnuPuzzle, has_an_outline_and_no_borders)
     main.optLarge.select();
     session.run(designer::puzzle);
     EXPECT_EQ(main.design_record.name, "Puzzle");
-    EXPECT_EQ(main.run.frame_size, 0) << "no frame around the square of a piece";
+    EXPECT_EQ(worn_at(main, {.frame = -1}, 0).frame, 0) << "no frame around the square of a piece";
     expect_states(main, "mnuFile_ frmOrnaments_ chkOutline^ frmBorder- optNone1 frmSpace_ optPreview1");
     EXPECT_EQ(session.previews(), 1);
 }

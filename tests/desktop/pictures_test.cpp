@@ -134,8 +134,8 @@ TEST(printing, a_printer_that_refuses_and_an_empty_picture_print_nothing)
     QPrinter printer(QPrinter::ScreenResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName("/nowhere/at all/page.pdf");
-    EXPECT_FALSE(print_on(printer, plain(30, 20, {255, 0, 0}), page::portrait));
-    EXPECT_FALSE(print_on(printer, bitmap(), page::portrait));
+    EXPECT_FALSE(print_on(printer, plain(30, 20, {255, 0, 0}), orientation::portrait));
+    EXPECT_FALSE(print_on(printer, bitmap(), orientation::portrait));
 }
 
 TEST(captions, a_spaced_title_is_read_as_words_and_others_as_they_are)

@@ -22,11 +22,11 @@ constexpr sheet sheets[] = {{QPageSize::A4, 595, 842}, {QPageSize::Letter, 612, 
 
 struct collage {
     int width, height;
-    page orientation;
+    orientation page;
 };
 
 constexpr collage collages[] = {
-    {200, 300, page::portrait}, {300, 200, page::landscape}, {200, 200, page::portrait}};
+    {200, 300, orientation::portrait}, {300, 200, orientation::landscape}, {200, 200, orientation::portrait}};
 
 pdf_page printed(const sheet & paper, const collage & made)
 {
@@ -36,7 +36,7 @@ pdf_page printed(const sheet & paper, const collage & made)
     printer.setOutputFileName(QString::fromStdString(folder.at("page.pdf")));
     printer.setPageSize(QPageSize(paper.size));
     printer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Point);
-    EXPECT_TRUE(print_on(printer, graded(made.width, made.height), made.orientation));
+    EXPECT_TRUE(print_on(printer, graded(made.width, made.height), made.page));
     return read_page(folder.at("page.pdf"));
 }
 
@@ -54,7 +54,7 @@ void print_each(Check check)
 TEST(print_on, one_page_of_the_paper_in_the_collage_s_orientation)
 {
     print_each([](const sheet & paper, const collage & made, const pdf_page & page) {
-        const bool lies = made.orientation == page::landscape;
+        const bool lies = made.page == orientation::landscape;
         EXPECT_EQ(page.pages, 1);
         EXPECT_NEAR(page.paper.width(), lies ? paper.height : paper.width, near_enough);
         EXPECT_NEAR(page.paper.height(), lies ? paper.width : paper.height, near_enough);
@@ -91,7 +91,7 @@ TEST(print_on, without_a_printer_the_desktop_says_so)
 {
     qt_desktop desk;
     desk.printer = [] { return QPrinterInfo(); };
-    EXPECT_EQ(desk.print(plain(20, 30, {}), page::portrait), print_result::no_printer);
+    EXPECT_EQ(desk.print(plain(20, 30, {}), orientation::portrait), print_result::no_printer);
 }
 
 }  // namespace

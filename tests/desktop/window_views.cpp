@@ -22,7 +22,7 @@ void save_lists(const filled_session & session, const frmMain & main)
 {
     std::string lines;
     for (int i = 0; i <= main.table.last_photo; ++i)
-        lines += list_line(orientation::unknown, main.table[i]) + "\r\n";
+        lines += list_line(std::nullopt, main.table[i]) + "\r\n";
     for (const char * name : {"Summer by the sea", "Grandmother's birthday", "last_photos"})
         session.folder.write(std::string("piclists/") + name + ".pls", lines);
 }

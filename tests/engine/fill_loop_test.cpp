@@ -301,21 +301,6 @@ TEST(fill_loop, a_template_without_its_two_rows_or_a_list_without_photos_draws_n
     EXPECT_EQ(run.filled().substr(14, 14), ".............\n");
 }
 
-TEST(fill_loop, sizes_of_a_preview_are_bounded_again)
-{
-    grid_run run(1, 1);
-    run.main.in_preview = true;
-    run.main.enabling.shadow_usable = run.main.enabling.shadow_fixed = true;
-    run.main.cmbFrame.set_text("60");
-    run.main.cmbShadow.set_text("50");
-    run.main.design_locations[1].frame = run.main.design_locations[1].shadow = -1;
-    run.add_path(run.home.at("photos/gone.jpg"));
-    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
-    run.filled();
-    EXPECT_EQ(run.main.run.frame_size, 8);   // 60 / 6 + 1 = 11
-    EXPECT_EQ(run.main.run.shadow_size, 8);  // 50 / 4 = 12
-}
-
 TEST(fill_loop, a_card_fills_its_cell_without_shifts)
 {
     grid_run run(1, 2);

@@ -203,10 +203,10 @@ TEST(place_loop, matching_gives_each_place_a_photo_that_lies_as_it_does)
     run.add_photo(blue, 50, 50);
     EXPECT_EQ(run.placed(), "grb");
     const auto & known = run.main.table.photo_orientation;
-    EXPECT_EQ(known[0], orientation::landscape);
-    EXPECT_EQ(known[1], orientation::portrait);
-    EXPECT_EQ(known[2], orientation::not_loadable);
-    EXPECT_EQ(known[3], orientation::portrait) << "a square photo";
+    EXPECT_EQ(known[0].lies, orientation::landscape);
+    EXPECT_EQ(known[1].lies, orientation::portrait);
+    EXPECT_EQ(known[2], (seen_orientation{.is_known = true}));
+    EXPECT_EQ(known[3].lies, orientation::portrait) << "a square photo";
 }
 
 TEST(place_loop, without_a_match_it_says_so_and_goes_on_with_the_first_photo)
@@ -228,9 +228,9 @@ TEST(place_loop, a_photo_that_vanished_since_its_orientation_became_known_is_pas
     run.main.run.match_active = true;
     run.add_path(run.home.at("photos/gone.jpg"));
     run.add_photo(green);
-    run.main.table.photo_orientation[0] = orientation::portrait;
+    run.main.table.photo_orientation[0] = {.is_known = true, .lies = orientation::portrait};
     EXPECT_EQ(run.placed(), "g");
-    EXPECT_EQ(run.main.table.photo_orientation[0], orientation::not_loadable);
+    EXPECT_EQ(run.main.table.photo_orientation[0], (seen_orientation{.is_known = true}));
 }
 
 TEST(place_loop, shows_the_number_of_the_image)

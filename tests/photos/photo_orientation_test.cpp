@@ -7,14 +7,15 @@ TEST(photo_orientation, a_square_photo_is_landscape)
     EXPECT_EQ(counted_orientation(picture_size{.width = 200, .height = 200}), orientation::landscape);
     EXPECT_EQ(counted_orientation(picture_size{.width = 200, .height = 201}), orientation::portrait);
     EXPECT_EQ(counted_orientation(picture_size{.width = 201, .height = 200}), orientation::landscape);
-    EXPECT_EQ(counted_orientation(std::nullopt), orientation::not_loadable);
+    EXPECT_EQ(counted_orientation(std::nullopt), std::nullopt);
 }
 
 TEST(photo_orientation, a_photo_that_is_not_loadable_counts_as_neither)
 {
     orientation_counts counts;
-    for (const orientation shape : {orientation::portrait, orientation::not_loadable, orientation::landscape,
-                                    orientation::unknown, orientation::portrait})
+    for (const std::optional<orientation> shape :
+         {std::optional(orientation::portrait), std::optional<orientation>(),
+          std::optional(orientation::landscape), std::optional(orientation::portrait)})
         add_photo(counts, shape);
     EXPECT_EQ(counts.landscape, 1);
     EXPECT_EQ(counts.portrait, 2);

@@ -1,5 +1,6 @@
 // What holds for every input, over thousands of random ones.
 
+#include "designs/templates/location_line.h"
 #include "quick/block/block_plan.h"
 #include "quick/matrix/matrix_plan.h"
 #include "quick/scatter/scatter_plan.h"
@@ -147,7 +148,7 @@ TEST(every_block, stays_in_its_wall_without_a_cell_of_no_size)
         const std::vector<std::string> wall = any_wall(chance, height);
         const int size = static_cast<int>(wall.size());
         request.split = drawn(chance, 0, size);
-        const auto plan = block_plan(wall, request, listed({}));
+        const auto plan = template_lines(block_plan(wall, request, listed({})));
         ASSERT_EQ(plan.size(), wall.size() + static_cast<std::size_t>(request.split));
         for (const std::string & line : plan) {
             const place cell = place_of(line);
@@ -168,7 +169,7 @@ TEST(every_block, covers_as_much_after_its_cuts_as_before)
         const auto wall = any_wall(chance, high(request.poster));
         const auto area = [&](const block_request & asked) {
             long sum = 0;
-            for (const std::string & line : block_plan(wall, asked, listed({}))) {
+            for (const std::string & line : template_lines(block_plan(wall, asked, listed({})))) {
                 const place cell = place_of(line);
                 sum += static_cast<long>(cell.height) * cell.width;
             }
@@ -187,8 +188,8 @@ TEST(every_block, has_one_hole_in_each_run)
         const auto wall = any_wall(chance, 3000);
         const int length = std::max(any_blanks(chance), 3);
         const random_source random = seeded_random(chance());
-        const auto all = block_plan(wall, {}, listed({}));
-        const auto left = block_plan(wall, {.blanks = start_blanks(length, random)}, random);
+        const auto all = template_lines(block_plan(wall, {}, listed({})));
+        const auto left = template_lines(block_plan(wall, {.blanks = start_blanks(length, random)}, random));
         expect_blanks_rule(holes(all, left), length);
     }
 }
@@ -240,7 +241,7 @@ TEST(every_matrix, has_full_rows)
     for (int turn = 0; turn < 1500; ++turn) {
         matrix_request request = any_matrix(chance);
         request.rotate = request.resize = request.shuffle = false;
-        const auto plan = matrix_plan(request, listed({}));
+        const auto plan = template_lines(matrix_plan(request, listed({})));
         std::map<int, int> cells_in_row;
         const int cell = place_of(plan.front()).height;
         ASSERT_GT(cell, 0);
@@ -276,9 +277,9 @@ TEST(every_matrix, begins_neighbouring_rows_with_tilts_to_other_sides)
         const auto upright = [&] {
             matrix_request plain = request;
             plain.rotate = false;
-            return matrix_plan(plain, listed({}));
+            return template_lines(matrix_plan(plain, listed({})));
         }();
-        const auto plan = matrix_plan(request, listed({}));
+        const auto plan = template_lines(matrix_plan(request, listed({})));
         ASSERT_EQ(plan.size(), upright.size());
         int row_top = -32768;
         for (std::size_t i = 0; i < plan.size(); ++i)
@@ -301,7 +302,7 @@ TEST(every_matrix, hangs_over_its_poster_by_no_more_than_its_patterns_move_it)
                                      high(request.poster) / static_cast<double>(request.grid.rows));
         // Seven fiftieths of the longer side, and half of what a slim cell gains when it is tilted.
         const double over = cell * (0.14 + (request.rotate ? 0.7 : 0.16)) + 2;
-        for (const std::string & line : matrix_plan(request, listed({}))) {
+        for (const std::string & line : template_lines(matrix_plan(request, listed({})))) {
             const place each = place_of(line);
             ASSERT_GT(std::min(each.height, each.width), 0) << line;
             ASSERT_GE(each.top, -over) << line;
@@ -321,7 +322,7 @@ TEST(every_matrix, of_landscape_photos_alone_is_double_cells_in_rows_of_even_len
         request.landscape = drawn(chance, 1, 120);
         for (int i = 0; i < request.landscape; ++i)
             request.shapes += "l:";
-        ASSERT_EQ(static_cast<int>(matrix_plan(request, listed({})).size()),
+        ASSERT_EQ(static_cast<int>(template_lines(matrix_plan(request, listed({}))).size()),
                   request.grid.rows * request.grid.columns / 2);
     }
 }
@@ -341,10 +342,11 @@ TEST(every_grid_of_shapes, stays_on_its_poster)
         request.shadow = drawn(chance, 0, 30);
         request.align = one_of(chance, {shapes_align::top, shapes_align::center, shapes_align::bottom});
         const shapes_layout plan = shapes_plan(request, seeded_random(1));
-        ASSERT_EQ(plan.lines.size(), static_cast<std::size_t>(plan.rows * plan.columns));
+        const std::vector<std::string> written = template_lines(plan.places);
+        ASSERT_EQ(written.size(), static_cast<std::size_t>(plan.rows * plan.columns));
         ASSERT_GE(std::min(plan.rows, plan.columns), 1);
         const bool masks = request.shape != "Squares";
-        for (const std::string & line : plan.lines) {
+        for (const std::string & line : written) {
             const place cell = place_of(line);
             ASSERT_GT(cell.width, 0) << line;
             ASSERT_EQ(cell.height, masks ? 0 : cell.width) << line;
@@ -366,7 +368,7 @@ TEST(every_grid_of_shapes, has_no_two_neighbouring_leaves_alike)
         shapes_request request{.shape = one_of(chance, {"Leaves", "Puzzle pieces"}),
                                .last_photo = drawn(chance, 3, 200)};
         request.blanks = start_blanks(any_blanks(chance), random);
-        const auto plan = shapes_plan(request, random).lines;
+        const auto plan = template_lines(shapes_plan(request, random).places);
         for (std::size_t i = 1; i < plan.size(); ++i)
             ASSERT_NE(place_of(plan[i]).mask, place_of(plan[i - 1]).mask) << i;
     }
@@ -377,10 +379,10 @@ TEST(every_grid_of_shapes, has_one_hole_in_each_run)
     dice chance(43);
     for (int turn = 0; turn < 1000; ++turn) {
         shapes_request request{.shape = "Circles", .last_photo = drawn(chance, 3, 200)};
-        const auto all = shapes_plan(request, seeded_random(1)).lines;
+        const auto all = template_lines(shapes_plan(request, seeded_random(1)).places);
         const int length = std::max(any_blanks(chance), 3);
         const random_source random = seeded_random(chance());
         request.blanks = start_blanks(length, random);
-        expect_blanks_rule(holes(all, shapes_plan(request, random).lines), length);
+        expect_blanks_rule(holes(all, template_lines(shapes_plan(request, random).places)), length);
     }
 }

@@ -88,9 +88,9 @@ TEST(supplied_blocks, hold_exactly_the_photos_of_every_pair_of_counts)
             ASSERT_EQ(find_block(lines, poster, {portrait, landscape}, match), block_search::found)
                 << portrait << " portrait, " << landscape << " landscape";
             ASSERT_TRUE(blocks.contains(match.name)) << match.name;
-            const auto plan =
+            const auto plan = template_lines(
                 block_plan(blocks.at(match.name),
-                           {.poster = poster, .doubled = match.doubled, .split = match.split}, listed({}));
+                           {.poster = poster, .doubled = match.doubled, .split = match.split}, listed({})));
             ASSERT_EQ(static_cast<int>(plan.size()), portrait + landscape) << match.name;
             ASSERT_EQ(upright_places(plan, poster), portrait) << match.name;
             ++pairs;

@@ -1,5 +1,7 @@
 #include "designers/matrix/matrix_layout.h"
 
+#include "designs/templates/location_line.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -8,7 +10,7 @@ using lines = std::vector<std::string>;
 
 lines written(const matrix_choices & choices, run_size size)
 {
-    return matrix_lines(choices, matrix_layout_of(choices, size));
+    return template_lines(matrix_locations(choices, matrix_layout_of(choices, size)));
 }
 
 lines framed(int rows, int columns, poster_shape poster, int captions)

@@ -30,10 +30,11 @@ std::string repeated(int times, const std::string & line)
 
 TEST(matrix_sample, shows_the_cells_where_the_template_puts_them)
 {
-    EXPECT_EQ(sample_pieces({}), (pieces{{.top = 100, .left = 100, .height = 1390, .width = 890},
-                                         {.top = 100, .left = 1010, .height = 1390, .width = 890},
-                                         {.top = 1510, .left = 100, .height = 1390, .width = 890},
-                                         {.top = 1510, .left = 1010, .height = 1390, .width = 890}}));
+    EXPECT_EQ(sample_pieces({}),
+              (pieces{{.area = {.left = 100, .top = 100, .width = 890, .height = 1390}},
+                      {.area = {.left = 1010, .top = 100, .width = 890, .height = 1390}},
+                      {.area = {.left = 100, .top = 1510, .width = 890, .height = 1390}},
+                      {.area = {.left = 1010, .top = 1510, .width = 890, .height = 1390}}}));
 }
 
 TEST(matrix_sample, is_drawn_to_scale)
@@ -55,15 +56,15 @@ TEST(matrix_sample, of_both_orientations_has_single_and_double_cells)
     const pieces all = sample_pieces({.rows = 2, .columns = 4, .photos = matrix_photos::both});
     std::vector<int> widths;
     for (const sample_piece & piece : all)
-        widths.push_back(piece.width);
+        widths.push_back(piece.area.width);
     EXPECT_EQ(widths, (std::vector<int>{435, 890, 435, 890, 435, 435}));
-    EXPECT_EQ(all[2].left, 1465);
+    EXPECT_EQ(all[2].area.left, 1465);
 }
 
 TEST(matrix_sample, a_single_column_has_no_double_cells)
 {
     for (const sample_piece & piece : sample_pieces({.rows = 4, .columns = 1, .photos = matrix_photos::both}))
-        EXPECT_EQ(piece.width, 1800);
+        EXPECT_EQ(piece.area.width, 1800);
 }
 
 TEST(matrix_sample, shows_frames_below_their_photos)
@@ -72,17 +73,17 @@ TEST(matrix_sample, shows_frames_below_their_photos)
         .rows = 3, .columns = 2, .frames = worn_frames{.set = "club", .captions = 1}};
     const pieces all = sample_pieces(choices);
     ASSERT_EQ(all.size(), 12U);
-    EXPECT_EQ(
-        all[2],
-        (sample_piece{.kind = sample_kind::frame, .top = 100, .left = 1293, .height = 920, .width = 607}));
-    EXPECT_EQ(all[3], (sample_piece{.top = 137, .left = 1329, .height = 727, .width = 540}));
+    EXPECT_EQ(all[2], (sample_piece{.kind = sample_kind::frame,
+                                    .area = {.left = 1293, .top = 100, .width = 607, .height = 920}}));
+    EXPECT_EQ(all[3], (sample_piece{.area = {.left = 1329, .top = 137, .width = 540, .height = 727}}));
 }
 
 TEST(matrix_sample, shakes_as_the_collage_does)
 {
     // The first row of the table: -5 degrees, 3 fiftieths up and to the left, and no cell of the rim grows.
     const pieces turned = sample_pieces({.rows = 1, .columns = 1, .rotate = true, .resize = true});
-    EXPECT_EQ(turned, (pieces{{.top = -68, .left = -68, .height = 2800, .width = 1800, .rotation = -5}}));
+    EXPECT_EQ(turned,
+              (pieces{{.area = {.left = -68, .top = -68, .width = 1800, .height = 2800}, .rotation = -5}}));
 }
 
 TEST(matrix_sample, a_turned_photo_swings_about_its_corner)
@@ -98,11 +99,11 @@ TEST(matrix_sample, a_turned_photo_swings_about_its_corner)
         return seen(sample, x / 10, y / 10) == rgb_triple{255, 255, 255};
     };
     // Counter-clockwise: the top right corner rises, the bottom left one moves right.
-    const int right = photo.left + photo.width - 40, bottom = photo.top + photo.height;
-    EXPECT_TRUE(is_paper(photo.left + 20, photo.top - 20));
-    EXPECT_FALSE(is_paper(right, photo.top - 20));
-    EXPECT_TRUE(is_paper(photo.left + 40, bottom - 80));
-    EXPECT_FALSE(is_paper(photo.left + 140, bottom - 80));
+    const int right = photo.area.left + photo.area.width - 40, bottom = photo.area.top + photo.area.height;
+    EXPECT_TRUE(is_paper(photo.area.left + 20, photo.area.top - 20));
+    EXPECT_FALSE(is_paper(right, photo.area.top - 20));
+    EXPECT_TRUE(is_paper(photo.area.left + 40, bottom - 80));
+    EXPECT_FALSE(is_paper(photo.area.left + 140, bottom - 80));
 }
 
 TEST(matrix_sample, of_an_impossible_matrix_is_a_bare_sheet)

@@ -1,5 +1,7 @@
 #include "designers/puzzle/puzzle_plan.h"
 
+#include "designs/templates/location_line.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -10,7 +12,7 @@ constexpr poster_shape landscape = poster_shape::landscape;
 
 lines whole_puzzle(const puzzle_choices & choices)
 {
-    return puzzle_lines(choices, listed({}));
+    return template_lines(puzzle_plan(choices, listed({})));
 }
 
 std::string piece_line(const char * corner, int piece, const char * name)
@@ -28,14 +30,14 @@ std::string names_of(const lines & all)
 
 }  // namespace
 
-TEST(puzzle_lines, two_by_two_pieces_interlock)
+TEST(puzzle_plan, two_by_two_pieces_interlock)
 {
     EXPECT_EQ(whole_puzzle({.rows = 2, .columns = 2}),
               (lines{piece_line("536:58", 1129, "11"), piece_line("536:778", 1129, "12"),
                      piece_line("1236:58", 1129, "21"), piece_line("1236:778", 1129, "22")}));
 }
 
-TEST(puzzle_lines, straight_edges_have_pieces_and_steps_of_their_own)
+TEST(puzzle_plan, straight_edges_have_pieces_and_steps_of_their_own)
 {
     EXPECT_EQ(whole_puzzle({.rows = 3, .columns = 3, .edges = true}),
               (lines{piece_line("608:120", 752, "tl"), piece_line("608:600", 752, "t2"),
@@ -45,7 +47,7 @@ TEST(puzzle_lines, straight_edges_have_pieces_and_steps_of_their_own)
                      piece_line("1540:1075", 752, "br")}));
 }
 
-TEST(puzzle_lines, a_landscape_poster_moves_pieces_right_by_their_own_size)
+TEST(puzzle_plan, a_landscape_poster_moves_pieces_right_by_their_own_size)
 {
     // Pieces of 906 by 1188 are held inside 2900 by 1900: 861 and 1129.
     const lines all = whole_puzzle({.rows = 2, .columns = 4, .shape = landscape});
@@ -56,7 +58,7 @@ TEST(puzzle_lines, a_landscape_poster_moves_pieces_right_by_their_own_size)
     EXPECT_EQ(all[4], piece_line("786:1065", 861, "21"));
 }
 
-TEST(puzzle_lines, even_and_odd_rows_follow_by_different_steps)
+TEST(puzzle_plan, even_and_odd_rows_follow_by_different_steps)
 {
     // 475 * 1.25 = 593.75, 725 * 1.25 = 906.25: pieces of 594 pixels.
     const lines all = whole_puzzle({.rows = 4, .columns = 4});
@@ -69,7 +71,7 @@ TEST(puzzle_lines, even_and_odd_rows_follow_by_different_steps)
     EXPECT_EQ(all[8], piece_line("1373:106", 594, "11"));
 }
 
-TEST(puzzle_lines, four_pieces_a_photo_are_all_alike)
+TEST(puzzle_plan, four_pieces_a_photo_are_all_alike)
 {
     const auto four = [](const char * corner) {
         return std::string(corner) + ":0:792:0:-1:-1:0:/puzzle/puzzle4.gif";
@@ -81,7 +83,7 @@ TEST(puzzle_lines, four_pieces_a_photo_are_all_alike)
         << "straight edges are for single pieces";
 }
 
-TEST(puzzle_lines, a_single_row_or_column_is_the_first_and_not_the_last)
+TEST(puzzle_plan, a_single_row_or_column_is_the_first_and_not_the_last)
 {
     EXPECT_EQ(names_of(whole_puzzle({.rows = 1, .columns = 3, .edges = true})), "tl t2 tr ");
     EXPECT_EQ(names_of(whole_puzzle({.rows = 2, .columns = 1, .edges = true})), "tl bl ");
@@ -95,44 +97,44 @@ TEST(piece_size, of_many_pieces_is_larger)
     EXPECT_EQ(piece_size({.rows = 12, .columns = 8, .pieces = puzzle_pieces::four}), 273);
 }
 
-TEST(puzzle_lines, without_missing_pieces_none_is_left_out)
+TEST(puzzle_plan, without_missing_pieces_none_is_left_out)
 {
     EXPECT_EQ(whole_puzzle({.rows = 4, .columns = 6, .missing = 0}).size(), 24U);
 }
 
-TEST(puzzle_lines, up_to_nine_missing_pieces_are_spread_one_for_each_run)
+TEST(puzzle_plan, up_to_nine_missing_pieces_are_spread_one_for_each_run)
 {
     const puzzle_choices choices{.rows = 4, .columns = 6, .missing = 2};
     const lines all = whole_puzzle({.rows = 4, .columns = 6});
     lines expected = all;
     expected.erase(expected.begin() + 18);  // the 7th of the second twelve
     expected.erase(expected.begin());
-    EXPECT_EQ(puzzle_lines(choices, listed({0.0, 0.5})), expected);
+    EXPECT_EQ(template_lines(puzzle_plan(choices, listed({0.0, 0.5}))), expected);
 }
 
-TEST(puzzle_lines, a_run_has_three_pieces_at_least)
+TEST(puzzle_plan, a_run_has_three_pieces_at_least)
 {
     // 9 of 4 pieces: one of the first three, and one of the next, which is beyond the end.
-    EXPECT_EQ(puzzle_lines({.rows = 2, .columns = 2, .missing = 9}, listed({0.5, 0.9})).size(), 3U);
+    EXPECT_EQ(puzzle_plan({.rows = 2, .columns = 2, .missing = 9}, listed({0.5, 0.9})).size(), 3U);
 }
 
-TEST(puzzle_lines, for_more_than_nine_each_piece_is_left_out_by_chance)
+TEST(puzzle_plan, for_more_than_nine_each_piece_is_left_out_by_chance)
 {
     const lines all = whole_puzzle({.rows = 4, .columns = 6});
     const puzzle_choices choices{.rows = 4, .columns = 6, .missing = 12};  // one of two
-    const lines left =
-        puzzle_lines(choices, listed({0.4, 0.5, 0.6, 0.9, 0.49, 0.0, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7,
-                                      0.7, 0.7, 0.7, 0.7, 0.7,  0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7}));
+    const lines left = template_lines(
+        puzzle_plan(choices, listed({0.4, 0.5, 0.6, 0.9, 0.49, 0.0, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7,
+                                     0.7, 0.7, 0.7, 0.7, 0.7,  0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7})));
     EXPECT_EQ(left.size(), 21U);
     EXPECT_EQ(left[0], all[1]);
     EXPECT_EQ(left[3], all[6]);
 }
 
-TEST(puzzle_lines, more_missing_pieces_than_half_of_them_leave_none)
+TEST(puzzle_plan, more_missing_pieces_than_half_of_them_leave_none)
 {
     for (const int missing : {13, 24, 1000}) {
         const puzzle_choices choices{.rows = 4, .columns = 6, .missing = missing};
-        EXPECT_TRUE(puzzle_lines(choices, seeded_random(7)).empty()) << missing;
+        EXPECT_TRUE(puzzle_plan(choices, seeded_random(7)).empty()) << missing;
     }
 }
 

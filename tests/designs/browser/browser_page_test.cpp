@@ -50,10 +50,10 @@ TEST(browser_page, another_ratio_fits_only_where_it_may_be_distorted_to_3x4)
 TEST(browser_page, a_design_that_may_not_be_turned_fits_its_own_orientation_alone)
 {
     const design_record landscape{.background = "Landscape", .turn_bg = "No"};
-    EXPECT_FALSE(fits_orientation(landscape, design_view::portrait));
-    EXPECT_TRUE(fits_orientation(landscape, design_view::landscape));
-    EXPECT_TRUE(fits_orientation({.background = "Landscape", .turn_bg = "Yes"}, design_view::portrait));
-    EXPECT_FALSE(fits_orientation({.background = "Both", .turn_bg = "No"}, design_view::landscape));
+    EXPECT_FALSE(fits_orientation(landscape, orientation::portrait));
+    EXPECT_TRUE(fits_orientation(landscape, orientation::landscape));
+    EXPECT_TRUE(fits_orientation({.background = "Landscape", .turn_bg = "Yes"}, orientation::portrait));
+    EXPECT_FALSE(fits_orientation({.background = "Both", .turn_bg = "No"}, orientation::landscape));
 }
 
 TEST(count_label, a_count_of_one_digit_gets_a_leading_blank)
@@ -97,10 +97,10 @@ TEST(sample_name, a_design_seen_the_other_way_has_a_twin)
     const design_record tall{.background = "Portrait", .sample = "a.jpg"};
     const design_record wide{.background = "Landscape", .sample = "a.jpg"};
     const design_record both{.background = "Both", .sample = "a.jpg"};
-    EXPECT_EQ(sample_name(tall, design_view::portrait), "a.jpg");
-    EXPECT_EQ(sample_name(tall, design_view::landscape), "a.jpg_");
-    EXPECT_EQ(sample_name(wide, design_view::portrait), "a.jpg_");
-    EXPECT_EQ(sample_name(wide, design_view::landscape), "a.jpg");
-    EXPECT_EQ(sample_name(both, design_view::landscape), "a.jpg");
-    EXPECT_EQ(sample_name({.background = "Landscape"}, design_view::portrait), "");
+    EXPECT_EQ(sample_name(tall, orientation::portrait), "a.jpg");
+    EXPECT_EQ(sample_name(tall, orientation::landscape), "a.jpg_");
+    EXPECT_EQ(sample_name(wide, orientation::portrait), "a.jpg_");
+    EXPECT_EQ(sample_name(wide, orientation::landscape), "a.jpg");
+    EXPECT_EQ(sample_name(both, orientation::landscape), "a.jpg");
+    EXPECT_EQ(sample_name({.background = "Landscape"}, orientation::portrait), "");
 }

@@ -52,7 +52,7 @@ TEST(saved_section, lists_what_a_quick_design_and_a_matrix_have)
               "~ [Design607] Name=a=b Ratio=2x3 File=saved607 System=No Design=Saved Style=Place Match=Yes "
               "Turn BG=No Background=Portrait");
     design.kind = design_to_save::layout::quick_shape;
-    design.background = design_to_save::page::landscape;
+    design.background = orientation::landscape;
     design.sample = design.description = design_to_save::part::present;
     EXPECT_EQ(one_line(saved_section(design)),
               "~ [Design607] Name=a=b Ratio=2x3 File=saved607 System=No Design=Saved Style=Place Frames=No "

@@ -96,3 +96,33 @@ TEST(location_line, soft_edges_enlarge_a_location_by_twenty_on_each_side)
               (location{.top = 80, .left = 80, .height = 240, .width = 240, .file = "a"}));
     EXPECT_THROW(softened({.top = -32750}), platform_error);
 }
+
+TEST(location_text, is_what_parse_location_reads)
+{
+    const location place{.top = -5,
+                         .left = 40,
+                         .height = 0,
+                         .width = 300,
+                         .rotation = -10,
+                         .frame = 7,
+                         .shadow = 0,
+                         .spare = 3,
+                         .file = "a:b.gif"};
+    EXPECT_EQ(location_text(place), "-5:40:0:300:-10:7:0:3:a:b.gif");
+    EXPECT_EQ(parse_location(location_text(place)), place);
+    EXPECT_EQ(parse_location(location_text(place, {.place = 2, .rotation = 2})), place);
+}
+
+TEST(location_text, fills_up_to_the_digits_asked_for_behind_the_sign)
+{
+    const location place{.top = -5, .left = 4, .height = 123, .width = 30, .rotation = 5};
+    EXPECT_EQ(location_text(place, {.place = 2}), "-05:04:123:30:5:-1:-1:0:");
+    EXPECT_EQ(location_text(place, {.place = 2, .rotation = 2}), "-05:04:123:30:05:-1:-1:0:");
+}
+
+TEST(template_lines, are_one_a_location)
+{
+    EXPECT_EQ(template_lines({{.top = 1}, {.top = 2, .file = "x"}}, {}),
+              (std::vector<std::string>{"1:0:0:0:0:-1:-1:0:", "2:0:0:0:0:-1:-1:0:x"}));
+    EXPECT_TRUE(template_lines({}).empty());
+}

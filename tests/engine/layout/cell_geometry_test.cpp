@@ -202,10 +202,10 @@ TEST(cell_geometry, a_cell_beyond_16_bits_is_an_overflow)
     }
 }
 
-TEST(cell_geometry, a_matrix_line_has_two_digits_and_no_bleed)
+TEST(cell_geometry, a_saved_cell_has_no_bleed)
 {
-    EXPECT_EQ(matrix_line({.left = 427, .top = 433, .width = 100, .height = 150}, -5, 430),
-              "03:-03:150:100:-05:-1:-1:0:");
+    EXPECT_EQ(location_of_cell({.left = 427, .top = 433, .width = 100, .height = 150}, -5, 430),
+              (location{.top = 3, .left = -3, .height = 150, .width = 100, .rotation = -5}));
 }
 
 TEST(cell_geometry, the_shake_table_has_17_rows_that_all_turn)

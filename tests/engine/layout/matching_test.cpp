@@ -7,10 +7,10 @@
 namespace {
 
 // 'l' and 'p' as they lie, 'x' can't be loaded.
-orientation lying(char letter)
+std::optional<orientation> lying(char letter)
 {
     if (letter == 'x')
-        return orientation::not_loadable;
+        return std::nullopt;
     return letter == 'l' ? orientation::landscape : orientation::portrait;
 }
 

@@ -78,3 +78,20 @@ TEST(worn_by_boxes, has_the_colours_and_the_size_of_the_run)
     run.main.in_preview = true;
     EXPECT_EQ(worn_by_boxes(run.main, 0).size, run_size::preview);
 }
+
+TEST(worn_in_grid, bounds_the_sizes_of_a_preview_again)
+{
+    collage_fixture run;
+    run.main.in_preview = true;
+    run.main.enabling.shadow_usable = run.main.enabling.shadow_fixed = true;
+    run.main.cmbFrame.set_text("60");
+    run.main.cmbShadow.set_text("50");
+    const location cells{.frame = -1, .shadow = -1};
+    EXPECT_EQ(worn_at(run.main, cells, 0).frame, 11);   // 60 / 6 + 1
+    EXPECT_EQ(worn_at(run.main, cells, 0).shadow, 12);  // 50 / 4
+    EXPECT_EQ(worn_in_grid(run.main, cells, 0).frame, 8);
+    EXPECT_EQ(worn_in_grid(run.main, cells, 0).shadow, 8);
+    run.main.in_preview = false;
+    EXPECT_EQ(worn_in_grid(run.main, cells, 0).frame, 60);
+    EXPECT_EQ(worn_in_grid(run.main, cells, 0).shadow, 50);
+}

@@ -211,8 +211,9 @@ TEST(cmdPrint, prints_the_whole_collage_in_its_orientation)
     session.all.image.cmdPrint.click();
     session.main.optSquare.select();
     session.all.image.cmdPrint.click();
-    EXPECT_EQ(session.desk.printed_pages,
-              (std::vector<page>{page::portrait, page::landscape, page::portrait}));
+    EXPECT_EQ(
+        session.desk.printed_pages,
+        (std::vector<orientation>{orientation::portrait, orientation::landscape, orientation::portrait}));
     EXPECT_EQ(session.desk.printed_sizes.front().width, 90);
     EXPECT_TRUE(session.main.frmOutput.enabled());
 }

@@ -200,14 +200,18 @@ TEST(lay_tilted_photo, a_frame_of_13_is_drawn_in_the_turned_area_at_5_degrees_an
 {
     for (const auto & [rotation, early] : {std::pair{5, false}, {-20, false}, {10, true}}) {
         tilt_stage stage;
-        stage.wear(13, 0);
-        stage.main.run.canvas = bitmap(500, 500);
-        stage.draw(plain(60, 40, {0, 200, 0}), {.left = 200, .top = 200, .width = 60, .height = 40},
-                   rotation);
-        // The corner about which the photo turns is its own, or that of its frame: then the photo has moved.
-        const bool moved = seen(stage.main.run.canvas, 200, 200).green < 150 ||
-                           seen(stage.main.run.canvas, 200, 200).red > 100;
-        EXPECT_EQ(moved, early) << rotation;
+        bitmap pixels;
+        const mask_sheet sheet = rotation_sheet(stage.main, pixels);
+        tilt how{.place = {.left = 200, .top = 200, .width = 60, .height = 40},
+                 .rotation = rotation,
+                 .worn = {.frame = 13, .frame_color = {250, 240, 230}},
+                 .early_frame = 13,
+                 .numbers = numbers_of_section(stage.main, rotation_section(60, 40, rotation))};
+        bitmap one(500, 500), other(500, 500);
+        draw_rotated_photo(one, graded(60, 40), how, sheet);
+        how.early_frame = 4;  // counts for nothing where the frame is drawn later
+        draw_rotated_photo(other, graded(60, 40), how, sheet);
+        EXPECT_EQ(!same(one, other), early) << rotation;
     }
 }
 

@@ -19,6 +19,5 @@ TEST(pls_line, only_a_portrait_is_written_as_one)
 {
     EXPECT_EQ(list_line(orientation::portrait, "/a.jpg"), "P /a.jpg");
     EXPECT_EQ(list_line(orientation::landscape, "/a.jpg"), "L /a.jpg");
-    EXPECT_EQ(list_line(orientation::unknown, "/a.jpg"), "L /a.jpg");
-    EXPECT_EQ(list_line(orientation::not_loadable, "/a.jpg"), "L /a.jpg");
+    EXPECT_EQ(list_line(std::nullopt, "/a.jpg"), "L /a.jpg");
 }

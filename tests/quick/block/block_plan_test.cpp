@@ -10,7 +10,7 @@ using lines = std::vector<std::string>;
 
 lines planned(const lines & block, const block_request & request)
 {
-    return block_plan(block, request, listed({}));
+    return template_lines(block_plan(block, request, listed({})), block_digits);
 }
 
 constexpr poster_shape landscape = poster_shape::landscape, square = poster_shape::square;

@@ -22,7 +22,7 @@ matrix_request request_for(const char * grid, const std::string & photos)
 
 lines planned(const matrix_request & request)
 {
-    return matrix_plan(request, listed({}));
+    return template_lines(matrix_plan(request, listed({})), matrix_digits);
 }
 
 // The cells row by row: "-" a single one, "=" a double one.
@@ -169,7 +169,7 @@ TEST(matrix_plan, the_last_cell_of_a_row_takes_no_place_in_the_run_of_blanks)
 {
     matrix_request request = request_for("6:2:3:0:0:0:0:0", "pppppp");
     request.blanks = {.length = 3, .left = 3, .blank_at = 0};
-    EXPECT_EQ(matrix_plan(request, listed({0.0, 0.5})),
+    EXPECT_EQ(template_lines(matrix_plan(request, listed({0.0, 0.5})), matrix_digits),
               (lines{"00:667:1500:667:00:-1:-1:0:", "00:1334:1500:667:00:-1:-1:0:",
                      "1500:00:1500:667:00:-1:-1:0:", "1500:1334:1500:667:00:-1:-1:0:"}));
 }

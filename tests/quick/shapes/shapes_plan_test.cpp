@@ -1,5 +1,6 @@
 #include "quick/shapes/shapes_plan.h"
 
+#include "designs/templates/location_line.h"
 #include "quick/shapes/shapes_tables.h"
 #include "support/files/text_file.h"
 
@@ -29,8 +30,8 @@ std::vector<std::string> fields_of_line(const std::string & line)
 std::vector<std::string> masks_of(const shapes_layout & plan)
 {
     std::vector<std::string> masks;
-    for (const std::string & line : plan.lines)
-        masks.push_back(fields_of_line(line).back());
+    for (const location & place : plan.places)
+        masks.push_back(place.file);
     return masks;
 }
 
@@ -68,7 +69,8 @@ TEST(shapes_plan, every_grid_of_the_table_is_full)
 TEST(shapes_plan, squares_stand_in_the_middle_between_their_ornaments)
 {
     // 2 by 5: 2830 down for five, 566 each; 1152 across leaves 848, 2910 down leaves 90.
-    const lines plan = planned({.last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).lines;
+    const lines plan =
+        template_lines(planned({.last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).places);
     ASSERT_EQ(plan.size(), 10U);
     EXPECT_EQ(plan[0], "35:424:566:566:0:0:-1:0:");
     EXPECT_EQ(plan[1], "35:1010:566:566:0:0:-1:0:");
@@ -78,8 +80,8 @@ TEST(shapes_plan, squares_stand_in_the_middle_between_their_ornaments)
 
 TEST(shapes_plan, other_shapes_have_no_height_but_a_mask_and_no_room_for_ornaments)
 {
-    const lines plan =
-        planned({.shape = "Stars", .last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).lines;
+    const lines plan = template_lines(
+        planned({.shape = "Stars", .last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).places);
     EXPECT_EQ(plan[0], "25:420:0:570:0:0:-1:0:star.gif");
     EXPECT_EQ(plan[3], "615:1010:0:570:0:0:-1:0:star.gif");
 }
@@ -88,7 +90,7 @@ TEST(shapes_plan, the_top_alignment_lifts_squares_clear_of_the_edge)
 {
     using enum shapes_align;
     const auto first = [](const shapes_request & request) {
-        return fields_of_line(planned(request).lines.front())[0];
+        return std::to_string(planned(request).places.front().top);
     };
     EXPECT_EQ(first({.last_photo = 10, .gap = 20, .align = top}), "20");
     EXPECT_EQ(first({.last_photo = 10, .gap = 20, .frame = 45, .align = top}), "45");
@@ -102,19 +104,19 @@ TEST(shapes_plan, squares_are_lifted_by_no_more_than_is_to_spare)
     // 3000 down for twenty rows of 146: 80 are left, and the frame is larger.
     const shapes_layout plan =
         planned({.last_photo = 10, .row_bias = 15, .frame = 95, .align = shapes_align::top});
-    EXPECT_EQ(fields_of_line(plan.lines.front())[0], "95");
+    EXPECT_EQ(plan.places.front().top, 95);
     const shapes_layout full =
         planned({.last_photo = 10, .row_bias = 95, .gap = 1, .frame = 200, .align = shapes_align::top});
     EXPECT_EQ(full.rows, 100);
     // A hundred rows of 26 and 99 gaps: 301 are left.
-    EXPECT_EQ(fields_of_line(full.lines.front())[0], "200");
+    EXPECT_EQ(full.places.front().top, 200);
 }
 
 TEST(shapes_plan, the_bottom_alignment_leaves_room_for_the_ornaments)
 {
     const shapes_layout plan =
         planned({.last_photo = 10, .gap = 20, .frame = 10, .shadow = 10, .align = shapes_align::bottom});
-    EXPECT_EQ(plan.lines.front(), "70:424:566:566:0:0:-1:0:");
+    EXPECT_EQ(location_text(plan.places.front()), "70:424:566:566:0:0:-1:0:");
 }
 
 TEST(shapes_plan, on_a_square_poster_masks_start_one_cell_further_right)
@@ -123,16 +125,16 @@ TEST(shapes_plan, on_a_square_poster_masks_start_one_cell_further_right)
     const shapes_request squares{.poster = poster_shape::square, .last_photo = 16};
     shapes_request stars = squares;
     stars.shape = "Stars";
-    EXPECT_EQ(planned(squares).lines.front(), "60:60:470:470:0:0:-1:0:");
-    EXPECT_EQ(planned(stars).lines.front(), "60:530:0:470:0:0:-1:0:star.gif");
+    EXPECT_EQ(location_text(planned(squares).places.front()), "60:60:470:470:0:0:-1:0:");
+    EXPECT_EQ(location_text(planned(stars).places.front()), "60:530:0:470:0:0:-1:0:star.gif");
 }
 
 TEST(shapes_plan, a_landscape_poster_is_laid_out_upright)
 {
     shapes_request request{.last_photo = 10, .gap = 20};
-    const lines upright = planned(request).lines;
+    const lines upright = template_lines(planned(request).places);
     request.poster = poster_shape::landscape;
-    EXPECT_EQ(planned(request).lines, upright);
+    EXPECT_EQ(template_lines(planned(request).places), upright);
 }
 
 TEST(shapes_plan, clicks_add_rows_and_columns)
@@ -140,7 +142,7 @@ TEST(shapes_plan, clicks_add_rows_and_columns)
     const shapes_layout plan = planned({.last_photo = 10, .row_bias = 2, .column_bias = -1});
     EXPECT_EQ(plan.rows, 7);
     EXPECT_EQ(plan.columns, 1);
-    EXPECT_EQ(plan.lines.size(), 7U);
+    EXPECT_EQ(plan.places.size(), 7U);
 }
 
 TEST(shapes_plan, one_row_is_the_least_and_the_bias_stays_in_step)
@@ -180,14 +182,15 @@ TEST(shapes_plan, leaves_and_pieces_are_drawn_and_neighbours_differ)
     EXPECT_EQ(plan.file, "leaf_4.gif");
     const shapes_layout pieces = shapes_plan({.shape = "Puzzle pieces", .last_photo = 6},
                                              listed({0, 0.2, 0.4, 0, 0.6, 0.8, 0, 0.4, 0.5}));
-    EXPECT_EQ(pieces.lines.front().substr(pieces.lines.front().rfind(':')), ":puzzle_2.gif");
+    EXPECT_EQ(pieces.places.front().file, "puzzle_2.gif");
 }
 
 TEST(shapes_plan, a_mixed_grid_takes_its_shifts_from_the_table_row_by_row)
 {
-    const lines plain = planned({.last_photo = 6}).lines;
+    const lines plain = template_lines(planned({.last_photo = 6}).places);
     // 2 columns of 930: the first row begins at index 9, the second at 0, the third at 4.
-    const lines mixed = shapes_plan({.last_photo = 6, .mix = true}, listed({0.99, 0.0, 0.5})).lines;
+    const lines mixed =
+        template_lines(shapes_plan({.last_photo = 6, .mix = true}, listed({0.99, 0.0, 0.5})).places);
     const auto numbers = [](const std::string & line) {
         std::vector<int> values;
         for (int i = 0; i < 4; ++i)
@@ -216,7 +219,7 @@ TEST(shapes_plan, a_hole_draws_no_leaf)
 
 TEST(shapes_plan, a_negative_gap_lets_shapes_overlap)
 {
-    const lines plan = planned({.shape = "Circles", .last_photo = 6, .gap = -100}).lines;
+    const lines plan = template_lines(planned({.shape = "Circles", .last_photo = 6, .gap = -100}).places);
     // 2030 across for two, 1015 each; 1930 wide, so they begin at 35.
     EXPECT_EQ(fields_of_line(plan[0])[3], "1015");
     EXPECT_EQ(fields_of_line(plan[0])[1], "35");
