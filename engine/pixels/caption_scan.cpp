@@ -37,8 +37,9 @@ void print_row(std::span<pixel> target, std::span<const pixel> source, column_sp
 {
     for (int x = columns.first; x < columns.last; ++x) {
         const pixel seen = source[static_cast<std::size_t>(x)];
+        const int column = left + x;
         if (is_text(seen, ground))
-            target[static_cast<std::size_t>(x + left)] = seen;
+            target[static_cast<std::size_t>(column)] = seen;
     }
 }
 

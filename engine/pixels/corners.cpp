@@ -31,8 +31,9 @@ struct corner_cut {
 
     void restore(std::span<pixel> to, std::span<const pixel> from, int x) const
     {
-        if (x >= 0 && left + x >= 0 && x < std::ssize(to) && left + x < std::ssize(from))
-            to[static_cast<std::size_t>(x)] = from[static_cast<std::size_t>(left + x)];
+        const int column = left + x;
+        if (x >= 0 && column >= 0 && x < std::ssize(to) && column < std::ssize(from))
+            to[static_cast<std::size_t>(x)] = from[static_cast<std::size_t>(column)];
     }
 };
 

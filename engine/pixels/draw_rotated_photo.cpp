@@ -193,9 +193,9 @@ void draw_tilted(bitmap & canvas, const tilted_photo & work, const mask_sheet & 
 
 }  // namespace
 
-void draw_rotated_photo(bitmap & canvas, bitmap photo, tilt how, const mask_sheet & sheet)
+void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet)
 {
-    tilted_photo work{.photo = std::move(photo), .how = std::move(how)};
+    tilted_photo work{.photo = std::move(photo), .how = how};
     work.ring = frame_in_rotation(work.how.worn.frame, work.how.rotation);
     if (work.ring > widest_turned_frame && work.how.worn.corners != photo_corners::rounded)
         frame_early(work);

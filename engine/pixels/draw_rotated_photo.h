@@ -20,4 +20,4 @@ struct tilt {
 
 /// Puts one photo, fitted to the place, on the canvas turned about its own upper left corner, which stays
 /// where it is. Only the photo's own pixels are disturbed.
-void draw_rotated_photo(bitmap & canvas, bitmap photo, tilt how, const mask_sheet & sheet);
+void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet);
