@@ -1,8 +1,8 @@
 # One static library a storey. A room says in its CMakeLists.txt which of its files stand on which storey:
 #     storey(cores matching cell_geometry)
 # names engine/matching.{h,cpp} and engine/cell_geometry.{h,cpp}; a missing .cpp or .h is fine. A name with its ending
-# is that one file: a window's header is a record, its handlers are frmX.cpp. tools/check_floors reads the same lines,
-# so the linker and the include check can't disagree.
+# is that one file. A file that stands there as a template, matching.h.in, is written for all windows (Windows.cmake).
+# tools/check_floors reads the same lines, so the linker and the include check can't disagree.
 
 set(storeys ground records cores procedures handlers)
 foreach(name IN LISTS storeys)
@@ -23,7 +23,8 @@ endif()
 function(storey name)
     foreach(stem IN LISTS ARGN)
         string(REGEX REPLACE "\\.(h|cpp)$" "" base ${CMAKE_CURRENT_SOURCE_DIR}/${stem})
-        if(NOT EXISTS ${base}.h AND NOT EXISTS ${base}.cpp)
+        name_templates(${name} ${base})
+        if(NOT EXISTS ${base}.h AND NOT EXISTS ${base}.cpp AND NOT EXISTS ${base}.h.in)
             message(FATAL_ERROR "${base}: neither .h nor .cpp is there")
         endif()
         if(EXISTS ${base}.cpp AND NOT stem MATCHES "\\.h$")

@@ -10,6 +10,7 @@
 #include "desktop/save_chooser.h"
 #include "desktop/text_drawing.h"
 #include "support/files/paths.h"
+#include "support/for_now.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -44,24 +45,16 @@ void prepare_box(QMessageBox & box, const std::string & title, const std::string
 }
 
 // A question that comes up in the midst of work is answered with an arrow, not with an hourglass.
-class arrow_pointer {
-public:
-    arrow_pointer()
-    {
-        if (is_needed)
-            QApplication::setOverrideCursor(Qt::ArrowCursor);
-    }
-    arrow_pointer(const arrow_pointer &) = delete;
-    arrow_pointer & operator=(const arrow_pointer &) = delete;
-    ~arrow_pointer()
-    {
+auto with_arrow()
+{
+    const bool is_needed = QApplication::overrideCursor() != nullptr;
+    if (is_needed)
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    return afterwards([is_needed] {
         if (is_needed)
             QApplication::restoreOverrideCursor();
-    }
-
-private:
-    bool is_needed = QApplication::overrideCursor() != nullptr;
-};
+    });
+}
 
 }  // namespace
 
@@ -72,7 +65,7 @@ qt_desktop::~qt_desktop()
 
 void qt_desktop::message(const std::string & text, const std::string & title)
 {
-    const arrow_pointer usable;
+    const auto usable = with_arrow();
     QMessageBox box(owner());
     prepare_box(box, title, text);
     box.setStandardButtons(QMessageBox::Ok);
@@ -81,7 +74,7 @@ void qt_desktop::message(const std::string & text, const std::string & title)
 
 answer qt_desktop::ask(const question & asked)
 {
-    const arrow_pointer usable;
+    const auto usable = with_arrow();
     QMessageBox box(owner());
     prepare_box(box, asked.title, asked.text);
     box.setIcon(QMessageBox::Question);
@@ -159,7 +152,7 @@ void qt_desktop::show_modal(form & window)
     QWidget & widget = loaded(window);
     if (!window.loaded())
         return;
-    const arrow_pointer usable;
+    const auto usable = with_arrow();
     QEventLoop loop;
     windows[&window].modal_loop = &loop;
     widget.setWindowModality(Qt::ApplicationModal);
@@ -213,7 +206,7 @@ bool qt_desktop::is_accepted(QFileDialog & chooser, const file_request & asked)
     chooser.setDirectory(folder_to_open(asked.folder));
     if (!asked.filter.empty())
         chooser.setNameFilters(toolkit_filter(asked.filter).split(QStringLiteral(";;")));
-    const arrow_pointer usable;
+    const auto usable = with_arrow();
     if (chooser.exec() != QDialog::Accepted)
         return false;
     last_folder = path_bytes(chooser.directory().absolutePath());

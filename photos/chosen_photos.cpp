@@ -4,30 +4,15 @@
 #include "photos/lists/list_name.h"
 #include "photos/lists/photo_list.h"
 #include "session/windows.h"
-
-namespace {
-
-// A window that is up while it lives.
-class shown {
-public:
-    shown(desktop & shown_on, form & opened) : desk(shown_on), window(opened) { desk.show(window); }
-    shown(const shown &) = delete;
-    shown & operator=(const shown &) = delete;
-    ~shown() { desk.hide(window); }
-
-private:
-    desktop & desk;
-    form & window;
-};
-
-}  // namespace
+#include "support/for_now.h"
 
 void count_with_progress(frmMain & main)
 {
     forget_left_out(main);
     {
         const busy pointer(main.desk);
-        const shown progress(main.desk, main.all->photo_count);
+        main.desk.show(main.all->photo_count);
+        const afterwards gone([&] { main.desk.hide(main.all->photo_count); });
         count_photos(main);
     }
     tell_left_out(main);
@@ -41,12 +26,13 @@ void take_chosen_photos(frmMain & main)
     count_with_progress(main);
 }
 
-void get_photo_list(frmMain & main)
+std::optional<std::string> get_photo_list(frmMain & main)
 {
     main.photo_list_edit_mode = false;
-    main.desk.show_modal(main.all->picture_list);
-    if (main.txtPhotos.tag.empty())
-        return;
-    main.all->select_photos.txtCards.set_text(list_name(main.txtPhotos.tag));
-    main.all->select_photos.optList.tag = "True";
+    auto list = ask(main.desk, main.all->picture_list);
+    if (list) {
+        main.all->select_photos.txtCards.set_text(list_name(*list));
+        main.all->select_photos.optList.tag = "True";
+    }
+    return list;
 }

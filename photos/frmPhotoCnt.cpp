@@ -1,4 +1,6 @@
-#include "session/handlers.h"
+#include "photos/frmPhotoCnt.h"
+
+#include "session/windows.h"
 
 void connect_frmPhotoCnt(windows & all)
 {

@@ -1,8 +1,10 @@
+#include "photos/frmSelectPhotos.h"
+
 #include "photos/chosen_photos.h"
 #include "photos/lists/photo_list.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
+#include "support/for_now.h"
 
 // Where the photos come from.
 
@@ -56,7 +58,6 @@ void load_select_photos(windows & all)
     window.optUnseen.show(false);
     window.txtCards.set_text("");
     window.skip_next_click = true;
-    window.cancelled = false;
     window.cmdCards.enable(true);
     show_box_controls(window, true);
     window.cmdOk.enable(true);
@@ -123,9 +124,9 @@ void optList_click(windows & all)
         return;
     }
     window.optList.tag = "False";
-    get_photo_list(all.main);
+    const auto list = get_photo_list(all.main);
     window.txtCards.show(true);
-    if (window.optList.tag != "True") {
+    if (!list) {
         window.cmdOk.enable(false);
         return;
     }
@@ -149,8 +150,7 @@ enum class selecting { anew, change };
 bool change_selection(windows & all)
 {
     frmSelectPhotos & window = all.select_photos;
-    all.main.desk.show_modal(all.photo_list);
-    if (window.cancelled) {
+    if (!ask(all.main.desk, all.photo_list)) {
         close_without_choice(all);
         return false;
     }
@@ -168,28 +168,12 @@ bool select_anew(windows & all)
     frmSelectPhotos & window = all.select_photos;
     if (all.main.selected_count < 1)
         get_selected_photos(all.main);
-    if (all.main.selected_count >= 1 && !window.cancelled)
+    if (all.main.selected_count >= 1)
         return true;
     window.optSelect.select(false);
     window.cmdOk.enable(false);
     return false;
 }
-
-// Shows the dialog again, unless it has been closed, however the step ends.
-class hidden_meanwhile {
-public:
-    explicit hidden_meanwhile(form & hidden) : window(hidden) { window.show(false); }
-    hidden_meanwhile(const hidden_meanwhile &) = delete;
-    hidden_meanwhile & operator=(const hidden_meanwhile &) = delete;
-    ~hidden_meanwhile()
-    {
-        if (window.loaded())
-            window.show(true);
-    }
-
-private:
-    form & window;
-};
 
 void select_photos(windows & all, selecting how)
 {
@@ -198,11 +182,14 @@ void select_photos(windows & all, selecting how)
         window.skip_next_click = false;
         return;
     }
-    const hidden_meanwhile shown_afterwards(window);
+    window.show(false);
+    const afterwards shown_again([&window] {
+        if (window.loaded())
+            window.show(true);
+    });
     show_box_controls(window, false);
     all.main.working_list_path = last_photos_path(all.main);
     all.main.txtPhotos.tag.clear();
-    window.cancelled = false;
     if (how == selecting::change ? !change_selection(all) : !select_anew(all))
         return;
     all.main.txtPhotos.tag = all.main.working_list_path;
@@ -250,6 +237,4 @@ void connect_frmSelectPhotos(windows & all)
         close_without_choice(all);
         return false;
     };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "select_photos.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "select_photos.htm"); };
 }

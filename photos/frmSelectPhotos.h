@@ -5,6 +5,8 @@
 
 #include <string>
 
+struct windows;
+
 /// Where the photos of the collage come from: a folder, a saved list or a selection by hand. What was chosen
 /// goes to `lblPhotos` and `txtPhotos` of the main window and to their tags; a choice that isn't made leaves
 /// the former one in place and sets `photo_choice_cancelled`.
@@ -24,8 +26,10 @@ struct frmSelectPhotos : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 
-    bool cancelled = false;        ///< set by frmPhotoList
     bool skip_next_click = false;  ///< the next option is selected by the program, not by the user
     int16 saved_last_photo = -1;   ///< `last_photo` at load
     std::string saved_list_path;   ///< `photo_list_path` at load
 };
+
+/// Hooks its handlers.
+void connect_frmSelectPhotos(windows & all);

@@ -8,18 +8,6 @@
 
 namespace {
 
-// The path of the list that the user names, empty after a cancel; the count of the selection then stays.
-std::string named_list(frmMain & main)
-{
-    const std::string count = main.cmdPhotos.tag;
-    main.cmdPhotos.tag.clear();
-    main.desk.show_modal(main.all->picture_name);
-    const std::string path = main.cmdPhotos.tag;
-    if (path.empty())
-        main.cmdPhotos.tag = count;
-    return path;
-}
-
 // A list that the user edited or deleted may have been the working list itself.
 void recount_working_list(frmMain & main)
 {
@@ -39,12 +27,12 @@ void recount_working_list(frmMain & main)
 void add_photo_list(frmMain & main)
 {
     const std::string source = main.txtPhotos.tag;
-    const std::string list = named_list(main);
-    if (list.empty())
+    const auto list = ask(main.desk, main.all->picture_name);
+    if (!list)
         return;
-    delete_file(list);
+    delete_file(*list);
     delete_file(last_photos_path(main));
-    main.working_list_path = list;
+    main.working_list_path = *list;
     main.selected_count = 0;
     main.desk.show_modal(main.all->photo_list);
     main.selected_count = 0;
@@ -55,9 +43,8 @@ void save_last_photo_list(frmMain & main)
 {
     if (!check_last_list(main))
         return;
-    const std::string list = named_list(main);
-    if (!list.empty())
-        save_last_list(main, list);
+    if (const auto list = ask(main.desk, main.all->picture_name))
+        save_last_list(main, *list);
 }
 
 // The lists are managed and no source of a collage.

@@ -14,6 +14,7 @@
 #include "session/collage.h"
 #include "support/desktop.h"
 #include "support/files/folder_lock.h"
+#include "support/for_now.h"
 #include "support/list_controls.h"
 #include "support/random.h"
 
@@ -247,21 +248,13 @@ struct frmMain : form {
     std::string trace;  ///< how far the session came; only the error boxes show it
 };
 
-/// Sets `updating_controls` while it lives and puts the old value back, so that a failed step can't deafen
-/// the window.
+/// Keeps the handlers quiet while it lives: a failed step can't deafen the window.
 class updating {
 public:
-    explicit updating(frmMain & window) : main(window), before(window.updating_controls)
-    {
-        main.updating_controls = true;
-    }
-    updating(const updating &) = delete;
-    updating & operator=(const updating &) = delete;
-    ~updating() { main.updating_controls = before; }
+    explicit updating(frmMain & window) : flag(window.updating_controls, true) {}
 
 private:
-    frmMain & main;
-    bool before;
+    for_now<bool> flag;
 };
 
 /// The path of a file or folder that belongs to the session and not to the user's data: `tmp`, templates that

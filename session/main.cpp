@@ -7,23 +7,12 @@
 #include "session/connect_all.h"
 #include "session/start/start_up.h"
 #include "support/files/paths.h"
+#include "support/for_now.h"
 #include "support/platform_error.h"
 
 #include <QApplication>
 
 namespace {
-
-// Widgets go before the forms they show.
-class shown_windows {
-public:
-    explicit shown_windows(qt_desktop & used) : desk(used) {}
-    shown_windows(const shown_windows &) = delete;
-    shown_windows & operator=(const shown_windows &) = delete;
-    ~shown_windows() { desk.forget_windows(); }
-
-private:
-    qt_desktop & desk;
-};
 
 void start(windows & all)
 {
@@ -47,7 +36,8 @@ int give_way(qt_desktop & desk, const std::string & data_folder)
 int run(qt_desktop & desk)
 {
     windows all(desk, clock_random());
-    const shown_windows until_here(desk);
+    // Widgets go before the forms they show.
+    const afterwards gone([&desk] { desk.forget_windows(); });
     try {
         with_platform_errors([&all] { start(all); });
     } catch (const data_folder_in_use & taken) {

@@ -82,6 +82,16 @@ public:
     virtual picture_size text_size(const text_request & request);
 };
 
+/// Opens a dialog that asks for something and gives what it was closed with, its `result`; nothing after a
+/// cancel.
+template <typename Dialog>
+auto ask(desktop & desk, Dialog & dialog)
+{
+    dialog.result.reset();
+    desk.show_modal(dialog);
+    return dialog.result;
+}
+
 /// The busy pointer while it lives.
 class busy {
 public:

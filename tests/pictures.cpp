@@ -24,13 +24,10 @@ bitmap noise(int width, int height)
 
 bitmap graded(int width, int height)
 {
-    bitmap image(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            set_pixel(image, x, height - 1 - y,
-                      {static_cast<std::uint8_t>(x % 256), static_cast<std::uint8_t>(y % 256),
-                       static_cast<std::uint8_t>((x / 256 * 16 + y / 256) % 256)});
-    return image;
+    return colored(width, height, [](int x, int y) {
+        return rgb_triple{static_cast<std::uint8_t>(x % 256), static_cast<std::uint8_t>(y % 256),
+                          static_cast<std::uint8_t>((x / 256 * 16 + y / 256) % 256)};
+    });
 }
 
 rgb_triple seen(const bitmap & image, int x, int y)

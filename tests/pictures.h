@@ -7,6 +7,17 @@
 /// A bitmap of one colour.
 bitmap plain(int width, int height, rgb_triple color);
 
+/// A bitmap whose pixel (x, y), counted from the top, has the colour `color_at(x, y)`.
+template <typename Color>
+bitmap colored(int width, int height, Color color_at)
+{
+    bitmap image(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            set_pixel(image, x, height - 1 - y, color_at(x, y));
+    return image;
+}
+
 /// A bitmap in which every pixel tells where it is: red and green rise with column and row from the top.
 bitmap graded(int width, int height);
 

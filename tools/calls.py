@@ -16,10 +16,10 @@ DEFINED = set("TDBR")  # code and data that other objects see; what several may 
 
 
 def objects_of(root, build):
-    """The object of each source below `root`, by the build's own list of commands."""
-    found = {}
+    """The object of each source below `root`, by the build's own list of commands; of a template's by its own name."""
+    found, made = {}, os.path.relpath(build / "windows", root) + os.sep
     for entry in json.loads((build / "compile_commands.json").read_text()):
-        source = os.path.relpath(entry["file"], root)
+        source = os.path.relpath(entry["file"], root).removeprefix(made)
         output = re.search(r" -o (\S+\.o)\b", entry["command"])
         if not source.startswith("..") and output:
             path = pathlib.Path(entry["directory"]) / output[1]

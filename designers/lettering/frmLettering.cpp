@@ -1,12 +1,13 @@
+#include "designers/lettering/frmLettering.h"
+
 #include "designers/lettering/lettering_plan.h"
 #include "designers/poster_area.h"
 #include "designers/work_template.h"
 #include "designs/catalogue/chosen_design.h"
 #include "designs/templates/location_line.h"
-#include "session/handlers.h"
 #include "session/start/start_up.h"
+#include "session/windows.h"
 #include "support/colors.h"
-#include "support/windows/show_help.h"
 
 #include <algorithm>
 
@@ -106,6 +107,4 @@ void connect_frmLettering(windows & all)
         option->on_click = [&window] { shape_box(window); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "lettering.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "lettering.htm"); };
 }

@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// Takes the text of a lettering. A cancel leaves the tag of the main window's `lblDesign` empty.
 struct frmLettering : form {
     frmLettering() : form("frmLettering") { set_caption("L e t t e r i n g   F l u r n"); }
@@ -27,3 +29,6 @@ struct frmLettering : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 };
+
+/// Hooks its handlers.
+void connect_frmLettering(windows & all);

@@ -1,14 +1,15 @@
+#include "designers/matrix/frmMatrix.h"
+
 #include "designers/matrix/matrix_controls.h"
 #include "designers/matrix/matrix_layout.h"
 #include "designers/number_lists.h"
-#include "designers/settling.h"
 #include "designers/work_template.h"
 #include "designs/catalogue/chosen_design.h"
 #include "frames/sets/frame_field.h"
 #include "frames/sets/frame_sets.h"
 #include "frames/sets/frames_template.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
+#include "support/for_now.h"
 
 // The matrix designer.
 
@@ -19,7 +20,7 @@ constexpr number_row counts_offered{.first = 1, .last = 25};
 
 void set_start_values(frmMatrix & window)
 {
-    const settling_controls quiet(window);
+    const for_now quiet(window.settling, true);
     window.optPortraitPhotos.select();
     window.optPortraitPoster.select();
     offer_borders(window, poster_shape::portrait);
@@ -72,7 +73,7 @@ void lock_changed(windows & all, const check_box & changed, check_box & other)
     if (window.settling)
         return;
     {
-        const settling_controls quiet(window);
+        const for_now quiet(window.settling, true);
         if (changed.ticked())
             other.tick(false);
         for (combo_box * list : {&window.cmbRows, &window.cmbColumns})
@@ -102,7 +103,7 @@ void photos_changed(windows & all)
         return;
     {
         // Frames are for single cells.
-        const settling_controls quiet(all.matrix);
+        const for_now quiet(all.matrix.settling, true);
         if (all.matrix.optBoth.selected())
             all.matrix.chkFrames.tick(false);
         all.matrix.chkFrames.enable(!all.matrix.optBoth.selected());
@@ -127,7 +128,7 @@ void poster_changed(windows & all)
 void choose_frames(windows & all)
 {
     frmMatrix & window = all.matrix;
-    const settling_controls quiet(window);
+    const for_now quiet(window.settling, true);
     window.chkFrames.tick(false);
     if (!offer_frame_sets(all.main) || !choose_frame_set(all.main))
         return;
@@ -246,6 +247,4 @@ void connect_frmMatrix(windows & all)
     window.on_load = [&all] { load_matrix(all); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdhelp.on_click = [&all] { show_help(all.main, "matrix.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "matrix.htm"); };
 }

@@ -3,6 +3,8 @@
 #include "designers/matrix/matrix_choices.h"
 #include "support/list_controls.h"
 
+struct windows;
+
 /// Designs a regular grid of photos, shown in small while it changes. A cancel leaves the tag of the main
 /// window's `lblDesign` empty.
 struct frmMatrix : form {
@@ -57,3 +59,6 @@ struct frmMatrix : form {
     worn_frames chosen_set{};  ///< counts while `chkFrames` is ticked
     bool settling = false;     ///< the program sets the controls: their handlers do nothing
 };
+
+/// Hooks its handlers.
+void connect_frmMatrix(windows & all);

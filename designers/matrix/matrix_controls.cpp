@@ -6,10 +6,10 @@
 #include "designers/matrix/matrix_sample.h"
 #include "designers/number_lists.h"
 #include "designers/poster_area.h"
-#include "designers/settling.h"
 #include "designers/work_template.h"
 #include "designs/templates/location_line.h"
 #include "support/files/paths.h"
+#include "support/for_now.h"
 
 #include <utility>
 
@@ -36,7 +36,7 @@ poster_borders borders_of(const frmMatrix & window)
 
 void show_borders(frmMatrix & window, const poster_borders & borders)
 {
-    const settling_controls quiet(window);
+    const for_now quiet(window.settling, true);
     set_number(window.cmbTop, borders.top);
     set_number(window.cmbBottom, borders.bottom);
     set_number(window.cmbLeft, borders.left);
@@ -52,7 +52,7 @@ matrix_photos photos_of(const frmMatrix & window)
 
 void take_range(frmMatrix & window, combo_box & list, const count_range & range)
 {
-    const settling_controls quiet(window);
+    const for_now quiet(window.settling, true);
     offer_numbers(list, {.first = range.low, .last = range.high});
     list.set_text(formatted(range.low));
 }

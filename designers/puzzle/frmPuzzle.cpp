@@ -1,12 +1,13 @@
+#include "designers/puzzle/frmPuzzle.h"
+
 #include "designers/number_lists.h"
 #include "designers/puzzle/puzzle_plan.h"
-#include "designers/settling.h"
 #include "designers/work_template.h"
 #include "designs/catalogue/chosen_design.h"
 #include "designs/templates/location_line.h"
-#include "session/handlers.h"
 #include "session/start/start_up.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
+#include "support/for_now.h"
 
 #include <algorithm>
 
@@ -30,7 +31,7 @@ puzzle_choices puzzle_of(const frmPuzzle & window)
 // A rim has two sides.
 void offer_counts(frmPuzzle & window)
 {
-    const settling_controls quiet(window);
+    const for_now quiet(window.settling, true);
     const int least = window.chkEdges.ticked() && window.optOne.selected() ? 2 : 1;
     for (combo_box * list : {&window.cmbRows, &window.cmbColumns}) {
         offer_numbers(*list, {.first = least, .last = most_offered});
@@ -40,7 +41,7 @@ void offer_counts(frmPuzzle & window)
 
 void set_start_values(frmPuzzle & window)
 {
-    const settling_controls quiet(window);
+    const for_now quiet(window.settling, true);
     window.chkEdges.tick(start_choices.edges);
     window.chkBest.tick(false);
     window.optOne.select();
@@ -62,7 +63,7 @@ void count_changed(frmPuzzle & window, grid_lead lead, change how)
     if (window.settling || !window.chkBest.ticked() || leading < 1)
         return;
     const puzzle_grid grid = fit_grid(choices, lead);
-    const settling_controls quiet(window);
+    const for_now quiet(window.settling, true);
     if (lead == grid_lead::columns || how == change::chosen)
         set_number(window.cmbRows, grid.rows);
     if (lead == grid_lead::rows)
@@ -127,6 +128,4 @@ void connect_frmPuzzle(windows & all)
         option->on_click = [&window] { kind_changed(window); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "puzzle.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "puzzle.htm"); };
 }

@@ -2,6 +2,8 @@
 
 #include "support/list_controls.h"
 
+struct windows;
+
 /// Designs a jigsaw puzzle. A cancel leaves the tag of the main window's `lblDesign` empty.
 struct frmPuzzle : form {
     frmPuzzle() : form("frmPuzzle") { set_caption("P u z z l e   F l u r n"); }
@@ -32,3 +34,6 @@ struct frmPuzzle : form {
 
     bool settling = false;  ///< the program sets the controls: their handlers do nothing
 };
+
+/// Hooks its handlers.
+void connect_frmPuzzle(windows & all);

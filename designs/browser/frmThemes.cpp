@@ -1,11 +1,13 @@
+#include "designs/browser/frmThemes.h"
+
 #include "designs/browser/theme_listing.h"
 #include "designs/browser/theme_sample.h"
 #include "designs/browser/theme_steps.h"
 #include "designs/catalogue/chosen_design.h"
 #include "frames/sets/frame_sets.h"
 #include "frames/sets/frames_template.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
+#include "support/for_now.h"
 
 // The chooser of designs.
 
@@ -87,9 +89,10 @@ void load_themes(windows & all)
     window.more_pages = false;
     window.chkFlip.tick(false);
     window.chkMirror.tick(false);
-    window.settling = true;
-    window.optPortrait.select();
-    window.settling = false;
+    {
+        const for_now quiet(window.settling, true);
+        window.optPortrait.select();
+    }
     take_layout(window, upright);
     window.optAll.select(false);
     window.optAll.select();
@@ -179,6 +182,4 @@ void connect_frmThemes(windows & all)
     connect_designs(all);
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "designs.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "designs.htm"); };
 }

@@ -7,6 +7,8 @@
 #include <array>
 #include <utility>
 
+struct windows;
+
 /// The chooser of designs: the catalogue by pages of fourteen names, with a sample and a description of the
 /// one selected. A cancel leaves the tag of the main window's `lblDesign` empty.
 struct frmThemes : form {
@@ -70,3 +72,6 @@ private:
         return {{option_button{*this, "optDesign_" + std::to_string(index), design_options}...}};
     }
 };
+
+/// Hooks its handlers.
+void connect_frmThemes(windows & all);

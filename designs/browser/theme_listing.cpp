@@ -1,6 +1,7 @@
 #include "designs/browser/theme_listing.h"
 
 #include "designs/catalogue/catalogue.h"
+#include "support/for_now.h"
 
 #include <map>
 
@@ -24,9 +25,8 @@ design_family family_of(const frmThemes & window)
 void show_count_list(frmThemes & window, std::vector<std::string> counts)
 {
     window.cmbDesign.set_items(std::move(counts));
-    window.settling = true;
+    const for_now quiet(window.settling, true);
     window.cmbDesign.set_text(std::string(any_number));
-    window.settling = false;
 }
 
 void empty_slots(frmThemes & window)

@@ -1,6 +1,7 @@
+#include "designs/catalogue/frmDesigns.h"
+
 #include "designs/catalogue/saved_design.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
 
 // The list of the user's own designs.
 
@@ -35,5 +36,4 @@ void connect_frmDesigns(windows & all)
     window.lstDesigns.on_click = [&window] { window.cmdDelete.enable(true); };
     window.cmdDelete.on_click = [&all] { cmdDelete_click(all); };
     window.cmdDone.on_click = [&window] { window.unload(); };
-    window.on_key = [&all](key) { show_help(all.main, "designs.htm"); };
 }

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+struct windows;
+
 /// The user's own designs, to be deleted. The list is filled before the window opens.
 struct frmDesigns : form {
     frmDesigns() : form("frmDesigns") { set_caption("D e s i g n s"); }
@@ -13,3 +15,6 @@ struct frmDesigns : form {
     button cmdDelete{*this, "cmdDelete", "Delete"};
     button cmdDone{*this, "cmdDone", "Done"};
 };
+
+/// Hooks its handlers.
+void connect_frmDesigns(windows & all);

@@ -1,6 +1,7 @@
+#include "designs/catalogue/frmNewDesign.h"
+
 #include "designs/catalogue/saved_design.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
 
 // The name of a new design.
 
@@ -30,6 +31,4 @@ void connect_frmNewDesign(windows & all)
     window.on_load = [&window] { load_new_design(window); };
     window.OKButton.on_click = [&all] { OKButton_click(all); };
     window.CancelButton.on_click = [&window] { window.unload(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "save_design.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "save_design.htm"); };
 }

@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// Asks for name and description of the design that the layout of the last collage becomes.
 struct frmNewDesign : form {
     frmNewDesign() : form("frmNewDesign") { set_caption("N e w   D e s i g n"); }
@@ -13,3 +15,6 @@ struct frmNewDesign : form {
     button CancelButton{*this, "CancelButton", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 };
+
+/// Hooks its handlers.
+void connect_frmNewDesign(windows & all);

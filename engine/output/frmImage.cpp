@@ -1,15 +1,15 @@
+#include "engine/output/frmImage.h"
+
 #include "engine/output/save_image.h"
 #include "engine/output/shown_size.h"
 #include "engine/run_steps.h"
-#include "session/handlers.h"
 #include "session/window_state.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
 
 namespace {
 
 constexpr int units_of_a_pixel = 15;
-constexpr int16 full_size = 3000;
 
 void wear_face(frmImage & window, image_face face)
 {
@@ -38,7 +38,6 @@ void take_shape(frmImage & window, picture_size own, picture_size room)
 
 void load_window(frmImage & window, frmMain & main)
 {
-    window.save_size = 0;
     window.lblImageName.set_caption(main.image_to_show);
     window.lblImageName.show(false);
     wear_face(window, main.shown_as);
@@ -72,14 +71,13 @@ void cmdPrint_click(frmMain & main)
 void cmdSave_click(windows & all)
 {
     frmMain & main = all.main;
-    all.image.save_size = full_size;
-    main.desk.show_modal(all.size);
-    if (all.image.save_size == 0)
+    const auto size = ask(main.desk, all.size);
+    if (!size)
         return;
     main.save_image_path.clear();
     save_new_image(main);
     if (!main.save_image_path.empty())
-        write_collage(main, all.image.save_size);
+        write_collage(main, *size);
 }
 
 void cmdView_click(frmMain & main)
@@ -96,7 +94,6 @@ void connect_frmImage(windows & all)
 {
     frmImage & window = all.image;
     window.on_load = [&all] { load_window(all.image, all.main); };
-    window.on_key = [&all](key) { show_help(all.main, "display.htm"); };
     window.cmdPrint.on_click = [&all] { cmdPrint_click(all.main); };
     window.cmdSave.on_click = [&all] { cmdSave_click(all); };
     window.cmdView.on_click = [&all] { cmdView_click(all.main); };

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "support/forms.h"
-#include "support/numbers.h"
+
+struct windows;
 
 /// Shows a finished collage, with the ways to save, print and view it, or just a stored picture; which of the
 /// two says `shown_as` of the main window. Closing it after a run ends the run.
@@ -18,5 +19,7 @@ struct frmImage : form {
 
     bool is_square = false;
     bool is_portrait = true;  ///< squares count as well
-    int16 save_size = 0;      ///< long side in pixels to save at; 0: cancelled
 };
+
+/// Hooks its handlers.
+void connect_frmImage(windows & all);

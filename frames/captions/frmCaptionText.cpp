@@ -1,4 +1,6 @@
-#include "session/handlers.h"
+#include "frames/captions/frmCaptionText.h"
+
+#include "session/windows.h"
 
 // The caption of the collage.
 

@@ -2,6 +2,8 @@
 
 #include "support/forms.h"
 
+struct windows;
+
 /// The caption of the collage in a window of its own, in its font and colours.
 struct frmCaptionText : form {
     frmCaptionText() : form("frmCaptionText") { set_caption("C o l l a g e   C a p t i o n"); }
@@ -11,3 +13,6 @@ struct frmCaptionText : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdClear{*this, "cmdClear", "Clear"};
 };
+
+/// Hooks its handlers.
+void connect_frmCaptionText(windows & all);

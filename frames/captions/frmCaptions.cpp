@@ -1,11 +1,12 @@
+#include "frames/captions/frmCaptions.h"
+
 #include "frames/sets/frame_sets.h"
 #include "photos/lists/pls_line.h"
 #include "photos/lists/saved_lists.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/colors.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
-#include "support/windows/show_help.h"
 
 #include <algorithm>
 
@@ -227,6 +228,4 @@ void connect_frmCaptions(windows & all)
     window.cmdDone.on_enter = window.cmdCancel.on_enter = [&window] { disable_moves(window); };
     window.cmdDone.on_click = [&all] { cmdDone_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "custom_frames.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "custom_frames.htm"); };
 }

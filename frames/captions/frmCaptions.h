@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+struct windows;
+
 /// The captions of a frame set, beside the photo that each goes with when the set is tied to a photo list.
 struct frmCaptions : form {
     static constexpr int box_count = 36;
@@ -33,3 +35,6 @@ struct frmCaptions : form {
     int16 current_box = 0;            ///< the box that has the keyboard
     std::vector<std::string> list_photos;
 };
+
+/// Hooks its handlers.
+void connect_frmCaptions(windows & all);

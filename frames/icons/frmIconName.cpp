@@ -1,6 +1,7 @@
+#include "frames/icons/frmIconName.h"
+
 #include "frames/icons/icon_list.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
 
 // The name of a new icon.
 
@@ -39,5 +40,4 @@ void connect_frmIconName(windows & all)
     window.txtName.on_change = [&window] { window.cmdOk.enable(!window.txtName.text().empty()); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.on_key = [&all](key) { show_help(all.main, "icons.htm"); };
 }

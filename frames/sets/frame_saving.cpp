@@ -6,6 +6,7 @@
 #include "session/windows.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
+#include "support/for_now.h"
 #include "support/replaced.h"
 
 namespace {
@@ -73,52 +74,27 @@ void write_settings(const frmMain & main)
 // The settings are there before the folder has a name under which it is listed.
 void give_name(frmMain & main, const std::string & name)
 {
-    std::string & edited = main.all->custom.edit_frame_name;
-    edited = unnamed_set;
     write_settings(main);
     rename_folder(folder_of_set(main), frame_set_folder(main, name));
-    edited = name;
+    main.all->custom.edit_frame_name = name;
 }
 
 bool has_name(frmMain & main)
 {
-    const std::string & edited = main.all->custom.edit_frame_name;
-    if (edited != unnamed_set)
+    if (main.all->custom.edit_frame_name != unnamed_set)
         return true;
-    main.desk.show_modal(main.all->frame_name);
-    if (edited == unnamed_set)
-        return false;
-    give_name(main, std::string(edited));
-    return true;
+    const auto name = ask(main.desk, main.all->frame_name);
+    if (name)
+        give_name(main, *name);
+    return name.has_value();
 }
 
-// The editor while its frames are rendered; afterwards it is as it was.
-class rendering_stage {
-public:
-    explicit rendering_stage(frmFrames & shown) : editor(shown), caption(shown.txtCaption.text())
-    {
-        editor.rendering = true;
-    }
-    rendering_stage(const rendering_stage &) = delete;
-    rendering_stage & operator=(const rendering_stage &) = delete;
-    ~rendering_stage()
-    {
-        editor.txtCaption.set_text(caption);
-        editor.rendering = false;
-        show_progress(false);
-    }
-    void show_progress(bool on)
-    {
-        for (control * each :
-             {static_cast<control *>(&editor.cmdSave), static_cast<control *>(&editor.cmdCancel),
-              static_cast<control *>(&editor.cmdHelp)})
-            each->show(!on);
-        editor.lblCount.show(on);
-    }
-
-    frmFrames & editor;
-    const std::string caption;  ///< the default one
-};
+void show_progress(frmFrames & editor, bool on)
+{
+    for (button * each : {&editor.cmdSave, &editor.cmdCancel, &editor.cmdHelp})
+        each->show(!on);
+    editor.lblCount.show(on);
+}
 
 std::string frame_path(const frmMain & main, char letter, int number)
 {
@@ -131,17 +107,19 @@ void render(frmMain & main, const std::string & caption, int number)
     render_portrait_frame(main, frame_path(main, 'p', number));
 }
 
-void render_captions(frmMain & main, rendering_stage & stage, const std::vector<std::string> & captions)
+// An empty caption stands for the usual one.
+void render_captions(frmMain & main, const std::string & usual, const std::vector<std::string> & captions)
 {
+    frmFrames & editor = main.all->frames;
     const int count = static_cast<int>(captions.size());
     if (count > 0)
-        stage.show_progress(true);
+        show_progress(editor, true);
     for (int number = 1; number <= count; ++number) {
-        stage.editor.lblCount.set_caption("Generating number  " + std::to_string(number) + " of  " +
-                                          std::to_string(count) + " frames");
+        editor.lblCount.set_caption("Generating number  " + std::to_string(number) + " of  " +
+                                    std::to_string(count) + " frames");
         main.desk.pump();
         const std::string & caption = captions[static_cast<std::size_t>(number) - 1];
-        render(main, caption.empty() ? stage.caption : caption, number);
+        render(main, caption.empty() ? usual : caption, number);
     }
 }
 
@@ -163,9 +141,15 @@ bool save_frame_set(frmMain & main)
         return false;
     write_settings(main);
     const busy working(main.desk);
-    rendering_stage stage(main.all->frames);
-    render(main, stage.caption, 0);
-    render_captions(main, stage, captions);
+    frmFrames & editor = main.all->frames;
+    const std::string usual = editor.txtCaption.text();
+    const for_now rendering(editor.rendering, true);
+    const afterwards as_it_was([&] {
+        editor.txtCaption.set_text(usual);
+        show_progress(editor, false);
+    });
+    render(main, usual, 0);
+    render_captions(main, usual, captions);
     delete_frames_behind(main, static_cast<int>(captions.size()));
     return true;
 }

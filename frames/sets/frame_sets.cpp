@@ -55,8 +55,9 @@ bool offer_frame_sets(frmMain & main)
 
 bool choose_frame_set(frmMain & main)
 {
-    main.desk.show_modal(main.all->custom);
-    return !main.collage.frame_set_name.empty();
+    const auto set = ask(main.desk, main.all->custom);
+    main.collage.frame_set_name = set.value_or("");
+    return set.has_value();
 }
 
 void new_custom_frame(frmMain & main)

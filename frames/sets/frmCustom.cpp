@@ -1,7 +1,8 @@
+#include "frames/sets/frmCustom.h"
+
 #include "frames/sets/frame_sets.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/windows/list_faces.h"
-#include "support/windows/show_help.h"
 
 // The frame sets, to choose one or to manage them.
 
@@ -43,7 +44,7 @@ void take_selected(windows & all)
 {
     if (all.custom.lstFrames.list_index() < 0)
         return;
-    all.main.collage.frame_set_name = all.custom.lstFrames.text();
+    all.custom.result = all.custom.lstFrames.text();
     all.custom.unload();
 }
 
@@ -94,5 +95,4 @@ void connect_frmCustom(windows & all)
     window.cmdDone.on_click = [&all] { cmdDone_click(all); };
     window.cmdDelete.on_click = [&all] { cmdDelete_click(all); };
     window.cmdEdit.on_click = [&all] { edit_selected(all); };
-    window.on_key = [&all](key) { show_help(all.main, "custom_frames.htm"); };
 }

@@ -1,8 +1,9 @@
+#include "frames/sets/frmFrameName.h"
+
 #include "frames/sets/frame_sets.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
 #include "support/typed_name.h"
-#include "support/windows/show_help.h"
 
 // The name of a new frame set.
 
@@ -29,7 +30,7 @@ void cmdOk_click(windows & all)
         all.main.desk.message(fault);
         return;
     }
-    all.custom.edit_frame_name = name;
+    all.frame_name.result = name;
     all.frame_name.unload();
 }
 
@@ -41,5 +42,4 @@ void connect_frmFrameName(windows & all)
     window.on_load = [&window] { window.txtName.set_text(""); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.on_key = [&all](key) { show_help(all.main, "frame_name.htm"); };
 }

@@ -1,11 +1,13 @@
+#include "frames/sets/frmFrames.h"
+
 #include "frames/icons/icon_list.h"
 #include "frames/sets/frame_field.h"
 #include "frames/sets/frame_rendering.h"
 #include "frames/sets/frame_saving.h"
 #include "frames/sets/frame_sets.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
+#include "support/for_now.h"
 
 #include <algorithm>
 
@@ -109,16 +111,17 @@ void load_frames(windows & all)
 {
     frmFrames & editor = all.frames;
     all.main.font_extended = false;
-    editor.settling = true;
     editor.rendering = false;
     show_buttons(editor);
-    list_photo_lists(all);
-    editor.current_icon = no_choice;
-    begin_anew(editor);
-    if (all.custom.edit_frame_name != unnamed_set)
-        read_settings(all);
-    load_icons(all.main);
-    editor.settling = false;
+    {
+        const for_now quiet(editor.settling, true);
+        list_photo_lists(all);
+        editor.current_icon = no_choice;
+        begin_anew(editor);
+        if (all.custom.edit_frame_name != unnamed_set)
+            read_settings(all);
+        load_icons(all.main);
+    }
     preview_frame(all.main);
 }
 
@@ -179,6 +182,4 @@ void connect_frmFrames(windows & all)
     editor.cmdCaptions.on_click = [&all] { all.main.desk.show_modal(all.captions); };
     editor.cmdSave.on_click = [&all] { cmdSave_click(all); };
     editor.cmdCancel.on_click = [&editor] { editor.unload(); };
-    editor.cmdHelp.on_click = [&all] { show_help(all.main, "custom_frames.htm"); };
-    editor.on_key = [&all](key) { show_help(all.main, "custom_frames.htm"); };
 }

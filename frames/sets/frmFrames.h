@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+struct windows;
+
 /// The editor of a frame set: its colours, font, default caption, icon and photo list, with a preview of the
 /// upright frame.
 struct frmFrames : form {
@@ -41,3 +43,6 @@ struct frmFrames : form {
     bool settling = false;   ///< the program sets the controls: no preview for each of them
     bool rendering = false;  ///< a save is going on
 };
+
+/// Hooks its handlers.
+void connect_frmFrames(windows & all);

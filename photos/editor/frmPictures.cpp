@@ -1,38 +1,30 @@
+#include "photos/editor/frmPictures.h"
+
 #include "photos/editor/frmPictures_popup.h"
 #include "photos/editor/photo_cells.h"
 #include "photos/editor/photo_grid.h"
 #include "photos/lists/list_name.h"
 #include "photos/lists/photo_list.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
+#include "support/for_now.h"
 
 // The photos of a list are arranged.
 
 namespace {
 
-// What opened the editor can't be used while its photos are being loaded; the notice stands there.
-class disabled_meanwhile {
-public:
-    explicit disabled_meanwhile(const form & opener)
-    {
-        for (control * each : opener.controls())
-            if (each->enabled() && dynamic_cast<label *>(each) == nullptr) {
-                each->enable(false);
-                disabled.push_back(each);
-            }
-    }
-    disabled_meanwhile(const disabled_meanwhile &) = delete;
-    disabled_meanwhile & operator=(const disabled_meanwhile &) = delete;
-    ~disabled_meanwhile()
-    {
-        for (control * each : disabled)
-            each->enable(true);
-    }
-
-private:
+// What opened the editor can't be used while its photos are being loaded; the notice stands there. Gives what
+// was disabled.
+std::vector<control *> disable_controls(const form & opener)
+{
     std::vector<control *> disabled;
-};
+    for (control * each : opener.controls())
+        if (each->enabled() && dynamic_cast<label *>(each) == nullptr) {
+            each->enable(false);
+            disabled.push_back(each);
+        }
+    return disabled;
+}
 
 form & opener_of(windows & all)
 {
@@ -50,7 +42,10 @@ void load_pictures(windows & all)
     for (int cell = 0; cell < editable_photos; ++cell)
         clear_cell(window, cell);
     window.txtCounting.show(false);
-    const disabled_meanwhile waiting(opener_of(all));
+    const afterwards usable([disabled = disable_controls(opener_of(all))] {
+        for (control * each : disabled)
+            each->enable(true);
+    });
     load_photo_grid(all.main, window.edit_list_path);
     window.cmdSave.enable(!is_empty(window));
 }
@@ -72,31 +67,12 @@ std::vector<std::string> fitting(frmMain & main, std::vector<std::string> photos
 }
 
 // While photos are added the window shows its notice in place of its buttons.
-class taking_up {
-public:
-    explicit taking_up(frmPictures & busy_window) : window(busy_window), mode(window.edit_mode)
-    {
-        window.edit_mode = editing::added_photos;
-        show_buttons(false);
-    }
-    taking_up(const taking_up &) = delete;
-    taking_up & operator=(const taking_up &) = delete;
-    ~taking_up()
-    {
-        window.edit_mode = mode;
-        show_buttons(true);
-    }
-
-private:
-    void show_buttons(bool on)
-    {
-        for (button * each : {&window.cmdSave, &window.cmdHelp, &window.cmdCancel, &window.cmdAdd})
-            each->show(on);
-        window.txtCounting.show(!on);
-    }
-    frmPictures & window;
-    editing mode;
-};
+void show_notice(frmPictures & window, bool on)
+{
+    for (button * each : {&window.cmdSave, &window.cmdHelp, &window.cmdCancel, &window.cmdAdd})
+        each->show(!on);
+    window.txtCounting.show(on);
+}
 
 void cmdAdd_click(windows & all)
 {
@@ -107,7 +83,9 @@ void cmdAdd_click(windows & all)
     const int count = write_photo_grid(all.main, work_file);
     append_photos(work_file, fitting(all.main, photos, count));
     {
-        const taking_up busy_window(all.pictures);
+        const for_now added(all.pictures.edit_mode, editing::added_photos);
+        show_notice(all.pictures, true);
+        const afterwards usable([&all] { show_notice(all.pictures, false); });
         load_photo_grid(all.main, work_file);
     }
     delete_file(work_file);
@@ -122,8 +100,8 @@ answer wants_same_name(windows & all)
                               .offered = answers::yes_no_cancel});
 }
 
-// The path to save at, empty when the user backs out.
-std::string target(windows & all)
+// The path to save at, nothing when the user backs out.
+std::optional<std::string> target(windows & all)
 {
     frmPictures & window = all.pictures;
     if (window.edit_mode == editing::selection)
@@ -131,17 +109,11 @@ std::string target(windows & all)
     if (window.same_name_allowed) {
         const answer given = wants_same_name(all);
         if (given == answer::cancel)
-            return {};
+            return std::nullopt;
         if (given == answer::yes)
             return window.edit_list_path;
     }
-    const std::string before = all.main.txtPhotos.tag;
-    all.main.txtPhotos.tag.clear();
-    all.main.desk.show_modal(all.picture_name);
-    std::string path = all.main.txtPhotos.tag;
-    if (path.empty())
-        all.main.txtPhotos.tag = before;
-    return path;
+    return ask(all.main.desk, all.picture_name);
 }
 
 // What the grid had no room for, or what couldn't be loaded, stays in a selection: it has no other list to go
@@ -149,13 +121,13 @@ std::string target(windows & all)
 void cmdSave_click(windows & all)
 {
     frmPictures & window = all.pictures;
-    const std::string path = target(all);
-    if (path.empty())
+    const auto path = target(all);
+    if (!path)
         return;
     const bool selection = window.edit_mode == editing::selection;
     const int count =
-        write_photo_grid(all.main, path, selection ? window.left_behind : std::vector<std::string>());
-    all.main.txtPhotos.tag = path;
+        write_photo_grid(all.main, *path, selection ? window.left_behind : std::vector<std::string>());
+    all.main.txtPhotos.tag = *path;
     all.main.selected_count = narrow(count);
     all.main.cmdPhotos.tag = std::to_string(count);
     window.unload();
@@ -186,7 +158,5 @@ void connect_frmPictures(windows & all)
     window.cmdSave.on_click = [&all] { cmdSave_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
     window.on_query_unload = [&window] { return !window.checking; };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "edit_photos.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "edit_photos.htm"); };
     connect_frmPictures_popup(all);
 }

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+struct windows;
+
 /// What the editor was opened for; the third while it takes up photos that were added.
 enum class editing : std::uint8_t { selection = 1, saved_list = 2, added_photos = 3 };
 
@@ -41,3 +43,6 @@ struct frmPictures : form {
         left_behind;        ///< photos of the list that didn't come into the grid, in its order
     bool checking = false;  ///< photos are being loaded: the window can't be left
 };
+
+/// Hooks its handlers.
+void connect_frmPictures(windows & all);

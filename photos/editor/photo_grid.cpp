@@ -5,6 +5,7 @@
 #include "photos/lists/pls_line.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
+#include "support/for_now.h"
 #include "support/platform_error.h"
 
 #include <algorithm>
@@ -83,18 +84,6 @@ void note_left_behind(frmPictures & window, std::vector<std::string> photos, loa
     window.left_behind = std::move(photos);
 }
 
-// The window can't be left, nor that below it, while photos are being loaded.
-class checking {
-public:
-    explicit checking(frmPictures & loading) : window(loading) { window.checking = true; }
-    checking(const checking &) = delete;
-    checking & operator=(const checking &) = delete;
-    ~checking() { window.checking = false; }
-
-private:
-    frmPictures & window;
-};
-
 }  // namespace
 
 bool is_empty(const picture & cell)
@@ -146,7 +135,8 @@ bool make_gap(frmPictures & window, int cell)
 void load_photo_grid(frmMain & main, const std::string & path)
 {
     const busy pointer(main.desk);
-    const checking held_open(main.all->pictures);
+    // The window can't be left, nor that below it, while photos are being loaded.
+    const for_now held_open(main.all->pictures.checking, true);
     std::vector<std::string> photos;
     try {
         with_platform_errors([&] {

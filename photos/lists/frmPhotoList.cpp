@@ -1,7 +1,8 @@
+#include "photos/lists/frmPhotoList.h"
+
 #include "photos/lists/photo_list.h"
 #include "photos/lists/working_list.h"
-#include "session/handlers.h"
-#include "support/windows/show_help.h"
+#include "session/windows.h"
 
 // A selection is gathered.
 
@@ -57,12 +58,7 @@ void cmdDone_click(windows & all)
         all.main.txtPhotos.tag = all.main.working_list_path;
         all.main.cmdPhotos.tag = std::to_string(all.main.selected_count);
     }
-    all.photo_list.unload();
-}
-
-void close_without_choice(windows & all)
-{
-    all.select_photos.cancelled = true;
+    all.photo_list.result = all.main.selected_count;
     all.photo_list.unload();
 }
 
@@ -77,12 +73,6 @@ void connect_frmPhotoList(windows & all)
     window.cmdClear.on_click = [&all] { cmdClear_click(all); };
     window.cmdEdit.on_click = [&all] { cmdEdit_click(all); };
     window.cmdDone.on_click = [&all] { cmdDone_click(all); };
-    window.cmdCancel.on_click = [&all] { close_without_choice(all); };
-    window.on_query_unload = [&all] {
-        if (!all.pictures.loaded())  // its photos are being checked
-            close_without_choice(all);
-        return false;
-    };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "photo_list.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "photo_list.htm"); };
+    window.cmdCancel.on_click = [&window] { window.unload(); };
+    window.on_query_unload = [&all] { return !all.pictures.loaded(); };  // its photos are being checked
 }

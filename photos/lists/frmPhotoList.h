@@ -1,6 +1,11 @@
 #pragma once
 
 #include "support/forms.h"
+#include "support/numbers.h"
+
+#include <optional>
+
+struct windows;
 
 /// Gathers a selection: photos are added to the working list, singly or by the folder.
 struct frmPhotoList : form {
@@ -22,4 +27,9 @@ struct frmPhotoList : form {
     button cmdDone{*this, "cmdDone", "Done"};
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
+
+    std::optional<int16> result;  ///< how many photos are selected
 };
+
+/// Hooks its handlers.
+void connect_frmPhotoList(windows & all);

@@ -1,8 +1,9 @@
+#include "photos/lists/frmPictureList.h"
+
 #include "photos/lists/saved_lists.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
 #include "support/windows/list_faces.h"
-#include "support/windows/show_help.h"
 
 // The saved lists, to choose one or to manage them.
 
@@ -28,9 +29,15 @@ std::string selected_list(const windows & all)
     return saved_list_path(all.main, all.picture_list.lstPictures.text());
 }
 
-void close_with(windows & all, const std::string & path)
+void choose_selected(windows & all)
 {
-    all.main.txtPhotos.tag = path;
+    all.picture_list.result = all.main.txtPhotos.tag = selected_list(all);
+    all.picture_list.unload();
+}
+
+void close_without_choice(windows & all)
+{
+    all.main.txtPhotos.tag.clear();
     all.picture_list.unload();
 }
 
@@ -66,7 +73,7 @@ void cmdDelete_click(windows & all)
     if (all.main.photo_list_edit_mode)
         delete_selected(all);
     else
-        close_with(all, "");
+        close_without_choice(all);
 }
 
 void cmdDone_click(windows & all)
@@ -74,7 +81,7 @@ void cmdDone_click(windows & all)
     if (all.main.photo_list_edit_mode)
         all.picture_list.unload();
     else if (all.picture_list.lstPictures.list_index() >= 0)
-        close_with(all, selected_list(all));
+        choose_selected(all);
 }
 
 void lstPictures_double_click(windows & all)
@@ -82,7 +89,7 @@ void lstPictures_double_click(windows & all)
     if (all.main.photo_list_edit_mode)
         cmdEdit_click(all);
     else
-        close_with(all, selected_list(all));
+        choose_selected(all);
 }
 
 bool may_close(windows & all)
@@ -106,5 +113,4 @@ void connect_frmPictureList(windows & all)
     window.cmdDelete.on_click = [&all] { cmdDelete_click(all); };
     window.cmdEdit.on_click = [&all] { cmdEdit_click(all); };
     window.on_query_unload = [&all] { return may_close(all); };
-    window.on_key = [&all](key) { show_help(all.main, "edit_photo_list.htm"); };
 }

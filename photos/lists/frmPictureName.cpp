@@ -1,7 +1,8 @@
+#include "photos/lists/frmPictureName.h"
+
 #include "photos/lists/list_name.h"
-#include "session/handlers.h"
+#include "session/windows.h"
 #include "support/files/paths.h"
-#include "support/windows/show_help.h"
 
 // The name of a new list.
 
@@ -36,7 +37,7 @@ void cmdOk_click(windows & all)
     const std::string path = joined(all.main.data_folder, "piclists/") + name + ".pls";
     if (keeps_old_list(all, path))
         return;
-    all.main.cmdPhotos.tag = all.main.txtPhotos.tag = path;
+    all.picture_name.result = all.main.cmdPhotos.tag = all.main.txtPhotos.tag = path;
     all.picture_name.unload();
 }
 
@@ -49,6 +50,4 @@ void connect_frmPictureName(windows & all)
     window.txtName.on_change = [&window] { window.cmdOk.enable(!window.txtName.text().empty()); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "photo_name.htm"); };
-    window.on_key = [&all](key) { show_help(all.main, "photo_name.htm"); };
 }

@@ -2,7 +2,12 @@
 
 #include "support/forms.h"
 
-/// Asks for the name of a new photo list. The list's path goes to the tags of `cmdPhotos` and `txtPhotos` of
+#include <optional>
+#include <string>
+
+struct windows;
+
+/// Asks for the name of a new photo list. Its path also goes to the tags of `cmdPhotos` and `txtPhotos` of
 /// the main window; both stay as they are when no name is given.
 struct frmPictureName : form {
     frmPictureName() : form("frmPictureName") { set_caption("P h o t o   L i s t   N a m e"); }
@@ -11,4 +16,9 @@ struct frmPictureName : form {
     button cmdOk{*this, "cmdOk", "Ok"};
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
+
+    std::optional<std::string> result;  ///< the list's path
 };
+
+/// Hooks its handlers.
+void connect_frmPictureName(windows & all);

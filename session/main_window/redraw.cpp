@@ -4,20 +4,9 @@
 #include "quick/matrix/quick_matrix.h"
 #include "quick/poster_sides.h"
 #include "quick/quick_template.h"
+#include "support/for_now.h"
 
 namespace {
-
-// While a preview is being made the triggers are void.
-class redrawing {
-public:
-    explicit redrawing(frmMain & window) : main(window) { main.preview_blocked = true; }
-    redrawing(const redrawing &) = delete;
-    redrawing & operator=(const redrawing &) = delete;
-    ~redrawing() { main.preview_blocked = false; }
-
-private:
-    frmMain & main;
-};
 
 // What the run has counted is shown: the cells of the shapes, and whether the matrix could have fewer photos.
 void settle_after_preview(frmMain & main)
@@ -48,7 +37,9 @@ void redraw_sample(frmMain & main)
     // In the choosing stage no design is in force, and with the preview off the picture goes stale.
     if (main.menus_shown || !main.optPreview.selected())
         return;
-    const redrawing quiet(main);
+    // While a preview is being made the triggers are void; afterwards they count, even if they didn't before.
+    main.preview_blocked = true;
+    const afterwards open_again([&] { main.preview_blocked = false; });
     make_preview(main, make_quick_template);
     if (main.collage.quick_active)
         settle_after_preview(main);

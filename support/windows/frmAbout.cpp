@@ -1,4 +1,6 @@
-#include "session/handlers.h"
+#include "support/windows/frmAbout.h"
+
+#include "session/windows.h"
 #include "support/files/paths.h"
 
 namespace {

@@ -3,6 +3,8 @@
 #include "support/colors.h"
 #include "support/forms.h"
 
+struct windows;
+
 /// Says what the program is.
 struct frmAbout : form {
     frmAbout() : form("frmAbout")
@@ -16,3 +18,6 @@ struct frmAbout : form {
     text_box txtAbout{*this, "txtAbout"};
     button cmdOK{*this, "cmdOK", "OK"};
 };
+
+/// Hooks its handlers.
+void connect_frmAbout(windows & all);

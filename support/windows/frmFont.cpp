@@ -1,6 +1,7 @@
-#include "session/handlers.h"
+#include "support/windows/frmFont.h"
+
+#include "session/windows.h"
 #include "support/numbers.h"
-#include "support/windows/show_help.h"
 
 namespace {
 
@@ -103,9 +104,7 @@ void connect_frmFont(windows & all)
     connect_sample(window);
     window.on_load = [&all] { load_window(all.font, all.main); };
     window.on_query_unload = [&all] { return cancel(all.main); };
-    window.on_key = [&all](key) { show_help(all.main, "fonts.htm"); };
     window.cmdColor.on_click = window.picColor.on_click = [&all] { choose_color(all.font, all.main); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all.font, all.main); };
     window.cmdCancel.on_click = [&all] { all.font.request_close(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "fonts.htm"); };
 }

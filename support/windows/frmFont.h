@@ -2,6 +2,8 @@
 
 #include "support/list_controls.h"
 
+struct windows;
+
 /// Chooses the font of the caption of the main window, and, while `font_extended` is set there, its size and
 /// colour.
 struct frmFont : form {
@@ -26,3 +28,6 @@ struct frmFont : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
 };
+
+/// Hooks its handlers.
+void connect_frmFont(windows & all);

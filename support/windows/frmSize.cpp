@@ -1,6 +1,7 @@
-#include "session/handlers.h"
+#include "support/windows/frmSize.h"
+
+#include "session/windows.h"
 #include "support/numbers.h"
-#include "support/windows/show_help.h"
 
 namespace {
 
@@ -28,31 +29,22 @@ void load_window(windows & all)
     all.size.optFull.set_caption(full_caption(all.image.is_square));
 }
 
-void choose(windows & all, int16 size)
+int wanted_size(const frmSize & window)
 {
-    all.image.save_size = size;
-    show_number(all.size, false);
+    if (window.optCustom.selected())
+        return nearest(leading_number(window.txtSize.text()));
+    return window.optWeb.selected() ? web_size : full_size;
 }
 
-void cmdOk_click(windows & all)
+void cmdOk_click(frmSize & window, desktop & desk)
 {
-    frmSize & window = all.size;
-    if (window.optCustom.selected()) {
-        const int wanted = nearest(leading_number(window.txtSize.text()));
-        if (wanted < smallest || wanted > largest) {
-            all.main.desk.message(wanted < smallest ? "Collage would be too small"
-                                                    : "Collage would be too large");
-            return;
-        }
-        all.image.save_size = narrow(wanted);
+    const int wanted = wanted_size(window);
+    if (wanted < smallest || wanted > largest) {
+        desk.message(wanted < smallest ? "Collage would be too small" : "Collage would be too large");
+        return;
     }
+    window.result = narrow(wanted);
     window.unload();
-}
-
-bool cancel(windows & all)
-{
-    all.image.save_size = 0;
-    return true;
 }
 
 }  // namespace
@@ -61,12 +53,8 @@ void connect_frmSize(windows & all)
 {
     frmSize & window = all.size;
     window.on_load = [&all] { load_window(all); };
-    window.on_query_unload = [&all] { return cancel(all); };
-    window.on_key = [&all](key) { show_help(all.main, "size.htm"); };
-    window.optFull.on_click = [&all] { choose(all, full_size); };
-    window.optWeb.on_click = [&all] { choose(all, web_size); };
-    window.optCustom.on_click = [&all] { show_number(all.size, true); };
-    window.cmdOk.on_click = [&all] { cmdOk_click(all); };
-    window.cmdCancel.on_click = [&all] { all.size.request_close(); };
-    window.cmdHelp.on_click = [&all] { show_help(all.main, "size.htm"); };
+    window.optFull.on_click = window.optWeb.on_click = [&window] { show_number(window, false); };
+    window.optCustom.on_click = [&window] { show_number(window, true); };
+    window.cmdOk.on_click = [&all] { cmdOk_click(all.size, all.main.desk); };
+    window.cmdCancel.on_click = [&window] { window.unload(); };
 }

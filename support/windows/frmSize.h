@@ -1,8 +1,13 @@
 #pragma once
 
 #include "support/forms.h"
+#include "support/numbers.h"
 
-/// Asks for the size of a saved collage. The answer goes to `save_size` of the image window.
+#include <optional>
+
+struct windows;
+
+/// Asks for the size of a saved collage.
 struct frmSize : form {
     frmSize() : form("frmSize") { set_caption("Collage Size"); }
     option_set sizes;
@@ -14,4 +19,9 @@ struct frmSize : form {
     button cmdOk{*this, "cmdOk", "Ok"};
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
+
+    std::optional<int16> result;  ///< pixels of the long side
 };
+
+/// Hooks its handlers.
+void connect_frmSize(windows & all);

@@ -9,5 +9,9 @@
 /// documentation site.
 void show_help(const frmMain & main, const std::string & topic);
 
+/// Has the help keys and the help button of a window, as far as it has them, open that page. An empty name:
+/// the window has nothing to explain.
+void offer_help(const frmMain & main, form & window, const std::string & topic);
+
 /// Address of a page of the documentation site; `path` begins with "/".
 std::string documentation_address(std::string_view path);

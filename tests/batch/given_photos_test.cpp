@@ -1,6 +1,7 @@
 #include "support/files/copies.h"
 #include "support/platform_error.h"
 #include "tests/batch/batch_program.h"
+#include "tests/photo_lists.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -194,9 +195,7 @@ TEST_F(given_photos, more_than_there_is_room_for_are_named)
     EXPECT_EQ(said_of({place.at("p")}),
               place.at("p") + " has more than 499 photos; the others are left out.\n");
     EXPECT_EQ(used().size(), 499U);
-    std::string list;
-    for (int i = 0; i < 1003; ++i)
-        list += "L " + one + "\r\n";
+    const std::string list = list_text(std::vector<std::string>(1003, one));
     const std::string fault = one + " is left out: a collage has room for 1001 photos.\n";
     EXPECT_EQ(said_of({place.write("long.pls", list)}), fault + fault);
     EXPECT_EQ(used().size(), 1001U);

@@ -1,8 +1,10 @@
 #include "designers/lettering/lettering_plan.h"
 #include "designers/lettering/lettering_text.h"
 #include "designs/templates/location_line.h"
+#include "tests/sum_by_place.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace {
@@ -182,6 +184,17 @@ TEST(lettering_plan, offset_letters_walk_25_shifts_and_punctuation_is_a_gap)
                        .placing = letter_placing::offset},
                       0.5),
               expected);
+}
+
+TEST(lettering_plan, the_25_shifts_are_those_that_were_chosen)
+{
+    lines starts;
+    for (int i = 0; i < 25; ++i)
+        starts.push_back(written({.text = "abc", .placing = letter_placing::offset}, i / 25.0).front());
+    const auto top = [](const std::string & line) { return std::stoi(line); };
+    for (const std::string & line : starts)
+        EXPECT_LE(std::abs(top(line) - 100), 111) << line;  // 90 of 500, at 619
+    EXPECT_EQ(sum_by_place(starts, top), 35030);
 }
 
 TEST(lettering_plan, a_shifted_capital_rises_by_most_of_what_it_is_larger)

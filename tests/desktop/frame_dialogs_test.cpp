@@ -117,7 +117,6 @@ TEST_F(frame_dialogs, a_set_is_chosen_by_a_double_click_and_by_enter)
 {
     for (const bool by_mouse : {true, false}) {
         folder.write("data/frames/club/design.ini", "");
-        main.collage.frame_set_name.clear();
         when_asked<QDialog>([&](QDialog & chooser) {
             auto * const sets = found<QListWidget>(chooser, "lstFrames");
             const QPoint first = sets->visualItemRect(sets->item(0)).center();
@@ -127,7 +126,6 @@ TEST_F(frame_dialogs, a_set_is_chosen_by_a_double_click_and_by_enter)
             else
                 QTest::keyClick(sets, Qt::Key_Return);
         });
-        desk.show_modal(all.custom);
-        EXPECT_EQ(main.collage.frame_set_name, "club");
+        EXPECT_EQ(ask(desk, all.custom), "club");
     }
 }

@@ -1,3 +1,4 @@
+#include "../photo_lists.h"
 #include "../pictures.h"
 #include "../temporary_folder.h"
 #include "desktop/binder/picture_view.h"
@@ -38,12 +39,13 @@ struct photo_dialogs : testing::Test {
     ~photo_dialogs() override { desk.forget_windows(); }
 
     std::string photo(int number) { return folder.at("p/" + std::to_string(number) + ".jpg"); }
+    // The fifteenth is the first once more.
     std::string list_of(int count)
     {
-        std::string text;
+        std::vector<std::string> photos;
         for (int i = 0; i < count; ++i)
-            text += "L " + photo(i) + "\r\n";
-        return text;
+            photos.push_back(photo(i % 14));
+        return list_text(photos);
     }
     void edit(int count, std::function<void(QDialog &)> play)
     {
@@ -233,10 +235,7 @@ TEST_F(photo_dialogs, photos_are_added_through_the_chooser_without_a_look_at_the
 TEST_F(photo_dialogs, a_full_grid_fits_its_window)
 {
     all.pictures.edit_mode = editing::selection;
-    std::string text;
-    for (int i = 0; i < 60; ++i)
-        text += "L " + photo(i % 14) + "\r\n";
-    all.pictures.edit_list_path = folder.write("data/piclists/Full.pls", text);
+    all.pictures.edit_list_path = folder.write("data/piclists/Full.pls", list_of(60));
     when_asked<QDialog>([](QDialog & window) {
         keep_screen(window, "pictures_full.png");
         const QRect surface = found<QWidget>(window, "picBig")->rect();

@@ -1,6 +1,7 @@
 #include "desktop/program_folders.h"
 
 #include "support/files/paths.h"
+#include "support/for_now.h"
 #include "tests/temporary_folder.h"
 
 #include <QByteArray>
@@ -9,29 +10,20 @@
 
 namespace {
 
-// An environment variable with another value while it lives.
-class changed_variable {
-public:
-    changed_variable(const char * variable, const QByteArray & value)
-        : name(variable), before(qgetenv(variable))
-    {
-        qputenv(name, value);
-    }
-    changed_variable(const changed_variable &) = delete;
-    changed_variable & operator=(const changed_variable &) = delete;
-    ~changed_variable() { qputenv(name, before); }
-
-private:
-    const char * name;
-    QByteArray before;
-};
+// An environment variable with another value while what it gives lives.
+auto changed_variable(const char * name, const QByteArray & value)
+{
+    const QByteArray before = qgetenv(name);
+    qputenv(name, value);
+    return afterwards([name, before] { qputenv(name, before); });
+}
 
 }  // namespace
 
 TEST(data_folder_choice, lies_under_the_data_home_though_the_program_folder_can_be_written)
 {
     const temporary_folder home;
-    const changed_variable variable("XDG_DATA_HOME", QByteArray::fromStdString(home.path()));
+    const auto variable = changed_variable("XDG_DATA_HOME", QByteArray::fromStdString(home.path()));
     ASSERT_TRUE(folder_writable(program_folder()));
     const folder_choice choice = data_folder_choice();
     EXPECT_TRUE(choice.use_public_folder);
@@ -41,9 +33,9 @@ TEST(data_folder_choice, lies_under_the_data_home_though_the_program_folder_can_
 TEST(data_folder_choice, takes_a_relative_data_home_for_none)
 {
     const temporary_folder home;
-    const changed_variable own("HOME", QByteArray::fromStdString(home.path()));
+    const auto own = changed_variable("HOME", QByteArray::fromStdString(home.path()));
     for (const char * value : {"", "data", "./data", "../data"}) {
-        const changed_variable variable("XDG_DATA_HOME", value);
+        const auto variable = changed_variable("XDG_DATA_HOME", value);
         EXPECT_EQ(data_folder_choice().public_folder, joined(home.path(), ".local/share/tessaloom4"))
             << value;
     }

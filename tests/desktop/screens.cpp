@@ -1,17 +1,14 @@
 // Draws every window into a folder, in the states that are worth looking at: tessaloom-screens FOLDER
 // [LETTERS]. LETTERS: pixels, the size of the system's font. Set QT_SCALE_FACTOR=2 for screens of double
-// density.
+// density. tessaloom-screens --redraw DRAWN SHOWN copies those of DRAWN to SHOWN that look different there.
 
 #include "designs/catalogue/catalogue.h"
-#include "desktop/binder/binder.h"
-#include "desktop/binder/windows_made.h"
 #include "desktop/looks/looks.h"
 #include "engine/run_steps.h"
 #include "session/start_designed.h"
-#include "session/window_state.h"
 #include "support/files/copies.h"
 #include "support/files/paths.h"
-#include "tests/desktop/stages.h"
+#include "tests/desktop/screen_changes.h"
 #include "tests/desktop/window_views.h"
 
 #include <QApplication>
@@ -28,7 +25,7 @@ void save(QWidget & window, const QString & folder, const std::string & name)
         std::fprintf(stderr, "%s can't be written\n", qPrintable(path));
 }
 
-// A collage of the sample photos, full size and as its preview; both are kept for the pictures.
+// A collage of the sample photos in full size, to be shown in its window.
 void make_collage(filled_session & session)
 {
     frmMain & main = session.all.main;
@@ -38,37 +35,11 @@ void make_collage(filled_session & session)
     main.poster_tall = true;
     main.optPortrait.select();
     start_designed(main);
-    session.preview = session.folder.at("tmp/preview.jpg");
-    copy_file(finished_path(main), session.preview);
     session.desk.on_modal<frmImage>([&](frmImage &) {
         session.collage = session.folder.at("tmp/collage.jpg");
         copy_file(finished_path(main), session.collage);
     });
     main.cmdFlurn.click();
-}
-
-// Every look of an upright poster, and the other shapes once.
-void draw_stages(filled_session & session, const QString & folder)
-{
-    frmMain & main = session.all.main;
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {});
-    main.picSplash.load(joined(main.install_folder, "images/splash.png"));
-    main.picSample.load(session.preview);
-    const updating as_it_is(main);  // the stages are drawn with the preview that is there
-    main.txtBGimage.set_text("/home/someone/pictures/autumn.jpg");
-    enable_all(main);
-    start_enable_true(main);
-    for (option_button * each : main.border_options)
-        each->enable(true);
-    window->show();
-    for (const look wanted : all_looks)
-        for (const shape poster : all_shapes)
-            if (poster == shape::portrait || wanted == look::quick_block) {
-                bring_to(main, wanted, poster);
-                QCoreApplication::processEvents();
-                save(*window, folder, "frmMain_" + name_of(wanted, poster));
-            }
 }
 
 // A collage of a special designer, from its menu entry to the finished picture.
@@ -120,8 +91,13 @@ int main(int count, char ** words)
     QApplication application(count, words);
     apply_looks(application);
     const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 4 && arguments[1] == QLatin1String("--redraw")) {
+        for (const QString & name : redraw_changed(arguments[2], arguments[3]))
+            std::printf("%s is another one\n", qPrintable(name));
+        return 0;
+    }
     if (arguments.size() != 2 && arguments.size() != 3) {
-        std::fprintf(stderr, "usage: tessaloom-screens FOLDER [LETTERS]\n");
+        std::fprintf(stderr, "usage: tessaloom-screens FOLDER [LETTERS] | --redraw DRAWN SHOWN\n");
         return 1;
     }
     if (arguments.size() == 3)
@@ -129,7 +105,6 @@ int main(int count, char ** words)
     filled_session session;
     make_collage(session);
     draw_views(session, arguments[1]);
-    draw_stages(session, arguments[1]);
     filled_session fresh;
     draw_designed_collages(fresh, arguments[1]);
     return 0;

@@ -1,10 +1,10 @@
 #include "tests/desktop/window_views.h"
 
+#include "../photo_lists.h"
 #include "../pictures.h"
 #include "desktop/binder/binder.h"
 #include "desktop/binder/windows_made.h"
 #include "photos/lists/photo_list.h"
-#include "photos/lists/pls_line.h"
 #include "session/connect_all.h"
 #include "session/start/start_up.h"
 #include "support/colors.h"
@@ -20,9 +20,8 @@ namespace {
 
 void save_lists(const filled_session & session, const frmMain & main)
 {
-    std::string lines;
-    for (int i = 0; i <= main.table.last_photo; ++i)
-        lines += list_line(std::nullopt, main.table[i]) + "\r\n";
+    const auto first = main.table.photos.begin();
+    const std::string lines = list_text({first, first + main.table.last_photo + 1});
     for (const char * name : {"Summer by the sea", "Grandmother's birthday", "last_photos"})
         session.folder.write(std::string("piclists/") + name + ".pls", lines);
 }

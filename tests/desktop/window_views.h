@@ -27,7 +27,6 @@ struct filled_session {
     std::vector<window_view> views();
 
     std::string collage;  ///< a finished one to show, if there is one
-    std::string preview;
     temporary_folder folder;
     drawing_desktop desk;
     windows all{desk, seeded_random(7)};

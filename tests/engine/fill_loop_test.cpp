@@ -279,6 +279,19 @@ TEST(fill_loop, the_start_of_the_shaking_is_drawn_once)
     EXPECT_EQ(run.main.shake_start, 8);
 }
 
+TEST(fill_loop, the_start_of_the_shaking_may_be_any_of_the_table)
+{
+    for (const auto & [drawn, start] : {std::pair{0.0, 0}, {0.03, 0}, {0.04, 1}, {0.96, 15}, {0.97, 16}}) {
+        grid_run run(1, 1);
+        run.main.shake_start = -1;
+        run.main.random = listed({drawn});
+        run.add_photo(red);
+        run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+        run.filled();
+        EXPECT_EQ(run.main.shake_start, start) << drawn;
+    }
+}
+
 TEST(fill_loop, a_grid_whose_cells_have_no_size_is_an_overflow)
 {
     grid_run run(0, 0);

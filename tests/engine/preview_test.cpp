@@ -122,6 +122,51 @@ TEST(gen_sample, a_border_is_fifteen_hundredths_of_the_offset_and_the_factor)
     EXPECT_EQ(letter_at(sample, 258, 200), '.');
 }
 
+TEST(gen_sample, a_wide_frame_of_a_tilted_photo_has_an_eighth_of_the_lists_width)
+{
+    // A photo of 120 by 60 pixels on its side: its frame lies left and right of 60.
+    const auto width_seen = [](const std::string & listed_width) {
+        collage_fixture run;
+        run.home.write("install/rotate.ini", read_file(SEED_FOLDER "/rotate.ini"));
+        save_jpeg(plain(700, 700, {255, 255, 255}), run.home.at("install/images/white.jpg"));
+        run.use_template({"1050:1400:420:840:90:90:0:0:"});
+        run.add_photo(red, 120, 60);
+        run.main.cmbFrame.set_text(listed_width);
+        run.main.cmbFrame.enable(true);
+        run.main.picFrameColor.set_back_color(0x28DCE6);  // yellow
+        gen_sample(run.main);
+        const bitmap sample = run.finished();
+        std::string row;
+        for (int x = 0; x < sample.width(); ++x)
+            row += letter_at(sample, x, 210);
+        const std::size_t left = row.find('y'), right = row.rfind('y');
+        EXPECT_EQ(row.find_first_not_of('y', left) - left, right - row.find_last_not_of('y', right));
+        return row.find_first_not_of('y', left) - left;
+    };
+    EXPECT_EQ(width_seen("16"), 2U);
+    EXPECT_EQ(width_seen("64"), 8U);
+    EXPECT_EQ(width_seen("100"), 12U);  // 12.5
+    EXPECT_EQ(width_seen("300"), 16U);  // no wider than the location's own, 90 pixels of the poster
+}
+
+TEST(gen_sample, a_matrix_that_was_laid_out_smaller_is_drawn_nearer_in_the_posters_proportions)
+{
+    two_halves run;
+    run.main.collage.quick_active = true;
+    run.main.optMatrix.select();
+    run.main.quick.preview_inset = 20;
+    const bitmap sample = run.sample();
+    EXPECT_EQ(size_of(sample), "333 by 500");
+    // 13 and 320, 20 and 480 of the collage: the halves meet at 151 and end at 294, the layout ends at 437.
+    EXPECT_EQ(letter_at(sample, 0, 0), 'r');
+    EXPECT_EQ(letter_at(sample, 145, 200), 'r');
+    EXPECT_EQ(letter_at(sample, 154, 200), 'g');
+    EXPECT_EQ(letter_at(sample, 302, 200), 'g');
+    EXPECT_EQ(letter_at(sample, 308, 200), '.');
+    EXPECT_EQ(letter_at(sample, 100, 450), 'r');
+    EXPECT_EQ(letter_at(sample, 100, 456), '.');
+}
+
 TEST(gen_sample, a_large_caption_at_the_bottom_draws_the_picture_nearer)
 {
     two_halves small, large;

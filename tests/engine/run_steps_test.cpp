@@ -1,10 +1,12 @@
 #include "engine/run_steps.h"
 
+#include "designs/templates/location_order.h"
 #include "engine/layout/run_layout.h"
 #include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -29,6 +31,24 @@ struct bare_run : collage_fixture {
         return main.design_locations[0];
     }
 };
+
+// A run of a dozen locations; the other eleven are small.
+struct dozen_run : bare_run {
+    dozen_run()
+    {
+        for (int16 i = 1; i < 12; ++i)
+            add_location(measures(narrow(100 + i), 0, 1, 1));
+    }
+};
+
+bool bending_mixes(const std::function<void(frmMain &)> & settings)
+{
+    dozen_run run;
+    run.main.random = listed({0.5});
+    settings(run.main);
+    bend_template(run.main, run_size::full);
+    return run.main.mix_step != -1;
+}
 
 }  // namespace
 
@@ -97,12 +117,10 @@ TEST(place_photos, evolve_counts_from_0_and_stays_out_of_the_way_otherwise)
 TEST(place_photos, the_order_changes_only_for_plain_designs_that_were_asked_to)
 {
     const auto first_top = [](bool random_design, bool rotated, std::initializer_list<double> chance) {
-        bare_run run;
+        dozen_run run;
         run.main.random = listed(chance);
         run.main.collage.random_design = random_design;
         run.main.collage.design_rotated = rotated;
-        for (int16 i = 1; i < 12; ++i)
-            run.add_location(measures(narrow(100 + i), 0, 1, 1));
         place_photos(run.main, run_size::full);
         return run.main.design_locations[0].top - 430;
     };
@@ -110,6 +128,35 @@ TEST(place_photos, the_order_changes_only_for_plain_designs_that_were_asked_to)
     EXPECT_EQ(first_top(false, true, {}), 100);
     // Two shuffles of their own step and start each.
     EXPECT_NE(first_top(true, true, {0.0, 0.0, 0.3, 0.4, 0.3, 0.7}), 100);
+}
+
+TEST(place_photos, the_order_is_turned_as_often_as_two_numbers_say_and_once_more)
+{
+    struct row {
+        double count, factor;
+        int shuffles;
+    };
+    // 1 to 8 and then 0, times 1 to 3.
+    for (const row & each : {row{0.0, 0.0, 2}, row{0.0, 0.5, 3}, row{0.0, 0.99, 4}, row{0.25, 0.5, 7},
+                             row{0.8, 0.99, 25}, row{0.95, 0.99, 1}}) {
+        dozen_run run;
+        int drawn = 0;
+        run.main.random = {.next = [&] { return ++drawn == 1 ? each.count
+                                                : drawn == 2 ? each.factor
+                                                             : 0.3; },
+                           .reseed = [] {}};
+        run.main.collage.random_design = run.main.collage.design_rotated = true;
+        location_table expected, scratch;
+        expected.add(measures(530, 630, 300, 400));
+        for (int16 i = 1; i < 12; ++i)
+            expected.add(measures(narrow(530 + i), 430, 1, 1));
+        place_photos(run.main, run_size::full);
+        EXPECT_EQ(drawn, 2 + 2 * each.shuffles);
+        for (int i = 0; i < each.shuffles; ++i)
+            shuffle(expected, scratch, 3, 4);  // of 0.3: the third step of seven, the fourth of eleven places
+        for (int i = 0; i < 12; ++i)
+            EXPECT_EQ(run.main.design_locations[i], expected[i]) << each.shuffles << " at " << i;
+    }
 }
 
 TEST(place_photos, a_stretched_design_is_stretched_before_the_bleed_comes)
@@ -186,14 +233,10 @@ TEST(bend_template, notes_the_first_cell)
 TEST(bend_template, mixes_shapes_that_overlap_or_are_to_be_mixed)
 {
     const auto mixed = [](const auto & settings) {
-        bare_run run;
-        run.main.optShapes.select();
-        run.main.random = listed({0.5});
-        for (int16 i = 1; i < 12; ++i)
-            run.add_location(measures(i, 0, 1, 1));
-        settings(run.main);
-        bend_template(run.main, run_size::full);
-        return run.main.mix_step != -1;
+        return bending_mixes([&](frmMain & main) {
+            main.optShapes.select();
+            settings(main);
+        });
     };
     EXPECT_FALSE(mixed([](frmMain &) {}));
     EXPECT_TRUE(mixed([](frmMain & main) { main.chkMix.tick(true); }));
@@ -211,15 +254,11 @@ TEST(bend_template, mixes_shapes_that_overlap_or_are_to_be_mixed)
 TEST(bend_template, mixes_a_shaken_quick_matrix)
 {
     const auto mixed = [](const auto & settings) {
-        bare_run run;
-        run.main.collage.quick_active = true;
-        run.main.optMatrix.select();
-        run.main.random = listed({0.5});
-        for (int16 i = 1; i < 12; ++i)
-            run.add_location(measures(i, 0, 1, 1));
-        settings(run.main);
-        bend_template(run.main, run_size::full);
-        return run.main.mix_step != -1;
+        return bending_mixes([&](frmMain & main) {
+            main.collage.quick_active = true;
+            main.optMatrix.select();
+            settings(main);
+        });
     };
     EXPECT_FALSE(mixed([](frmMain &) {}));
     EXPECT_TRUE(mixed([](frmMain & main) { main.chkRotate.tick(true); }));

@@ -3,6 +3,7 @@
 #include "photos/editor/photo_grid.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "tests/photo_lists.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 
@@ -26,13 +27,7 @@ struct editor : opened_session {
             paths.push_back(photo(from + i));
         return paths;
     }
-    std::string list_of(int count)
-    {
-        std::string text;
-        for (const std::string & path : photos(0, count))
-            text += "L " + path + "\r\n";
-        return text;
-    }
+    std::string list_of(int count) { return list_text(photos(0, count)); }
     void edit(editing mode, const std::string & text)
     {
         window.edit_mode = mode;

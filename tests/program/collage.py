@@ -127,8 +127,8 @@ def run(play):
         seen = program.look() if program.process.poll() is None else {}
         print('in front:', seen.get('window'), seen.get('class'), repr(seen.get('title')), repr(seen.get('message', '')))
         keep = os.environ.get('TESSALOOM_SCREENS')
-        if keep:
-            os.system('DISPLAY=%s import -window root %s/failed.png' % (program.environment['DISPLAY'], keep))
+        if keep and seen:
+            program.keep(screen.WHOLE, os.path.join(keep, 'failed.png'))
         raise
     finally:
         program.close()

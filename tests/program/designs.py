@@ -5,6 +5,12 @@ from collage import check
 from screen import until
 
 
+def entry(p, menu, name):
+    p.click(menu)
+    p.window('QMenu')
+    p.click(name)
+
+
 def shows(p, name, text):
     """Waits until the widget has that text."""
     until(lambda: (p.find(name) or {}).get('text', '').replace('&', '') == text,
@@ -107,6 +113,4 @@ def kept(p, name):
     """A picture of what the screen shows, where somebody wants it."""
     keep = os.environ.get('TESSALOOM_SCREENS')
     if keep:
-        at = p.look()['widgets'][0]
-        os.system('DISPLAY=%s import -window root -crop %dx%d+%d+%d +repage %s/%s.png' % (
-            p.environment['DISPLAY'], at['width'], at['height'], at['x'], at['y'], keep, name))
+        p.keep(p.look()['widgets'][0], os.path.join(keep, name + '.png'))

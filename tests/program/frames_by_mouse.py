@@ -5,14 +5,8 @@ import os
 import struct
 
 from collage import check, quit_by_mouse, run, welcomed
-from designs import (choose, in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told)
+from designs import (choose, entry, in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told)
 from screen import until
-
-
-def entry(p, menu, name):
-    p.click(menu)
-    p.window('QMenu')
-    p.click(name)
 
 
 def make_list(p):

@@ -5,14 +5,8 @@ import os
 import subprocess
 
 from collage import check, folder_by_mouse, quit_by_mouse, run, welcomed
-from designs import in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, told
+from designs import entry, in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, told
 from screen import until
-
-
-def entry(p, name):
-    p.click('mnuDesign')
-    p.window('QMenu')
-    p.click(name)
 
 
 def choose_folder(p):
@@ -28,7 +22,7 @@ def make_quick_flurn(p):
 
 def keep(p):
     """A name that a supplied design has is refused; the window stays open for another one."""
-    entry(p, 'mnuSaveDesign')
+    entry(p, 'mnuDesign', 'mnuSaveDesign')
     p.window('frmNewDesign')
     p.type_into('txtName', 'three BANDS')
     p.type_into('txtDescription', 'Twelve photos of the summer')
@@ -70,7 +64,7 @@ def make_flurn_of_it(p, name):
 
 def delete(p, before):
     """The window closes with its last entry."""
-    entry(p, 'mnuEditDesigns')
+    entry(p, 'mnuDesign', 'mnuEditDesigns')
     p.window('frmDesigns')
     is_enabled(p, 'cmdDelete', False)
     p.click('My summer')
@@ -84,13 +78,13 @@ def delete(p, before):
     same([line for line in lines_of(p, 'designs.ini') if line], [line for line in before if line], 'the catalogue')
     for folder, name in (('designs', 'saved600'), ('samples', 'saved600.jpg'), ('descriptions', 'saved600')):
         check(not os.path.exists(os.path.join(p.data, folder, name)), name + ' is still there')
-    entry(p, 'mnuEditDesigns')
+    entry(p, 'mnuDesign', 'mnuEditDesigns')
     told(p, "    You don't have any designs to edit.    ", lambda: p.click('OK'))
     p.window('frmMain')
 
 
 def take_in(p, package):
-    entry(p, 'mnuImport')
+    entry(p, 'mnuDesign', 'mnuImport')
     p.window('QFileDialog')
     p.type_into('fileNameEdit', package)
     p.keys('Return')

@@ -4,9 +4,9 @@
 // A request is a line on the local socket TESSALOOM_PROBE. "look" is answered by a line of JSON: every
 // visible widget, menu entry and entry of a list that has a name or a text, with its place on the screen; an
 // entry that is scrolled out of sight has the place of its list, and "wheel", the mouse button that turns
-// towards it. "see X Y W H" is answered by a digest of the pixels that the screen shows there. "standstill"
-// is answered by the longest time, in milliseconds, in which the program let no event through since it was
-// asked last.
+// towards it. "see X Y W H" is answered by a digest of the pixels that the screen shows there; with a path
+// behind it they go to that file. "standstill" is answered by the longest time, in milliseconds, in which the
+// program let no event through since it was asked last.
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -149,12 +149,14 @@ QByteArray looked()
 
 QByteArray seen(const QList<QByteArray> & words)
 {
-    if (words.size() != 5)
-        return "see X Y WIDTH HEIGHT";
+    if (words.size() < 5)
+        return "see X Y WIDTH HEIGHT [PATH]";
     const QImage pixels =
         QApplication::primaryScreen()
             ->grabWindow(0, words[1].toInt(), words[2].toInt(), words[3].toInt(), words[4].toInt())
             .toImage();
+    if (words.size() > 5 && !pixels.save(QString::fromUtf8(words.mid(5).join(' '))))
+        return "the file can't be written";
     const auto bytes =
         QByteArrayView(reinterpret_cast<const char *>(pixels.constBits()), pixels.sizeInBytes());
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();

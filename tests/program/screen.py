@@ -9,6 +9,7 @@ import tempfile
 import time
 
 PATIENCE = 60.0
+WHOLE = {'x': 0, 'y': 0, 'width': 1600, 'height': 1200}
 
 
 def until(what, told):
@@ -40,7 +41,7 @@ class Display:
     def __init__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ['Xvfb', '-displayfd', str(write), '-screen', '0', '1600x1200x24', '-nolisten', 'tcp',
+            ['Xvfb', '-displayfd', str(write), '-screen', '0', '%(width)dx%(height)dx24' % WHOLE, '-nolisten', 'tcp',
              '-noreset'],  # it would reset itself when its only program was killed, and refuse the next one meanwhile
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
@@ -154,6 +155,12 @@ class Program:
         """A digest of what the screen shows of the widget."""
         at = self.widget(name)
         return self.ask('see %d %d %d %d' % (at['x'], at['y'], at['width'], at['height'])).strip()
+
+    def keep(self, at, path):
+        """Writes what the screen shows at that place to a file."""
+        told = self.ask('see %d %d %d %d %s' % (at['x'], at['y'], at['width'], at['height'], path)).strip()
+        if not os.path.exists(path):
+            raise AssertionError('%s: %s' % (path, told))
 
     def finished(self):
         """A digest of the picture that the session made last; empty while there is none."""

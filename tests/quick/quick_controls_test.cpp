@@ -240,6 +240,8 @@ TEST(orientation, notes_the_shape_of_the_background_but_not_for_a_square)
     EXPECT_FALSE(session.main.bg_portrait);
     session.main.optPortrait.select();
     EXPECT_TRUE(session.main.bg_portrait);
+    session.main.optSquare.select();
+    EXPECT_TRUE(session.main.bg_portrait);
 }
 
 TEST(row_and_column_buttons, change_the_grid_and_redraw)

@@ -2,6 +2,7 @@
 
 #include "photos/lists/photo_list.h"
 #include "support/files/text_file.h"
+#include "tests/photo_lists.h"
 #include "tests/pictures.h"
 
 #include <filesystem>
@@ -46,14 +47,12 @@ void quick_session::make_photos(int portrait, int landscape)
 {
     std::filesystem::remove_all(folder.at("photos/x").substr(0, folder.at("photos/x").size() - 2));
     photos.clear();
-    std::string lines;
     for (int i = 0; i < portrait + landscape; ++i) {
         const bool tall = i < portrait;
         photos.push_back(folder.at("photos/" + std::to_string(i) + ".jpg"));
         save_jpeg(plain(tall ? 15 : 20, tall ? 20 : 15, {200, 100, 50}), photos.back());
-        lines += "L " + photos.back() + "\r\n";
     }
-    list = folder.write("data/piclists/mine.pls", lines);
+    list = folder.write("data/piclists/mine.pls", list_text(photos));
 }
 
 void quick_session::will_choose_list()

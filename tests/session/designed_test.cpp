@@ -1,6 +1,7 @@
 #include "support/MFreeImage.h"
 #include "support/colors.h"
 #include "tests/designs/opened_browser.h"
+#include "tests/photo_lists.h"
 #include "tests/pictures.h"
 
 namespace {
@@ -13,7 +14,7 @@ struct choosing : opened_session {
                      design_section_text(1, "one", {"File=__lettering", "Style=Place", "Design=Block"}) +
                          design_section_text(2, "two", {"File=__lettering", "Style=Place", "Design=Saved"}));
         folder.write("data/designs/__lettering", "300:200:1500:1500:0:0:0:0:\r\n");
-        folder.write("data/piclists/mine.pls", "L " + folder.at("photos/a.jpg") + "\r\n");
+        folder.write("data/piclists/mine.pls", list_text({folder.at("photos/a.jpg")}));
         save_jpeg(plain(40, 30, {200, 100, 50}), folder.at("photos/a.jpg"));
         main.load();
     }

@@ -2,8 +2,8 @@
 
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
-#include "support/platform_error.h"
 #include "tests/pictures.h"
+#include "tests/raised_by.h"
 #include "tests/small_files.h"
 #include "tests/temporary_folder.h"
 
@@ -19,17 +19,6 @@ void expect_near(const rgb_triple & found, const rgb_triple & wanted, int tolera
     EXPECT_NEAR(found.red, wanted.red, tolerance);
     EXPECT_NEAR(found.green, wanted.green, tolerance);
     EXPECT_NEAR(found.blue, wanted.blue, tolerance);
-}
-
-template <typename Step>
-int raised_by(Step step)
-{
-    try {
-        step();
-    } catch (const platform_error & error) {
-        return code(error);
-    }
-    return 0;
 }
 
 struct picture_test : testing::Test {
@@ -111,9 +100,7 @@ TEST(bitmap, filling_takes_every_pixel)
 {
     bitmap image(3, 3);
     fill(image, orange);
-    for (int y = 0; y < 3; ++y)
-        for (int x = 0; x < 3; ++x)
-            EXPECT_EQ(seen(image, x, y), orange);
+    EXPECT_TRUE(same(image, colored(3, 3, [](int, int) { return orange; })));
 }
 
 TEST(paste, as_a_plain_copy_overwrites_even_with_black)
@@ -188,14 +175,14 @@ TEST(rescaled, gives_exactly_the_size_and_leaves_the_source)
 
 TEST(rescaled, gives_a_grey_picture_what_each_channel_of_a_coloured_one_gets)
 {
-    bitmap grey = noise(97, 61), coloured = noise(97, 61);
-    for (int y = 0; y < grey.height(); ++y)
-        for (int x = 0; x < grey.width(); ++x) {
-            const std::uint8_t level = seen(grey, x, y).green;
-            set_pixel(grey, x, y, {.red = level, .green = level, .blue = level});
-            const auto opposite = static_cast<std::uint8_t>(255 - level);
-            set_pixel(coloured, x, y, {.red = opposite, .green = level, .blue = level});
-        }
+    const bitmap any = noise(97, 61);
+    const auto level_at = [&](int x, int y) { return seen(any, x, y).green; };
+    const bitmap grey = colored(97, 61, [&](int x, int y) {
+        return rgb_triple{level_at(x, y), level_at(x, y), level_at(x, y)};
+    });
+    const bitmap coloured = colored(97, 61, [&](int x, int y) {
+        return rgb_triple{static_cast<std::uint8_t>(255 - level_at(x, y)), level_at(x, y), level_at(x, y)};
+    });
     for (const picture_size size : {picture_size{40, 33}, {13, 61}, {97, 61}, {211, 150}}) {
         const bitmap one = rescaled(grey, size.width, size.height);
         const bitmap other = rescaled(coloured, size.width, size.height);

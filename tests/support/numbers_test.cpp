@@ -1,24 +1,9 @@
 #include "support/numbers.h"
 
-#include "support/platform_error.h"
+#include "tests/raised_by.h"
 
 #include <gtest/gtest.h>
 #include <limits>
-
-namespace {
-
-template <typename Step>
-int raised_by(Step step)
-{
-    try {
-        step();
-    } catch (const platform_error & error) {
-        return code(error);
-    }
-    return 0;
-}
-
-}  // namespace
 
 TEST(numbers, halves_go_to_even)
 {

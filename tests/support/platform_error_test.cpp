@@ -1,5 +1,7 @@
 #include "support/platform_error.h"
 
+#include "tests/raised_by.h"
+
 #include <cerrno>
 #include <gtest/gtest.h>
 
@@ -28,14 +30,7 @@ TEST(platform_error, keeps_the_classic_numbers)
 
 TEST(platform_error, stands_for_what_libraries_throw_and_lets_our_own_bugs_through)
 {
-    const auto number_of = [](auto step) {
-        try {
-            with_platform_errors(step);
-        } catch (const platform_error & error) {
-            return code(error);
-        }
-        return 0;
-    };
+    const auto number_of = [](auto step) { return raised_by([&] { with_platform_errors(step); }); };
     EXPECT_EQ(number_of([] { throw std::bad_alloc(); }), 7);
     EXPECT_EQ(number_of([] { return std::filesystem::file_size("/no/such/file"); }), 53);
     EXPECT_EQ(number_of([] { throw platform_error(error_number::subscript, "x"); }), 9);

@@ -134,6 +134,18 @@ class floors(unittest.TestCase):
         self.assertIn("engine/lay.cpp: sheet::lines() const: is seen by others", text)
         self.assertIn("engine/lay.cpp: sheet::operator==(sheet const&) const: is seen by others", text)
 
+    def test_a_template_counts_with_what_is_made_of_it(self):
+        window = {"engine/CMakeLists.txt": "storey(procedures lay plan)\nwindow(frmShow show)\n",
+                  "engine/frmShow.h": "void connect_frmShow();\n",
+                  "engine/frmShow.cpp": '#include "engine/frmShow.h"\nvoid connect_frmShow() {}\n',
+                  "session/CMakeLists.txt": "storey(records windows)\n",
+                  "session/windows.h.in": '#include "@path@.h"\n'}
+        self.assertEqual(told_of_includes(window)[0], 0)
+        self.assert_fault(told_of_includes(window | {"session/CMakeLists.txt": "storey(ground windows)\n"}),
+                          "session/windows.h: engine/frmShow.h: goes up from ground to records")
+        self.assert_fault(told_of_includes(window | {"session/CMakeLists.txt": ""}),
+                          "session/windows.h: stands on no storey")
+
     def test_the_two_halves_of_a_window_are_two_pairs(self):
         window = {"engine/CMakeLists.txt": "storey(procedures lay plan)\nstorey(records frmShow.h)\n"
                                            "storey(handlers frmShow.cpp)\n",

@@ -21,10 +21,11 @@ DEPS = """CMakeFiles/cores.dir/engine/mask.cpp.o: #deps 3, deps mtime 1 (VALID)
 tests/CMakeFiles/house_tests.dir/engine/mask_test.cpp.o: #deps 2, deps mtime 1 (VALID)
     /house/tests/engine/mask_test.cpp
     /house/engine/mask.h
+    windows/session/windows.h
 
 """
 PARTS = {"engine/mask.cpp": {"engine/mask.cpp", "engine/mask.h"},
-         "tests/engine/mask_test.cpp": {"tests/engine/mask_test.cpp", "engine/mask.h"}}
+         "tests/engine/mask_test.cpp": {"tests/engine/mask_test.cpp", "engine/mask.h", "session/windows.h.in"}}
 SOURCES = ["engine/mask.cpp", "tests/engine/mask_test.cpp", "bench/quick_bench.cpp"]
 
 
@@ -37,6 +38,9 @@ class touched_sources(unittest.TestCase):
 
     def test_a_header_touches_whatever_includes_it(self):
         self.assertEqual(check_lint.touched(SOURCES[:2], {"engine/mask.h"}, PARTS), SOURCES[:2])
+
+    def test_a_template_touches_whatever_includes_what_is_made_of_it(self):
+        self.assertEqual(check_lint.touched(SOURCES[:2], {"session/windows.h.in"}, PARTS), SOURCES[1:2])
 
     def test_a_source_that_was_never_compiled_is_touched(self):
         self.assertEqual(check_lint.touched(SOURCES, {"README.md"}, PARTS), ["bench/quick_bench.cpp"])

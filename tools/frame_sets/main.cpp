@@ -8,6 +8,7 @@
 #include "batch/batch_desktop.h"
 #include "frames/sets/frame_sets.h"
 #include "session/connect_all.h"
+#include "support/files/archive.h"
 #include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
@@ -15,18 +16,13 @@
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <archive.h>
-#include <archive_entry.h>
 #include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <stdexcept>
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::time_t made_at = 1577880000;  // the first noon of 2020
 
 std::vector<std::string> sorted(std::vector<std::string> names)
 {
@@ -72,42 +68,14 @@ void render_sets(const std::string & work)
 
 // ---- the archive
 
-struct writer_closer {
-    void operator()(archive * opened) const { archive_write_free(opened); }
-};
-using archive_writer = std::unique_ptr<archive, writer_closer>;
-
-struct entry_closer {
-    void operator()(archive_entry * entry) const { archive_entry_free(entry); }
-};
-
-void check(archive * writer, la_ssize_t result)
-{
-    if (result < ARCHIVE_OK)
-        throw std::runtime_error(archive_error_string(writer));
-}
-
-void add_file(archive * writer, const std::string & name, const std::string & bytes)
-{
-    const std::unique_ptr<archive_entry, entry_closer> entry(archive_entry_new());
-    archive_entry_set_pathname(entry.get(), name.c_str());
-    archive_entry_set_size(entry.get(), static_cast<la_int64_t>(bytes.size()));
-    archive_entry_set_filetype(entry.get(), AE_IFREG);
-    archive_entry_set_perm(entry.get(), 0644);
-    archive_entry_set_mtime(entry.get(), made_at, 0);
-    check(writer, archive_write_header(writer, entry.get()));
-    check(writer, archive_write_data(writer, bytes.data(), bytes.size()));
-}
-
 void pack(const std::string & frames, const std::string & target)
 {
-    const archive_writer writer(archive_write_new());
-    check(writer.get(), archive_write_set_format_zip(writer.get()));
-    check(writer.get(), archive_write_open_filename(writer.get(), target.c_str()));
+    std::vector<archived_file> files;
     for (const std::string & set : sorted(folders_in(frames)))
         for (const std::string & file : sorted(files_in(joined(frames, set))))
-            add_file(writer.get(), set + "/" + file, read_file(joined(joined(frames, set), file)));
-    check(writer.get(), archive_write_close(writer.get()));
+            files.push_back(
+                {.name = set + "/" + file, .bytes = read_file(joined(joined(frames, set), file))});
+    replace_file(target, zip_bytes(files));
 }
 
 }  // namespace

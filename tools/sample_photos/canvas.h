@@ -102,42 +102,34 @@ public:
     template <typename Shade>
     void lay(area where, Shade shade)
     {
-        const float scale = static_cast<float>(down);
-        const int left = std::max(0, static_cast<int>(where.left * scale));
-        const int right = std::min(across, static_cast<int>(where.right * scale) + 2);
-        const int top = std::max(0, static_cast<int>(where.top * scale));
-        const int bottom = std::min(down, static_cast<int>(where.bottom * scale) + 2);
-        for (int y = top; y < bottom; ++y) {
-            for (int x = left; x < right; ++x) {
-                const ink drop = shade(
-                    point{(static_cast<float>(x) + 0.5F) / scale, (static_cast<float>(y) + 0.5F) / scale});
-                if (drop.cover > 0)
-                    at(x, y) = mix(at(x, y), drop.color, drop.cover);
-            }
-        }
+        walk(where, [&shade](colour & below, point here) {
+            const ink drop = shade(here);
+            if (drop.cover > 0)
+                below = mix(below, drop.color, drop.cover);
+        });
     }
 
     /// Adds `light(point) -> colour` to the pixels of an area.
     template <typename Light>
     void add(area where, Light light)
     {
-        lay_sum(where, light);
+        walk(where, [&light](colour & below, point here) { below = below + light(here); });
     }
 
 private:
-    template <typename Light>
-    void lay_sum(area where, Light light)
+    /// Hands each pixel of an area to `step(colour &, point)`, with its middle.
+    template <typename Step>
+    void walk(area where, Step step)
     {
         const float scale = static_cast<float>(down);
         const int left = std::max(0, static_cast<int>(where.left * scale));
         const int right = std::min(across, static_cast<int>(where.right * scale) + 2);
         const int top = std::max(0, static_cast<int>(where.top * scale));
         const int bottom = std::min(down, static_cast<int>(where.bottom * scale) + 2);
-        for (int y = top; y < bottom; ++y) {
+        for (int y = top; y < bottom; ++y)
             for (int x = left; x < right; ++x)
-                at(x, y) = at(x, y) + light(point{(static_cast<float>(x) + 0.5F) / scale,
-                                                  (static_cast<float>(y) + 0.5F) / scale});
-        }
+                step(at(x, y),
+                     point{(static_cast<float>(x) + 0.5F) / scale, (static_cast<float>(y) + 0.5F) / scale});
     }
 
     int across, down;

@@ -1,6 +1,6 @@
 #include "designs/templates/location_line.h"
 
-#include "support/platform_error.h"
+#include "tests/raised_by.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +8,7 @@ namespace {
 
 int number_raised_by(std::string_view line)
 {
-    try {
-        parse_location(line);
-    } catch (const platform_error & error) {
-        return code(error);
-    }
-    return 0;
+    return raised_by([&] { parse_location(line); });
 }
 
 }  // namespace

@@ -35,13 +35,11 @@ std::string size_of(const std::string & path)
 TEST(frmImage, shows_a_finished_collage_with_its_three_ways_out)
 {
     finished_session session;
-    session.all.image.save_size = 77;
     session.desk.on_modal<frmImage>([&](frmImage & window) {
         EXPECT_EQ(window.caption(), "S a v e   F l u r n");
         EXPECT_EQ(window.lblImageName.caption(), session.main.image_to_show);
         EXPECT_EQ(window.picDisplay.file(), session.main.image_to_show);
         EXPECT_EQ(window.cmdClose.caption(), "Cancel");
-        EXPECT_EQ(window.save_size, 0);
         expect_states(window,
                       "lblImageName_ cmdSave+ cmdPrint+ cmdView+ cmdSave^ cmdPrint^ cmdView^ cmdClose+");
         window.cmdClose.click();
@@ -171,9 +169,10 @@ TEST(cmdSave, a_square_at_full_size_is_saved_in_its_own)
 TEST(cmdSave, asks_for_no_file_after_the_size_was_cancelled)
 {
     finished_session session;
+    session.main.save_image_path = "of an earlier time";
     session.desk.on_modal<frmSize>([](frmSize & window) { window.cmdCancel.click(); });
     session.all.image.cmdSave.click();
-    EXPECT_EQ(session.all.image.save_size, 0);
+    EXPECT_EQ(session.main.save_image_path, "of an earlier time");
 }
 
 TEST(cmdSave, writes_nothing_when_no_file_was_chosen)

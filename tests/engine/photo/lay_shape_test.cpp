@@ -164,10 +164,9 @@ TEST_F(lay_shape_test, masks_lie_in_three_places)
 
 TEST_F(lay_shape_test, a_name_ending_in_g_is_a_jpeg)
 {
-    bitmap half = plain(16, 16, {255, 255, 255});
-    for (int y = 0; y < 16; ++y)
-        for (int x = 8; x < 16; ++x)
-            set_pixel(half, x, y, {});
+    const bitmap half = colored(16, 16, [](int x, int) {
+        return x < 8 ? rgb_triple{255, 255, 255} : rgb_triple{};
+    });
     for (const std::string name : {"half.jpg", "half.JPG"}) {
         save_jpeg(half, folder.at("program/images/" + name));
         shape = name;

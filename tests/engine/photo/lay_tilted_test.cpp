@@ -159,10 +159,9 @@ TEST(lay_tilted_photo, takes_its_mask_from_the_sheet_even_where_that_is_not_whit
 {
     const temporary_folder folder;
     folder.write("rotate.ini", read_file(SEED_FOLDER "/rotate.ini"));
-    bitmap half = plain(80, 80, {255, 255, 255});
-    for (int y = 0; y < 80; ++y)
-        for (int x = 0; x < 40; ++x)
-            set_pixel(half, x, y, {});
+    const bitmap half = colored(80, 80, [](int x, int) {
+        return x < 40 ? rgb_triple{} : rgb_triple{255, 255, 255};
+    });
     save_jpeg(half, folder.at("images/white.jpg"));
     tilt_stage stage;
     stage.main.install_folder = folder.path();

@@ -14,14 +14,12 @@ constexpr rgb_triple light{255, 255, 255}, grey{60, 60, 60}, dark{0, 0, 0};
 bitmap all_cases()
 {
     constexpr std::array<int, 13> values{0, 40, 41, 79, 80, 89, 90, 110, 111, 200, 201, 220, 255};
-    bitmap image(169, 169);
-    for (int y = 0; y < 169; ++y)
-        for (int x = 0; x < 169; ++x)
-            set_pixel(image, x, y,
-                      {static_cast<std::uint8_t>(values[static_cast<std::size_t>(x % 13)]),
-                       static_cast<std::uint8_t>(values[static_cast<std::size_t>(x / 13)]),
-                       static_cast<std::uint8_t>(values[static_cast<std::size_t>(y % 13)])});
-    return image;
+    const auto value = [&](int index) {
+        return static_cast<std::uint8_t>(values[static_cast<std::size_t>(index)]);
+    };
+    return colored(169, 169, [&](int x, int y) {
+        return rgb_triple{value(x % 13), value(x / 13), value(y % 13)};
+    });
 }
 
 bitmap with_ground(bitmap image, rgb_triple ground)

@@ -6,27 +6,21 @@
 
 namespace {
 
+rgb_triple grey_of(int value)
+{
+    const auto level = static_cast<std::uint8_t>(value);
+    return {level, level, level};
+}
+
 /// A bitmap that holds every value in every row, in the order of its columns.
 bitmap all_values_across()
 {
-    bitmap image(256, 256);
-    for (int y = 0; y < 256; ++y)
-        for (int x = 0; x < 256; ++x) {
-            const auto value = static_cast<std::uint8_t>(x);
-            set_pixel(image, x, y, {value, value, value});
-        }
-    return image;
+    return colored(256, 256, [](int x, int) { return grey_of(x); });
 }
 
 bitmap all_values_down()
 {
-    bitmap image(256, 256);
-    for (int y = 0; y < 256; ++y)
-        for (int x = 0; x < 256; ++x) {
-            const auto value = static_cast<std::uint8_t>(y);
-            set_pixel(image, x, y, {value, value, value});
-        }
-    return image;
+    return colored(256, 256, [](int, int y) { return grey_of(y); });
 }
 
 std::string dots(const bitmap & image)

@@ -10,12 +10,9 @@ namespace {
 /// One colour a row.
 bitmap striped_down(int width, int height)
 {
-    bitmap image(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            set_pixel(image, x, height - 1 - y,
-                      {static_cast<std::uint8_t>(y % 256), static_cast<std::uint8_t>(y / 256), 0});
-    return image;
+    return colored(width, height, [](int, int y) {
+        return rgb_triple{static_cast<std::uint8_t>(y % 256), static_cast<std::uint8_t>(y / 256), 0};
+    });
 }
 
 }  // namespace

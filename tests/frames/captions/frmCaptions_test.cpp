@@ -1,4 +1,5 @@
 #include "tests/frames/frame_session.h"
+#include "tests/photo_lists.h"
 
 namespace {
 
@@ -13,10 +14,10 @@ struct captions_window : frame_session {
     }
     void write_list(int count)
     {
-        std::string lines;
+        std::vector<std::string> photos;
         for (int i = 0; i < count; ++i)
-            lines += "L " + folder.at(i % 2 == 0 ? "p/across.jpg" : "p/upright.jpg") + "\r\n";
-        folder.write("data/piclists/team.pls", lines);
+            photos.push_back(folder.at(i % 2 == 0 ? "p/across.jpg" : "p/upright.jpg"));
+        folder.write("data/piclists/team.pls", list_text(photos));
         all.frames.cmbPhotos.set_text("team");
     }
     void write_captions(const std::vector<std::string> & captions) const

@@ -13,7 +13,7 @@ struct sets_window : frame_session {
     void open(bool managing)
     {
         main.frame_manage_mode = managing;
-        main.collage.frame_set_name.clear();
+        window.result.reset();
         window.load();
     }
     int position(const std::string & set) const
@@ -58,22 +58,21 @@ TEST(frmCustom, ok_and_a_double_click_choose_a_set)
     session.open(false);
     session.window.lstFrames.select_text("family");
     session.window.cmdDone.click();
-    EXPECT_EQ(session.main.collage.frame_set_name, "family");
+    EXPECT_EQ(session.window.result, "family");
     EXPECT_FALSE(session.window.loaded());
     session.open(false);
     session.window.lstFrames.double_click(session.position("club"));
-    EXPECT_EQ(session.main.collage.frame_set_name, "club");
+    EXPECT_EQ(session.window.result, "club");
     EXPECT_FALSE(session.window.loaded());
 }
 
-TEST(frmCustom, cancel_leaves_the_choice)
+TEST(frmCustom, cancel_chooses_none)
 {
     sets_window session;
     session.open(false);
-    session.main.collage.frame_set_name = "before";
     session.window.lstFrames.select(0);
     session.window.cmdDelete.click();
-    EXPECT_EQ(session.main.collage.frame_set_name, "before");
+    EXPECT_EQ(session.window.result, std::nullopt);
     EXPECT_FALSE(session.window.loaded());
 }
 
@@ -113,7 +112,7 @@ TEST(frmCustom, done_ends_the_managing)
     session.window.cmdDone.click();
     EXPECT_FALSE(session.window.loaded());
     EXPECT_FALSE(session.main.frame_manage_mode);
-    EXPECT_EQ(session.main.collage.frame_set_name, "");
+    EXPECT_EQ(session.window.result, std::nullopt);
 }
 
 TEST(frmCustom, the_help_keys_open_its_topic)

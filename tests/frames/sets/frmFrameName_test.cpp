@@ -5,16 +5,15 @@ namespace {
 struct naming_a_set : frame_session {
     naming_a_set()
     {
-        all.custom.edit_frame_name = unnamed_set;
         write_set("club");
         window.load();
     }
-    /// The name of the edited set after the user gave it one, "stays" while the window is open.
+    /// What the window gives after the user typed a name, "stays" while the window is open.
     std::string given(const std::string & name)
     {
         window.txtName.set_text(name);
         window.cmdOk.click();
-        return window.loaded() ? "stays" : all.custom.edit_frame_name;
+        return window.loaded() ? "stays" : window.result.value_or("none");
     }
     frmFrameName & window = all.frame_name;
 };
@@ -42,7 +41,7 @@ TEST(frmFrameName, a_name_that_is_there_is_told_and_stays)
         EXPECT_EQ(session.given(name), "stays");
         EXPECT_EQ(session.desk.next_message(),
                   "You already have a custom frame named:  " + std::string(name));
-        EXPECT_EQ(session.all.custom.edit_frame_name, "_named_.not");
+        EXPECT_EQ(session.window.result, std::nullopt);
     }
 }
 
@@ -61,14 +60,14 @@ TEST(frmFrameName, a_name_that_leads_elsewhere_is_refused)
     session.folder.write("data/frames/notes", "");
     EXPECT_EQ(session.given("notes"), "stays");
     EXPECT_EQ(session.desk.next_message(), "There is a file of that name where your custom frames are kept.");
-    EXPECT_EQ(session.all.custom.edit_frame_name, "_named_.not");
+    EXPECT_EQ(session.window.result, std::nullopt);
 }
 
-TEST(frmFrameName, cancel_leaves_the_set_without_a_name)
+TEST(frmFrameName, cancel_gives_none)
 {
     naming_a_set session;
     session.window.txtName.set_text("new");
     session.window.cmdCancel.click();
     EXPECT_FALSE(session.window.loaded());
-    EXPECT_EQ(session.all.custom.edit_frame_name, "_named_.not");
+    EXPECT_EQ(session.window.result, std::nullopt);
 }

@@ -167,6 +167,7 @@ TEST(frmPhotoList, done_makes_the_list_the_one_to_read)
     session.window.cmdDone.click();
     EXPECT_EQ(session.main.txtPhotos.tag, session.main.working_list_path);
     EXPECT_EQ(session.main.cmdPhotos.tag, "7");
+    EXPECT_EQ(session.window.result, 7);
     EXPECT_FALSE(session.window.loaded());
 }
 
@@ -177,6 +178,7 @@ TEST(frmPhotoList, done_without_photos_closes_and_touches_nothing)
     session.have_selected(0);
     session.window.cmdDone.click();
     EXPECT_EQ(session.main.txtPhotos.tag, "before");
+    EXPECT_EQ(session.window.result, 0);
     EXPECT_FALSE(session.window.loaded());
 }
 
@@ -189,7 +191,7 @@ TEST(frmPhotoList, cancel_and_the_close_box_tell_the_choice_so)
             session.window.request_close();
         else
             session.window.cmdCancel.click();
-        EXPECT_TRUE(session.all.select_photos.cancelled);
+        EXPECT_EQ(session.window.result, std::nullopt);
         EXPECT_FALSE(session.window.loaded());
     }
 }

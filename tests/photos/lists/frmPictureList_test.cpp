@@ -82,7 +82,8 @@ TEST(frmPictureList, ok_and_a_double_click_choose_a_list)
             session.window.cmdDone.click();
         else
             session.window.lstPictures.double_click(session.window.lstPictures.list_index());
-        EXPECT_EQ(session.main.txtPhotos.tag, session.folder.at("data/piclists/Sea.pls"));
+        EXPECT_EQ(session.window.result, session.folder.at("data/piclists/Sea.pls"));
+        EXPECT_EQ(session.main.txtPhotos.tag, session.window.result);
         EXPECT_FALSE(session.window.loaded());
     }
 }
@@ -97,6 +98,7 @@ TEST(frmPictureList, cancel_and_the_close_box_choose_none)
             session.window.cmdDelete.click();
         else
             session.window.request_close();
+        EXPECT_EQ(session.window.result, std::nullopt);
         EXPECT_EQ(session.main.txtPhotos.tag, "");
         EXPECT_FALSE(session.window.loaded());
     }

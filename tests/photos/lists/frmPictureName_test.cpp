@@ -41,13 +41,14 @@ TEST(frmPictureName, starts_empty_each_time)
     expect_states(session.window, "cmdOk-");
 }
 
-TEST(frmPictureName, gives_the_path_in_both_tags)
+TEST(frmPictureName, gives_the_path_and_keeps_it_in_both_tags)
 {
     naming session;
     const std::string path =
         session.folder.at("data/piclists") + "/  M\xC3\xBCller's \"best\" \xF0\x9F\x8C\x8A.pls";
     EXPECT_EQ(session.given("  M\xC3\xBCller's \"best\" \xF0\x9F\x8C\x8A"), path);
     EXPECT_EQ(session.main.txtPhotos.tag, path);
+    EXPECT_EQ(session.window.result, path);
 }
 
 TEST(frmPictureName, a_name_that_can_t_be_a_file_is_told_and_stays)
@@ -80,6 +81,7 @@ TEST(frmPictureName, cancel_and_the_close_box_leave_both_tags)
     session.window.txtName.set_text("x");
     session.window.cmdCancel.click();
     EXPECT_FALSE(session.window.loaded());
+    EXPECT_EQ(session.window.result, std::nullopt);
     EXPECT_EQ(session.main.cmdPhotos.tag, "3");
     EXPECT_EQ(session.main.txtPhotos.tag, "before");
     session.window.load();

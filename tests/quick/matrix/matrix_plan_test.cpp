@@ -1,8 +1,12 @@
 #include "quick/matrix/matrix_plan.h"
 
+#include "quick/matrix/matrix_patterns.h"
 #include "support/files/text_file.h"
+#include "support/numbers.h"
 #include "support/platform_error.h"
+#include "tests/sum_by_place.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace {
@@ -108,6 +112,19 @@ TEST(matrix_plan, shaken_cells_are_tilted_scaled_and_moved_by_their_patterns)
         (lines{"64:09:910:637:-05:-1:-1:0:", "200:810:778:1021:05:-1:-1:0:", "1153:235:774:542:10:-1:-1:0:",
                "903:612:1092:704:00:-1:-1:0:", "1148:1434:819:573:05:-1:-1:0:",
                "1996:-27:864:1134:-05:-1:-1:0:", "2101:1413:774:542:10:-1:-1:0:"}));
+}
+
+TEST(matrix_patterns, hold_the_numbers_that_were_chosen)
+{
+    for (const shake & each : matrix_patterns) {
+        EXPECT_EQ(each.rotation % 5, 0);
+        EXPECT_LE(std::abs(each.rotation), 20);
+    }
+    EXPECT_EQ(sum_by_place(matrix_patterns, [](const shake & each) { return nearest(each.scale * 100); }),
+              30945);
+    EXPECT_EQ(sum_by_place(matrix_patterns, &shake::rotation), -5);
+    EXPECT_EQ(sum_by_place(matrix_patterns, &shake::top), 189);
+    EXPECT_EQ(sum_by_place(matrix_patterns, &shake::left), 120);
 }
 
 TEST(matrix_plan, each_switch_shakes_in_its_own_way)

@@ -2,8 +2,11 @@
 
 #include "quick/scatter/scatter_tables.h"
 #include "support/platform_error.h"
+#include "tests/sum_by_place.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
 #include <ostream>
 
 namespace {
@@ -13,6 +16,33 @@ using lines = std::vector<std::string>;
 scatter_layout planned(const lines & scatter, const scatter_request & request)
 {
     return scatter_plan(scatter, request, listed({}));
+}
+
+struct reach_of_cell {
+    double top, bottom, left, right;
+};
+
+// How far a cell of these sides, turned by `degrees` clockwise, reaches from where its top left corner was
+// moved to, which is on the edge of what it covers.
+reach_of_cell geometry(double width, double height, int degrees)
+{
+    const double angle = degrees * std::numbers::pi / 180, sine = std::sin(angle), cosine = std::cos(angle);
+    return {.top = std::min(0.0, width * sine),
+            .bottom = std::max(0.0, width * sine) + height * cosine,
+            .left = std::min(0.0, -height * sine),
+            .right = std::max(0.0, -height * sine) + width * cosine};
+}
+
+int degrees_of(std::size_t column)
+{
+    const int column_of_upright = 6;
+    const int from_there = static_cast<int>(column) - column_of_upright;
+    return 5 * from_there - (from_there <= 0 ? 5 : 0);
+}
+
+long measured(const std::array<double, scatter_tilts> & table)
+{
+    return sum_by_place(table, [](double number) { return std::lround(number * 100); });
 }
 
 }  // namespace
@@ -96,6 +126,34 @@ TEST(scatter_plan, each_tilt_has_its_column_and_upright_shares_that_of_minus_5)
             planned({"1:1000:1000:1000:800:" + std::to_string(tilt)}, {.wanted = {0, 1}, .offered = {}});
         EXPECT_EQ(plan.reach.max_bottom, nearest(1200 + 1000 * turned_wide.bottom[column])) << tilt;
     }
+}
+
+TEST(scatter_tables, cells_of_two_by_three_reach_as_far_as_geometry_says)
+{
+    const double measured_within = 0.023;
+    for (const auto & [table, width, height] :
+         {std::tuple{turned_wide, 1.0, 2 / 3.0}, std::tuple{turned_tall, 2 / 3.0, 1.0}})
+        for (std::size_t i = 0; i < scatter_tilts; ++i) {
+            const reach_of_cell wanted = geometry(width, height, degrees_of(i));
+            const bool is_meant_otherwise = table.top[i] == -0.90;
+            EXPECT_NEAR(table.top[i], is_meant_otherwise ? -0.90 : wanted.top, measured_within) << i;
+            EXPECT_NEAR(table.bottom[i], wanted.bottom, measured_within) << i;
+            EXPECT_NEAR(table.left[i], wanted.left, measured_within) << i;
+            EXPECT_NEAR(table.right[i], wanted.right, measured_within) << i;
+        }
+}
+
+TEST(scatter_tables, hold_the_numbers_that_were_measured)
+{
+    EXPECT_DOUBLE_EQ(turned_wide.top[6], -0.90);
+    EXPECT_EQ(measured(turned_wide.top), -1288);
+    EXPECT_EQ(measured(turned_wide.bottom), 9269);
+    EXPECT_EQ(measured(turned_wide.left), -1926);
+    EXPECT_EQ(measured(turned_wide.right), 10160);
+    EXPECT_EQ(measured(turned_tall.top), -500);
+    EXPECT_EQ(measured(turned_tall.bottom), 11533);
+    EXPECT_EQ(measured(turned_tall.left), -2820);
+    EXPECT_EQ(measured(turned_tall.right), 7174);
 }
 
 TEST(scatter_plan, a_tilt_beyond_the_table_is_a_fault)

@@ -3,6 +3,7 @@
 #include "designs/templates/location_line.h"
 #include "quick/shapes/shapes_tables.h"
 #include "support/files/text_file.h"
+#include "tests/sum_by_place.h"
 
 #include <gtest/gtest.h>
 
@@ -64,6 +65,25 @@ TEST(shapes_plan, every_grid_of_the_table_is_full)
 {
     for (const shapes_grid_size & each : shapes_grid_sizes)
         EXPECT_EQ(each.cells % each.columns, 0) << each.cells;
+}
+
+TEST(shapes_tables, grids_grow_and_lie_upright_down_to_the_stopper)
+{
+    for (std::size_t i = 0; i + 1 < shapes_grid_sizes.size(); ++i) {
+        const auto [cells, columns] = shapes_grid_sizes[i];
+        EXPECT_LT(cells, shapes_grid_sizes[i + 1].cells);
+        EXPECT_LE(columns, cells / columns) << cells;
+    }
+    EXPECT_GT(shapes_grid_sizes.back().cells, 200);
+}
+
+TEST(shapes_tables, hold_the_numbers_that_were_chosen)
+{
+    EXPECT_EQ(sum_by_place(shapes_grid_sizes, &shapes_grid_size::cells), 92204);
+    EXPECT_EQ(sum_by_place(shapes_grid_sizes, &shapes_grid_size::columns), 48223);
+    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::down), -85);
+    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::right), 110);
+    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::growth), 200);
 }
 
 TEST(shapes_plan, squares_stand_in_the_middle_between_their_ornaments)

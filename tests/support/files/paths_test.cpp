@@ -2,28 +2,13 @@
 
 #include "support/files/copies.h"
 #include "support/files/text_file.h"
-#include "support/platform_error.h"
+#include "tests/raised_by.h"
 #include "tests/temporary_folder.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-
-namespace {
-
-template <typename Step>
-int raised_by(Step step)
-{
-    try {
-        step();
-    } catch (const platform_error & error) {
-        return code(error);
-    }
-    return 0;
-}
-
-}  // namespace
 
 TEST(paths, are_joined_with_one_separator)
 {

@@ -4,11 +4,7 @@ namespace {
 
 /// The size window, open over the image window.
 struct size_test : testing::Test {
-    size_test()
-    {
-        session.all.image.save_size = 3000;
-        window.load();
-    }
+    size_test() { window.load(); }
     void choose_custom(const std::string & number)
     {
         window.optCustom.select();
@@ -17,7 +13,7 @@ struct size_test : testing::Test {
     }
     opened_session session;
     frmSize & window = session.all.size;
-    int16 & result = session.all.image.save_size;
+    std::optional<int16> & result = window.result;
 };
 
 }  // namespace
@@ -43,6 +39,7 @@ TEST_F(size_test, speaks_of_a_square_poster_but_means_3000_all_the_same)
     EXPECT_EQ(window.optFull.caption(), "Full size - 2000px * 2000px   (for printing up to 20 x 20 inches)");
     window.optWeb.select();
     window.optFull.select();
+    window.cmdOk.click();
     EXPECT_EQ(result, 3000);
 }
 
@@ -94,20 +91,20 @@ TEST(frmSize, accepts_from_50_to_12000)
         session.all.size.optCustom.select();
         session.all.size.txtSize.set_text(each.typed);
         session.all.size.cmdOk.click();
-        EXPECT_EQ(session.all.image.save_size, each.size) << each.typed;
+        EXPECT_EQ(session.all.size.result, each.size) << each.typed;
         EXPECT_FALSE(session.all.size.loaded());
     }
 }
 
-TEST_F(size_test, every_way_of_cancelling_gives_0)
+TEST_F(size_test, every_way_of_cancelling_gives_none)
 {
+    window.optWeb.select();
     window.cmdCancel.click();
-    EXPECT_EQ(result, 0);
+    EXPECT_EQ(result, std::nullopt);
     EXPECT_FALSE(window.loaded());
-    result = 3000;
     window.load();
     window.request_close();
-    EXPECT_EQ(result, 0);
+    EXPECT_EQ(result, std::nullopt);
     EXPECT_FALSE(window.loaded());
 }
 
@@ -117,5 +114,6 @@ TEST_F(size_test, opens_afresh_each_time)
     window.load();
     expect_states(window, "optFull1 optCustom0 lblSize_ txtSize_");
     EXPECT_EQ(window.txtSize.text(), "");
+    window.cmdOk.click();
     EXPECT_EQ(result, 3000);
 }

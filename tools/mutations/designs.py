@@ -1,0 +1,32 @@
+"""The catalogue, its templates and its packages."""
+from .row import Row
+
+ROWS = [
+    Row("designs/templates/location_order.cpp", "whole(drawn * steps + 1) % steps", "whole(drawn * steps) % steps",
+        "the step that locations are mixed by is drawn one too low"),
+    Row("designs/templates/location_order.cpp", "other = limit - step + rounds;", "other = limit - step;",
+        "each turn of the mixing walk begins where the one before did"),
+    Row("designs/templates/location_order.cpp", "scratch[(first + i) % table.count]",
+        "scratch[(first + i + 1) % table.count]",
+        "dealt locations come back from the second on"),
+    Row("designs/templates/location_order.cpp", "nearest(drawn * last + 1) % last", "nearest(drawn * last + 1) % count",
+        "a deal may begin with the last location"),
+    Row("designs/templates/bent_location.cpp", "edge - (place.top + place.height)", "edge - place.top",
+        "a turned photo lies its own height too far right"),
+    Row("designs/templates/bent_location.cpp", "nearest16(place.height * by.upright)", "nearest16(place.height * by.level)",
+        "a stretched photo takes its height from the width's stretch"),
+    Row("designs/templates/template_reader.cpp", 'main.work_style == "Fill" ? 2 : 1', "1",
+        "the counts of a grid are turned as if they were a place"),
+    Row("designs/browser/browser_page.cpp", "(more_pages ? 2 : 1) * designs_on_page",
+        "(more_pages ? 1 : 2) * designs_on_page",
+        "the page before is the same page again, or the one before that"),
+    Row("designs/browser/description.cpp", "taken + line.size() > longest_description",
+        "taken + line.size() >= longest_description", "a description of just the longest length is cut"),
+    Row("designs/catalogue/catalogue_lines.cpp", "number > end_of_supplied && line.starts_with(key)",
+        "number >= end_of_supplied && line.starts_with(key)", "a supplied design counts as the user's own"),
+    Row("designs/catalogue/saved_design.cpp", "    forget_last_flurn(main);\n}", "}",
+        "one layout can be saved as two designs"),
+    Row("designs/package/package_rules.cpp", "++limit.count == limit.most + 1", "++limit.count == limit.most",
+        "a package of just as many commands as are allowed is refused"),
+    Row("designs/templates/bent_location.cpp", "0.0174;", "0.0175;", "the radians of a degree, in rounder figures"),
+]

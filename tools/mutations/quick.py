@@ -1,0 +1,30 @@
+"""The generators of the quick styles and the tables they read."""
+from .row import Row
+
+ROWS = [
+    Row("quick/scatter/scatter_tables.h", "-0.58, -0.50, -0.42, -0.34,", "-0.58, -0.50, -0.42, -0.35,",
+        "one number of how far cells turned wide reach up"),
+    Row("quick/scatter/scatter_tables.h", "0.81, 0.86, 0.91, 0.93,", "0.81, 0.86, 0.92, 0.93,",
+        "one number of how far cells turned tall reach down"),
+    Row("quick/scatter/scatter_tables.h", "37, 35, 33, 31, 29,", "37, 35, 33, 32, 29,",
+        "one number of the most slots along the poster"),
+    Row("quick/scatter/scatter_tables.h", "42, 40, 41, 39, 40, 38,", "42, 40, 41, 38, 40, 38,",
+        "one number of the most slots across the poster"),
+    Row("quick/shapes/shapes_tables.h", "{66, 6},", "{66, 11},", "one grid of shapes has other columns"),
+    Row("quick/shapes/shapes_tables.h", "{5, -10, 5},", "{5, 10, 5},", "one cell of a mixed grid lies to the other side"),
+    Row("quick/shapes/shapes_plan.cpp", "mix = mix == last_mix ? 1 : mix + 1;", "mix = mix == last_mix ? 0 : mix + 1;",
+        "the walk through the mixes comes back to the first"),
+    Row("quick/scatter/scatter_plan.cpp", "nearest16(place.left - quarter)", "nearest16(place.left + quarter)",
+        "a turned cell moves to the wrong side"),
+    Row("quick/scatter/scatter_match.cpp", "if (along > cross)", "if (along >= cross)",
+        "as many slots along as across are limited by the other table"),
+    Row("quick/blank_run.cpp", "run.last == run.length - 1 && drawn == 0", "run.last == run.length && drawn == 0",
+        "two holes may stand side by side"),
+    Row("quick/block/block_match.cpp", "room >= counts.portrait : room > counts.portrait",
+        "room >= counts.portrait : room >= counts.portrait", "an upright block is filled to the last place"),
+    Row("quick/quick_orientation.cpp", "    if (shape != poster_shape::square)\n        main.bg_portrait",
+        "    main.bg_portrait",
+        "a square poster has a background drawn for landscape ones"),
+    Row("quick/matrix/matrix_patterns.h", "{1.2, 0, 5, 6},", "{1.2, 0, 5, 5},",
+        "one shift of the patterns of a quick matrix"),
+]
