@@ -143,9 +143,9 @@ void read_upcoming(frmMain & main, const grid_walk & walk)
     }
 }
 
-bool is_last(const grid_walk & walk, grid_position at, cell_span span)
+bool is_last(const grid_walk & walk, grid_position at)
 {
-    return row_ends(walk.layer, at.column + columns_of(span), walk.limits) &&
+    return row_ends(walk.layer, at.column + columns_of(at.span), walk.limits) &&
            grid_ends(walk.layer, at.row + 1, walk.limits);
 }
 
@@ -155,11 +155,11 @@ void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo ph
                       .rotation = by.rotation,
                       .worn = worn_in_grid(main, main.design_locations[1], by.rotation)};
     if (main.chkCaption.ticked()) {
-        place.area = upright_area(walk.layer, at, photo.span);
+        place.area = upright_area(walk.layer, at);
         lay_card(main, photo.image, place);
         return;
     }
-    place.area = photo_area(walk.layer, at, photo.span, by);
+    place.area = photo_area(walk.layer, at, by);
     lay_photo(main, std::move(photo.image), place);
     if (walk.saved && by.rotation != 0)
         walk.saved->write_line(
@@ -186,17 +186,17 @@ cell_span put_photo(frmMain & main, grid_walk & walk, grid_position at, row_lean
         shake_table.at(static_cast<std::size_t>(main.shake_start + walk.cell) % shake_table.size());
     for (;;) {
         cell_photo photo = next_photo(main, walk, at.column);
-        const cell_span span = photo.span;
-        if (photo.image && !is_last(walk, at, span))
+        at.span = photo.span;
+        if (photo.image && !is_last(walk, at))
             read_upcoming(main, walk);
         row_lean after = lean;
         const shaken cell =
-            shaken_cell(walk.layer, at, span, by,
+            shaken_cell(walk.layer, at, by,
                         {.resize = main.collage.matrix_resize, .rotate = main.collage.matrix_rotate}, after);
         main.design_locations[1].rotation = narrow(cell.rotation);
         if (!photo.image || is_drawn(main, walk, at, std::move(photo), cell)) {
             lean = after;
-            return span;
+            return at.span;
         }
     }
 }

@@ -40,13 +40,13 @@ std::vector<sample_piece> grid_pieces(const matrix_choices & choices, const grid
         row_lean lean = row_lean::none;
         int photo = row;  // so that the double cells don't stand in columns
         for (int column = 0; column < layer.columns; ++column, ++photo) {
-            const grid_position at{.row = row, .column = column};
             const bool lies = both && photo % photos_to_a_double == 1 && has_right_neighbour(layer, column);
-            const cell_span span = lies ? cell_span::twice : cell_span::single;
+            const grid_position at{
+                .row = row, .column = column, .span = lies ? cell_span::twice : cell_span::single};
             const shake & by = shake_table.at(pieces.size() % shake_table.size());
             const shaken cell =
-                shaken_cell(layer, at, span, by, {.resize = choices.resize, .rotate = choices.rotate}, lean);
-            pieces.push_back({.area = photo_area(layer, at, span, cell), .rotation = cell.rotation});
+                shaken_cell(layer, at, by, {.resize = choices.resize, .rotate = choices.rotate}, lean);
+            pieces.push_back({.area = photo_area(layer, at, cell), .rotation = cell.rotation});
             column += lies ? 1 : 0;
         }
     }

@@ -53,11 +53,11 @@ bool is_outer(const grid & layer, grid_position at)
            (layer.rows != 0 && at.row + 1 > layer.rows);
 }
 
-double scale_inside(const grid & layer, grid_position at, cell_span span, double scale)
+double scale_inside(const grid & layer, grid_position at, double scale)
 {
     if (scale <= 1)
         return scale;
-    if (is_outer(layer, at) || (span == cell_span::twice && at.column + 2 == layer.columns))
+    if (is_outer(layer, at) || (at.span == cell_span::twice && at.column + 2 == layer.columns))
         return 1;
     return scale;
 }
@@ -101,8 +101,8 @@ bool has_right_neighbour(const grid & layer, int column)
     return column < layer.columns - 1;
 }
 
-shaken shaken_cell(const grid & layer, grid_position at, cell_span span, const shake & by,
-                   shake_switches allowed, row_lean & lean)
+shaken shaken_cell(const grid & layer, grid_position at, const shake & by, shake_switches allowed,
+                   row_lean & lean)
 {
     shaken cell{.scale = by.scale, .rotation = leaning(layer, at.column, by.rotation, lean)};
     const double fiftieth = std::max(layer.cell_height, layer.cell_width) / 50.0;
@@ -115,31 +115,31 @@ shaken shaken_cell(const grid & layer, grid_position at, cell_span span, const s
     }
     if (!allowed.rotate)
         cell.rotation = 0;
-    cell.scale = scale_inside(layer, at, span, cell.scale);
+    cell.scale = scale_inside(layer, at, cell.scale);
     return cell;
 }
 
-rectangle upright_area(const grid & layer, grid_position at, cell_span span)
+rectangle upright_area(const grid & layer, grid_position at)
 {
     const int doubled = 2 * layer.cell_width + layer.column_gap;
     return {.left = left_of(layer, at.column),
             .top = top_of(layer, at.row),
-            .width = span == cell_span::twice ? narrow(doubled) : layer.cell_width,
+            .width = at.span == cell_span::twice ? narrow(doubled) : layer.cell_width,
             .height = layer.cell_height};
 }
 
-rectangle photo_area(const grid & layer, grid_position at, cell_span span, const shaken & by)
+rectangle photo_area(const grid & layer, grid_position at, const shaken & by)
 {
-    rectangle area = upright_area(layer, at, span);
+    rectangle area = upright_area(layer, at);
     area.height = nearest16(layer.cell_height * by.scale);
-    if (span == cell_span::single)
+    if (at.span == cell_span::single)
         area.width = nearest16(layer.cell_width * by.scale);
     else if (by.rotation == 0)
         area.width = nearest16(2 * layer.cell_width * by.scale + layer.column_gap);
     else
         area.width = nearest16((2 * layer.cell_width + layer.column_gap) * by.scale);
     // An upright double cell stays where it is: its right part would cover the neighbour.
-    if (by.rotation != 0 || span == cell_span::single) {
+    if (by.rotation != 0 || at.span == cell_span::single) {
         area.top = narrow(area.top + by.shift_top);
         area.left = narrow(area.left + by.shift_left);
     }

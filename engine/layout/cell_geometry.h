@@ -22,8 +22,13 @@ struct grid_limits {
     int right = 0, bottom = 0;
 };
 
+/// A photo that lies across may take two cells side by side.
+enum class cell_span { single, twice };
+
+/// A cell, or one with its right neighbour.
 struct grid_position {
     int row = 0, column = 0;
+    cell_span span = cell_span::single;
 };
 
 /// True when no cell follows at this column of a row, and no row at this row of the grid.
@@ -35,9 +40,6 @@ bool is_endless(const grid & layer);
 
 /// True when a photo of that size lies as the cells do. A square one fits both.
 bool fits_cell(const grid & layer, int photo_height, int photo_width);
-
-/// A photo that lies across may take two cells side by side.
-enum class cell_span { single, twice };
 
 /// True when a second cell stands right of this one. A grid without a count of columns has none.
 bool has_right_neighbour(const grid & layer, int column);
@@ -58,14 +60,14 @@ struct shaken {
 };
 
 /// Shakes a cell by a row of the table. `lean` is `none` at the start of each grid row.
-shaken shaken_cell(const grid & layer, grid_position at, cell_span span, const shake & by,
-                   shake_switches allowed, row_lean & lean);
+shaken shaken_cell(const grid & layer, grid_position at, const shake & by, shake_switches allowed,
+                   row_lean & lean);
 
 /// The cell as it stands, unshaken: what a captioned card fills.
-rectangle upright_area(const grid & layer, grid_position at, cell_span span);
+rectangle upright_area(const grid & layer, grid_position at);
 
 /// The area that the photo is fitted to.
-rectangle photo_area(const grid & layer, grid_position at, cell_span span, const shaken & by);
+rectangle photo_area(const grid & layer, grid_position at, const shaken & by);
 
 /// The photo as a location of a template, for designs made of a shaken grid; `margin` is the bleed.
 location location_of_cell(const rectangle & area, int rotation, int margin);

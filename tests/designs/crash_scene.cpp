@@ -79,6 +79,17 @@ bool is_kept_between_runs(const std::string & name)
     return !name.starts_with("tmp") && !name.ends_with(".bbb");
 }
 
+// Those of the sections that the catalogue has.
+std::vector<int> saved_numbers(const text_lines & catalogue)
+{
+    constexpr std::string_view head = "[Design";
+    std::vector<int> numbers;
+    for (const std::string & line : catalogue)
+        if (line.starts_with(head))
+            numbers.push_back(std::stoi(line.substr(head.size())));
+    return numbers;
+}
+
 bool held_there(const folder_image & image, const std::string & name, const std::string & bytes)
 {
     const auto found = image.find(name);
@@ -143,7 +154,7 @@ void crash_scene::expect_whole(const folder_image & after)
     for (const auto & [name, bytes] : before)
         EXPECT_TRUE(now.contains(name) || !after.contains(name) || !is_kept_between_runs(name)) << name;
     const text_lines catalogue = lines_of_file(session.at("designs.ini"));
-    for (int number = 500; number < 999; ++number)
+    for (const int number : saved_numbers(catalogue))
         for (const std::string & file : files_of_design(catalogue, number))
             EXPECT_TRUE(now.contains(file)) << file;
     EXPECT_TRUE(!now.contains("tmp/unfinished") && !now.contains("designs.new"));

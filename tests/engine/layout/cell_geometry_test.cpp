@@ -21,7 +21,7 @@ constexpr shake tilted_left{.scale = 0.9, .rotation = -5, .top = 3, .left = -4};
 shaken inner(const shake & by, shake_switches allowed)
 {
     row_lean lean = row_lean::none;
-    return shaken_cell(three_by_four, {.row = 1, .column = 1}, cell_span::single, by, allowed, lean);
+    return shaken_cell(three_by_four, {.row = 1, .column = 1}, by, allowed, lean);
 }
 
 // The rotations of a row whose cells are all shaken alike.
@@ -32,7 +32,7 @@ std::vector<int> rotations_of_row(int columns, const std::vector<int> & rotation
     row_lean lean = row_lean::none;
     std::vector<int> result;
     for (std::size_t c = 0; c < rotations.size(); ++c)
-        result.push_back(shaken_cell(layer, {.row = 1, .column = static_cast<int>(c)}, cell_span::single,
+        result.push_back(shaken_cell(layer, {.row = 1, .column = static_cast<int>(c)},
                                      {.rotation = rotations[c]}, all, lean)
                              .rotation);
     return result;
@@ -150,7 +150,7 @@ TEST(cell_geometry, big_photos_stay_inside_on_the_outer_cells_but_not_on_the_las
     const shake big{.scale = 1.3};
     const auto scale_at = [&](int row, int column, cell_span span) {
         row_lean lean = row_lean::none;
-        return shaken_cell(three_by_four, {.row = row, .column = column}, span, big, all, lean).scale;
+        return shaken_cell(three_by_four, {.row = row, .column = column, .span = span}, big, all, lean).scale;
     };
     EXPECT_DOUBLE_EQ(scale_at(0, 1, cell_span::single), 1);
     EXPECT_DOUBLE_EQ(scale_at(1, 0, cell_span::single), 1);
@@ -163,7 +163,7 @@ TEST(cell_geometry, big_photos_stay_inside_on_the_outer_cells_but_not_on_the_las
 
 TEST(cell_geometry, an_upright_single_photo_is_scaled_and_shifted)
 {
-    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 2}, cell_span::single,
+    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 2},
                                       {.scale = 0.85, .shift_top = 9, .shift_left = -12});
     // 165 and 234 are the corner of the cell; 127.5 goes to the even 128
     EXPECT_EQ(area, (rectangle{.left = 222, .top = 174, .width = 85, .height = 128}));
@@ -171,14 +171,14 @@ TEST(cell_geometry, an_upright_single_photo_is_scaled_and_shifted)
 
 TEST(cell_geometry, an_upright_double_photo_is_scaled_without_its_gap_and_not_shifted)
 {
-    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 1}, cell_span::twice,
+    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 1, .span = cell_span::twice},
                                       {.scale = 0.85, .shift_top = 9, .shift_left = -12});
     EXPECT_EQ(area, (rectangle{.left = 127, .top = 165, .width = 177, .height = 128}));
 }
 
 TEST(cell_geometry, a_tilted_double_photo_is_summed_then_scaled_then_rounded)
 {
-    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 1}, cell_span::twice,
+    const rectangle area = photo_area(three_by_four, {.row = 1, .column = 1, .span = cell_span::twice},
                                       {.scale = 0.9, .rotation = 5, .shift_top = 9, .shift_left = -12});
     // 207 x 0.9 = 186.3
     EXPECT_EQ(area, (rectangle{.left = 115, .top = 174, .width = 186, .height = 135}));
@@ -186,16 +186,16 @@ TEST(cell_geometry, a_tilted_double_photo_is_summed_then_scaled_then_rounded)
 
 TEST(cell_geometry, a_card_fills_its_cell_or_both)
 {
-    EXPECT_EQ(upright_area(three_by_four, {.row = 2, .column = 1}, cell_span::single),
+    EXPECT_EQ(upright_area(three_by_four, {.row = 2, .column = 1}),
               (rectangle{.left = 127, .top = 320, .width = 100, .height = 150}));
-    EXPECT_EQ(upright_area(three_by_four, {.row = 2, .column = 1}, cell_span::twice),
+    EXPECT_EQ(upright_area(three_by_four, {.row = 2, .column = 1, .span = cell_span::twice}),
               (rectangle{.left = 127, .top = 320, .width = 207, .height = 150}));
 }
 
 TEST(cell_geometry, a_cell_beyond_16_bits_is_an_overflow)
 {
     try {
-        upright_area({.cell_height = 20000, .cell_width = 10}, {.row = 2, .column = 0}, cell_span::single);
+        upright_area({.cell_height = 20000, .cell_width = 10}, {.row = 2, .column = 0});
         FAIL();
     } catch (const platform_error & error) {
         EXPECT_EQ(code(error), 6);
