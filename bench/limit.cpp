@@ -9,7 +9,7 @@
 // decoding and encoding.
 
 #include "bench/big_photos.h"
-#include "engine/photo/scaled_jpeg.h"
+#include "photos/scaled_jpeg.h"
 #include "support/platform_error.h"
 
 #include <algorithm>

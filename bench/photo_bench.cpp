@@ -2,8 +2,8 @@
 // what it takes by rows.
 
 #include "bench/big_photos.h"
-#include "engine/photo/scaled_jpeg.h"
 #include "engine/pixels/resize_image.h"
+#include "photos/scaled_jpeg.h"
 #include "tests/pictures.h"
 
 #include <benchmark/benchmark.h>

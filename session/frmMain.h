@@ -10,6 +10,7 @@
 #include "engine/run_state.h"
 #include "photos/left_out_photos.h"
 #include "photos/lists/photo_table.h"
+#include "photos/thumbnails/thumbnails_ahead.h"
 #include "quick/quick_state.h"
 #include "session/collage.h"
 #include "support/desktop.h"
@@ -215,6 +216,7 @@ struct frmMain : form {
     // The photos.
     photo_table table;
     left_out_photos left_out;
+    thumbnails_ahead thumbnails;
     int16 selected_count = 0;           ///< photos written to the working list so far
     std::string working_list_path;      ///< the list that a selection is gathered in
     bool photo_list_edit_mode = false;  ///< saved lists are managed, not chosen from

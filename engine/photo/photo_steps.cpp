@@ -1,9 +1,11 @@
 #include "engine/photo/photo_steps.h"
 
+#include "engine/pixels/covering_plan.h"
 #include "engine/pixels/resize_image.h"
 #include "session/frmMain.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
+#include "support/jpeg_rows.h"
 
 namespace {
 
@@ -24,13 +26,22 @@ auto done_where(bool is_small, frmMain & main, Step step)
 
 bitmap loaded(const std::string & path)
 {
-    return usable_jpeg_size(path) ? load_picture(picture_format::jpeg, path) : bitmap();
+    if (!usable_jpeg_size(path))
+        return {};
+    jpeg_memory memory;
+    std::optional<bitmap> image = read_jpeg(path, memory);
+    return image ? std::move(*image) : load_picture(picture_format::jpeg, path);
 }
 
 bitmap fitted(const bitmap & image, int width, int height)
 {
+    if (!image)
+        return {};
     try {
-        return resize_image(image, width, height);
+        const scaling_plan plan =
+            covering_plan({.width = image.width(), .height = image.height()}, width, height);
+        scaling_memory memory;
+        return is_possible(plan) ? scaled_by_rows(image, plan, memory) : resize_image(image, width, height);
     } catch (const platform_error & error) {
         if (error.number != error_number::overflow)
             throw;

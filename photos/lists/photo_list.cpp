@@ -187,8 +187,10 @@ void remove_photo(frmMain & main, int index)
 void count_photos(frmMain & main)
 {
     clear_thumbnail_places(main);
+    finish_thumbnails(main);
     orientation_counts counts;
     for (int index = 0; index <= main.table.last_photo;) {
+        begin_thumbnails(main, index);
         show_progress(main, index);
         if (!swapped_for_thumbnail(main, index))
             continue;
@@ -198,6 +200,7 @@ void count_photos(frmMain & main)
             leave_out(main, thumbnail);
         add_photo(counts, counted_orientation(size));
     }
+    finish_thumbnails(main);
     main.table.landscape_count = counts.landscape;
     main.table.portrait_count = counts.portrait;
     main.table.orientation_list = std::move(counts.list);

@@ -12,6 +12,13 @@
 /// photo doesn't exist. Where that place can't be written it is the photo itself.
 std::string chk_sample_thumb(frmMain & main, const std::string & photo);
 
+/// Begins to make thumbnails for the photos from `index` of the table on that have none, as many at once as
+/// there are cores, and returns at once. What comes of them chk_sample_thumb gives, when it is their turn.
+void begin_thumbnails(frmMain & main, int index);
+
+/// Waits for what was begun and forgets it. To be called before a walk through the table, and behind it.
+void finish_thumbnails(frmMain & main);
+
 /// Clears the places of the table's thumbnails of what killed programs left half written there. Raises
 /// nothing.
 void clear_thumbnail_places(const frmMain & main);

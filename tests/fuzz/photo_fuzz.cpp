@@ -1,5 +1,5 @@
-#include "engine/photo/scaled_jpeg.h"
 #include "engine/pixels/resize_image.h"
+#include "photos/scaled_jpeg.h"
 #include "tests/fuzz/fuzz_session.h"
 #include "tests/fuzz/fuzzed.h"
 

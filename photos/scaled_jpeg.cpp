@@ -1,4 +1,4 @@
-#include "engine/photo/scaled_jpeg.h"
+#include "photos/scaled_jpeg.h"
 
 #include "engine/pixels/covering_plan.h"
 #include "support/platform_error.h"

@@ -1,4 +1,4 @@
-#include "engine/photo/scaled_jpeg.h"
+#include "photos/scaled_jpeg.h"
 
 #include "engine/pixels/resize_image.h"
 #include "support/files/text_file.h"
