@@ -111,20 +111,11 @@ void look_at_start(collage_fixture & run, const std::function<void()> & look)
     EXPECT_EQ(run.desk.next_message(), "Flurning has been canceled.");
 }
 
-namespace {
-
-void expect_no_run(const run_state & run)
-{
-    EXPECT_FALSE(run.run_active);
-    EXPECT_FALSE(run.cancel_requested);
-    EXPECT_FALSE(run.canvas);
-}
-
-}  // namespace
-
 void expect_usable(const frmMain & main)
 {
-    expect_no_run(main.run);
+    EXPECT_FALSE(main.run.run_active);
+    EXPECT_FALSE(main.run.cancel_requested);
+    EXPECT_FALSE(main.run.canvas);
     EXPECT_FALSE(main.txtDoing.visible());
     EXPECT_TRUE(main.enabling.last);
     EXPECT_TRUE(main.frmOutput.enabled());
