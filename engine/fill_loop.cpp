@@ -13,6 +13,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -30,7 +31,7 @@ struct grid_walk {
 };
 
 struct cell_photo {
-    bitmap image;
+    run_photo photo;
     cell_span span = cell_span::single;
 };
 
@@ -94,33 +95,70 @@ void look_again_for_one_that_fits(frmMain & main, grid_walk & walk)
     walk.one_fitted = false;
 }
 
+// The place of a photo in the cell as it is drawn.
+photo_place drawn_place(const frmMain & main, const grid_walk & walk, grid_position at, const shaken & by)
+{
+    return {.area = main.chkCaption.ticked() ? upright_area(walk.layer, at) : photo_area(walk.layer, at, by),
+            .rotation = by.rotation,
+            .worn = worn_in_grid(main, main.design_locations[1], by.rotation)};
+}
+
+const shake & shake_of(const frmMain & main, int cell)
+{
+    return shake_table.at(static_cast<std::size_t>(main.shake_start + cell) % shake_table.size());
+}
+
+// A cell that is to be filled, and what its shaking depends on.
+struct cell_to_fill {
+    grid_position at;
+    int number = 0;
+    row_lean lean = row_lean::none;  // of its row so far
+};
+
+// The lean of the row follows.
+shaken shaken_in(const frmMain & main, const grid_walk & walk, cell_to_fill & cell)
+{
+    return shaken_cell(walk.layer, cell.at, shake_of(main, cell.number),
+                       {.resize = main.collage.matrix_resize, .rotate = main.collage.matrix_rotate},
+                       cell.lean);
+}
+
+place_of_photo fitted_to(const frmMain & main, const grid_walk & walk, cell_to_fill cell)
+{
+    const shaken by = shaken_in(main, walk, cell);
+    return [&main, at = drawn_place(main, walk, cell.at, by)](picture_size own) {
+        return fitted_size(main, at, own);
+    };
+}
+
 // The photo at hand as this cell would take it; empty for one that can't be read or doesn't fit.
-cell_photo taken_photo(frmMain & main, grid_walk & walk, int column)
+cell_photo taken_photo(frmMain & main, grid_walk & walk, cell_to_fill cell)
 {
     const std::string & path = main.table[walk.photo];
     const std::optional<picture_size> size = usable_jpeg_size(path);
     const bool matches =
         !main.chkMatch.ticked() || (size && fits_cell(walk.layer, size->height, size->width));
-    if (size && !matches && !(main.collage.matrix_both && has_right_neighbour(walk.layer, column)))
+    if (size && !matches && !(main.collage.matrix_both && has_right_neighbour(walk.layer, cell.at.column)))
         return {};
-    bitmap image = size ? load_photo(main, path) : bitmap();
-    if (!image) {
+    cell.at.span = matches ? cell_span::single : cell_span::twice;
+    run_photo photo = size ? load_photo(main, path, fitted_to(main, walk, cell)) : run_photo();
+    if (!photo) {
         leave_out(main, path);
         look_again_for_one_that_fits(main, walk);
         return {};
     }
     walk.one_fitted = walk.one_fitted || (matches && main.chkMatch.ticked());
-    return {.image = std::move(image), .span = matches ? cell_span::single : cell_span::twice};
+    return {.photo = std::move(photo), .span = cell.at.span};
 }
 
-// The photo for the cell at this column; empty when there is none at all. Those that lie the other way are
+// The photo for the cell; empty when there is none at all. Those that lie the other way are
 // told by their headers and not loaded.
-cell_photo next_photo(frmMain & main, grid_walk & walk, int column)
+cell_photo next_photo(frmMain & main, grid_walk & walk, const cell_to_fill & cell)
 {
     while (has_usable_photo(main)) {
-        cell_photo photo = is_left_out(main, walk.photo) ? cell_photo{} : taken_photo(main, walk, column);
-        if (photo.image)
-            return photo;
+        cell_photo taken = is_left_out(main, walk.photo) ? cell_photo{} : taken_photo(main, walk, cell);
+        if (taken.photo)
+            return taken;
         if (main.chkMatch.ticked())
             pass_over(main, walk);
         else
@@ -129,48 +167,68 @@ cell_photo next_photo(frmMain & main, grid_walk & walk, int column)
     return {};
 }
 
-// The photo that the cells behind this one will take, as far as can be told.
-void read_upcoming(frmMain & main, const grid_walk & walk)
+// Nothing for a photo that no cell of this layer takes.
+std::optional<cell_span> span_of(const frmMain & main, const grid_walk & walk, int photo, int column)
 {
-    const bool takes_any = !main.chkMatch.ticked() || main.collage.matrix_both;
-    for (int photo = walk.photo + 1; photo <= main.table.last_photo; ++photo) {
-        const picture_size size =
-            takes_any ? picture_size{} : usable_jpeg_size(main.table[photo]).value_or(picture_size{});
-        if (takes_any || fits_cell(walk.layer, size.height, size.width)) {
-            read_ahead(main, main.table[photo]);
-            return;
-        }
+    const std::optional<picture_size> size =
+        is_left_out(main, photo) ? std::nullopt : usable_jpeg_size(main.table[photo]);
+    if (!size)
+        return std::nullopt;
+    if (!main.chkMatch.ticked() || fits_cell(walk.layer, size->height, size->width))
+        return cell_span::single;
+    const bool takes_two = main.collage.matrix_both && has_right_neighbour(walk.layer, column);
+    return takes_two ? std::optional(cell_span::twice) : std::nullopt;
+}
+
+// On to the cell behind, in this row or the next.
+void step_on(const frmMain & main, const grid_walk & walk, cell_to_fill & cell)
+{
+    shaken_in(main, walk, cell);
+    ++cell.number;
+    cell.at.column += columns_of(cell.at.span);
+    if (row_ends(walk.layer, cell.at.column, walk.limits)) {
+        cell.at = {.row = cell.at.row + 1, .column = 0};
+        cell.lean = row_lean::none;
     }
 }
 
-bool is_last(const grid_walk & walk, grid_position at)
+// The photos that the cells behind this one will take, as far as can be told.
+void read_upcoming(frmMain & main, const grid_walk & walk, cell_to_fill cell)
 {
-    return row_ends(walk.layer, at.column + columns_of(at.span), walk.limits) &&
-           grid_ends(walk.layer, at.row + 1, walk.limits);
+    std::vector<wanted_photo> next;
+    step_on(main, walk, cell);
+    for (int photo = walk.photo + 1;
+         photo <= main.table.last_photo && !grid_ends(walk.layer, cell.at.row, walk.limits) &&
+         std::ssize(next) < main.run.ahead.at_once;
+         ++photo)
+        if (const std::optional<cell_span> span = span_of(main, walk, photo, cell.at.column)) {
+            cell.at.span = *span;
+            if (std::optional<wanted_photo> wanted =
+                    wanted_at(main.table[photo], fitted_to(main, walk, cell)))
+                next.push_back(std::move(*wanted));
+            step_on(main, walk, cell);
+        }
+    read_ahead(main, next);
 }
 
-void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo photo, const shaken & by)
+void draw_cell(frmMain & main, grid_walk & walk, grid_position at, cell_photo taken, const shaken & by)
 {
-    photo_place place{.area = {},
-                      .rotation = by.rotation,
-                      .worn = worn_in_grid(main, main.design_locations[1], by.rotation)};
+    const photo_place place = drawn_place(main, walk, at, by);
     if (main.chkCaption.ticked()) {
-        place.area = upright_area(walk.layer, at);
-        lay_card(main, photo.image, place);
+        lay_card(main, std::move(taken.photo), place);
         return;
     }
-    place.area = photo_area(walk.layer, at, by);
-    lay_photo(main, std::move(photo.image), place);
+    lay_photo(main, std::move(taken.photo), place);
     if (walk.saved && by.rotation != 0)
         walk.saved->write_line(
             location_text(location_of_cell(place.area, by.rotation, main.run.collage_margin), saved_digits));
 }
 
 // False for a photo that turns out too long for the cell: it is left out of the run.
-bool is_drawn(frmMain & main, grid_walk & walk, grid_position at, cell_photo photo, const shaken & by)
+bool is_drawn(frmMain & main, grid_walk & walk, grid_position at, cell_photo taken, const shaken & by)
 {
     try {
-        draw_cell(main, walk, at, std::move(photo), by);
+        draw_cell(main, walk, at, std::move(taken), by);
         return true;
     } catch (const photo_too_long &) {
         leave_out(main, main.table[walk.photo], photo_fault::too_long);
@@ -182,21 +240,17 @@ bool is_drawn(frmMain & main, grid_walk & walk, grid_position at, cell_photo pho
 // Puts the next photo that can be used into the cell, which stays empty without one; gives what it took.
 cell_span put_photo(frmMain & main, grid_walk & walk, grid_position at, row_lean & lean)
 {
-    const shake & by =
-        shake_table.at(static_cast<std::size_t>(main.shake_start + walk.cell) % shake_table.size());
     for (;;) {
-        cell_photo photo = next_photo(main, walk, at.column);
-        at.span = photo.span;
-        if (photo.image && !is_last(walk, at))
-            read_upcoming(main, walk);
-        row_lean after = lean;
-        const shaken cell =
-            shaken_cell(walk.layer, at, by,
-                        {.resize = main.collage.matrix_resize, .rotate = main.collage.matrix_rotate}, after);
-        main.design_locations[1].rotation = narrow(cell.rotation);
-        if (!photo.image || is_drawn(main, walk, at, std::move(photo), cell)) {
-            lean = after;
-            return at.span;
+        cell_to_fill cell{.at = at, .number = walk.cell, .lean = lean};
+        cell_photo taken = next_photo(main, walk, cell);
+        cell.at.span = taken.span;
+        if (taken.photo)
+            read_upcoming(main, walk, cell);
+        const shaken by = shaken_in(main, walk, cell);
+        main.design_locations[1].rotation = narrow(by.rotation);
+        if (!taken.photo || is_drawn(main, walk, cell.at, std::move(taken), by)) {
+            lean = cell.lean;
+            return cell.at.span;
         }
     }
 }

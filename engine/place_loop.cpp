@@ -10,12 +10,13 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace {
 
 // What a location is filled with.
 struct picked_picture {
-    bitmap image;
+    run_photo photo;
     bool found = false;
     bool moved_on = false;  // the next location takes the next photo
     int index = -1;         // in the table of photos; -1: a fixed picture
@@ -37,16 +38,31 @@ bool is_painted(const frmMain & main, const location & place)
     return is_shape(place) && place.spare != 0 && place.rotation == 0 && !main.chkCaption.ticked();
 }
 
-picked_picture picked(bitmap image, int index = -1)
+// The place as it is to be drawn. Only a shape has a mask and a colour.
+photo_place drawn_place(const frmMain & main, const location & place)
 {
-    const bool found = static_cast<bool>(image);
-    return {.image = std::move(image), .found = found, .index = index};
+    return {.area = {.left = place.left, .top = place.top, .width = place.width, .height = place.height},
+            .rotation = place.rotation,
+            .worn = worn_at(main, place, place.rotation),
+            .mask = place.file,
+            .shape_color = is_shape(place) ? place.spare : 0};
 }
 
-picked_picture fixed_picture(frmMain & main, const std::string & file)
+place_of_photo fitted_to(const frmMain & main, const location & place)
 {
-    const std::optional<std::string> path = fixed_picture_path(main, file);
-    return path ? picked(load_photo(main, *path)) : picked_picture{};
+    return [&main, at = drawn_place(main, place)](picture_size own) { return fitted_size(main, at, own); };
+}
+
+picked_picture picked(run_photo photo, int index = -1)
+{
+    const bool found = static_cast<bool>(photo);
+    return {.photo = std::move(photo), .found = found, .index = index};
+}
+
+picked_picture fixed_picture(frmMain & main, const location & place)
+{
+    const std::optional<std::string> path = fixed_picture_path(main, place.file);
+    return path ? picked(load_photo(main, *path, fitted_to(main, place))) : picked_picture{};
 }
 
 picked_picture photo_at(frmMain & main, const location & place, int index)
@@ -55,8 +71,8 @@ picked_picture photo_at(frmMain & main, const location & place, int index)
     // A painted shape needs a photo that could be loaded and nothing of its pixels.
     picked_picture found =
         is_painted(main, place)
-            ? picked_picture{.image = {}, .found = usable_jpeg_size(path).has_value(), .index = index}
-            : picked(load_photo(main, path), index);
+            ? picked_picture{.photo = {}, .found = usable_jpeg_size(path).has_value(), .index = index}
+            : picked(load_photo(main, path, fitted_to(main, place)), index);
     found.moved_on = true;
     return found;
 }
@@ -83,9 +99,10 @@ picked_picture next_photo(frmMain & main, const location & place, int & photo)
 
 picked_picture matching_photo(frmMain & main, const location & place, int & photo)
 {
-    matched_photo match = pick_matching(main, place.width, place.height);
-    if (match.image)
-        return picked(std::move(match.image), match.index);
+    matched_photo match =
+        pick_matching(main, {.width = place.width, .height = place.height}, fitted_to(main, place));
+    if (match.photo)
+        return picked(std::move(match.photo), match.index);
     main.run.match_active = false;
     photo = 0;
     return next_photo(main, place, photo);
@@ -94,47 +111,56 @@ picked_picture matching_photo(frmMain & main, const location & place, int & phot
 picked_picture picture_for(frmMain & main, const location & place, int & photo)
 {
     if (is_fixed(place))
-        return fixed_picture(main, place.file);
+        return fixed_picture(main, place);
     return main.run.match_active ? matching_photo(main, place, photo) : next_photo(main, place, photo);
 }
 
-// The photo that the locations from this one on will take first, as far as can be told.
-std::optional<int> upcoming_photo(frmMain & main, int from, int photo)
+// The locations from this one on that will take photos of the table, as many as are read at once.
+std::vector<const location *> taking_photos(const frmMain & main, int from)
 {
     const location_table & table = main.design_locations;
-    for (int i = from; i <= table.count; ++i) {
-        const location & place = table[i];
-        if (is_fixed(place) || is_painted(main, place))
-            continue;
-        return main.run.match_active ? photo_to_match(main, place.width, place.height) : photo;
+    std::vector<const location *> places;
+    for (int i = from; i <= table.count && std::ssize(places) < main.run.ahead.at_once; ++i)
+        if (!is_fixed(table[i]) && !is_painted(main, table[i]))
+            places.push_back(&table[i]);
+    return places;
+}
+
+// The photos that they will take, as far as can be told.
+std::vector<int> upcoming_photos(frmMain & main, const std::vector<const location *> & places, int photo)
+{
+    std::vector<int> photos;
+    if (main.run.match_active) {
+        std::vector<picture_size> sizes;
+        for (const location * place : places)
+            sizes.push_back({.width = place->width, .height = place->height});
+        return photos_to_match(main, sizes);
     }
-    return std::nullopt;
+    for (; photo <= main.table.last_photo && photos.size() < places.size(); ++photo)
+        if (!is_left_out(main, photo))
+            photos.push_back(photo);
+    return photos;
 }
 
 void read_upcoming(frmMain & main, int from, int photo)
 {
-    const std::optional<int> next = upcoming_photo(main, from, photo);
-    if (next && *next <= main.table.last_photo)
-        read_ahead(main, main.table[*next]);
-}
-
-// The place as it is to be drawn. Only a shape has a mask and a colour.
-photo_place drawn_place(const frmMain & main, const location & place)
-{
-    return {.area = {.left = place.left, .top = place.top, .width = place.width, .height = place.height},
-            .rotation = place.rotation,
-            .worn = worn_at(main, place, place.rotation),
-            .mask = place.file,
-            .shape_color = is_shape(place) ? place.spare : 0};
+    const std::vector<const location *> places = taking_photos(main, from);
+    const std::vector<int> photos = upcoming_photos(main, places, photo);
+    std::vector<wanted_photo> next;
+    for (std::size_t i = 0; i < photos.size(); ++i)
+        if (std::optional<wanted_photo> wanted =
+                wanted_at(main.table[photos[i]], fitted_to(main, *places[i])))
+            next.push_back(std::move(*wanted));
+    read_ahead(main, next);
 }
 
 void draw_place(frmMain & main, const location & place, picked_picture picked_one, int & photo)
 {
     const photo_place at = drawn_place(main, place);
     if (main.chkCaption.ticked())
-        lay_card(main, picked_one.image, at);
+        lay_card(main, std::move(picked_one.photo), at);
     else
-        lay_photo(main, std::move(picked_one.image), at);
+        lay_photo(main, std::move(picked_one.photo), at);
     if (is_painted(main, place) && picked_one.moved_on)
         --photo;
 }

@@ -70,6 +70,7 @@ enum class picture_format { bmp = 0, ico = 1, jpeg = 2, png = 13, tiff = 18, gif
 
 struct picture_size {
     int width = 0, height = 0;
+    bool operator==(const picture_size &) const = default;
 };
 
 /// Registers the callback that swallows the library's messages.

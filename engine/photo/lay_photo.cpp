@@ -34,10 +34,10 @@ int shape_column(const frmMain & main, const rectangle & place)
     return upright || main.lblDesign.caption() == "Lettering" ? place.left : place.left - place.width;
 }
 
-void lay_shape(frmMain & main, const bitmap & image, const photo_place & at, const rectangle & place)
+void lay_shape(frmMain & main, run_photo photo, const photo_place & at, const rectangle & place)
 {
     const bool painted = at.shape_color != 0;
-    bitmap fitted = painted ? bitmap() : fit_photo(main, image, place.width, place.height);
+    bitmap fitted = painted ? bitmap() : fit_photo(main, std::move(photo), place.width, place.height);
     const bool outlined = main.chkOutline.visible() && main.chkOutline.ticked();
     draw_shape(main.run.canvas, std::move(fitted), place, at.worn,
                {.mask = shape_mask(main, at.mask, place.width),
@@ -46,16 +46,17 @@ void lay_shape(frmMain & main, const bitmap & image, const photo_place & at, con
                 .column = shape_column(main, place)});
 }
 
-void lay_upright(frmMain & main, const bitmap & image, const photo_place & at)
+void lay_upright(frmMain & main, run_photo photo, const photo_place & at)
 {
     const rectangle place = drawn_area(at.area);
     // A wide gap can leave nothing of a cell: a frame without a photo would stand there as two stray lines.
     if (place.width < 1 || place.height < 1)
         return;
     if (is_shape(at.area))
-        lay_shape(main, image, at, place);
+        lay_shape(main, std::move(photo), at, place);
     else
-        draw_photo(main.run.canvas, fit_photo(main, image, place.width, place.height), place, at.worn);
+        draw_photo(main.run.canvas, fit_photo(main, std::move(photo), place.width, place.height), place,
+                   at.worn);
 }
 
 /// Width of the frame that is drawn before the turn. Beyond the size in force the photo would stand on black.
@@ -66,11 +67,11 @@ int early_frame(const frmMain & main, int frame_size)
     return std::clamp(width, 0, std::max(frame_size, 0));
 }
 
-rectangle tilted_area(const frmMain & main, const bitmap & image, const rectangle & area)
+rectangle tilted_area(const frmMain & main, picture_size photo, const rectangle & area)
 {
     if (!main.chkEvolve.ticked())
         return area;
-    return evolved(area, {.width = image.width(), .height = image.height()});
+    return evolved(area, photo);
 }
 
 /// `fitted` fills its area.
@@ -89,37 +90,48 @@ void tilt_onto_canvas(frmMain & main, bitmap fitted, const photo_place & at, con
         sheet);
 }
 
-void lay_tilted(frmMain & main, bitmap image, const photo_place & at)
+void lay_tilted(frmMain & main, run_photo photo, const photo_place & at)
 {
-    if (!image)
+    if (!photo)
         return;
-    const rectangle area = tilted_area(main, image, at.area);
+    const rectangle area = tilted_area(main, photo.own, at.area);
     // The photo goes before the turn begins, which takes as much memory again.
-    image = fit_photo(main, image, area.width, area.height);
-    image = copied(image, 0, 0, area.width, area.height);
-    tilt_onto_canvas(main, std::move(image), at, area);
+    bitmap fitted = fit_photo(main, std::move(photo), area.width, area.height);
+    fitted = copied(fitted, 0, 0, area.width, area.height);
+    tilt_onto_canvas(main, std::move(fitted), at, area);
 }
 
 }  // namespace
 
-void lay_photo(frmMain & main, bitmap image, const photo_place & at)
+void lay_photo(frmMain & main, run_photo photo, const photo_place & at)
 {
     if (at.rotation == 0)
-        lay_upright(main, image, at);
+        lay_upright(main, std::move(photo), at);
     else
-        lay_tilted(main, std::move(image), at);
+        lay_tilted(main, std::move(photo), at);
 }
 
-void lay_card(frmMain & main, const bitmap & image, const photo_place & at)
+void lay_card(frmMain & main, run_photo photo, const photo_place & at)
 {
     const rectangle & area = at.area;
-    const rectangle photo = photo_on_card(area.width, area.height);
-    bitmap card = captioned_card({.width = area.width, .height = area.height},
-                                 fit_photo(main, image, photo.width, photo.height), at.worn.frame_color);
+    const rectangle place = photo_on_card(area.width, area.height);
+    bitmap card =
+        captioned_card({.width = area.width, .height = area.height},
+                       fit_photo(main, std::move(photo), place.width, place.height), at.worn.frame_color);
     if (at.rotation == 0) {
         paste(main.run.canvas, card, area.left, area.top, plain_copy);
     } else if (card) {
-        const rectangle tilted = tilted_area(main, card, area);
+        const rectangle tilted = tilted_area(main, {.width = card.width(), .height = card.height()}, area);
         tilt_onto_canvas(main, std::move(card), at, tilted);
     }
+}
+
+picture_size fitted_size(const frmMain & main, const photo_place & at, picture_size own)
+{
+    rectangle place = at.rotation == 0 ? drawn_area(at.area) : at.area;
+    if (main.chkCaption.ticked())
+        place = photo_on_card(at.area.width, at.area.height);
+    else if (at.rotation != 0)
+        place = tilted_area(main, own, at.area);
+    return {.width = place.width, .height = place.height};
 }

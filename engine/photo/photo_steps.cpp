@@ -2,10 +2,12 @@
 
 #include "engine/pixels/covering_plan.h"
 #include "engine/pixels/resize_image.h"
+#include "photos/scaled_jpeg.h"
 #include "session/frmMain.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
-#include "support/jpeg_rows.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -49,49 +51,124 @@ bitmap fitted(const bitmap & image, int width, int height)
     }
 }
 
-bool is_busy(const photo_ahead & ahead)
+bitmap fitted_or_none(const bitmap & image, picture_size place)
 {
-    return ahead.image.valid() &&
-           ahead.image.wait_for(std::chrono::seconds::zero()) != std::future_status::ready;
+    try {
+        return fitted(image, place.width, place.height);
+    } catch (const photo_too_long &) {
+        return {};
+    }
 }
 
-bool holds(const photo_ahead & ahead, const std::string & path, const file_stamp & stamp)
+run_photo whole_photo(const std::string & path)
 {
-    return ahead.image.valid() && ahead.path == path && ahead.stamp == stamp;
+    run_photo photo(loaded(path));
+    photo.path = path;
+    return photo;
+}
+
+// Of a kind of JPEG that can't be fitted while it is read the whole is loaded, and kept where it can't be
+// fitted at all.
+run_photo fitted_photo(const std::string & path, picture_size place)
+{
+    const std::optional<picture_size> own = usable_jpeg_size(path);
+    photo_memory memory;
+    std::optional<bitmap> read = own ? read_fitted_jpeg(path, place, memory) : std::nullopt;
+    run_photo photo = read ? run_photo() : whole_photo(path);
+    photo.path = path;
+    photo.place = place;
+    if (read) {
+        photo.own = *own;
+        photo.fitted = std::move(*read);
+    } else if (photo.fitted = fitted_or_none(photo.whole, place); photo.fitted) {
+        photo.whole = {};
+    }
+    return photo;
+}
+
+bool is_at_work(const photo_ahead::begun_photo & one)
+{
+    return one.photo.wait_for(std::chrono::seconds::zero()) != std::future_status::ready;
+}
+
+// What was begun for that very file and place; the end of the list without it.
+auto found_ahead(photo_ahead & ahead, const wanted_photo & wanted, const std::optional<file_stamp> & stamp)
+{
+    return std::ranges::find_if(ahead.begun, [&](const photo_ahead::begun_photo & one) {
+        return stamp && one.wanted == wanted && one.stamp == *stamp;
+    });
+}
+
+// A guess that has gone wrong makes room; what is still being read can't be stopped.
+void drop_wrong_guesses(photo_ahead & ahead, const std::vector<wanted_photo> & next)
+{
+    std::erase_if(ahead.begun, [&](const photo_ahead::begun_photo & one) {
+        return std::ranges::find(next, one.wanted) == next.end() && !is_at_work(one);
+    });
+}
+
+void begin_reading(photo_ahead & ahead, const wanted_photo & wanted)
+{
+    const std::optional<file_stamp> stamp = stamp_of(wanted.path);
+    if (!stamp || stamp->bytes < small_file || found_ahead(ahead, wanted, stamp) != ahead.begun.end())
+        return;
+    ahead.begun.push_back(
+        {.wanted = wanted, .stamp = *stamp, .photo = std::async(std::launch::async, [wanted] {
+                                                return fitted_photo(wanted.path, wanted.place);
+                                            })});
 }
 
 }  // namespace
 
-void read_ahead(frmMain & main, const std::string & path)
+std::optional<wanted_photo> wanted_at(const std::string & path, const place_of_photo & place_of)
+{
+    const std::optional<picture_size> own = usable_jpeg_size(path);
+    try {
+        return own ? std::optional(wanted_photo{.path = path, .place = place_of(*own)}) : std::nullopt;
+    } catch (const platform_error &) {
+        return std::nullopt;  // it will be told when it is the photo's turn
+    }
+}
+
+void read_ahead(frmMain & main, const std::vector<wanted_photo> & next)
 {
     photo_ahead & ahead = main.run.ahead;
-    const std::optional<file_stamp> stamp = stamp_of(path);
-    if (!ahead.is_on || !stamp || stamp->bytes < small_file || is_busy(ahead) || holds(ahead, path, *stamp))
-        return;
-    ahead.path = path;
-    ahead.stamp = *stamp;
-    ahead.image = std::async(std::launch::async, [path] { return loaded(path); });
+    drop_wrong_guesses(ahead, next);
+    for (const wanted_photo & wanted : next)
+        if (std::ssize(ahead.begun) < ahead.at_once)
+            begin_reading(ahead, wanted);
 }
 
 void forget_ahead(frmMain & main)
 {
-    std::future<bitmap> dropped = std::move(main.run.ahead.image);
-    if (dropped.valid())
-        wait_for(main.desk, dropped);
+    for (const photo_ahead::begun_photo & one : main.run.ahead.begun)
+        wait_for(main.desk, one.photo);
+    main.run.ahead.begun.clear();
 }
 
-bitmap load_photo(frmMain & main, const std::string & path)
+run_photo load_photo(frmMain & main, const std::string & path, const place_of_photo & place_of)
 {
     const std::optional<file_stamp> stamp = stamp_of(path);
+    const std::optional<picture_size> own = stamp ? usable_jpeg_size(path) : std::nullopt;
+    if (!own || stamp->bytes < small_file)
+        return whole_photo(path);
+    const wanted_photo wanted{.path = path, .place = place_of(*own)};
     photo_ahead & ahead = main.run.ahead;
-    if (stamp && holds(ahead, path, *stamp))
-        return awaited(main.desk, std::move(ahead.image));
-    return done_where(!stamp || stamp->bytes < small_file, main, [&] { return loaded(path); });
+    const auto found = found_ahead(ahead, wanted, stamp);
+    if (found == ahead.begun.end())
+        return beside(main.desk, [wanted] { return fitted_photo(wanted.path, wanted.place); });
+    std::future<run_photo> photo = std::move(found->photo);
+    ahead.begun.erase(found);
+    return awaited(main.desk, std::move(photo));
 }
 
-bitmap fit_photo(frmMain & main, const bitmap & image, int width, int height)
+bitmap fit_photo(frmMain & main, run_photo photo, int width, int height)
 {
-    return done_where(is_small(image), main, [&] { return fitted(image, width, height); });
+    if (photo.fitted && photo.place == picture_size{.width = width, .height = height})
+        return std::move(photo.fitted);
+    if (!photo.whole && photo)
+        photo.whole = beside(main.desk, [path = photo.path] { return loaded(path); });
+    return done_where(is_small(photo.whole), main, [&] { return fitted(photo.whole, width, height); });
 }
 
 void save_photo(frmMain & main, const bitmap & image, const std::string & path)

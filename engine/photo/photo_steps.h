@@ -1,9 +1,12 @@
 #pragma once
 
-#include "support/MFreeImage.h"
+#include "engine/photo/photo_ahead.h"
 #include "support/platform_error.h"
 
+#include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 struct frmMain;
 
@@ -16,19 +19,25 @@ struct photo_too_long : platform_error {
     using platform_error::platform_error;
 };
 
-/// A JPEG, empty when it can't be loaded or is too large for sizes of 16 bits. One that was read ahead is
-/// there already.
-bitmap load_photo(frmMain & main, const std::string & path);
+/// The size of the place that a photo of that size is to be fitted to.
+using place_of_photo = std::function<picture_size(picture_size own)>;
 
-/// Begins to read the photo that will probably be loaded next and returns at once. A wrong guess changes
-/// nothing but the time.
-void read_ahead(frmMain & main, const std::string & path);
+/// A JPEG, empty when it can't be loaded or is too large for sizes of 16 bits. One that was read ahead is
+/// there already; a large one is fitted to its place while it is read.
+run_photo load_photo(frmMain & main, const std::string & path, const place_of_photo & place_of);
+
+/// The photo in the size of its place, for reading ahead; nothing where that can't be told.
+std::optional<wanted_photo> wanted_at(const std::string & path, const place_of_photo & place_of);
+
+/// Begins to read the photos that will probably be loaded next, the first of them first, and returns at once.
+/// A wrong guess changes nothing but the time.
+void read_ahead(frmMain & main, const std::vector<wanted_photo> & next);
 
 /// Drops what was read ahead.
 void forget_ahead(frmMain & main);
 
-/// `resize_image`. Raises photo_too_long.
-bitmap fit_photo(frmMain & main, const bitmap & image, int width, int height);
+/// As `resize_image` fits the whole photo. Raises photo_too_long.
+bitmap fit_photo(frmMain & main, run_photo photo, int width, int height);
 
 /// Writes a JPEG. Raises what `save_jpeg` raises.
 void save_photo(frmMain & main, const bitmap & image, const std::string & path);

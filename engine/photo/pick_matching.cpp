@@ -8,10 +8,10 @@
 
 namespace {
 
-match_request request_for(const frmMain & main, int width, int height)
+match_request request_for(const frmMain & main, picture_size location)
 {
-    return {.width = width,
-            .height = height,
+    return {.width = location.width,
+            .height = location.height,
             .squares_take_any = main.optMatrix.selected(),
             .evolve = main.chkEvolve.ticked(),
             .last_photo = main.table.last_photo};
@@ -49,43 +49,55 @@ std::optional<orientation> how_it_lies(frmMain & main, int index)
     return seen.lies;
 }
 
-// How the photo lies; it is loaded into `image` only when it will be used.
-std::optional<orientation> looked_at(frmMain & main, int index, bool is_wanted_anyhow, orientation wish,
-                                     bitmap & image)
+// What a search has in hand.
+struct match_search {
+    bool takes_any = false;
+    const place_of_photo & place_of;
+    run_photo photo{};
+};
+
+// How the photo lies; it is loaded only when it will be used.
+std::optional<orientation> looked_at(frmMain & main, int index, orientation wish, match_search & search)
 {
     const std::optional<orientation> lies = how_it_lies(main, index);
     if (!lies)
         leave_out(main, main.table[index]);
-    if (!lies || (lies != wish && !is_wanted_anyhow))
+    if (!lies || (lies != wish && !search.takes_any))
         return lies;
-    image = load_photo(main, main.table[index]);
-    if (!image)
+    search.photo = load_photo(main, main.table[index], search.place_of);
+    if (!search.photo)
         leave_out(main, main.table[index]);
     return how_it_lies(main, index);
 }
 
 }  // namespace
 
-matched_photo pick_matching(frmMain & main, int width, int height)
+matched_photo pick_matching(frmMain & main, picture_size location, const place_of_photo & place_of)
 {
-    const match_request request = request_for(main, width, height);
-    const bool takes_any = is_near_square(request);
+    const match_request request = request_for(main, location);
+    match_search search{.takes_any = is_near_square(request), .place_of = place_of};
     match_cursors cursors = cursors_of(main.run);
-    bitmap image;
-    const std::optional<int> found = find_match(request, cursors, [&](int index, orientation wish) {
-        return looked_at(main, index, takes_any, wish, image);
-    });
+    const std::optional<int> found = find_match(
+        request, cursors, [&](int index, orientation wish) { return looked_at(main, index, wish, search); });
     keep_cursors(main.run, cursors);
     if (!found) {
         main.desk.message("No images match the design");
         return {};
     }
-    return {.image = std::move(image), .index = *found};
+    return {.photo = std::move(search.photo), .index = *found};
 }
 
-std::optional<int> photo_to_match(frmMain & main, int width, int height)
+std::vector<int> photos_to_match(frmMain & main, const std::vector<picture_size> & locations)
 {
     match_cursors cursors = cursors_of(main.run);
-    return find_match(request_for(main, width, height), cursors,
-                      [&](int index, orientation) { return how_it_lies(main, index); });
+    std::vector<int> found;
+    for (const picture_size & location : locations) {
+        const std::optional<int> next =
+            find_match(request_for(main, location), cursors,
+                       [&](int index, orientation) { return how_it_lies(main, index); });
+        if (!next)
+            break;
+        found.push_back(*next);
+    }
+    return found;
 }

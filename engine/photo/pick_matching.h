@@ -1,19 +1,21 @@
 #pragma once
 
+#include "engine/photo/photo_steps.h"
 #include "session/frmMain.h"
 
-#include <optional>
+#include <vector>
 
 /// A photo of the table and its index there.
 struct matched_photo {
-    bitmap image;
+    run_photo photo;
     int index = -1;
 };
 
 /// The next photo that lies as a location of this size does, its cursor moved. Empty, with a word to the
 /// user, when no photo does. Photos that lie the other way are told by their headers and not loaded; those
 /// that can't be loaded are left out of the run.
-matched_photo pick_matching(frmMain & main, int width, int height);
+matched_photo pick_matching(frmMain & main, picture_size location, const place_of_photo & place_of);
 
-/// The index of the photo that `pick_matching` would give, with no cursor moved; nothing when none fits.
-std::optional<int> photo_to_match(frmMain & main, int width, int height);
+/// The indices of the photos that `pick_matching` would give one after the other for locations of these
+/// sizes, with no cursor moved; they end at the first for which none fits.
+std::vector<int> photos_to_match(frmMain & main, const std::vector<picture_size> & locations);

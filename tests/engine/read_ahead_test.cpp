@@ -1,5 +1,6 @@
 #include "engine/fill_loop.h"
 #include "engine/photo/photo_steps.h"
+#include "engine/pixels/resize_image.h"
 #include "engine/place_loop.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
@@ -15,6 +16,13 @@ std::string noisy_photo(const collage_fixture & run, const std::string & name, i
     return run.home.at(name);
 }
 
+constexpr picture_size small_place{.width = 90, .height = 70};
+
+picture_size in_small_place(picture_size)
+{
+    return small_place;
+}
+
 struct told_run {
     bitmap canvas;
     std::deque<std::string> messages;
@@ -25,10 +33,10 @@ using loop_of_a_run = void (*)(frmMain &, const sign_of_life &);
 using preparation = std::function<void(collage_fixture &)>;
 
 // One loop over five photos, three of them upright; the fourth can't be read.
-told_run run_of(bool ahead, const preparation & prepare, loop_of_a_run loop)
+told_run run_of(int at_once, const preparation & prepare, loop_of_a_run loop)
 {
     collage_fixture run;
-    run.main.run.ahead.is_on = ahead;
+    run.main.run.ahead.at_once = at_once;
     run.use_canvas(400, 300);
     run.add_path(noisy_photo(run, "a.jpg", 300, 400));
     run.add_path(noisy_photo(run, "b.jpg", 420, 300));
@@ -47,11 +55,14 @@ told_run run_of(bool ahead, const preparation & prepare, loop_of_a_run loop)
 
 void expect_same_run(const preparation & prepare, loop_of_a_run loop)
 {
-    const told_run with = run_of(true, prepare, loop), without = run_of(false, prepare, loop);
-    EXPECT_TRUE(same(with.canvas, without.canvas));
-    EXPECT_EQ(with.messages, without.messages);
-    EXPECT_EQ(with.questions, without.questions);
-    EXPECT_EQ(with.images, without.images);
+    const told_run without = run_of(0, prepare, loop);
+    for (const int at_once : {1, 2, 3, 8}) {
+        const told_run with = run_of(at_once, prepare, loop);
+        EXPECT_TRUE(same(with.canvas, without.canvas)) << at_once;
+        EXPECT_EQ(with.messages, without.messages) << at_once;
+        EXPECT_EQ(with.questions, without.questions) << at_once;
+        EXPECT_EQ(with.images, without.images) << at_once;
+    }
 }
 
 void add_places(collage_fixture & run)
@@ -73,25 +84,28 @@ void lay_grid(collage_fixture & run)
 
 }  // namespace
 
-TEST(read_ahead, gives_the_picture_once)
+TEST(read_ahead, gives_the_photo_once)
 {
     collage_fixture run;
     const std::string path = noisy_photo(run, "a.jpg", 600, 400);
-    read_ahead(run.main, path);
-    ASSERT_TRUE(run.main.run.ahead.image.valid());
-    EXPECT_TRUE(same(load_photo(run.main, path), load_picture(picture_format::jpeg, path)));
-    EXPECT_FALSE(run.main.run.ahead.image.valid());
-    EXPECT_TRUE(same(load_photo(run.main, path), load_picture(picture_format::jpeg, path)));
+    const bitmap expected = resize_image(load_picture(picture_format::jpeg, path), 90, 70);
+    read_ahead(run.main, {{path, small_place}});
+    ASSERT_EQ(run.main.run.ahead.begun.size(), 1U);
+    for (int i = 0; i < 2; ++i) {
+        run_photo photo = load_photo(run.main, path, in_small_place);
+        EXPECT_TRUE(run.main.run.ahead.begun.empty());
+        EXPECT_TRUE(same(fit_photo(run.main, std::move(photo), 90, 70), expected));
+    }
 }
 
 TEST(read_ahead, a_file_that_changed_meanwhile_is_read_again)
 {
     collage_fixture run;
     const std::string path = noisy_photo(run, "a.jpg", 600, 400);
-    read_ahead(run.main, path);
-    run.main.run.ahead.image.wait();
+    read_ahead(run.main, {{path, small_place}});
+    run.main.run.ahead.begun.front().photo.wait();
     save_jpeg(noise(500, 500), path);
-    EXPECT_EQ(load_photo(run.main, path).width(), 500);
+    EXPECT_EQ(load_photo(run.main, path, in_small_place).own.width, 500);
 }
 
 TEST(read_ahead, a_wrong_guess_leaves_the_photo_that_is_asked_for)
@@ -99,37 +113,94 @@ TEST(read_ahead, a_wrong_guess_leaves_the_photo_that_is_asked_for)
     collage_fixture run;
     const std::string guessed = noisy_photo(run, "a.jpg", 600, 400);
     const std::string wanted = noisy_photo(run, "b.jpg", 400, 600);
-    read_ahead(run.main, guessed);
-    EXPECT_EQ(load_photo(run.main, wanted).height(), 600);
-    EXPECT_EQ(load_photo(run.main, guessed).height(), 400);
+    read_ahead(run.main, {{guessed, small_place}});
+    EXPECT_EQ(load_photo(run.main, wanted, in_small_place).own.height, 600);
+    EXPECT_EQ(load_photo(run.main, guessed, in_small_place).own.height, 400);
+}
+
+TEST(read_ahead, a_photo_for_another_place_is_read_again)
+{
+    collage_fixture run;
+    const std::string path = noisy_photo(run, "a.jpg", 600, 400);
+    read_ahead(run.main, {{path, small_place}});
+    const run_photo photo =
+        load_photo(run.main, path, [](picture_size) { return picture_size{.width = 40, .height = 50}; });
+    EXPECT_EQ(photo.fitted.width(), 40);
+    EXPECT_EQ(run.main.run.ahead.begun.size(), 1U);
+    forget_ahead(run.main);
 }
 
 TEST(read_ahead, begins_nothing_for_a_thumbnail_or_what_is_gone_or_when_switched_off)
 {
     collage_fixture run;
-    read_ahead(run.main, run.picture("small.jpg", red, 60, 40));
-    read_ahead(run.main, run.home.at("gone.jpg"));
-    run.main.run.ahead.is_on = false;
-    read_ahead(run.main, noisy_photo(run, "a.jpg", 600, 400));
-    EXPECT_FALSE(run.main.run.ahead.image.valid());
+    read_ahead(run.main, {{run.picture("small.jpg", red, 60, 40), small_place},
+                          {run.home.at("gone.jpg"), small_place}});
+    run.main.run.ahead.at_once = 0;
+    read_ahead(run.main, {{noisy_photo(run, "a.jpg", 600, 400), small_place}});
+    EXPECT_TRUE(run.main.run.ahead.begun.empty());
 }
 
-TEST(read_ahead, keeps_what_it_has_when_the_guess_is_made_again)
+TEST(read_ahead, begins_as_many_as_there_are_cores_and_each_once)
 {
     collage_fixture run;
-    const std::string path = noisy_photo(run, "a.jpg", 600, 400);
-    read_ahead(run.main, path);
-    run.main.run.ahead.image.wait();
-    read_ahead(run.main, path);
-    EXPECT_EQ(run.main.run.ahead.image.wait_for(std::chrono::seconds::zero()), std::future_status::ready);
+    run.main.run.ahead.at_once = 2;
+    std::vector<wanted_photo> next;
+    for (const char * name : {"a.jpg", "b.jpg", "c.jpg"})
+        next.push_back({noisy_photo(run, name, 600, 400), small_place});
+    read_ahead(run.main, next);
+    read_ahead(run.main, next);
+    ASSERT_EQ(run.main.run.ahead.begun.size(), 2U);
+    EXPECT_EQ(run.main.run.ahead.begun.front().wanted, next[0]);
+    EXPECT_EQ(run.main.run.ahead.begun.back().wanted, next[1]);
+    forget_ahead(run.main);
+}
+
+TEST(read_ahead, drops_a_guess_that_has_gone_wrong)
+{
+    collage_fixture run;
+    run.main.run.ahead.at_once = 1;
+    const std::string wrong = noisy_photo(run, "a.jpg", 600, 400),
+                      right = noisy_photo(run, "b.jpg", 600, 400);
+    read_ahead(run.main, {{wrong, small_place}});
+    run.main.run.ahead.begun.front().photo.wait();
+    read_ahead(run.main, {{right, small_place}});
+    ASSERT_EQ(run.main.run.ahead.begun.size(), 1U);
+    EXPECT_EQ(run.main.run.ahead.begun.front().wanted.path, right);
+    forget_ahead(run.main);
 }
 
 TEST(read_ahead, is_forgotten_when_a_run_has_ended)
 {
     collage_fixture run;
-    read_ahead(run.main, noisy_photo(run, "a.jpg", 600, 400));
+    read_ahead(run.main, {{noisy_photo(run, "a.jpg", 600, 400), small_place}});
     forget_ahead(run.main);
-    EXPECT_FALSE(run.main.run.ahead.image.valid());
+    EXPECT_TRUE(run.main.run.ahead.begun.empty());
+}
+
+TEST(read_ahead, guesses_right_in_a_run_of_places_and_of_a_shaken_grid)
+{
+    // What is begun and never asked for stays on the list until it is dropped: at the end of a run that
+    // guessed right there is nothing.
+    for (const bool grid : {false, true}) {
+        collage_fixture run;
+        run.main.run.ahead.at_once = 3;
+        run.use_canvas(400, 300);
+        for (int i = 0; i < 6; ++i)
+            run.add_path(noisy_photo(run, std::to_string(i) + ".jpg", 300, 400));
+        if (grid) {
+            lay_grid(run);
+            run.main.collage.matrix_resize = run.main.collage.matrix_rotate = true;
+            run.main.shake_start = 3;
+            fill_loop(run.main, {});
+        } else {
+            for (int i = 0; i < 6; ++i)
+                run.add_location(
+                    {.top = 10, .left = narrow(60 * i + 10), .height = narrow(40 + 5 * i), .width = 40});
+            run.main.design_locations.count = 6;
+            place_loop(run.main, {});
+        }
+        EXPECT_TRUE(run.main.run.ahead.begun.empty()) << (grid ? "grid" : "places");
+    }
 }
 
 TEST(read_ahead, leaves_places_in_order_as_they_are_without_it)
@@ -179,6 +250,24 @@ TEST(read_ahead, leaves_a_matched_grid_as_it_is_without_it)
         [](collage_fixture & run) {
             lay_grid(run);
             run.main.chkMatch.tick(true);
+        },
+        fill_loop);
+}
+
+TEST(read_ahead, leaves_cards_tilts_and_a_shaken_grid_as_they_are_without_it)
+{
+    expect_same_run(
+        [](collage_fixture & run) {
+            add_places(run);
+            run.main.chkCaption.tick(true);
+        },
+        place_loop);
+    expect_same_run(
+        [](collage_fixture & run) {
+            lay_grid(run);
+            run.main.chkMatch.tick(true);
+            run.main.collage.matrix_both = run.main.collage.matrix_resize = true;
+            run.main.shake_start = 5;
         },
         fill_loop);
 }

@@ -35,7 +35,7 @@ struct lay_card_test : testing::Test {
         photo_place place{.area = area, .rotation = rotation, .worn = worn_by_boxes(main, rotation)};
         place.worn.frame = 3;
         place.worn.shadow = 5;
-        lay_card(main, photo, place);
+        lay_card(main, copied(photo, 0, 0, photo.width(), photo.height()), place);
     }
 
     scripted_desktop desk;

@@ -12,10 +12,19 @@ TEST(photo_steps, give_what_the_same_steps_give_without_another_core)
     const std::string photo = session.folder.at("photo.jpg"), saved = session.folder.at("saved.jpg");
     for (const bitmap & picture : {graded(300, 200), noise(1200, 800)}) {
         save_jpeg(picture, photo);
-        const bitmap loaded = load_photo(session.main, photo);
-        EXPECT_TRUE(same(loaded, load_picture(picture_format::jpeg, photo)));
-        const bitmap fitted = fit_photo(session.main, loaded, 70, 90);
-        EXPECT_TRUE(same(fitted, resize_image(loaded, 70, 90)));
+        const bitmap loaded = load_picture(picture_format::jpeg, photo);
+        for (const picture_size place : {picture_size{.width = 70, .height = 90},
+                                         {.width = 300, .height = 20},
+                                         {.width = 2, .height = 1}}) {
+            run_photo found = load_photo(session.main, photo, [&](picture_size) { return place; });
+            EXPECT_EQ(found.own, (picture_size{.width = picture.width(), .height = picture.height()}));
+            EXPECT_TRUE(same(fit_photo(session.main, std::move(found), place.width, place.height),
+                             resize_image(loaded, place.width, place.height)));
+            // Fitted to another place than was said at first.
+            found = load_photo(session.main, photo, [&](picture_size) { return place; });
+            EXPECT_TRUE(
+                same(fit_photo(session.main, std::move(found), 51, 40), resize_image(loaded, 51, 40)));
+        }
         save_photo(session.main, loaded, saved);
         save_jpeg(loaded, photo);
         EXPECT_TRUE(read_file(saved) == read_file(photo));
@@ -26,7 +35,8 @@ TEST(photo_steps, give_what_the_same_steps_give_without_another_core)
 TEST(photo_steps, leave_what_fails_as_it_was_told)
 {
     opened_session session;
-    EXPECT_FALSE(load_photo(session.main, session.folder.at("gone.jpg")));
+    EXPECT_FALSE(
+        load_photo(session.main, session.folder.at("gone.jpg"), [](picture_size own) { return own; }));
     session.folder.write("file", "x");
     EXPECT_THROW(save_photo(session.main, graded(20, 20), session.folder.path() + "/file/x.jpg"),
                  platform_error);
