@@ -35,12 +35,21 @@ def changed_preview(program, act, told):
     screen.until(lambda: program.pixels('picSample') != pixels, 'the new preview on the screen after ' + told)
 
 
+def place_of_keyboard(program):
+    """Which widget has the keyboard, by name and place; nothing where it is one that the program doesn't tell of."""
+    return next(((each['name'], each['x'], each['y']) for each in program.look().get('widgets', []) if each.get('focus')), None)
+
+
 def focused_on(program, name):
     """Presses Tab until the widget of that name has the keyboard, as somebody without a mouse does."""
     for _ in range(120):
         if screen.until(lambda: program.find(name), name).get('focus'):
             return
+        before = place_of_keyboard(program)
         program.keys('Tab')
+        # A second Tab before the first has arrived would lead past the widget.
+        if before is not None:
+            screen.until(lambda: place_of_keyboard(program) != before, 'the keyboard to leave %s' % before[0])
     raise AssertionError('the Tab key never comes to ' + name)
 
 

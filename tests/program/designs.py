@@ -17,6 +17,15 @@ def shows(p, name, text):
           '%s to show %r, not %r' % (name, text, (p.find(name) or {}).get('text')))
 
 
+def walk_down(p, at, wanted):
+    """Presses Down in a list until `at` tells that it stands at the entry. Letters would choose it as well, but they count
+    as one word only while they come quickly."""
+    while at() != wanted:
+        before = at()
+        p.keys('Down')
+        until(lambda: at() != before, 'the list to go on from %r to %r' % (before, wanted))
+
+
 def stands(p, name, on):
     """Waits until the box or option is ticked, or isn't."""
     until(lambda: (p.find(name) or {}).get('checked') == on, '%s to be %s' % (name, 'on' if on else 'off'))

@@ -3,8 +3,7 @@
 import os
 
 from collage import check, focused_on, folder_by_keys, quit_by_keys, run, welcomed
-from designs import in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told
-from screen import until
+from designs import in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told, walk_down
 
 
 def entry(p, menu, name):
@@ -40,8 +39,7 @@ def make_set(p):
     p.window('frmFrames')
     enter(p, 'txtCaption', 'By the sea')
     focused_on(p, 'cmbIcons')
-    p.type('boat')
-    shows(p, 'cmbIcons', 'Boat')
+    walk_down(p, lambda: p.find('cmbIcons')['text'], 'Boat')
     write_captions(p)
     p.shortcut('cmdSave')
     p.window('frmFrameName')
@@ -64,8 +62,7 @@ def make_set(p):
 def go_to_set(p):
     p.window('frmCustom')
     focused_on(p, 'lstFrames')
-    p.type('sea')
-    until(lambda: p.find('Sea').get('selected'), 'the set to be selected')
+    walk_down(p, lambda: [each['text'] for each in p.look()['widgets'] if each.get('selected')], ['Sea'])
     is_enabled(p, 'cmdDone')
 
 
