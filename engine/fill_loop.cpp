@@ -131,23 +131,32 @@ place_of_photo fitted_to(const frmMain & main, const grid_walk & walk, cell_to_f
     };
 }
 
+// The cells that a photo of that size takes from this column on; nothing for one that lies the other way.
+std::optional<cell_span> span_of(const frmMain & main, const grid_walk & walk, picture_size photo, int column)
+{
+    if (!main.chkMatch.ticked() || fits_cell(walk.layer, photo.height, photo.width))
+        return cell_span::single;
+    const bool takes_two = main.collage.matrix_both && has_right_neighbour(walk.layer, column);
+    return takes_two ? std::optional(cell_span::twice) : std::nullopt;
+}
+
 // The photo at hand as this cell would take it; empty for one that can't be read or doesn't fit.
 cell_photo taken_photo(frmMain & main, grid_walk & walk, cell_to_fill cell)
 {
     const std::string & path = main.table[walk.photo];
     const std::optional<picture_size> size = usable_jpeg_size(path);
-    const bool matches =
-        !main.chkMatch.ticked() || (size && fits_cell(walk.layer, size->height, size->width));
-    if (size && !matches && !(main.collage.matrix_both && has_right_neighbour(walk.layer, cell.at.column)))
+    const std::optional<cell_span> span =
+        size ? span_of(main, walk, *size, cell.at.column) : std::optional(cell_span::single);
+    if (!span)
         return {};
-    cell.at.span = matches ? cell_span::single : cell_span::twice;
+    cell.at.span = *span;
     run_photo photo = size ? load_photo(main, path, fitted_to(main, walk, cell)) : run_photo();
     if (!photo) {
         leave_out(main, path);
         look_again_for_one_that_fits(main, walk);
         return {};
     }
-    walk.one_fitted = walk.one_fitted || (matches && main.chkMatch.ticked());
+    walk.one_fitted = walk.one_fitted || (*span == cell_span::single && main.chkMatch.ticked());
     return {.photo = std::move(photo), .span = cell.at.span};
 }
 
@@ -165,19 +174,6 @@ cell_photo next_photo(frmMain & main, grid_walk & walk, const cell_to_fill & cel
             next_in_table(main, walk);
     }
     return {};
-}
-
-// Nothing for a photo that no cell of this layer takes.
-std::optional<cell_span> span_of(const frmMain & main, const grid_walk & walk, int photo, int column)
-{
-    const std::optional<picture_size> size =
-        is_left_out(main, photo) ? std::nullopt : usable_jpeg_size(main.table[photo]);
-    if (!size)
-        return std::nullopt;
-    if (!main.chkMatch.ticked() || fits_cell(walk.layer, size->height, size->width))
-        return cell_span::single;
-    const bool takes_two = main.collage.matrix_both && has_right_neighbour(walk.layer, column);
-    return takes_two ? std::optional(cell_span::twice) : std::nullopt;
 }
 
 // On to the cell behind, in this row or the next.
@@ -200,14 +196,17 @@ void read_upcoming(frmMain & main, const grid_walk & walk, cell_to_fill cell)
     for (int photo = walk.photo + 1;
          photo <= main.table.last_photo && !grid_ends(walk.layer, cell.at.row, walk.limits) &&
          std::ssize(next) < main.run.ahead.at_once;
-         ++photo)
-        if (const std::optional<cell_span> span = span_of(main, walk, photo, cell.at.column)) {
-            cell.at.span = *span;
-            if (std::optional<wanted_photo> wanted =
-                    wanted_at(main.table[photo], fitted_to(main, walk, cell)))
-                next.push_back(std::move(*wanted));
-            step_on(main, walk, cell);
-        }
+         ++photo) {
+        const std::optional<picture_size> size =
+            is_left_out(main, photo) ? std::nullopt : usable_jpeg_size(main.table[photo]);
+        const auto span = size ? span_of(main, walk, *size, cell.at.column) : std::nullopt;
+        if (!span)
+            continue;
+        cell.at.span = *span;
+        if (std::optional<wanted_photo> wanted = wanted_at(main.table[photo], fitted_to(main, walk, cell)))
+            next.push_back(std::move(*wanted));
+        step_on(main, walk, cell);
+    }
     read_ahead(main, next);
 }
 

@@ -71,24 +71,20 @@ run_photo whole_photo(const std::string & path)
 // fitted at all.
 run_photo fitted_photo(const std::string & path, picture_size place)
 {
-    const std::optional<picture_size> own = usable_jpeg_size(path);
     photo_memory memory;
-    std::optional<bitmap> read = own ? read_fitted_jpeg(path, place, memory) : std::nullopt;
-    run_photo photo = read ? run_photo() : whole_photo(path);
+    run_photo photo;
     photo.path = path;
-    photo.place = place;
-    if (read) {
-        photo.own = *own;
+    if (std::optional<bitmap> read = read_fitted_jpeg(path, place, memory)) {
+        photo.own = usable_jpeg_size(path).value_or(picture_size{});
         photo.fitted = std::move(*read);
-    } else if (photo.fitted = fitted_or_none(photo.whole, place); photo.fitted) {
-        photo.whole = {};
+    } else {
+        photo = whole_photo(path);
+        photo.fitted = fitted_or_none(photo.whole, place);
+        if (photo.fitted)
+            photo.whole = {};
     }
+    photo.place = place;
     return photo;
-}
-
-bool is_at_work(const photo_ahead::begun_photo & one)
-{
-    return one.photo.wait_for(std::chrono::seconds::zero()) != std::future_status::ready;
 }
 
 // What was begun for that very file and place; the end of the list without it.
@@ -103,7 +99,7 @@ auto found_ahead(photo_ahead & ahead, const wanted_photo & wanted, const std::op
 void drop_wrong_guesses(photo_ahead & ahead, const std::vector<wanted_photo> & next)
 {
     std::erase_if(ahead.begun, [&](const photo_ahead::begun_photo & one) {
-        return std::ranges::find(next, one.wanted) == next.end() && !is_at_work(one);
+        return std::ranges::find(next, one.wanted) == next.end() && is_there(one.photo);
     });
 }
 

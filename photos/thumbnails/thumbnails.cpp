@@ -54,15 +54,10 @@ bool needs_one(const std::string & photo, const std::string & thumbnail)
     return file_exists(photo) && !file_exists(thumbnail) && has_place(thumbnail);
 }
 
-bool is_at_work(const std::future<std::string> & one)
-{
-    return one.wait_for(std::chrono::seconds::zero()) != std::future_status::ready;
-}
-
 bool has_free_core(const thumbnails_ahead & ahead)
 {
     const auto at_work =
-        std::ranges::count_if(ahead.begun, [](const auto & each) { return is_at_work(each.second); });
+        std::ranges::count_if(ahead.begun, [](const auto & each) { return !is_there(each.second); });
     return at_work < ahead.at_once && std::ssize(ahead.begun) < 4 * ahead.at_once;
 }
 

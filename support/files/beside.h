@@ -8,6 +8,13 @@
 /// How long a window may stand still, at most.
 inline constexpr std::chrono::milliseconds longest_standstill{20};
 
+/// True when the result can be had without waiting.
+template <typename Result>
+bool is_there(const std::future<Result> & result)
+{
+    return result.wait_for(std::chrono::seconds::zero()) == std::future_status::ready;
+}
+
 /// Lets pending events through until the result is there.
 template <typename Result>
 void wait_for(desktop & desk, const std::future<Result> & result)
