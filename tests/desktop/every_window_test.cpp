@@ -3,15 +3,14 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/looks/letters.h"
 #include "tests/desktop/layout_checks.h"
-#include "tests/desktop/stages.h"
 #include "tests/desktop/window_views.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -103,6 +102,31 @@ TEST_P(every_window, is_called_by_its_title_without_the_blanks_between_the_lette
     });
 }
 
+TEST_P(every_window, has_a_button_for_enter_but_where_there_is_none_at_all)
+{
+    look_at_each([](form &, QWidget & window) {
+        const auto buttons = window.findChildren<QPushButton *>();
+        const auto count = std::ranges::count_if(buttons, [](auto * each) { return each->isDefault(); });
+        EXPECT_EQ(count, buttons.isEmpty() ? 0 : 1);
+    });
+}
+
+// The space bar, pressed unawares, would be taken for the answer.
+TEST_P(every_window, begins_where_its_work_begins)
+{
+    look_at_each([](form &, QWidget & window) {
+        QApplication::processEvents();
+        const QWidget * const focus = window.focusWidget();
+        if (window.findChildren<QPushButton *>().isEmpty())
+            return;
+        ASSERT_TRUE(focus);
+        const auto * const button = qobject_cast<const QPushButton *>(focus);
+        const QString text = button ? button->text().remove(QLatin1Char('&')) : QString();
+        EXPECT_TRUE(text != QLatin1String("Cancel") && text != QLatin1String("Help"))
+            << "the focus is on " << text.toStdString();
+    });
+}
+
 TEST_P(every_window, takes_enter_for_its_ok)
 {
     look_at_each([](form & held, QWidget & window) {
@@ -117,87 +141,24 @@ INSTANTIATE_TEST_SUITE_P(letters, every_window,
                          testing::Values(9 * 4 / 3, 12 * 4 / 3, 14 * 4 / 3, 16 * 4 / 3),
                          [](const auto & each) { return std::to_string(each.param) + "_pixels"; });
 
-// ---- on small screens
+// ---- lists
 
-struct small_screens : testing::TestWithParam<std::tuple<QSize, int>> {
-    ~small_screens() override { set_letters(smallest_letters); }
-};
-
-// Nothing stands outside the window, but what scrolling brings into it.
-faults out_of_reach(const form & shown, const QWidget & window)
+TEST(lists, those_of_entries_alone_are_not_typed_into)
 {
-    faults found;
-    for (QWidget * one : seen_widgets(shown, window)) {
-        bool scrolled = false;
-        for (QWidget * above = one->parentWidget(); above; above = above->parentWidget())
-            if (auto * const view = qobject_cast<QScrollArea *>(above)) {
-                view->ensureWidgetVisible(one, 0, 0);
-                scrolled = true;
+    scripted_desktop desk;
+    windows all(desk, listed({}));
+    std::vector<form *> forms = all.others();
+    forms.push_back(&all.main);
+    for (const form * each : forms) {
+        const std::unique_ptr<QWidget> window = make_window(each->name());
+        for (const control * held : each->controls())
+            if (const auto * const list = dynamic_cast<const combo_box *>(held)) {
+                const auto * const widget =
+                    window->findChild<QComboBox *>(QString::fromStdString(list->name()));
+                ASSERT_TRUE(widget) << each->name() << " " << list->name();
+                EXPECT_EQ(widget->isEditable(), !dynamic_cast<const entry_box *>(list)) << list->name();
             }
-        const QRect place(one->mapTo(&window, QPoint(0, 0)), one->size());
-        if (scrolled ? !window.rect().intersects(place) : !window.rect().contains(place))
-            found.push_back(one->objectName().toStdString());
     }
-    return found;
-}
-
-TEST_P(small_screens, have_room_for_every_window_and_show_all_that_stands_in_it)
-{
-    const auto [room, pixels] = GetParam();
-    set_letters(pixels);
-    filled_session session;
-    session.desk.room = {.width = room.width() * 9 / 10, .height = room.height() * 9 / 10};
-    for (const window_view & view : session.views()) {
-        SCOPED_TRACE(view.name);
-        const shown_view shown(view, room);
-        EXPECT_EQ(shown.window().size(), shown.window().size().boundedTo(room));
-        EXPECT_EQ(out_of_reach(*view.window, shown.window()), faults());
-    }
-}
-
-TEST_P(small_screens, have_room_for_the_main_window_in_all_its_stages)
-{
-    const auto [room, pixels] = GetParam();
-    set_letters(pixels);
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {.report = {}, .unloaded = {}, .room = [size = room] { return size; }});
-    main.load();
-    window->show();
-    for (const look stage : all_looks)
-        for (const shape poster : all_shapes) {
-            SCOPED_TRACE(name_of(stage, poster));
-            bring_to(main, stage, poster);
-            QApplication::processEvents();
-            EXPECT_EQ(window->size(), window->size().boundedTo(room));
-            EXPECT_EQ(out_of_reach(main, *window), faults());
-        }
-}
-
-// Without the frame of a window and the bar of the desktop: 1280 by 720 pixels, 1366 by 768, and 1280 by 720
-// at two and at three times the usual density.
-INSTANTIATE_TEST_SUITE_P(sizes, small_screens,
-                         testing::Combine(testing::Values(QSize(1272, 644), QSize(1358, 692), QSize(632, 284),
-                                                          QSize(418, 180)),
-                                          testing::Values(smallest_letters, roomy_letters)));
-
-TEST(the_main_window, gives_up_what_it_does_not_need_before_it_scrolls)
-{
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    const QSize room(1272, 644);
-    bind(main, *window, {.report = {}, .unloaded = {}, .room = [&room] { return room; }});
-    main.load();
-    bring_to(main, look::designed, shape::portrait);
-    window->show();
-    QApplication::processEvents();
-    EXPECT_EQ(window->height(), room.height());
-    EXPECT_EQ(window->findChild<QScrollArea *>(QLatin1String("view_area"))->verticalScrollBar()->maximum(),
-              0);
-    EXPECT_EQ(strays(main, *window), faults());
-    EXPECT_EQ(cut_texts(main, *window), faults());
 }
 
 // ---- what a reader of the screen hears
