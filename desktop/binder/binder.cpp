@@ -6,6 +6,7 @@
 #include "desktop/binder/focus_keeper.h"
 #include "desktop/binder/growing_room.h"
 #include "desktop/binder/move_keys.h"
+#include "desktop/binder/shortcuts.h"
 #include "desktop/qt_text.h"
 
 #include <QCloseEvent>
@@ -41,8 +42,8 @@ private:
     void act(const std::function<void()> & step);
     bool is_covered(const QWidget & widget) const;
     bool key_pressed(const QKeyEvent & event);
-    bool option_key(QRadioButton & option, int pressed);
     bool moved_about(int pressed);
+    static bool left_to_window(const QObject & watched, QKeyEvent & event);
     bool double_clicked(const QObject & watched);
     bool return_pressed(const QObject & watched, int pressed);
     void focus_moved(const QObject & watched, const QFocusEvent & event);
@@ -120,6 +121,8 @@ void binding::bind_control(control & held)
     } else {
         found->setObjectName(QString::fromStdString(held.name()));
     }
+    if (auto * const entry = qobject_cast<QAction *>(found))
+        give_keys(*entry, window);
     shown_by.insert(found, &held);
     bind_focus(held, *found);
     listen(held, *found, *this, [this, &held, found](const std::function<void()> & step) {
@@ -253,8 +256,11 @@ bool binding::eventFilter(QObject * watched, QEvent * event)
         auto * const option = qobject_cast<QRadioButton *>(watched);
         if ((option || watched == &window) && moved_about(pressed.key()))
             return true;
-        return watched == &window ? key_pressed(pressed) : option && option_key(*option, pressed.key());
+        return watched == &window ? key_pressed(pressed)
+                                  : option && moved_to_neighbour(*option, pressed.key());
     }
+    if (event->type() == QEvent::ShortcutOverride)
+        return left_to_window(*watched, static_cast<QKeyEvent &>(*event));
     if (event->type() == QEvent::MouseButtonDblClick)
         return double_clicked(*watched);
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
@@ -316,6 +322,14 @@ bool binding::key_pressed(const QKeyEvent & event)
     return true;
 }
 
+bool binding::left_to_window(const QObject & watched, QKeyEvent & event)
+{
+    const bool is_left = has_no_use_for(watched, event);
+    if (is_left)
+        event.ignore();
+    return is_left;
+}
+
 bool binding::moved_about(int pressed)
 {
     const std::optional<move_key> asked = move_key_of(pressed);
@@ -337,22 +351,6 @@ bool binding::double_clicked(const QObject & watched)
     if (!option || !option->on_double_click || !option->selected())
         return false;
     act([option] { option->on_double_click(); });
-    return true;
-}
-
-// With exclusion left to the session the toolkit's arrow keys would only wander.
-bool binding::option_key(QRadioButton & option, int pressed)
-{
-    const bool forward = pressed == Qt::Key_Down || pressed == Qt::Key_Right;
-    const bool backward = pressed == Qt::Key_Up || pressed == Qt::Key_Left;
-    if (!forward && !backward)
-        return false;
-    auto options = option.parentWidget()->findChildren<QRadioButton *>(Qt::FindDirectChildrenOnly);
-    options.removeIf([&](const QRadioButton * other) { return !other->isEnabled() || !other->isVisible(); });
-    const qsizetype count = options.size();
-    QRadioButton * const next = options[(options.indexOf(&option) + (forward ? 1 : count - 1)) % count];
-    next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    next->click();
     return true;
 }
 
