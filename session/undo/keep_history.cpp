@@ -72,7 +72,7 @@ bool is_at_rest(const frmMain & main, const change_history & history)
     return history.actions == 0 && !main.run.run_active && !main.menus_shown;
 }
 
-// Some of what changes is no action, as the keyboard's way into a box: it goes with where it stands.
+// What changed without an action of the user's goes with where it stands.
 void go(frmMain & main, change_history & history, const moment * (step_history<moment>::*where)() const,
         void (step_history<moment>::*step)())
 {
@@ -102,20 +102,20 @@ struct watcher {
             };
     }
 
-    // A preview takes the keyboard away for its time: that ends no typing.
-    void end_typing_with(control & box) const
+    // What the keyboard's ways into a box and out of it draw belongs to what is typed there, and leaving it
+    // ends that.
+    void watch_ways(control & box) const
     {
-        box.on_leave = [&held = history, left = std::move(box.on_leave)] {
-            fire(left);
-            if (held.actions == 0)
-                held.typed_in = nullptr;
-        };
+        const action done{.how = manner::amendment, .by = &box};
+        box.on_leave = [left = std::move(box.on_leave)] { fire(left); };
+        watch(box.on_leave, done);
+        watch(box.on_enter, done);
     }
 
     void watch_typing(std::function<void()> & handler, control & box) const
     {
         watch(handler, {.how = manner::typing, .by = &box});
-        end_typing_with(box);
+        watch_ways(box);
     }
 };
 
@@ -144,7 +144,10 @@ void watch_control(const watcher & by, control & each)
     watch_as<label>(each, clicked);
     watch_as<menu_entry>(each, clicked);
     watch_as<check_box>(each, [&](check_box & known) { by.watch(known.on_change, done); });
-    watch_as<text_box>(each, [&](text_box & known) { by.watch_typing(known.on_change, known); });
+    watch_as<text_box>(each, [&](text_box & known) {
+        by.watch_typing(known.on_change, known);
+        by.watch(known.on_return, {.how = manner::amendment, .by = &known});
+    });
     watch_as<combo_box>(each, [&](combo_box & known) {
         by.watch(known.on_click, done);
         by.watch_typing(known.on_typed, known);

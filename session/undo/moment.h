@@ -21,7 +21,7 @@ inline auto held_beside_controls(frmMain & main)
                     main.mix_step, main.in_preview, main.preview_blocked, main.skip_preview_click,
                     main.shape_row_bias, main.shape_column_bias, main.shape_rows, main.shape_columns,
                     main.shape_in_force, main.bg_portrait, main.bg_color, main.caption_color,
-                    main.font_extended, main.font_size_text, main.last_frame_size);
+                    main.drawn_background, main.font_extended, main.font_size_text, main.last_frame_size);
 }
 
 template <typename... Held>

@@ -178,6 +178,24 @@ TEST(undo, takes_what_is_typed_after_leaving_the_box_as_another_step)
     EXPECT_EQ(main.txtCaption.text(), "S");
 }
 
+TEST(undo, takes_what_leaving_a_box_draws_along_with_its_typing)
+{
+    undo_session session;
+    frmMain & main = session.main;
+    session.desk.will_choose_file(session.photos.front());
+    main.optBGimage.select();
+    const sight before = session.seen();
+    fire(main.txtBGimage.on_enter);
+    main.txtBGimage.set_text(session.photos.back());
+    fire(main.txtBGimage.on_leave);
+    const sight after = session.seen();
+    session.undo();
+    EXPECT_EQ(session.seen().picture, before.picture);
+    EXPECT_EQ(main.txtBGimage.text(), session.photos.front());
+    session.redo();
+    EXPECT_EQ(session.seen(), after);
+}
+
 TEST(undo, takes_each_choice_from_a_list_as_a_step)
 {
     undo_session session;
