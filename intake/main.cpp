@@ -6,6 +6,8 @@
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "versions/archive_version.h"
+#include "versions/version.h"
 
 #include <QCoreApplication>
 
@@ -93,7 +95,9 @@ int run(const intake_arguments & arguments)
             std::fputs(intake_usage().c_str(), stdout);
             return 0;
         case intake_arguments::task::version:
-            std::printf("tessaloom-intake %s\n", TESSALOOM_VERSION);
+            std::printf("%s",
+                        version_told("tessaloom-intake", {std::string("Qt ") + qVersion(), archive_version()})
+                            .c_str());
             return 0;
         default:
             return prepare(arguments);
