@@ -46,7 +46,6 @@ private:
     bool is_covered(const QWidget & widget) const;
     bool key_pressed(const QKeyEvent & event);
     bool moved_about(int pressed);
-    static bool left_to_window(const QObject & watched, QKeyEvent & event);
     bool double_clicked(const QObject & watched);
     bool return_pressed(const QObject & watched, int pressed);
     void focus_moved(const QObject & watched, const QFocusEvent & event);
@@ -331,14 +330,6 @@ bool binding::key_pressed(const QKeyEvent & event)
         return false;
     act([this, asked] { bound.on_key(*asked); });
     return true;
-}
-
-bool binding::left_to_window(const QObject & watched, QKeyEvent & event)
-{
-    const bool is_left = has_no_use_for(watched, event);
-    if (is_left)
-        event.ignore();
-    return is_left;
 }
 
 bool binding::moved_about(int pressed)

@@ -23,9 +23,12 @@ void give_keys(QAction & entry, QWidget & window)
     window.addAction(&entry);
 }
 
-bool has_no_use_for(const QObject & box, const QKeyEvent & pressed)
+bool left_to_window(const QObject & box, QKeyEvent & pressed)
 {
     const QLineEdit * const line = line_of(box);
-    return line && ((pressed.matches(QKeySequence::Undo) && !line->isUndoAvailable()) ||
-                    (pressed.matches(QKeySequence::Redo) && !line->isRedoAvailable()));
+    const bool is_left = line && ((pressed.matches(QKeySequence::Undo) && !line->isUndoAvailable()) ||
+                                  (pressed.matches(QKeySequence::Redo) && !line->isRedoAvailable()));
+    if (is_left)
+        pressed.ignore();
+    return is_left;
 }

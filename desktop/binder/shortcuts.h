@@ -10,5 +10,6 @@
 /// menu may stand in no bar.
 void give_keys(QAction & entry, QWidget & window);
 
-/// True when a box, or a list with one, would swallow the keys of undo or redo without a use for them.
-bool has_no_use_for(const QObject & box, const QKeyEvent & pressed);
+/// Leaves the keys of undo and redo to the window where a box, or a list with one, would swallow them without
+/// a use for them. False when it didn't.
+bool left_to_window(const QObject & box, QKeyEvent & pressed);
