@@ -201,7 +201,7 @@ void display_content(const menu_entry & held, QAction & widget)
 void display_content(const group & held, QWidget & widget)
 {
     if (auto * const box = qobject_cast<QGroupBox *>(&widget)) {
-        box->setTitle(shown(held.caption()).trimmed());  // all begin at the same place
+        box->setTitle(shown(held.caption()));
         box->setAccessibleName(unspaced(box->title()));
     }
 }

@@ -88,7 +88,7 @@ TEST(binder, a_list_takes_new_items_and_keeps_its_text)
 TEST(binder, a_spaced_title_is_read_out_as_words)
 {
     bound_form shown;
-    EXPECT_EQ(shown.all->title(), "A l l");
+    EXPECT_EQ(shown.all->title(), "   A l l   ");
     EXPECT_EQ(shown.all->accessibleName(), "All");
 }
 
