@@ -37,10 +37,10 @@ struct text_request {
 };
 
 enum class print_result {
-    sent,        ///< the printer has the job
-    held,        ///< its queue has the job, but the printer stands still
-    written,     ///< to a file instead
-    cancelled,   ///< by the user
+    sent,       ///< the printer has the job
+    held,       ///< its queue has the job, but the printer stands still
+    written,    ///< to a file instead
+    cancelled,  ///< by the user
     no_printer,
     failed
 };
@@ -82,8 +82,8 @@ public:
 
     /// Opens a file or an address with the user's default program; false when there is none.
     virtual bool open_document(const std::string & target) = 0;
-    /// Prints on one page of that orientation, whole, centred, proportions kept, on the printer that the user takes: the
-    /// default one is offered first.
+    /// Prints on one page of that orientation, whole, centred, proportions kept, on the printer that the user
+    /// takes: the default one is offered first.
     virtual print_report print(const bitmap & image, orientation page) = 0;
 
     /// What the screen has for a window, in pixels at 100%.

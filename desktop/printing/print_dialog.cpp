@@ -28,7 +28,8 @@ std::map<std::string, std::string> options_of(const QPrinter & printer)
     return options;
 }
 
-// A page that is only shown is recorded as a picture; the printed one is written by us, once the dialog has closed.
+// A page that is only shown is recorded as a picture; the printed one is written by us, once the dialog has
+// closed.
 void show_page(QPrinter & printer, const QImage & picture)
 {
     QPainter painter;
@@ -42,10 +43,13 @@ void show_page(QPrinter & printer, const QImage & picture)
 // The toolkit's preview is made for many pages; the keys for "go on" print.
 void fit_to_one_page(const QPrintPreviewDialog & dialog)
 {
-    const QStringList of_many = {
-        QStringLiteral("First page"), QStringLiteral("Previous page"),    QStringLiteral("Next page"),
-        QStringLiteral("Last page"),  QStringLiteral("Show single page"), QStringLiteral("Show facing pages"),
-        QStringLiteral("Show overview of all pages")};
+    const QStringList of_many = {QStringLiteral("First page"),
+                                 QStringLiteral("Previous page"),
+                                 QStringLiteral("Next page"),
+                                 QStringLiteral("Last page"),
+                                 QStringLiteral("Show single page"),
+                                 QStringLiteral("Show facing pages"),
+                                 QStringLiteral("Show overview of all pages")};
     for (QAction * const each : dialog.findChildren<QAction *>()) {
         if (of_many.contains(each->text()))
             each->setVisible(false);
@@ -64,7 +68,8 @@ void take_own_paper(QPrinter & printer, const QPrinterInfo & offered)
 
 print_choice choice_of(const QPrinter & printer)
 {
-    print_choice choice{.queue = {}, .file = printer.outputFileName(), .page = printer_page(printer), .options = {}};
+    print_choice choice{
+        .queue = {}, .file = printer.outputFileName(), .page = printer_page(printer), .options = {}};
     if (choice.file.isEmpty()) {
         choice.queue = bytes_of(printer.printerName());
         choice.options = options_of(printer);
@@ -84,8 +89,8 @@ QPageLayout printer_page(const QPrinter & printer)
     return page_of(set.pageSize(), least.minimumMargins(), set.orientation());
 }
 
-std::optional<print_choice> choose_print(const QPrinterInfo & info, const QImage & picture, QPageLayout::Orientation lies,
-                                         QWidget * owner)
+std::optional<print_choice> choose_print(const QPrinterInfo & info, const QImage & picture,
+                                         QPageLayout::Orientation lies, QWidget * owner)
 {
     QPrinter printer(info, QPrinter::HighResolution);
     printer.setFullPage(true);

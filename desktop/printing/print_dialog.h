@@ -22,7 +22,7 @@ struct print_choice {
 /// The page of a printer as it is set: its paper, its own margins.
 QPageLayout printer_page(const QPrinter & printer);
 
-/// Shows the page as it will be, its margins dashed, and asks for printer, paper and copies in the system's dialog. The
-/// printer is offered with its own default paper. Nothing when the user gives up.
+/// Shows the page as it will be, its margins dashed, and asks for printer, paper and copies in the system's
+/// dialog. The printer is offered with its own default paper. Nothing when the user gives up.
 std::optional<print_choice> choose_print(const QPrinterInfo & printer, const QImage & picture,
                                          QPageLayout::Orientation lies, QWidget * owner);

@@ -65,7 +65,8 @@ QRectF picture_place(const QSizeF & picture, const QPageLayout & page)
 void paint_page(QPainter & painter, double dots, const QImage & picture, const QPageLayout & page)
 {
     painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
-    painter.drawImage(scaled(picture_place(picture.size(), page), dots / points_an_inch), picture, picture.rect());
+    painter.drawImage(scaled(picture_place(picture.size(), page), dots / points_an_inch), picture,
+                      picture.rect());
 }
 
 void mark_margins(QPainter & painter, double dots, const QPageLayout & page)
@@ -77,10 +78,12 @@ void mark_margins(QPainter & painter, double dots, const QPageLayout & page)
     painter.drawRect(scaled(room, dots / points_an_inch));
 }
 
-std::string write_page(const QString & path, const QImage & picture, const QPageLayout & page, const std::string & title)
+std::string write_page(const QString & path, const QImage & picture, const QPageLayout & page,
+                       const std::string & title)
 {
     const QByteArray bytes = pdf_of(picture, page, title);
     QFile file(path);
-    const bool is_whole = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    const bool is_whole =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
     return is_whole ? std::string() : bytes_of(file.errorString());
 }

@@ -3,7 +3,6 @@
 #include <QFile>
 
 #include <cups/cups.h>
-
 #include <memory>
 #include <string_view>
 
@@ -46,10 +45,14 @@ print_report send_to_queue(const print_job & job, const QString & path)
     const std::string state = told_of(*printer, "printer-state");
     const std::string words = told_of(*printer, "printer-state-message");
     if (told_of(*printer, "printer-is-accepting-jobs") == "false")
-        return {.result = print_result::failed, .where = job.queue, .why = words.empty() ? "It takes no jobs." : words};
+        return {.result = print_result::failed,
+                .where = job.queue,
+                .why = words.empty() ? "It takes no jobs." : words};
     const options given(job.options);
-    if (!cupsPrintFile2(CUPS_HTTP_DEFAULT, job.queue.c_str(), QFile::encodeName(path).constData(), job.title.c_str(),
-                        given.count, given.list))
+    if (!cupsPrintFile2(CUPS_HTTP_DEFAULT, job.queue.c_str(), QFile::encodeName(path).constData(),
+                        job.title.c_str(), given.count, given.list))
         return {.result = print_result::failed, .where = job.queue, .why = cupsLastErrorString()};
-    return {.result = state == stopped ? print_result::held : print_result::sent, .where = job.queue, .why = words};
+    return {.result = state == stopped ? print_result::held : print_result::sent,
+            .where = job.queue,
+            .why = words};
 }

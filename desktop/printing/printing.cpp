@@ -69,12 +69,15 @@ print_report carry_out(const print_choice & choice, const QImage & picture)
     });
 }
 
-print_report print_by_dialog(const QPrinterInfo & printer, const bitmap & image, orientation page, QWidget * owner)
+print_report print_by_dialog(const QPrinterInfo & printer, const bitmap & image, orientation page,
+                             QWidget * owner)
 {
     if (printer.isNull())
         return {.result = print_result::no_printer};
     if (!image)
-        return {.result = print_result::failed, .where = bytes_of(printer.printerName()), .why = "There is no collage."};
+        return {.result = print_result::failed,
+                .where = bytes_of(printer.printerName()),
+                .why = "There is no collage."};
     const QImage picture = image_of(image);
     const auto choice = choose_print(printer, picture, page_orientation(page), owner);
     return choice ? carry_out(*choice, picture) : print_report{.result = print_result::cancelled};

@@ -15,4 +15,5 @@ QPrinterInfo first_printer();
 print_report carry_out(const print_choice & choice, const QImage & picture);
 
 /// Asks for printer, paper and copies over a picture of the page, and prints there.
-print_report print_by_dialog(const QPrinterInfo & printer, const bitmap & image, orientation page, QWidget * owner);
+print_report print_by_dialog(const QPrinterInfo & printer, const bitmap & image, orientation page,
+                             QWidget * owner);

@@ -64,7 +64,8 @@ std::string words_of(const print_report & report)
         case print_result::cancelled:
             return {};
         case print_result::no_printer:
-            return "There is no printer.\r\n\r\nAdd one in the settings of this computer and print again, or save the "
+            return "There is no printer.\r\n\r\nAdd one in the settings of this computer and print again, or "
+                   "save the "
                    "collage and print the file.";
         case print_result::failed:
             break;

@@ -1,10 +1,10 @@
 #include "desktop/printing/print_page.h"
 
-#include "tests/pictures.h"
-#include "tests/temporary_folder.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/qt_picture.h"
 #include "tests/desktop/printing/pdf_page.h"
+#include "tests/pictures.h"
+#include "tests/temporary_folder.h"
 
 #include <QFile>
 
@@ -86,7 +86,8 @@ TEST(write_page, keeps_every_pixel_and_the_title)
 {
     const temporary_folder folder;
     const QString path = QString::fromStdString(folder.at("page.pdf"));
-    write_page(path, image_of(graded(123, 77)), page_of(QPageSize(QPageSize::A4), uneven, QPageLayout::Portrait), "Flurn");
+    write_page(path, image_of(graded(123, 77)),
+               page_of(QPageSize(QPageSize::A4), uneven, QPageLayout::Portrait), "Flurn");
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
@@ -98,7 +99,8 @@ TEST(write_page, keeps_every_pixel_and_the_title)
 TEST(write_page, says_why_it_could_not_be_written)
 {
     const QPageLayout page = page_of(QPageSize(QPageSize::A4), uneven, QPageLayout::Portrait);
-    EXPECT_NE(write_page(QStringLiteral("/no/such/folder/page.pdf"), image_of(graded(20, 30)), page, "Flurn"), "");
+    EXPECT_NE(write_page(QStringLiteral("/no/such/folder/page.pdf"), image_of(graded(20, 30)), page, "Flurn"),
+              "");
     EXPECT_NE(write_page(QStringLiteral("/dev/full"), image_of(graded(20, 30)), page, "Flurn"), "");
 }
 

@@ -1,10 +1,10 @@
 // Prints on the printers of print_server.py and measures the sheets that they got.
 
-#include "tests/pictures.h"
 #include "desktop/printing/print_dialog.h"
 #include "desktop/printing/print_page.h"
 #include "desktop/printing/printing.h"
 #include "desktop/qt_picture.h"
+#include "tests/pictures.h"
 
 #include <QAction>
 #include <QApplication>
@@ -22,11 +22,10 @@
 #include <QTest>
 #include <QTimer>
 
-#include <cups/cups.h>
-#include <gtest/gtest.h>
-
 #include <csignal>
+#include <cups/cups.h>
 #include <functional>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 
 namespace {
@@ -60,7 +59,8 @@ print_choice usual_choice(const std::string & queue, QPageLayout::Orientation li
     return {.queue = queue,
             .file = {},
             .page = printer_page(printer),
-            .options = {{"media", printer.pageLayout().pageSize().key().toStdString()}, {"print-scaling", "none"}}};
+            .options = {{"media", printer.pageLayout().pageSize().key().toStdString()},
+                        {"print-scaling", "none"}}};
 }
 
 // The sheet as the printer got it, a pixel a point.
@@ -83,8 +83,9 @@ sheet printed_sheet(const std::string & queue)
 {
     const QString file = printed_file(queue);
     const QTemporaryDir folder;
-    EXPECT_EQ(QProcess::execute(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("72"),
-                                                             QStringLiteral("-png"), file, folder.filePath("page")}),
+    EXPECT_EQ(QProcess::execute(QStringLiteral("pdftoppm"),
+                                {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"), file,
+                                 folder.filePath("page")}),
               0);
     const QDir pages(folder.path(), QStringLiteral("*.png"));
     const QStringList names = pages.entryList();
@@ -103,7 +104,10 @@ QByteArray told(const char * program, const QStringList & words)
 bool is_through(const std::string & queue)
 {
     return QTest::qWaitFor(
-        [&queue] { return !told("lpstat", {QStringLiteral("-o"), QString::fromStdString(queue)}).contains(queue.c_str()); },
+        [&queue] {
+            return !told("lpstat", {QStringLiteral("-o"), QString::fromStdString(queue)})
+                        .contains(queue.c_str());
+        },
         wait);
 }
 
@@ -112,9 +116,8 @@ struct collage {
     QPageLayout::Orientation lies;
 };
 
-constexpr collage collages[] = {{200, 300, QPageLayout::Portrait},
-                                {300, 200, QPageLayout::Landscape},
-                                {200, 200, QPageLayout::Portrait}};
+constexpr collage collages[] = {
+    {200, 300, QPageLayout::Portrait}, {300, 200, QPageLayout::Landscape}, {200, 200, QPageLayout::Portrait}};
 
 void expect_inside(const QRect & picture, const paper & on)
 {
@@ -131,8 +134,8 @@ TEST(printers, each_gets_one_sheet_of_its_own_paper_with_the_whole_picture_insid
     for (const paper & on : papers)
         for (const collage & made : collages) {
             SCOPED_TRACE(std::string(on.queue) + " " + std::to_string(made.width));
-            const print_report report =
-                carry_out(usual_choice(on.queue, made.lies), image_of(plain(made.width, made.height, {.red = 80})));
+            const print_report report = carry_out(usual_choice(on.queue, made.lies),
+                                                  image_of(plain(made.width, made.height, {.red = 80})));
             ASSERT_EQ(report.result, print_result::sent) << report.why;
             ASSERT_TRUE(is_through(on.queue));
             const sheet got = printed_sheet(on.queue);
@@ -143,14 +146,16 @@ TEST(printers, each_gets_one_sheet_of_its_own_paper_with_the_whole_picture_insid
             const QRect picture = lies ? got.picture().transposed() : got.picture();
             ASSERT_FALSE(lies) << "the printer turns the sheet upright";
             expect_inside(picture, on);
-            const double proportion = 1.0 * std::max(made.width, made.height) / std::min(made.width, made.height);
+            const double proportion =
+                1.0 * std::max(made.width, made.height) / std::min(made.width, made.height);
             EXPECT_NEAR(1.0 * picture.height() / picture.width(), proportion, 0.02);
         }
 }
 
 TEST(printers, a_job_has_a_title)
 {
-    const print_report report = carry_out(usual_choice("stands_still", QPageLayout::Portrait), image_of(plain(20, 30, {})));
+    const print_report report =
+        carry_out(usual_choice("stands_still", QPageLayout::Portrait), image_of(plain(20, 30, {})));
     EXPECT_EQ(report.result, print_result::held);
     EXPECT_EQ(report.where, "stands_still");
     cups_job_t * jobs = nullptr;
@@ -162,7 +167,8 @@ TEST(printers, a_job_has_a_title)
 
 TEST(printers, one_that_takes_no_jobs_fails_in_words)
 {
-    const print_report report = carry_out(usual_choice("takes_nothing", QPageLayout::Portrait), image_of(plain(20, 30, {})));
+    const print_report report =
+        carry_out(usual_choice("takes_nothing", QPageLayout::Portrait), image_of(plain(20, 30, {})));
     EXPECT_EQ(report.result, print_result::failed);
     EXPECT_EQ(report.where, "takes_nothing");
     EXPECT_NE(report.why, "");
@@ -187,7 +193,8 @@ TEST(printers, a_full_temporary_folder_is_named_and_nothing_is_printed)
     const auto former = std::signal(SIGXFSZ, SIG_IGN);
     const rlimit small{.rlim_cur = 1000, .rlim_max = before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &small);
-    const print_report report = carry_out(usual_choice("paper_a4", QPageLayout::Portrait), image_of(graded(200, 300)));
+    const print_report report =
+        carry_out(usual_choice("paper_a4", QPageLayout::Portrait), image_of(graded(200, 300)));
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, former);
     EXPECT_EQ(report.result, print_result::failed);
@@ -219,8 +226,8 @@ void once_open(std::function<void(Window &)> act)
 std::optional<print_choice> chosen(const char * queue, std::function<void(QPrintPreviewDialog &)> act)
 {
     once_open<QPrintPreviewDialog>(std::move(act));
-    return choose_print(QPrinterInfo::printerInfo(QString::fromLatin1(queue)), image_of(plain(300, 200, {.red = 80})),
-                        QPageLayout::Landscape, nullptr);
+    return choose_print(QPrinterInfo::printerInfo(QString::fromLatin1(queue)),
+                        image_of(plain(300, 200, {.red = 80})), QPageLayout::Landscape, nullptr);
 }
 
 void press_print(QPrintPreviewDialog & preview)

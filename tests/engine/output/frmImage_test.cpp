@@ -225,15 +225,18 @@ TEST(cmdPrint, says_where_the_collage_went_and_what_to_do_when_it_went_nowhere)
     } cases[] = {
         {{.result = print_result::sent, .where = "attic"}, "The collage was sent to the printer attic."},
         {{.result = print_result::held, .where = "attic", .why = "Paused"},
-         "The collage was sent to the printer attic, which stands still.\r\nPaused\r\n\r\nIt prints the collage as "
+         "The collage was sent to the printer attic, which stands still.\r\nPaused\r\n\r\nIt prints the "
+         "collage as "
          "soon as it runs again."},
         {{.result = print_result::written, .where = "/home/a/page.pdf"},
          "The printed page was written to\r\n/home/a/page.pdf"},
         {{.result = print_result::no_printer},
-         "There is no printer.\r\n\r\nAdd one in the settings of this computer and print again, or save the collage "
+         "There is no printer.\r\n\r\nAdd one in the settings of this computer and print again, or save the "
+         "collage "
          "and print the file."},
         {{.result = print_result::failed, .where = "attic", .why = "It takes no jobs."},
-         "The collage could not be printed: attic\r\nIt takes no jobs.\r\n\r\nSee to it and print again, or save the "
+         "The collage could not be printed: attic\r\nIt takes no jobs.\r\n\r\nSee to it and print again, or "
+         "save the "
          "collage and print the file."}};
     finished_session session;
     for (const auto & each : cases) {
