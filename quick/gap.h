@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
-/// The gap that is kept free between photos gives way where nothing would be left of them; as long as a pixel
-/// of each is left it is as asked.
+/// The gap that is kept free between photos gives way where nothing would be seen of them; as long as each
+/// photo shows, in the preview too, it is as asked.
+
+constexpr int least_seen = 10;  ///< pixels of the poster: one and a half in the preview
 
 /// The largest of `gaps` equal gaps that together leave a quarter of `room` to the photos, which is 0 or
 /// more.
@@ -15,5 +17,5 @@ constexpr int widest_gap(int room, int gaps)
 /// The gap on both sides of a photo in `room`.
 constexpr int gap_beside(int gap, int room)
 {
-    return room - 2 * gap >= 1 ? gap : std::min(gap, widest_gap(room, 2));
+    return room - 2 * gap >= least_seen ? gap : std::min(gap, widest_gap(room, 2));
 }

@@ -79,11 +79,17 @@ int cell_size(const shapes_request & request, const shapes_layout & plan)
 // room.
 int gap_of(const shapes_request & request, const shapes_layout & plan)
 {
-    if (cell_size(request, plan) >= 1)
+    if (cell_size(request, plan) >= least_seen)
         return request.gap;
     const grid_room room = room_of(request);
     return std::min({request.gap, widest_gap(room.across, nearest(plan.columns) - 1),
                      widest_gap(room.down, nearest(plan.rows) - 1)});
+}
+
+// A mix makes some cells smaller, but leaves something to be seen of them.
+int grown_cell(int size, int by)
+{
+    return std::max(size + by, std::min(size, least_seen));
 }
 
 struct grid_start {
@@ -187,7 +193,7 @@ public:
             const int unit = request.mix ? mix_unit : 0;
             if (!is_blank(blanks))
                 plan.places.push_back(cell_at(top + unit * by.down, left + unit * by.right,
-                                              std::max(size + unit * by.growth, 1), masks.next(random)));
+                                              grown_cell(size, unit * by.growth), masks.next(random)));
             mix = mix == last_mix ? 1 : mix + 1;
             next_line(blanks, random);
             left += size + request.gap;
