@@ -206,12 +206,16 @@ run_end place_photos(frmMain & main, run_size size)
     turn_if_needed(main);
     move_to_canvas(main, size);
     make_room_for_ornaments(main, size);
+    const std::vector<order_turn> shown_before = main.collage.turns_shown;
     turn_the_order(main, size);
     main.trace += "GGG  ";
     const int16 wraps = main.chkEvolve.ticked() ? 0 : evolve_off;
     main.run.evolve_portrait_wraps = main.run.evolve_landscape_wraps = wraps;
     const run_end end = run_loops(main);
     forget_ahead(main);
+    // What was cancelled has not been shown.
+    if (end == run_end::cancelled)
+        main.collage.turns_shown = shown_before;
     main.trace += "BBB  ";
     return end;
 }
@@ -233,6 +237,7 @@ bool went_through(frmMain & main, const std::function<void()> & work)
     } catch (const platform_error & error) {
         // The memory first: it may be what was missing.
         main.run.canvas = bitmap{};
+        main.run.photos_shown.clear();
         main.desk.message(failure_text(main, error));
         return false;
     }
@@ -252,6 +257,7 @@ void report_cancel(frmMain & main)
 {
     main.run.run_active = false;
     main.run.cancel_requested = false;
+    main.run.photos_shown.clear();
     main.txtDoing.show(false);
     main.desk.message("Flurning has been canceled.");
     set_enable(main, true);

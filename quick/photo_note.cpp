@@ -9,7 +9,7 @@ std::string source_note(const frmMain & main)
     return "Using photos from   " + main.txtPhotos.text();
 }
 
-// Before the first run nothing is known, and one that was cancelled at once says nothing.
+// Before the first run nothing is known, and one that was cancelled or failed says nothing.
 int photos_left_out(const frmMain & main)
 {
     const int shown = static_cast<int>(main.run.photos_shown.size());

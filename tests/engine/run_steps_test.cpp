@@ -186,6 +186,16 @@ TEST(place_photos, a_full_run_turns_the_order_as_the_preview_before_it_did)
     EXPECT_GT(seen_orders.size(), 2U) << "every preview draws anew";
 }
 
+TEST(place_photos, a_cancelled_preview_has_not_been_shown)
+{
+    dozen_run run;
+    run.main.random = seeded_random(5);
+    run.main.collage.random_design = run.main.collage.design_rotated = true;
+    run.main.run.cancel_requested = true;
+    EXPECT_EQ(place_photos(run.main, run_size::preview), run_end::cancelled);
+    EXPECT_TRUE(run.main.collage.turns_shown.empty());
+}
+
 TEST(place_photos, a_design_of_another_size_has_an_order_of_its_own)
 {
     dozen_run run;
