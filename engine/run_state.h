@@ -6,6 +6,7 @@
 #include "support/numbers.h"
 
 #include <map>
+#include <set>
 #include <string>
 
 /// The state of one collage run, seen by the driver, the loops and the drawing alike. Pixels are those of the
@@ -23,7 +24,8 @@ struct run_state {
     bool match_active = false;
     int16 next_portrait = 0, next_landscape = 0;  ///< cursors of the orientation matching
     int16 evolve_portrait_wraps = 0, evolve_landscape_wraps = 0;
-    mask_shelf masks;  ///< outlives the run: a preview uses the same again
+    std::set<int> photos_shown;  ///< of the table, by their indices; none of a run that failed
+    mask_shelf masks;            ///< outlives the run: a preview uses the same again
     photo_ahead ahead;
     int16 first_cell_height = 0, first_cell_width = 0;  ///< in a grid its rows and columns
     int16 caption_height = 0;                           ///< pixels, of the prepared caption
