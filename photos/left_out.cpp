@@ -118,6 +118,18 @@ void tell_left_out(frmMain & main)
     main.desk.message(text);
 }
 
+void tell_no_match(frmMain & main, const std::string & text)
+{
+    left_out_photos & left_out = main.left_out;
+    const bool why_is_told_elsewhere = left_out.told_by == left_out_photos::teller::caller;
+    if (has_usable_photo(main) || why_is_told_elsewhere)
+        return main.desk.message(text);
+    if (main.in_preview && left_out.told == left_out.photos.size())
+        return;
+    left_out.told = left_out.photos.size();
+    main.desk.message(text + "\r\n\r\n" + box_text(main, left_out.photos));
+}
+
 std::string line_of(const left_out_photo & photo)
 {
     std::string path = photo.path;

@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/catalogue.h"
 #include "photos/chosen_photos.h"
+#include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
 #include "quick/no_template.h"
 #include "quick/photo_note.h"
@@ -88,7 +89,7 @@ bool are_enough(frmMain & main)
     const photo_source kind = photo_source_kind(main);
     const int photos = main.table.last_photo + 1;
     if (photos >= fewest_photos)
-        return true;
+        return has_usable_photo(main);  // the count has told why there is none
     if (photos > 0)
         main.desk.message(too_few_message(kind, photos));
     else if (kind == photo_source::folder)
@@ -211,6 +212,8 @@ void take_new_photos(frmMain & main)
         return refresh_preview(main);
     main.run.photos_shown.clear();
     note_photos_in_use(main);
+    if (!has_usable_photo(main))
+        return refresh_preview(main);  // no template is wanting
     const bool block = main.optBlock.selected();
     if ((block || main.optScatter.selected()) && !match_quick_style(main) &&
         block == main.optBlock.selected())

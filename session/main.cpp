@@ -18,8 +18,8 @@ namespace {
 void start(windows & all, change_history & history)
 {
     all.main.install_folder = program_folder();
-    prepare_data_folder(all.main, data_folder_choice());
     connect_all(all);
+    prepare_data_folder(all.main, data_folder_choice());
     keep_history(all.main, history);
     all.main.picSplash.load(joined(all.main.install_folder, "images/splash.png"));
     all.main.desk.show(all.main);

@@ -7,12 +7,26 @@
 #include <dlfcn.h>
 #include <thread>
 
-extern "C" int fsync(int descriptor)
+namespace {
+
+using flush = int (*)(int);
+
+int flushed_late(const char * name, int descriptor)
 {
-    using flush = int (*)(int);
-    static const auto flush_really = reinterpret_cast<flush>(::dlsym(RTLD_NEXT, "fsync"));
     static const char * const pause = std::getenv("TESSALOOM_SLOW_DISK");
     if (pause != nullptr)
         std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(pause)));
-    return flush_really(descriptor);
+    return reinterpret_cast<flush>(::dlsym(RTLD_NEXT, name))(descriptor);
+}
+
+}  // namespace
+
+extern "C" int fsync(int descriptor)
+{
+    return flushed_late("fsync", descriptor);
+}
+
+extern "C" int syncfs(int descriptor)
+{
+    return flushed_late("syncfs", descriptor);
 }
