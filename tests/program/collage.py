@@ -7,9 +7,9 @@ import sys
 import screen
 
 
-def started():
+def started(kind):
     app, plugins, photos = sys.argv[1:4]
-    program = screen.Program(app, plugins)
+    program = kind(app, plugins)
     program.photos = os.path.join(program.folder, 'my photos')
     os.makedirs(program.photos)
     for path in sorted(glob.glob(os.path.join(photos, '*.jpg')))[:12]:
@@ -128,8 +128,8 @@ def ended(program):
     check(program.process.returncode == 0, 'the program ended with %d' % program.process.returncode)
 
 
-def run(play):
-    program = started()
+def run(play, kind=screen.Program):
+    program = started(kind)
     try:
         play(program)
     except BaseException:
