@@ -4,6 +4,7 @@
 #include "desktop/binder/captions.h"
 #include "desktop/binder/windows_made.h"
 #include "desktop/file_filter.h"
+#include "desktop/opener.h"
 #include "desktop/printing.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_text.h"
@@ -14,7 +15,6 @@
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QDesktopServices>
 #include <QFile>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -40,8 +40,18 @@ std::string path_bytes(const QString & path)
 void prepare_box(QMessageBox & box, const std::string & title, const std::string & text)
 {
     box.setWindowTitle(title.empty() ? QStringLiteral("Tessaloom") : shown(title));
+    box.setAccessibleName(unspaced(box.windowTitle()));
     box.setTextFormat(Qt::PlainText);
     box.setText(shown(text).remove(QLatin1Char('\r')));
+}
+
+// What a window's frame takes of the screen, before it is known.
+constexpr QSize usual_frame{8, 36};
+
+QSize room_for(const QWidget & window)
+{
+    const QSize frame = window.frameGeometry().size() - window.size();
+    return window.screen()->availableSize() - (frame.isNull() ? usual_frame : frame);
 }
 
 // A question that comes up in the midst of work is answered with an arrow, not with an hourglass.
@@ -116,7 +126,8 @@ QWidget & qt_desktop::made(form & window)
         throw std::logic_error("no Designer file for " + window.name());
     bind(window, *widget,
          {.report = [this](const std::string & text) { message(text, {}); },
-          .unloaded = [this, &window] { taken_down(window); }});
+          .unloaded = [this, &window] { taken_down(window); },
+          .room = [its_widget = widget.get()] { return room_for(*its_widget); }});
     windows[&window].widget = widget.get();
     return *widget.release();
 }
@@ -266,8 +277,7 @@ std::optional<std::uint32_t> qt_desktop::choose_color(std::uint32_t initial)
 bool qt_desktop::open_document(const std::string & target)
 {
     const bool is_file = file_exists(target) || folder_exists(target);
-    return QDesktopServices::openUrl(is_file ? QUrl::fromLocalFile(toolkit_path(target))
-                                             : QUrl(shown(target)));
+    return opened_by_desktop(is_file ? QUrl::fromLocalFile(toolkit_path(target)) : QUrl(shown(target)));
 }
 
 print_result qt_desktop::print(const bitmap & image, orientation page)

@@ -5,7 +5,10 @@
 #include "desktop/binder/control_input.h"
 #include "desktop/binder/focus_keeper.h"
 #include "desktop/binder/growing_room.h"
+#include "desktop/binder/main_keys.h"
 #include "desktop/binder/move_keys.h"
+#include "desktop/binder/wheel.h"
+#include "desktop/binder/window_room.h"
 #include "desktop/qt_text.h"
 
 #include <QCloseEvent>
@@ -52,6 +55,7 @@ private:
     QWidget & window;
     window_hooks hooks;
     focus_keeper focus;
+    window_room place;
     QHash<QString, QWidget *> behind;  // what each covering control hides
     QHash<const QObject *, control *> shown_by;
     bool is_hidden = false;  // by its form
@@ -63,7 +67,8 @@ binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
       bound(its_form),
       window(its_window),
       hooks(std::move(its_hooks)),
-      focus(its_window)
+      focus(its_window),
+      place(its_window, hooks.room)
 {
     window.installEventFilter(this);
     window.installEventFilter(&focus);  // sees keys first: one that waits for its text box asks for no help
@@ -112,6 +117,8 @@ void binding::bind_control(control & held)
         return;
     if (auto * const widget = qobject_cast<QWidget *>(found)) {
         widget->installEventFilter(this);
+        widget->installEventFilter(&focus);
+        leave_wheel_to_focus(*widget);
         if (widget->property("keepsRoom").toBool())
             keep_room(*widget);
         const QString cover = widget->property("coveredBy").toString();
@@ -173,6 +180,8 @@ void binding::show_widget(control & held, QWidget & widget)
         focus.before_loss(widget);
     display(held, widget);
     widget.setVisible(visible);
+    if (widget.property("placed").toBool())
+        place.follow();
     show_frame_around(widget);
     if (QWidget * const hidden = behind.value(widget.objectName()))
         if (control * const covered = bound.find(hidden->objectName().toStdString()))
@@ -197,8 +206,8 @@ void binding::show_window()
         window.setPalette(colors);
     }
     if (bound.width() > 0 && bound.height() > 0)
-        window.setFixedSize(QSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel) +
-                            growth_of(window));
+        place.fix(QSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel) +
+                  growth_of(window));
     if (!bound.loaded())
         fire(hooks.unloaded);
     else if (is_hidden == bound.visible())
@@ -300,11 +309,13 @@ void binding::pressed_on(const QObject & watched)
 // Keys arrive here when no widget of the window took them; a text field takes its "?".
 bool binding::key_pressed(const QKeyEvent & event)
 {
-    const bool is_dialog = !qobject_cast<QMainWindow *>(&window);
-    if (event.key() == Qt::Key_Escape && is_dialog) {
+    auto * const main = qobject_cast<QMainWindow *>(&window);
+    if (event.key() == Qt::Key_Escape && !main) {
         act([this] { bound.request_close(); });
         return true;
     }
+    if (main && pressed_in_main(*main, event))
+        return true;
     std::optional<key> asked;
     if (event.key() == Qt::Key_F1)
         asked = key::f1;
