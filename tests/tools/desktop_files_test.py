@@ -59,7 +59,7 @@ class desktop_files(unittest.TestCase):
             catalogue.write(b"[Design600]\r\nName=Zebra's stripes\r\nFamily=Block\r\n")
 
     def test_man_pages_tell_every_option_as_the_help_does(self):
-        for program in ("tessaloom-batch", "tessaloom-pack"):
+        for program in ("tessaloom-batch", "tessaloom-intake", "tessaloom-pack"):
             self.assertTrue(options_of_help(program))
             self.assertEqual(options_of_page(program), options_of_help(program))
 
@@ -73,9 +73,9 @@ class desktop_files(unittest.TestCase):
     def test_every_shell_knows_every_option(self):
         bash = (FILES / "tessaloom.bash").read_text()
         zsh = (FILES / "_tessaloom").read_text()
-        for program in ("batch", "pack"):
+        for program in ("batch", "intake", "pack"):
             fish = ((FILES / "tessaloom-batch.fish") if program == "batch" else
-                    (ROOT / "packaging" / "completions" / "tessaloom-pack.fish")).read_text()
+                    (ROOT / "packaging" / "completions" / f"tessaloom-{program}.fish")).read_text()
             wanted = names_of(options_of_help(f"tessaloom-{program}"))
             in_bash = re.search(rf"_tessaloom_{program}\(\) {{.*?\n}}", bash, re.S)[0]
             self.assertEqual(set(re.search(r'"(--[a-z]+ --.*)"', in_bash)[1].split()), wanted - {"-h"})
@@ -110,6 +110,7 @@ class desktop_files(unittest.TestCase):
         self.assertEqual(self.bash("tessaloom-batch --set cmbFr"), ["cmbFrame="])
         self.assertEqual(self.bash("tessaloom-batch --design Mosaic\\ w"), ["Mosaic\\ wall"])
         self.assertEqual(self.bash("tessaloom-batch --design = Mosaic\\ w"), ["Mosaic\\ wall"])
+        self.assertEqual(self.bash("tessaloom-intake --li"), ["--list", "--limit"])
         self.assertEqual(self.bash("tessaloom-batch --random 5 --ag"), ["--again"])
         (self.home / "my photos").mkdir()
         self.assertEqual(self.bash("tessaloom-batch --photos a.jpg my"), ["my photos"])
@@ -144,9 +145,9 @@ class desktop_files(unittest.TestCase):
         if not shutil.which("zsh"):
             self.skipTest("no zsh")
         script = f"""autoload -Uz compinit; fpath=({FILES} $fpath); compinit -u -d {self.home}/dump
-whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pack]; zsh -n {FILES}/_tessaloom"""
+whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pack] $_comps[tessaloom-intake]; zsh -n {FILES}/_tessaloom"""
         self.assertEqual(output_of("zsh", "-f", "-c", script, env=self.environment).split(),
-                         ["_tessaloom:", "function", "_tessaloom", "_tessaloom"])
+                         ["_tessaloom:", "function", "_tessaloom", "_tessaloom", "_tessaloom"])
 
     def test_icons_have_their_sizes_and_are_no_blank(self):
         for size in SIZES:
