@@ -5,6 +5,7 @@ import gzip
 import os
 import pathlib
 import re
+import shlex
 import shutil
 import struct
 import subprocess
@@ -140,6 +141,23 @@ class desktop_files(unittest.TestCase):
         self.assertFalse(self.data.exists())
         self.keep_a_design()
         self.assertEqual(self.fish("tessaloom-batch --design Zebra"), ["Zebra's stripes"])
+
+    def zsh(self, typed):
+        """What the line becomes when it is typed and Tab is pressed, in a terminal of its own."""
+        (self.home / "zpty.zsh").write_text(f"""fpath=({FILES} $fpath); autoload -Uz compinit; compinit -u -d {self.home}/dump
+complete_and_show() {{ zle complete-word; print -r -- "LINE<$BUFFER>"; exit }}
+zle -N complete_and_show; bindkey '^I' complete_and_show; PS1=
+""")
+        script = f"""zmodload zsh/zpty; zpty play zsh -f -i; zpty -w play 'source {self.home}/zpty.zsh; print READY'
+zpty -r play told '*READY*READY*'; zpty -n -w play {shlex.quote(typed)}$'\\t'; zpty -r play told '*LINE<*>*'; print -r -- $told"""
+        return re.findall(r"LINE<(.*?)>", output_of("zsh", "-f", "-c", script, env=dict(self.environment, TERM="dumb"), cwd=self.home))[-1]
+
+    def test_zsh_completes_designs_and_controls(self):
+        if not shutil.which("zsh"):
+            self.skipTest("no zsh")
+        self.assertEqual(self.zsh("tessaloom-batch --orientation l"), "tessaloom-batch --orientation landscape ")
+        self.assertEqual(self.zsh("tessaloom-batch --set cmbFr"), "tessaloom-batch --set cmbFrame=")
+        self.assertEqual(self.zsh("tessaloom-batch --design Mosaic"), "tessaloom-batch --design Mosaic\\ wall ")
 
     def test_zsh_reads_its_completion(self):
         if not shutil.which("zsh"):
