@@ -7,7 +7,7 @@ import sys
 import screen
 
 
-def started(kind):
+def started(kind=screen.Program):
     app, plugins, photos = sys.argv[1:4]
     program = kind(app, plugins)
     program.photos = os.path.join(program.folder, 'my photos')
@@ -27,11 +27,17 @@ def check_saved(program, path, size):
     check(program.picture_of(path) == size, '%s is %s, not %s' % (path, program.picture_of(path), size))
 
 
-def changed_preview(program, act, told):
-    """Does something and waits until a new preview is on disk and on the screen."""
-    file, pixels = program.finished(), program.pixels('picSample')
+def changed(program, act, told):
+    """Does something and waits until a new preview is on disk."""
+    file = program.finished()
     act()
     screen.until(lambda: program.finished() not in ('', file), 'a new preview after ' + told)
+
+
+def changed_preview(program, act, told):
+    """Does something and waits until a new preview is on disk and on the screen."""
+    pixels = program.pixels('picSample')
+    changed(program, act, told)
     screen.until(lambda: program.pixels('picSample') != pixels, 'the new preview on the screen after ' + told)
 
 
