@@ -1,6 +1,8 @@
 #pragma once
 
+#include "engine/photo/known_files.h"
 #include "engine/photo/photo_ahead.h"
+#include "engine/photo/small_photos.h"
 #include "engine/pixels/mask_shelf.h"
 #include "support/MFreeImage.h"
 #include "support/numbers.h"
@@ -16,6 +18,7 @@ struct run_state {
     double collage_scale = 0;  ///< collage height / 600
     bool run_active = false;
     bool cancel_requested = false;
+    bool ends_at_cancel = false;            ///< a cancel ends it while a photo is waited for, too
     int16 image_number = 0;                 ///< shown while a run goes on, from 1
     int16 photo_cursor = 0;                 ///< next photo of the grid loop, kept between layers
     int16 frame_size = 0, shadow_size = 0;  ///< of the lists when the run began
@@ -25,6 +28,8 @@ struct run_state {
     int16 evolve_portrait_wraps = 0, evolve_landscape_wraps = 0;
     mask_shelf masks;  ///< outlives the run: a preview uses the same again
     photo_ahead ahead;
+    known_files known;                                  ///< outlives the run as well
+    small_photos small;                                 ///< likewise
     int16 first_cell_height = 0, first_cell_width = 0;  ///< in a grid its rows and columns
     int16 caption_height = 0;                           ///< pixels, of the prepared caption
 };

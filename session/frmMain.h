@@ -18,6 +18,7 @@
 #include "support/for_now.h"
 #include "support/list_controls.h"
 #include "support/random.h"
+#include "support/workers.h"
 
 #include <array>
 #include <string>
@@ -44,6 +45,7 @@ struct frmMain : form {
 
     desktop & desk;
     random_source random;
+    worker_pool workers;
     windows * all;
 
     // Menu bar.

@@ -83,5 +83,5 @@ edit_thumbnail thumbnail_for_editing(frmMain & main, const std::string & photo)
     if (const bitmap small = loaded(format, thumbnail))
         return {.file = thumbnail, .shape = shape_of(small)};
     main.desk.pump();
-    return beside(main.desk, [&] { return made(format, photo); });
+    return beside(main.desk, main.workers, [&] { return made(format, photo); });
 }
