@@ -169,5 +169,6 @@ void add_caption(frmMain & main)
     save_bmp(drawn, path);
     const bitmap caption = load_picture(picture_format::bmp, path);
     if (caption)
-        print_text(main.run.canvas, caption, caption_column(main, caption), caption_row(main, caption));
+        print_text(main.run.canvas, caption, get_rgb_triple(main.txtCaption.fore_color()),
+                   caption_column(main, caption), caption_row(main, caption));
 }

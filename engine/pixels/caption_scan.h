@@ -8,12 +8,8 @@
 /// The colour of the ground: that of the bottom-left pixel, black for no picture.
 rgb_triple ground_of(const bitmap & caption);
 
-/// True when the colour differs from the ground by more than 110 in a channel.
-bool is_text(rgb_triple color, rgb_triple ground);
-
-/// The first row that holds text, 0 when none does.
-int first_text_row(const bitmap & caption);
-
-/// Copies the pixels of the text to `target`, the caption's bottom-left corner at (`left`, `low`). What lies
-/// outside the target is ignored.
-void print_text(bitmap & target, const bitmap & caption, int left, int low);
+/// Lays a text of that colour on `target`, the caption's bottom-left corner at (`left`, `low`). How far a
+/// pixel of the caption stands from the ground on the way to the colour is the share of the colour that goes
+/// to the target: letters drawn with smooth edges have them on any ground. What lies outside the target is
+/// ignored.
+void print_text(bitmap & target, const bitmap & caption, rgb_triple color, int left, int low);

@@ -4,5 +4,5 @@
 #include "support/rectangle.h"
 
 /// Pastes the photo at `place` of the target with edges that fade out over a ring as wide as the size class
-/// of the smaller side says.
+/// of the smaller side says. No pixel is laid twice.
 void soft_edge_paste(bitmap & target, const bitmap & image, const rectangle & place);
