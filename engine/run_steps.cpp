@@ -162,6 +162,7 @@ void begin_run(frmMain & main)
     set_enable(main, false);
     main.txtDoing.set_text("Initializing....");
     main.txtDoing.show(true);
+    main.run.began = std::chrono::steady_clock::now();
     main.trace = "MMM  ";
     main.left_out.in_this_run.clear();
     main.run.match_active = match_is_active(main);
@@ -189,6 +190,7 @@ run_end place_photos(frmMain & main, run_size size)
     move_to_canvas(main, size);
     make_room_for_ornaments(main, size);
     turn_the_order(main);
+    count_images(main);
     main.trace += "GGG  ";
     const int16 wraps = main.chkEvolve.ticked() ? 0 : evolve_off;
     main.run.evolve_portrait_wraps = main.run.evolve_landscape_wraps = wraps;
@@ -227,6 +229,7 @@ void end_run(frmMain & main)
     main.run.run_active = false;
     main.run.cancel_requested = false;
     main.txtDoing.show(false);
+    main.barDoing.show(false);
     set_enable(main, true);
 }
 
@@ -235,6 +238,7 @@ void report_cancel(frmMain & main)
     main.run.run_active = false;
     main.run.cancel_requested = false;
     main.txtDoing.show(false);
+    main.barDoing.show(false);
     main.desk.message("Flurning has been canceled.");
     set_enable(main, true);
 }

@@ -186,6 +186,7 @@ struct frmMain : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
     text_box txtDoing{*this, "txtDoing"};
+    progress_bar barDoing{*this, "barDoing"};
 
     picture picSample{*this, "picSample"};
     picture picSplash{*this, "picSplash"};

@@ -7,6 +7,7 @@
 #include "photos/photo_shuffle.h"
 #include "photos/thumbnails/thumbnails.h"
 #include "session/windows.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 
@@ -23,9 +24,13 @@ const file_request images_to_select{
 
 void show_progress(frmMain & main, int index)
 {
-    if (main.all != nullptr)
-        main.all->photo_count.lblCount.set_caption("Checking " + std::to_string(index) + "  of  " +
-                                                   std::to_string(main.table.last_photo + 1) + "  photos");
+    const int total = main.table.last_photo + 1;
+    if (main.all != nullptr) {
+        frmPhotoCnt & window = main.all->photo_count;
+        window.lblCount.set_caption("Checking " + std::to_string(index) + "  of  " + std::to_string(total) +
+                                    "  photos");
+        window.barCount.tell(index, total);
+    }
     main.desk.pump();
 }
 
@@ -96,7 +101,8 @@ std::vector<std::string> photos_in(const std::string & folder)
 
 void photos_of_folder(frmMain & main, const std::string & folder)
 {
-    std::vector<std::string> photos = photos_in(folder);
+    std::vector<std::string> photos =
+        alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); });
     photos.resize(std::min(photos.size(), folder_limit));
     std::ranges::move(photos, main.table.photos.begin());
     main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);

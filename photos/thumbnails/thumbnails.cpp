@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <set>
+#include <vector>
 
 namespace {
 
@@ -66,6 +67,13 @@ small_photo found_or_made(const std::string & photo)
     return made;
 }
 
+void swap_for_thumbnail(std::string & entry)
+{
+    const std::string thumbnail = thumbnail_path(entry);
+    if (!is_thumbnail(entry) && file_exists(thumbnail))
+        entry = thumbnail;
+}
+
 // What was begun has to be so still.
 std::optional<small_photo> found_ahead(frmMain & main, const std::string & photo)
 {
@@ -122,7 +130,7 @@ void clear_thumbnail_places(frmMain & main)
     std::set<std::string> places;
     for (int i = 0; i <= main.table.last_photo; ++i)
         places.insert(folder_of(thumbnail_path(photo_path(main.table[i]))));
-    beside(main.desk, main.workers, [&] { std::ranges::for_each(places, remove_abandoned_parts); });
+    alone_beside(main.desk, main.workers, [&] { std::ranges::for_each(places, remove_abandoned_parts); });
 }
 
 void photos_from_thumbnails(frmMain & main)
@@ -133,12 +141,11 @@ void photos_from_thumbnails(frmMain & main)
 
 void thumbnails_from_photos(frmMain & main)
 {
-    for (int i = 0; i <= main.table.last_photo; ++i) {
-        std::string & entry = main.table[i];
-        if (is_thumbnail(entry))
-            continue;
-        const std::string thumbnail = thumbnail_path(entry);
-        if (file_exists(thumbnail))
-            entry = thumbnail;
-    }
+    const auto end = main.table.photos.begin() + main.table.last_photo + 1;
+    std::vector<std::string> entries(main.table.photos.begin(), end);
+    entries = alone_beside(main.desk, main.workers, [&] {
+        std::ranges::for_each(entries, swap_for_thumbnail);
+        return std::move(entries);
+    });
+    std::ranges::move(entries, main.table.photos.begin());
 }

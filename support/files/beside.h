@@ -47,3 +47,18 @@ auto beside(desktop & desk, worker_pool & workers, Step step)
     wait_for(desk, result);
     return result.get();
 }
+
+/// The same for a step that nothing the user does may come in between: the windows are drawn, and that is
+/// all.
+template <typename Step>
+auto alone_beside(desktop & desk, worker_pool & workers, Step step)
+{
+    auto result = workers.begin_at_once(std::move(step));
+    const afterwards ended([&] {
+        if (result.valid())
+            result.wait();
+    });
+    while (result.wait_for(longest_standstill) != std::future_status::ready)
+        desk.breathe_alone();
+    return result.get();
+}
