@@ -6,6 +6,7 @@
 #include "engine/canvas.h"
 #include "engine/fill_loop.h"
 #include "engine/image_number.h"
+#include "engine/kept_canvas.h"
 #include "engine/layout/ornament_sizes.h"
 #include "engine/layout/run_layout.h"
 #include "engine/layout/surroundings.h"
@@ -194,7 +195,8 @@ run_end place_photos(frmMain & main, run_size size)
     main.trace += "GGG  ";
     const int16 wraps = main.chkEvolve.ticked() ? 0 : evolve_off;
     main.run.evolve_portrait_wraps = main.run.evolve_landscape_wraps = wraps;
-    const run_end end = run_loops(main);
+    run_end end = run_end::complete;
+    with_kept_canvas(main, [&] { end = run_loops(main); });
     forget_ahead(main);
     main.trace += "BBB  ";
     return end;
