@@ -8,6 +8,7 @@
 #include "desktop/binder/main_keys.h"
 #include "desktop/binder/move_keys.h"
 #include "desktop/binder/wheel.h"
+#include "desktop/binder/window_room.h"
 #include "desktop/qt_text.h"
 
 #include <QCloseEvent>
@@ -54,6 +55,7 @@ private:
     QWidget & window;
     window_hooks hooks;
     focus_keeper focus;
+    window_room place;
     QHash<QString, QWidget *> behind;  // what each covering control hides
     QHash<const QObject *, control *> shown_by;
     bool is_hidden = false;  // by its form
@@ -65,7 +67,8 @@ binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
       bound(its_form),
       window(its_window),
       hooks(std::move(its_hooks)),
-      focus(its_window)
+      focus(its_window),
+      place(its_window, hooks.room)
 {
     window.installEventFilter(this);
     window.installEventFilter(&focus);  // sees keys first: one that waits for its text box asks for no help
@@ -177,6 +180,8 @@ void binding::show_widget(control & held, QWidget & widget)
         focus.before_loss(widget);
     display(held, widget);
     widget.setVisible(visible);
+    if (widget.property("placed").toBool())
+        place.follow();
     show_frame_around(widget);
     if (QWidget * const hidden = behind.value(widget.objectName()))
         if (control * const covered = bound.find(hidden->objectName().toStdString()))
@@ -201,8 +206,8 @@ void binding::show_window()
         window.setPalette(colors);
     }
     if (bound.width() > 0 && bound.height() > 0)
-        window.setFixedSize(QSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel) +
-                            growth_of(window));
+        place.fix(QSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel) +
+                  growth_of(window));
     if (!bound.loaded())
         fire(hooks.unloaded);
     else if (is_hidden == bound.visible())

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QGroupBox>
+#include <QLayout>
 #include <QMenu>
 
 #include <algorithm>
@@ -217,10 +218,11 @@ void display_place(const control & held, QWidget & widget)
         widget.setFixedSize(at.width, at.height);
     if (at == box{} || !widget.property("placed").toBool())
         return;
-    const QSize own = widget.sizeHint();
+    const QSize own = widget.sizeHint(),
+                least = widget.layout() ? widget.layout()->totalMinimumSize() : QSize();
     const QPoint corner = QPoint(at.left, at.top) + shift_of(widget, at);
-    widget.setGeometry(corner.x(), corner.y(), at.width ? at.width : own.width(),
-                       at.height ? at.height : own.height());
+    const QSize size(at.width ? at.width : own.width(), at.height ? at.height : own.height());
+    widget.setGeometry({corner, size.expandedTo(least)});
 }
 
 // Without a tip of its own the control leaves the one of the Designer file.
