@@ -1,5 +1,7 @@
 #include "batch/arguments.h"
 
+#include "support/workers.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -116,6 +118,11 @@ void read_size(batch_arguments & read, const std::string & name, const std::stri
     read.size = whole_number(name, value, smallest_size, largest_size);
 }
 
+void read_threads(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    read.threads = whole_number(name, value, 1, worker_pool::most);
+}
+
 void read_seed(batch_arguments & read, const std::string & name, const std::string & value)
 {
     read.seed = whole_number(name, value, 0ULL, ~0ULL);
@@ -157,6 +164,7 @@ const std::map<std::string, option> & options()
         {"--keep", on_the_command_line(text_into(&batch_arguments::keep))},
         {"--data", on_the_command_line(valued(read_data))},
         {"--jobs", on_the_command_line(valued(read_jobs))},
+        {"--threads", on_the_command_line(valued(read_threads))},
         {"--preview", on_the_command_line(switched(&batch_arguments::preview))},
         {"--again", on_the_command_line(switched(&batch_arguments::again))},
         {"--list", task_of(task::list)},

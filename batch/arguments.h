@@ -19,6 +19,7 @@ struct batch_arguments {
     std::optional<int> size;  ///< long side in pixels
     std::optional<unsigned long long> seed;
     std::optional<std::string> data_folder;
+    std::optional<int> threads;  ///< workers beside the session's own thread
     bool preview = false;
     bool answers_yes = false;
     std::string out;     ///< "-": standard output

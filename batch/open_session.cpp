@@ -16,6 +16,8 @@ open_session::open_session(const batch_arguments & arguments, const batch_folder
       desk(arguments.answers_yes ? answer::yes : answer::no),
       all(desk, chance_of(arguments))
 {
+    if (arguments.threads)
+        all.main.workers.set_count(*arguments.threads);
     all.main.install_folder = folders.install_folder;
     share_data_folder(all.main, folders.data, scratch.path());
     connect_all(all);

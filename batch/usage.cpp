@@ -27,6 +27,8 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
   --data DIR                      folder of the user's data, made and filled on first use
   --preview                       makes the small preview instead of the full size
   --answer yes|no                 answer to questions; no by default
+  --threads N                     how many threads read photos, 1 to 64; without it as many as there are cores for
+                                  this process. The picture is the same with any number
   --keep DIR                      leaves the work files there: templates, lists, finished.jpg
 
   --jobs FILE                     works off a job list: tab-separated, a header line that names the columns (out,

@@ -5,6 +5,7 @@
 #include "designs/catalogue/catalogue.h"
 #include "desktop/binder/binder.h"
 #include "desktop/binder/windows_made.h"
+#include "engine/preview.h"
 #include "photos/lists/photo_list.h"
 #include "session/connect_all.h"
 #include "session/start/start_up.h"
@@ -131,6 +132,56 @@ void collage_caption(benchmark::State & state, const char * design)
     });
 }
 
+// What no preview could do without if it read its photos each time.
+void decoding_the_thumbnails(benchmark::State & state)
+{
+    const finishing_stage stage(upright);
+    const photo_table & table = stage.all.main.table;
+    for (auto _ : state)
+        for (int i = 0; i <= table.last_photo; ++i)
+            benchmark::DoNotOptimize(load_picture(picture_format::jpeg, table[i]));
+}
+
+// The preview alone, without the window that shows it; the step makes it another one.
+template <typename Change>
+void time_preview(benchmark::State & state, Change change)
+{
+    finishing_stage stage(upright);
+    frmMain & main = stage.all.main;
+    int step = 0;
+    for (auto _ : state) {
+        {
+            const updating quiet(main);
+            change(main, ++step);
+        }
+        gen_sample(main);
+    }
+}
+
+void preview_alone(benchmark::State & state)
+{
+    time_preview(state, [](frmMain & main, int step) { main.cmbFrame.set_text(step % 2 ? "30" : "20"); });
+}
+
+void preview_alone_of_another_caption(benchmark::State & state)
+{
+    time_preview(state,
+                 [](frmMain & main, int step) { main.txtCaption.set_text(step % 2 ? "Summer" : "Winter"); });
+}
+
+void preview_alone_with_nothing_in_memory(benchmark::State & state)
+{
+    time_preview(state, [](frmMain & main, int step) {
+        main.cmbFrame.set_text(step % 2 ? "30" : "20");
+        main.run.small = {};
+        main.run.known = {};
+    });
+}
+
+BENCHMARK(decoding_the_thumbnails)->Unit(benchmark::kMillisecond);
+BENCHMARK(preview_alone)->Unit(benchmark::kMillisecond);
+BENCHMARK(preview_alone_of_another_caption)->Unit(benchmark::kMillisecond);
+BENCHMARK(preview_alone_with_nothing_in_memory)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(frame_size, upright, upright)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(frame_size, tilted, tilted)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(shadow_size, upright, upright)->Unit(benchmark::kMillisecond);

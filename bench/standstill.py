@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """How long the built program lets no event through while it works, on a virtual display:
-standstill.py APP PLUGINS PHOTOS [DESIGN...]. Prints the longest time for counting and thumbnails, for a change of a
-setting and for a full run. The thumbnails beside the photos are removed first."""
+standstill.py [--slow MILLISECONDS] APP PLUGINS PHOTOS [DESIGN...]. Prints the longest time for counting and thumbnails,
+for a change of a setting and for a full run. The thumbnails beside the photos are removed first. With --slow every look at
+a photo's file takes that long, as on a share far away."""
 import os
 import shutil
 import sys
@@ -54,12 +55,17 @@ def measure(program, photos, number):
 
 
 def main():
-    app, plugins, photos = sys.argv[1:4]
+    words = sys.argv[1:]
+    if words[0] == '--slow':
+        os.environ['TESSALOOM_SLOW_PHOTOS'] = words[1]
+        os.environ['TESSALOOM_SLOW_FOLDER'] = os.path.abspath(words[4])
+        words = words[2:]
+    app, plugins, photos = words[:3]
     program = Program(app, plugins)
     program.window('QMessageBox')
     program.keys('Return')
     program.window('frmMain')
-    for number in [int(word) for word in sys.argv[4:]] or [0, 6]:
+    for number in [int(word) for word in words[3:]] or [0, 6]:
         measure(program, os.path.abspath(photos), number)
     program.close()
 

@@ -208,6 +208,11 @@ void qt_desktop::pump()
     QCoreApplication::processEvents();
 }
 
+void qt_desktop::breathe_alone()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void qt_desktop::busy_pointer(bool on)
 {
     busy_depth = std::max(0, busy_depth + (on ? 1 : -1));

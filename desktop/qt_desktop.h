@@ -22,6 +22,7 @@ public:
     void hide(form & window) override;
     void show_modal(form & window) override;
     void pump() override;
+    void breathe_alone() override;
     void busy_pointer(bool on) override;
     std::optional<std::string> choose_folder(const std::string & title) override;
     std::vector<std::string> choose_files(const file_request & asked) override;

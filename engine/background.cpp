@@ -3,9 +3,11 @@
 #include "engine/photo/fixed_picture.h"
 #include "engine/pixels/background_fit.h"
 #include "session/window_state.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 
-#include <utility>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -20,33 +22,49 @@ bitmap loaded(const std::string & path)
     return path.empty() ? bitmap{} : load_picture(picture_format::jpeg, path);
 }
 
+// The first of the pictures that can be read. Another core reads it, be it as large as it may.
+bitmap loaded_beside(frmMain & main, const std::vector<std::string> & paths)
+{
+    return beside(main.desk, main.workers, [&] {
+        bitmap image;
+        for (const std::string & path : paths)
+            if (!image)
+                image = loaded(path);
+        return image;
+    });
+}
+
 // A design's own picture has a small one for previews; where that is missing the picture itself serves.
-bitmap small_own_background(const frmMain & main)
+bitmap small_own_background(frmMain & main)
 {
     const std::string & picture = main.design_record.bg_image;
     const bool is_users = is_under(picture, "user_images");
     const std::optional<std::string> path =
         fixed_picture_path(main, is_users ? picture : preview_picture(picture));
-    bitmap image = path ? loaded(*path) : bitmap{};
-    return image ? std::move(image) : loaded(main.txtBGimage.text());
+    return loaded_beside(main, {path.value_or(""), main.txtBGimage.text()});
 }
 
-bitmap small_background(const frmMain & main)
+bitmap small_background(frmMain & main)
 {
     const bitmap image =
-        has_own_background(main) ? small_own_background(main) : loaded(main.txtBGimage.text());
+        has_own_background(main) ? small_own_background(main) : loaded_beside(main, {main.txtBGimage.text()});
     if (!image)
         return {};
     return continued(preview_background(image, selected_shape(main)), main.collage_width,
                      main.collage_height);
 }
 
-bitmap full_background(const frmMain & main)
+bitmap full_background(frmMain & main)
 {
-    bitmap image = loaded(full_size_picture(main.txtBGimage.text()));
-    if (main.optSquare.selected())
-        image = squared(image);
-    return rescaled(image, main.collage_width, main.collage_height);
+    const std::string path = full_size_picture(main.txtBGimage.text());
+    const bool is_square = main.optSquare.selected();
+    const picture_size size{.width = main.collage_width, .height = main.collage_height};
+    return beside(main.desk, main.workers, [=] {
+        bitmap image = loaded(path);
+        if (is_square)
+            image = squared(image);
+        return rescaled(image, size.width, size.height);
+    });
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "engine/layout/cell_geometry.h"
 #include "engine/layout/worn_ornaments.h"
 #include "engine/photo/lay_photo.h"
+#include "engine/photo/look_at_files.h"
 #include "engine/photo/photo_steps.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
@@ -81,7 +82,7 @@ void pass_over(frmMain & main, grid_walk & walk)
 bool fits(frmMain & main, const grid_walk & walk, int photo)
 {
     const std::optional<picture_size> size =
-        is_left_out(main, photo) ? std::nullopt : usable_jpeg_size(main.table[photo]);
+        is_left_out(main, photo) ? std::nullopt : size_of_photo(main, main.table[photo]);
     return size && fits_cell(walk.layer, size->height, size->width);
 }
 
@@ -144,7 +145,7 @@ std::optional<cell_span> span_of(const frmMain & main, const grid_walk & walk, p
 cell_photo taken_photo(frmMain & main, grid_walk & walk, cell_to_fill cell)
 {
     const std::string & path = main.table[walk.photo];
-    const std::optional<picture_size> size = usable_jpeg_size(path);
+    const std::optional<picture_size> size = size_of_photo(main, path);
     const std::optional<cell_span> span =
         size ? span_of(main, walk, *size, cell.at.column) : std::optional(cell_span::single);
     if (!span)
@@ -195,15 +196,16 @@ void read_upcoming(frmMain & main, const grid_walk & walk, cell_to_fill cell)
     step_on(main, walk, cell);
     for (int photo = walk.photo + 1;
          photo <= main.table.last_photo && !grid_ends(walk.layer, cell.at.row, walk.limits) &&
-         std::ssize(next) < main.run.ahead.at_once;
+         std::ssize(next) < main.workers.count();
          ++photo) {
         const std::optional<picture_size> size =
-            is_left_out(main, photo) ? std::nullopt : usable_jpeg_size(main.table[photo]);
+            is_left_out(main, photo) ? std::nullopt : size_of_photo(main, main.table[photo]);
         const auto span = size ? span_of(main, walk, *size, cell.at.column) : std::nullopt;
         if (!span)
             continue;
         cell.at.span = *span;
-        if (std::optional<wanted_photo> wanted = wanted_at(main.table[photo], fitted_to(main, walk, cell)))
+        if (std::optional<wanted_photo> wanted =
+                wanted_at(main, main.table[photo], fitted_to(main, walk, cell)))
             next.push_back(std::move(*wanted));
         step_on(main, walk, cell);
     }
@@ -292,6 +294,7 @@ grid_limits limits_of(const frmMain & main)
 
 void fill_loop(frmMain & main, const sign_of_life & sign)
 {
+    look_anew(main);
     // A template that wasn't found has no rows.
     if (main.design_locations.count >= 2 && main.table.last_photo >= 0) {
         grid_walk walk{.layer = layer_of(main),

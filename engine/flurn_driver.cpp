@@ -89,6 +89,7 @@ void keep_collage(frmMain & main)
         copied(run.canvas, margin, margin, main.collage_width + margin, main.collage_height + margin);
     save_photo(main, run.canvas, finished_path(main));
     main.txtDoing.show(false);
+    main.barDoing.show(false);
     main.trace += "FFF  ";
 }
 

@@ -2,5 +2,9 @@
 
 #include "session/frmMain.h"
 
-/// The sign of life of a run in the window: shows which image is being worked on and lets events through.
+/// Reckons how many images the locations, brought to the canvas, will show.
+void count_images(frmMain & main);
+
+/// The sign of life of a run in the window: shows which image is being worked on, of how many where the run
+/// takes its time, and lets events through.
 void show_image_number(frmMain & main);

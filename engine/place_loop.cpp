@@ -3,10 +3,12 @@
 #include "engine/layout/worn_ornaments.h"
 #include "engine/photo/fixed_picture.h"
 #include "engine/photo/lay_photo.h"
+#include "engine/photo/look_at_files.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/photo/pick_matching.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
+#include "support/for_now.h"
 
 #include <optional>
 #include <utility>
@@ -71,7 +73,7 @@ picked_picture photo_at(frmMain & main, const location & place, int index)
     // A painted shape needs a photo that could be loaded and nothing of its pixels.
     picked_picture found =
         is_painted(main, place)
-            ? picked_picture{.photo = {}, .found = usable_jpeg_size(path).has_value(), .index = index}
+            ? picked_picture{.photo = {}, .found = size_of_photo(main, path).has_value(), .index = index}
             : picked(load_photo(main, path, fitted_to(main, place)), index);
     found.moved_on = true;
     return found;
@@ -120,7 +122,7 @@ std::vector<const location *> taking_photos(const frmMain & main, int from)
 {
     const location_table & table = main.design_locations;
     std::vector<const location *> places;
-    for (int i = from; i <= table.count && std::ssize(places) < main.run.ahead.at_once; ++i)
+    for (int i = from; i <= table.count && std::ssize(places) < main.workers.count(); ++i)
         if (!is_fixed(table[i]) && !is_painted(main, table[i]))
             places.push_back(&table[i]);
     return places;
@@ -149,7 +151,7 @@ void read_upcoming(frmMain & main, int from, int photo)
     std::vector<wanted_photo> next;
     for (std::size_t i = 0; i < photos.size(); ++i)
         if (std::optional<wanted_photo> wanted =
-                wanted_at(main.table[photos[i]], fitted_to(main, *places[i])))
+                wanted_at(main, main.table[photos[i]], fitted_to(main, *places[i])))
             next.push_back(std::move(*wanted));
     read_ahead(main, next);
 }
@@ -199,12 +201,9 @@ bool is_filled(frmMain & main, int i, int & photo)
     }
 }
 
-}  // namespace
-
-void place_loop(frmMain & main, const sign_of_life & sign)
+void fill_locations(frmMain & main, const sign_of_life & sign)
 {
-    location_table & table = main.design_locations;
-    table.count = narrow(table.count - 1);
+    const location_table & table = main.design_locations;
     int photo = 0;
     for (int i = 0; i <= table.count && !main.run.cancel_requested; ++i) {
         fire(sign);
@@ -212,6 +211,20 @@ void place_loop(frmMain & main, const sign_of_life & sign)
             main.run.image_number = narrow(main.run.image_number + 1);
         if (!is_filled(main, i, photo))
             break;
+    }
+}
+
+}  // namespace
+
+void place_loop(frmMain & main, const sign_of_life & sign)
+{
+    look_anew(main);
+    main.design_locations.count = narrow(main.design_locations.count - 1);
+    try {
+        const for_now at_once(main.run.ends_at_cancel, true);
+        fill_locations(main, sign);
+    } catch (const run_cancelled &) {
+        forget_ahead(main);
     }
     main.picSample.show(true);
 }

@@ -7,6 +7,7 @@
 #include "engine/canvas.h"
 #include "engine/fill_loop.h"
 #include "engine/image_number.h"
+#include "engine/kept_canvas.h"
 #include "engine/layout/ornament_sizes.h"
 #include "engine/layout/run_layout.h"
 #include "engine/layout/surroundings.h"
@@ -179,6 +180,7 @@ void begin_run(frmMain & main)
     set_enable(main, false);
     main.txtDoing.set_text("Initializing....");
     main.txtDoing.show(true);
+    main.run.began = std::chrono::steady_clock::now();
     main.trace = "MMM  ";
     main.left_out.in_this_run.clear();
     main.run.photos_shown.clear();
@@ -208,10 +210,12 @@ run_end place_photos(frmMain & main, run_size size)
     make_room_for_ornaments(main, size);
     const std::vector<order_turn> shown_before = main.collage.turns_shown;
     turn_the_order(main, size);
+    count_images(main);
     main.trace += "GGG  ";
     const int16 wraps = main.chkEvolve.ticked() ? 0 : evolve_off;
     main.run.evolve_portrait_wraps = main.run.evolve_landscape_wraps = wraps;
-    const run_end end = run_loops(main);
+    run_end end = run_end::complete;
+    with_kept_canvas(main, [&] { end = run_loops(main); });
     forget_ahead(main);
     // What was cancelled has not been shown.
     if (end == run_end::cancelled)
@@ -250,6 +254,7 @@ void end_run(frmMain & main)
     main.run.run_active = false;
     main.run.cancel_requested = false;
     main.txtDoing.show(false);
+    main.barDoing.show(false);
     set_enable(main, true);
 }
 
@@ -259,6 +264,7 @@ void report_cancel(frmMain & main)
     main.run.cancel_requested = false;
     main.run.photos_shown.clear();
     main.txtDoing.show(false);
+    main.barDoing.show(false);
     main.desk.message("Flurning has been canceled.");
     set_enable(main, true);
 }

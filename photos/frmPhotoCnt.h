@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/forms.h"
+#include "support/list_controls.h"
 
 struct windows;
 
@@ -8,6 +8,7 @@ struct windows;
 struct frmPhotoCnt : form {
     frmPhotoCnt() : form("frmPhotoCnt") { set_caption("Photo Count"); }
     label lblCount{*this, "lblCount", "Counting and checking photos..."};
+    progress_bar barCount{*this, "barCount"};
     label lblAnnounce{*this, "lblAnnounce"};
 };
 

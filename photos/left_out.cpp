@@ -2,6 +2,7 @@
 
 #include "photos/thumbnails/thumbnail_path.h"
 #include "support/MFreeImage.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/platform_error.h"
 
@@ -82,7 +83,7 @@ void forget_left_out(frmMain & main)
 
 void leave_out(frmMain & main, const std::string & path)
 {
-    leave_out(main, path, fault_of(photo_path(path)));
+    leave_out(main, path, beside(main.desk, main.workers, [&] { return fault_of(photo_path(path)); }));
 }
 
 void leave_out(frmMain & main, const std::string & path, photo_fault fault)

@@ -8,14 +8,15 @@ namespace {
 static_assert(jpeg_rows::room_behind >= room_behind);
 
 // All rows are read, since a fault in one that isn't needed makes the library refuse the photo.
-std::optional<bitmap> read_by_plan(jpeg_rows & photo, const scaling_plan & plan, scaling_memory & memory)
+std::optional<bitmap> read_by_plan(jpeg_rows & photo, const scaling_plan & plan, scaling_memory & memory,
+                                   const std::stop_token & stop = {})
 {
     if (!is_possible(plan))
         return std::nullopt;
     row_scaler scaler(plan, memory);
     for (int y = 0; y < plan.source.height; ++y) {
         const std::span<const pixel> row = photo.next();
-        if (row.empty())
+        if (row.empty() || stop.stop_requested())
             return std::nullopt;
         scaler.take(row);
     }
@@ -39,11 +40,12 @@ std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size 
     return photo ? read_by_plan(photo, all_scaled(photo.size(), size), memory.scaling) : std::nullopt;
 }
 
-std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory)
+std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory,
+                                       const std::stop_token & stop)
 {
     jpeg_rows photo(path, memory.reading);
     const std::optional<scaling_plan> plan = photo ? plan_to_fit(photo.size(), place) : std::nullopt;
-    return plan ? read_by_plan(photo, *plan, memory.scaling) : std::nullopt;
+    return plan ? read_by_plan(photo, *plan, memory.scaling, stop) : std::nullopt;
 }
 
 std::optional<bitmap> read_thumbnail(const std::string & path, picture_size size, photo_memory & memory)

@@ -3,6 +3,8 @@
 #include "engine/pixels/row_scaler.h"
 #include "support/jpeg_rows.h"
 
+#include <stop_token>
+
 /// Photos that are scaled while they are read: neither the whole photo nor what is cut off is ever in memory.
 /// What comes of it is byte for byte what `load_picture` and then `rescaled` or `resize_image` give; where
 /// only the image library can tell what that is, nothing comes of it.
@@ -16,8 +18,10 @@ struct photo_memory {
 /// As `rescaled`. Raises out_of_memory (7), here and below.
 std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size size, photo_memory & memory);
 
-/// As `resize_image`; nothing as well for a photo that can't be fitted.
-std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory);
+/// As `resize_image`; nothing as well for a photo that can't be fitted, and at the next row where a stop is
+/// asked for.
+std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory,
+                                       const std::stop_token & stop = {});
 
 /// As `rescaled`, with the notes that a saved thumbnail carries: its file has the same bytes. Nothing for a
 /// photo that has that size already.

@@ -18,6 +18,7 @@
 #include "support/for_now.h"
 #include "support/list_controls.h"
 #include "support/random.h"
+#include "support/workers.h"
 
 #include <array>
 #include <optional>
@@ -45,6 +46,7 @@ struct frmMain : form {
 
     desktop & desk;
     random_source random;
+    worker_pool workers;
     windows * all;
 
     // Menu bar.
@@ -189,6 +191,7 @@ struct frmMain : form {
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};
     text_box txtDoing{*this, "txtDoing"};
+    progress_bar barDoing{*this, "barDoing"};
 
     picture picSample{*this, "picSample"};
     picture picSplash{*this, "picSplash"};

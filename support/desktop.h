@@ -71,6 +71,8 @@ public:
     virtual void pump() = 0;
     /// The same while another core works for the session: nothing may depend on how often that happens.
     virtual void breathe() { pump(); }
+    /// The same, but what the user does waits: for work that nothing may come in between.
+    virtual void breathe_alone() { breathe(); }
     virtual void busy_pointer(bool on) = 0;
 
     /// Choosers; nothing or an empty list after a cancel.

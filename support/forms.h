@@ -216,8 +216,9 @@ private:
     font_style shown_font;
 };
 
-/// Key codes that a window's own key handler is asked for.
-enum class key { f1 = 112, help = 47 };
+/// Key codes that a window's own key handler is asked for; Escape only in the main window, it closes the
+/// others.
+enum class key { f1 = 112, help = 47, escape = 27 };
 
 /// Key codes by which the keyboard moves about in a window.
 enum class move_key { page_up = 33, page_down = 34, left = 37, up = 38, right = 39, down = 40 };

@@ -149,3 +149,18 @@ bool slider::set_as_user(std::string_view text)
     set_position(nearest(leading_number(text)));
     return true;
 }
+
+void progress_bar::tell(int done, int total)
+{
+    const int wanted_total = std::max(total, 1), wanted = std::clamp(done, 0, wanted_total);
+    if (wanted == reached && wanted_total == all)
+        return;
+    reached = wanted;
+    all = wanted_total;
+    changed();
+}
+
+std::string progress_bar::value() const
+{
+    return std::to_string(reached) + " of " + std::to_string(all);
+}

@@ -2,7 +2,7 @@
 
 #include "support/forms.h"
 
-/// The controls with entries, and the scale.
+/// The controls with entries, and the scales.
 
 /// A drop-down list whose text the user may also type.
 class combo_box : public control {
@@ -84,4 +84,18 @@ public:
 
 private:
     int least = 0, most = 100, held = 0;
+};
+
+/// How far a piece of work has come.
+class progress_bar : public control {
+public:
+    using control::control;
+    int done() const { return reached; }
+    int total() const { return all; }
+    /// Shows so much of a total; both are cut, the total to 1 at least, what is done to the total.
+    void tell(int done, int total);
+    std::string value() const override;
+
+private:
+    int reached = 0, all = 1;
 };

@@ -326,6 +326,8 @@ bool binding::key_pressed(const QKeyEvent & event)
         asked = key::f1;
     if (event.key() == Qt::Key_Question || event.key() == Qt::Key_Help)
         asked = key::help;
+    if (event.key() == Qt::Key_Escape)
+        asked = key::escape;
     if (!asked || !bound.on_key)
         return false;
     act([this, asked] { bound.on_key(*asked); });

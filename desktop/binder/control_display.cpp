@@ -163,6 +163,12 @@ void display_content(const slider & held, QSlider & widget)
     widget.setValue(held.position());
 }
 
+void display_content(const progress_bar & held, QProgressBar & widget)
+{
+    widget.setRange(0, held.total());
+    widget.setValue(held.done());
+}
+
 void display_content(const label & held, QLabel & widget)
 {
     const QString text = shown(held.caption()).remove(QLatin1Char('\r'));

@@ -116,6 +116,7 @@ struct listener {
         });
     }
 
+    void operator()(progress_bar &, QProgressBar &) const {}
     void operator()(label &, QLabel &) const {}
     void operator()(group &, QWidget &) const {}
 

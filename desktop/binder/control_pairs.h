@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -46,7 +47,9 @@ bool visit_pair(control & held, QObject & widget, const Visit & visit)
            visit_as<text_box, QLineEdit>(held, widget, visit) ||
            visit_as<text_box, QPlainTextEdit>(held, widget, visit) ||
            visit_as<list_box, QListWidget>(held, widget, visit) ||
-           visit_as<slider, QSlider>(held, widget, visit) || visit_as<label, QLabel>(held, widget, visit) ||
+           visit_as<slider, QSlider>(held, widget, visit) ||
+           visit_as<progress_bar, QProgressBar>(held, widget, visit) ||
+           visit_as<label, QLabel>(held, widget, visit) ||
            visit_as<picture, picture_view>(held, widget, visit) ||
            visit_as<menu_entry, QAction>(held, widget, visit) ||
            visit_as<group, QWidget>(held, widget, visit);

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "engine/photo/run_photo.h"
-#include "support/cores.h"
 #include "support/files/paths.h"
 
 #include <future>
 #include <list>
+#include <optional>
+#include <stop_token>
 #include <string>
 
 /// A photo and the size of the place that it will be fitted to.
@@ -15,14 +16,19 @@ struct wanted_photo {
     bool operator==(const wanted_photo &) const = default;
 };
 
-/// The photos that will probably be asked for next, which other cores read and fit while those before them
-/// are drawn.
+/// A photo as a worker gives it.
+struct read_photo {
+    run_photo photo;
+    std::optional<file_stamp> stamp;  ///< of its file when the reading began
+};
+
+/// The photos that will probably be asked for next, which workers read and fit while those before them are
+/// drawn.
 struct photo_ahead {
-    int at_once = usable_cores();  ///< 0: nothing is read ahead
     struct begun_photo {
         wanted_photo wanted;
-        file_stamp stamp;  ///< of the file when its reading began
-        std::future<run_photo> photo;
+        std::stop_source stop;  ///< ends the reading at its next row
+        std::future<read_photo> photo;
     };
     std::list<begun_photo> begun{};
 };

@@ -1,5 +1,6 @@
 #include "engine/photo/photo_steps.h"
 
+#include "engine/photo/look_at_files.h"
 #include "engine/pixels/covering_plan.h"
 #include "engine/pixels/resize_image.h"
 #include "photos/scaled_jpeg.h"
@@ -8,22 +9,20 @@
 #include "support/files/paths.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-// A thumbnail is done before another core has woken up.
-constexpr std::int64_t small_file = 200'000;  // bytes
-constexpr int small_picture = 500'000;        // pixels
+constexpr int small_picture = 500'000;  // pixels; with one thumbnail and all photos of a preview below it
 
-bool is_small(const bitmap & image)
+bool is_small(picture_size size)
 {
-    return !image || image.width() * image.height() < small_picture;
+    return size.width * size.height < small_picture;
 }
 
-template <typename Step>
-auto done_where(bool is_small, frmMain & main, Step step)
+picture_size size_of(const bitmap & image)
 {
-    return is_small ? step() : beside(main.desk, std::move(step));
+    return {.width = image.width(), .height = image.height()};
 }
 
 bitmap loaded(const std::string & path)
@@ -40,8 +39,7 @@ bitmap fitted(const bitmap & image, int width, int height)
     if (!image)
         return {};
     try {
-        const scaling_plan plan =
-            covering_plan({.width = image.width(), .height = image.height()}, width, height);
+        const scaling_plan plan = covering_plan(size_of(image), width, height);
         scaling_memory memory;
         return is_possible(plan) ? scaled_by_rows(image, plan, memory) : resize_image(image, width, height);
     } catch (const platform_error & error) {
@@ -60,65 +58,155 @@ bitmap fitted_or_none(const bitmap & image, picture_size place)
     }
 }
 
-run_photo whole_photo(const std::string & path)
+run_photo whole_and_fitted(const wanted_photo & wanted)
 {
-    run_photo photo(loaded(path));
-    photo.path = path;
+    run_photo photo(loaded(wanted.path));
+    photo.fitted = fitted_or_none(photo.whole, wanted.place);
     return photo;
 }
 
 // Of a kind of JPEG that can't be fitted while it is read the whole is loaded, and kept where it can't be
 // fitted at all.
-run_photo fitted_photo(const std::string & path, picture_size place)
+run_photo fitted_photo(const wanted_photo & wanted, picture_size own, const std::stop_token & stop)
 {
     photo_memory memory;
     run_photo photo;
-    photo.path = path;
-    if (std::optional<bitmap> read = read_fitted_jpeg(path, place, memory)) {
-        photo.own = usable_jpeg_size(path).value_or(picture_size{});
+    photo.own = own;
+    if (std::optional<bitmap> read = read_fitted_jpeg(wanted.path, wanted.place, memory, stop)) {
         photo.fitted = std::move(*read);
-    } else {
-        photo = whole_photo(path);
-        photo.fitted = fitted_or_none(photo.whole, place);
+    } else if (!stop.stop_requested()) {
+        photo = whole_and_fitted(wanted);
         if (photo.fitted)
             photo.whole = {};
     }
-    photo.place = place;
     return photo;
 }
 
-// What was begun for that very file and place; the end of the list without it.
-auto found_ahead(photo_ahead & ahead, const wanted_photo & wanted, const std::optional<file_stamp> & stamp)
+// What a worker does. The photo may not be any more what it was when it was looked at.
+read_photo read_to_fit(const wanted_photo & wanted, const known_file & known, const std::stop_token & stop)
 {
-    return std::ranges::find_if(ahead.begun, [&](const photo_ahead::begun_photo & one) {
-        return stamp && one.wanted == wanted && one.stamp == *stamp;
-    });
+    read_photo read{.photo = {}, .stamp = stamp_of(wanted.path)};
+    const bool is_same = read.stamp == known.stamp;
+    if (const std::optional<picture_size> own = is_same ? known.size : usable_jpeg_size(wanted.path))
+        read.photo = is_small(*own) ? whole_and_fitted(wanted) : fitted_photo(wanted, *own, stop);
+    read.photo.path = wanted.path;
+    read.photo.place = wanted.place;
+    return read;
 }
 
-// A guess that has gone wrong makes room; what is still being read can't be stopped.
+auto found_ahead(photo_ahead & ahead, const wanted_photo & wanted)
+{
+    return std::ranges::find(ahead.begun, wanted, &photo_ahead::begun_photo::wanted);
+}
+
 void drop_wrong_guesses(photo_ahead & ahead, const std::vector<wanted_photo> & next)
 {
-    std::erase_if(ahead.begun, [&](const photo_ahead::begun_photo & one) {
-        return std::ranges::find(next, one.wanted) == next.end() && is_there(one.photo);
+    std::erase_if(ahead.begun, [&](photo_ahead::begun_photo & one) {
+        const bool wrong = std::ranges::find(next, one.wanted) == next.end();
+        if (wrong)
+            one.stop.request_stop();
+        return wrong;
     });
 }
 
-void begin_reading(photo_ahead & ahead, const wanted_photo & wanted)
+void begin_reading(frmMain & main, const wanted_photo & wanted)
 {
-    const std::optional<file_stamp> stamp = stamp_of(wanted.path);
-    if (!stamp || stamp->bytes < small_file || found_ahead(ahead, wanted, stamp) != ahead.begun.end())
+    std::stop_source stop;
+    auto photo = main.workers.begin([wanted, known = file_of(main, wanted.path), token = stop.get_token()] {
+        return read_to_fit(wanted, known, token);
+    });
+    main.run.ahead.begun.push_back({.wanted = wanted, .stop = std::move(stop), .photo = std::move(photo)});
+}
+
+// What is read ahead has to be what lies there when the photo is drawn.
+std::optional<read_photo> taken_from_ahead(frmMain & main, const wanted_photo & wanted)
+{
+    const auto found = found_ahead(main.run.ahead, wanted);
+    if (found == main.run.ahead.begun.end())
+        return std::nullopt;
+    photo_ahead::begun_photo begun = std::move(*found);
+    main.run.ahead.begun.erase(found);
+    read_photo read = awaited_in_run(main, std::move(begun.photo), std::move(begun.stop));
+    const auto stamp =
+        awaited_in_run(main, main.workers.begin_at_once([path = wanted.path] { return stamp_of(path); }));
+    return stamp == read.stamp ? std::optional(std::move(read)) : std::nullopt;
+}
+
+read_photo photo_read(frmMain & main, const wanted_photo & wanted)
+{
+    if (std::optional<read_photo> read = taken_from_ahead(main, wanted))
+        return std::move(*read);
+    std::stop_source stop;
+    auto photo =
+        main.workers.begin_at_once([wanted, known = file_of(main, wanted.path), token = stop.get_token()] {
+            return read_to_fit(wanted, known, token);
+        });
+    return awaited_in_run(main, std::move(photo), std::move(stop));
+}
+
+// ---- what stays from one preview to the next
+
+bitmap copy_of(const bitmap & image)
+{
+    return copied(image, 0, 0, image.width(), image.height());
+}
+
+small_photo_key key_of(const wanted_photo & wanted, const known_file & known)
+{
+    return {.path = wanted.path, .stamp = known.stamp.value_or(file_stamp{}), .place = wanted.place};
+}
+
+small_photo_key key_of_whole(const wanted_photo & wanted, const known_file & known)
+{
+    return {.path = wanted.path, .stamp = known.stamp.value_or(file_stamp{}), .place = {}};
+}
+
+bool is_shelved(frmMain & main, const wanted_photo & wanted, const known_file & known)
+{
+    return main.in_preview && (main.run.small.find(key_of(wanted, known)) != nullptr ||
+                               main.run.small.find(key_of_whole(wanted, known)) != nullptr);
+}
+
+void keep_if_small(frmMain & main, const small_photo_key & key, const bitmap & image)
+{
+    if (image && is_small(size_of(image)))
+        main.run.small.keep(key, copy_of(image));
+}
+
+void keep_for_previews(frmMain & main, const wanted_photo & wanted, const known_file & known,
+                       const run_photo & photo)
+{
+    if (!main.in_preview)
         return;
-    ahead.begun.push_back(
-        {.wanted = wanted, .stamp = *stamp, .photo = std::async(std::launch::async, [wanted] {
-                                                return fitted_photo(wanted.path, wanted.place);
-                                            })});
+    keep_if_small(main, key_of_whole(wanted, known), photo.whole);
+    keep_if_small(main, key_of(wanted, known), photo.fitted);
+}
+
+std::optional<run_photo> photo_from_shelf(frmMain & main, const wanted_photo & wanted,
+                                          const known_file & known)
+{
+    if (!is_shelved(main, wanted, known))
+        return std::nullopt;
+    run_photo photo;
+    photo.path = wanted.path;
+    photo.own = known.size.value_or(picture_size{});
+    photo.place = wanted.place;
+    if (const bitmap * const there = main.run.small.find(key_of(wanted, known))) {
+        photo.fitted = copy_of(*there);
+    } else {
+        photo.whole = copy_of(*main.run.small.find(key_of_whole(wanted, known)));
+        photo.fitted = fitted_or_none(photo.whole, wanted.place);
+        keep_if_small(main, key_of(wanted, known), photo.fitted);
+    }
+    return photo;
 }
 
 }  // namespace
 
-std::optional<wanted_photo> wanted_at(const std::string & path, const place_of_photo & place_of)
+std::optional<wanted_photo> wanted_at(frmMain & main, const std::string & path,
+                                      const place_of_photo & place_of)
 {
-    const std::optional<picture_size> own = usable_jpeg_size(path);
+    const std::optional<picture_size> own = size_of_photo(main, path);
     try {
         return own ? std::optional(wanted_photo{.path = path, .place = place_of(*own)}) : std::nullopt;
     } catch (const platform_error &) {
@@ -130,44 +218,57 @@ void read_ahead(frmMain & main, const std::vector<wanted_photo> & next)
 {
     photo_ahead & ahead = main.run.ahead;
     drop_wrong_guesses(ahead, next);
-    for (const wanted_photo & wanted : next)
-        if (std::ssize(ahead.begun) < ahead.at_once)
-            begin_reading(ahead, wanted);
+    for (const wanted_photo & wanted : next) {
+        if (std::ssize(ahead.begun) >= main.workers.count() || !main.workers.has_room())
+            return;
+        const known_file & known = file_of(main, wanted.path);
+        if (known.size && found_ahead(ahead, wanted) == ahead.begun.end() && !is_shelved(main, wanted, known))
+            begin_reading(main, wanted);
+    }
 }
 
 void forget_ahead(frmMain & main)
 {
-    for (const photo_ahead::begun_photo & one : main.run.ahead.begun)
-        wait_for(main.desk, one.photo);
-    main.run.ahead.begun.clear();
+    drop_wrong_guesses(main.run.ahead, {});
 }
 
 run_photo load_photo(frmMain & main, const std::string & path, const place_of_photo & place_of)
 {
-    const std::optional<file_stamp> stamp = stamp_of(path);
-    const std::optional<picture_size> own = stamp ? usable_jpeg_size(path) : std::nullopt;
-    if (!own || stamp->bytes < small_file)
-        return whole_photo(path);
-    const wanted_photo wanted{.path = path, .place = place_of(*own)};
-    photo_ahead & ahead = main.run.ahead;
-    const auto found = found_ahead(ahead, wanted, stamp);
-    if (found == ahead.begun.end())
-        return beside(main.desk, [wanted] { return fitted_photo(wanted.path, wanted.place); });
-    std::future<run_photo> photo = std::move(found->photo);
-    ahead.begun.erase(found);
-    return awaited(main.desk, std::move(photo));
+    constexpr int most_tries = 3;  // a file that changes all the time is taken as it is then
+    for (int tries = 1;; ++tries) {
+        const known_file known = file_of(main, path);
+        if (!known.size) {
+            run_photo none;
+            none.path = path;
+            return none;
+        }
+        const wanted_photo wanted{.path = path, .place = place_of(*known.size)};
+        if (std::optional<run_photo> photo = photo_from_shelf(main, wanted, known))
+            return std::move(*photo);
+        read_photo read = photo_read(main, wanted);
+        if (read.stamp == known.stamp)
+            keep_for_previews(main, wanted, known, read.photo);
+        if (read.stamp == known.stamp || tries == most_tries)
+            return std::move(read.photo);
+        forget_file(main, path);
+    }
 }
 
 bitmap fit_photo(frmMain & main, run_photo photo, int width, int height)
 {
     if (photo.fitted && photo.place == picture_size{.width = width, .height = height})
         return std::move(photo.fitted);
-    if (!photo.whole && photo)
-        photo.whole = beside(main.desk, [path = photo.path] { return loaded(path); });
-    return done_where(is_small(photo.whole), main, [&] { return fitted(photo.whole, width, height); });
+    if (!photo || (photo.whole && is_small(size_of(photo.whole))))
+        return fitted(photo.whole, width, height);
+    return awaited_in_run(main, main.workers.begin_at_once([photo = std::move(photo), width, height] {
+        return photo.whole ? fitted(photo.whole, width, height) : fitted(loaded(photo.path), width, height);
+    }));
 }
 
 void save_photo(frmMain & main, const bitmap & image, const std::string & path)
 {
-    done_where(is_small(image), main, [&] { save_jpeg(image, path); });
+    if (is_small(size_of(image)))
+        save_jpeg(image, path);
+    else
+        beside(main.desk, main.workers, [&] { save_jpeg(image, path); });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/photo/awaited_in_run.h"
 #include "engine/photo/photo_ahead.h"
 #include "support/platform_error.h"
 
@@ -8,10 +9,8 @@
 #include <string>
 #include <vector>
 
-struct frmMain;
-
 /// The steps with a photo that take longest and touch nothing of the session: they run on another core, and
-/// the window lets events through meanwhile. Thumbnails and what is as small are done at once.
+/// the window lets events through meanwhile.
 
 /// Raised for a photo so long and narrow that it can't be fitted into its place; the number is that of an
 /// overflow.
@@ -23,20 +22,22 @@ struct photo_too_long : platform_error {
 using place_of_photo = std::function<picture_size(picture_size own)>;
 
 /// A JPEG, empty when it can't be loaded or is too large for sizes of 16 bits. One that was read ahead is
-/// there already; a large one is fitted to its place while it is read.
+/// there already, and so is what earlier previews had of the same file; a large one is fitted to its place
+/// while it is read. Raises run_cancelled.
 run_photo load_photo(frmMain & main, const std::string & path, const place_of_photo & place_of);
 
 /// The photo in the size of its place, for reading ahead; nothing where that can't be told.
-std::optional<wanted_photo> wanted_at(const std::string & path, const place_of_photo & place_of);
+std::optional<wanted_photo> wanted_at(frmMain & main, const std::string & path,
+                                      const place_of_photo & place_of);
 
 /// Begins to read the photos that will probably be loaded next, the first of them first, and returns at once.
 /// A wrong guess changes nothing but the time.
 void read_ahead(frmMain & main, const std::vector<wanted_photo> & next);
 
-/// Drops what was read ahead.
+/// Drops what was read ahead, and stops what is being read. Waits for nothing.
 void forget_ahead(frmMain & main);
 
-/// As `resize_image` fits the whole photo. Raises photo_too_long.
+/// As `resize_image` fits the whole photo. Raises photo_too_long, run_cancelled.
 bitmap fit_photo(frmMain & main, run_photo photo, int width, int height);
 
 /// Writes a JPEG. Raises what `save_jpeg` raises.

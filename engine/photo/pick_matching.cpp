@@ -1,6 +1,7 @@
 #include "engine/photo/pick_matching.h"
 
 #include "engine/layout/matching.h"
+#include "engine/photo/look_at_files.h"
 #include "engine/photo/photo_steps.h"
 #include "photos/left_out.h"
 
@@ -33,9 +34,9 @@ void keep_cursors(run_state & run, const match_cursors & cursors)
     run.evolve_landscape_wraps = cursors.landscape_wraps;
 }
 
-std::optional<orientation> told_by_header(const std::string & path)
+std::optional<orientation> told_by_header(frmMain & main, const std::string & path)
 {
-    const std::optional<picture_size> size = usable_jpeg_size(path);
+    const std::optional<picture_size> size = size_of_photo(main, path);
     return size ? std::optional(orientation_of(size->width, size->height)) : std::nullopt;
 }
 
@@ -45,7 +46,7 @@ std::optional<orientation> how_it_lies(frmMain & main, int index)
     if (is_left_out(main, index))
         seen = {.is_known = true};
     else if (!seen.is_known)
-        seen = {.is_known = true, .lies = told_by_header(main.table[index])};
+        seen = {.is_known = true, .lies = told_by_header(main, main.table[index])};
     return seen.lies;
 }
 

@@ -80,8 +80,8 @@ edit_thumbnail thumbnail_for_editing(frmMain & main, const std::string & photo)
     std::string base;
     const int format = chk_imagefile(main, photo, base, bad_file::silent);
     const std::string thumbnail = edit_thumbnail_path(photo);
-    if (const bitmap small = loaded(format, thumbnail))
+    if (const bitmap small = beside(main.desk, main.workers, [&] { return loaded(format, thumbnail); }))
         return {.file = thumbnail, .shape = shape_of(small)};
     main.desk.pump();
-    return beside(main.desk, [&] { return made(format, photo); });
+    return beside(main.desk, main.workers, [&] { return made(format, photo); });
 }

@@ -7,6 +7,7 @@
 #include "photos/photo_shuffle.h"
 #include "photos/thumbnails/thumbnails.h"
 #include "session/windows.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 
@@ -23,31 +24,35 @@ const file_request images_to_select{
 
 void show_progress(frmMain & main, int index)
 {
-    if (main.all != nullptr)
-        main.all->photo_count.lblCount.set_caption("Checking " + std::to_string(index) + "  of  " +
-                                                   std::to_string(main.table.last_photo + 1) + "  photos");
+    const int total = main.table.last_photo + 1;
+    if (main.all != nullptr) {
+        frmPhotoCnt & window = main.all->photo_count;
+        window.lblCount.set_caption("Checking " + std::to_string(index) + "  of  " + std::to_string(total) +
+                                    "  photos");
+        window.barCount.tell(index, total);
+    }
     main.desk.pump();
 }
 
-// False when the photo is gone; the entry is then taken out.
-bool swapped_for_thumbnail(frmMain & main, int index)
+// Nothing when the photo is gone; the entry is then taken out.
+std::optional<small_photo> swapped_for_thumbnail(frmMain & main, int index)
 {
     std::string & entry = main.table[index];
     entry = photo_path(entry);
-    std::string thumbnail = chk_sample_thumb(main, entry);
-    if (thumbnail.empty()) {
+    small_photo found = small_photo_of(main, entry);
+    if (found.path.empty()) {
         leave_out(main, entry, photo_fault::gone);
         remove_photo(main, index);
         --main.table.last_photo;
-        return false;
+        return std::nullopt;
     }
-    entry = std::move(thumbnail);
-    return true;
+    entry = found.path;
+    return found;
 }
 
 std::string measured_line(frmMain & main, const std::string & photo)
 {
-    return list_line(counted_orientation(usable_jpeg_size(chk_sample_thumb(main, photo))), photo);
+    return list_line(counted_orientation(small_photo_of(main, photo).size), photo);
 }
 
 std::string measured_list(frmMain & main, const std::string & list)
@@ -96,7 +101,8 @@ std::vector<std::string> photos_in(const std::string & folder)
 
 void photos_of_folder(frmMain & main, const std::string & folder)
 {
-    std::vector<std::string> photos = photos_in(folder);
+    std::vector<std::string> photos =
+        alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); });
     photos.resize(std::min(photos.size(), folder_limit));
     std::ranges::move(photos, main.table.photos.begin());
     main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
@@ -192,13 +198,13 @@ void count_photos(frmMain & main)
     for (int index = 0; index <= main.table.last_photo;) {
         begin_thumbnails(main, index);
         show_progress(main, index);
-        if (!swapped_for_thumbnail(main, index))
+        const std::optional<small_photo> found = swapped_for_thumbnail(main, index);
+        if (!found)
             continue;
-        const std::string & thumbnail = main.table[index++];
-        const std::optional<picture_size> size = usable_jpeg_size(thumbnail);
-        if (!size)
-            leave_out(main, thumbnail);
-        add_photo(counts, counted_orientation(size));
+        ++index;
+        if (!found->size)
+            leave_out(main, found->path);
+        add_photo(counts, counted_orientation(found->size));
     }
     finish_thumbnails(main);
     main.table.landscape_count = counts.landscape;

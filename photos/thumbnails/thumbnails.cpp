@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <set>
+#include <vector>
 
 namespace {
 
@@ -27,15 +28,14 @@ bitmap small_picture(const std::string & photo)
     return rescaled(load_picture(picture_format::jpeg, photo), size.width, size.height);
 }
 
-// What lies there stays until a new one takes its place: others may be reading it.
+// Several workers may make the folder at the same time. What lies there stays until a new one takes its
+// place: others may be reading it.
 bool has_place(const std::string & thumbnail)
 {
     const std::string folder = folder_of(thumbnail);
-    return tried([&] {
-               if (!folder_exists(folder))
-                   make_folder(folder);
-           }) &&
-           folder_writable(folder);
+    if (!folder_exists(folder))
+        tried([&] { make_folder(folder); });
+    return folder_exists(folder) && folder_writable(folder);
 }
 
 // The thumbnail, or the photo where it can't be written.
@@ -48,38 +48,56 @@ std::string made_thumbnail(const std::string & photo, const std::string & thumbn
     return small ? photo : thumbnail;
 }
 
-// A photo that is there and has no thumbnail yet, in a place that can be written.
-bool needs_one(const std::string & photo, const std::string & thumbnail)
+small_photo at(const std::string & path)
 {
-    return file_exists(photo) && !file_exists(thumbnail) && has_place(thumbnail);
+    return {.path = path, .size = usable_jpeg_size(path)};
 }
 
-bool has_free_core(const thumbnails_ahead & ahead)
+// What a worker does.
+small_photo found_or_made(const std::string & photo)
 {
-    const auto at_work =
-        std::ranges::count_if(ahead.begun, [](const auto & each) { return !is_there(each.second); });
-    return at_work < ahead.at_once && std::ssize(ahead.begun) < 4 * ahead.at_once;
+    if (!file_exists(photo))
+        return {};
+    const std::string thumbnail = thumbnail_path(photo);
+    const bool was_there = file_exists(thumbnail);
+    if (was_there && !is_newer(photo, thumbnail))
+        return at(thumbnail);
+    small_photo made = at(has_place(thumbnail) ? made_thumbnail(photo, thumbnail) : photo);
+    made.was_older = was_there;
+    return made;
 }
 
-// What another core made of the photo, waited for; nothing for one that wasn't begun.
-std::optional<std::string> made_ahead(frmMain & main, const std::string & photo)
+void swap_for_thumbnail(std::string & entry)
 {
-    const auto found = main.thumbnails.begun.extract(photo);
-    return found ? std::optional(awaited(main.desk, std::move(found.mapped()))) : std::nullopt;
+    const std::string thumbnail = thumbnail_path(entry);
+    if (!is_thumbnail(entry) && file_exists(thumbnail))
+        entry = thumbnail;
+}
+
+// What was begun has to be so still.
+std::optional<small_photo> found_ahead(frmMain & main, const std::string & photo)
+{
+    auto begun = main.thumbnails.begun.extract(photo);
+    if (!begun)
+        return std::nullopt;
+    small_photo found = awaited(main.desk, std::move(begun.mapped()));
+    const bool stays = beside(main.desk, main.workers, [&] { return file_exists(photo); });
+    return stays ? found : small_photo{};
 }
 
 }  // namespace
 
 void begin_thumbnails(frmMain & main, int index)
 {
-    constexpr int looked_ahead = 100;  // photos: more would hold up the window where all have theirs
     thumbnails_ahead & ahead = main.thumbnails;
-    const int end = std::min<int>(main.table.last_photo + 1, index + looked_ahead);
-    for (ahead.next = std::max(ahead.next, index); ahead.next < end && has_free_core(ahead); ++ahead.next) {
-        const std::string photo = photo_path(main.table[ahead.next]), thumbnail = thumbnail_path(photo);
-        if (!ahead.begun.contains(photo) && needs_one(photo, thumbnail))
-            ahead.begun[photo] = std::async(std::launch::async,
-                                            [photo, thumbnail] { return made_thumbnail(photo, thumbnail); });
+    const int workers = main.workers.count();
+    ahead.next = std::max(ahead.next, index);
+    for (; ahead.next <= main.table.last_photo && std::ssize(ahead.begun) < 2 * workers &&
+           main.workers.has_room();
+         ++ahead.next) {
+        const std::string photo = photo_path(main.table[ahead.next]);
+        if (!ahead.begun.contains(photo))
+            ahead.begun[photo] = main.workers.begin([photo] { return found_or_made(photo); });
     }
 }
 
@@ -92,30 +110,27 @@ void finish_thumbnails(frmMain & main)
     ahead.next = 0;
 }
 
-std::string chk_sample_thumb(frmMain & main, const std::string & photo)
+small_photo small_photo_of(frmMain & main, const std::string & photo)
 {
-    if (!file_exists(photo))
-        return {};
-    if (const std::optional<std::string> made = made_ahead(main, photo))
-        return *made;
-    const std::string thumbnail = thumbnail_path(photo);
-    if (file_exists(thumbnail)) {
-        if (!is_newer(photo, thumbnail))
-            return thumbnail;
+    std::optional<small_photo> found = found_ahead(main, photo);
+    if (!found)
+        found = beside(main.desk, main.workers, [&] { return found_or_made(photo); });
+    if (found->was_older)
         main.desk.message(photo + " IS NEWER");
-    }
-    if (!has_place(thumbnail))
-        return photo;
-    return beside(main.desk, [&] { return made_thumbnail(photo, thumbnail); });
+    return std::move(*found);
 }
 
-void clear_thumbnail_places(const frmMain & main)
+std::string chk_sample_thumb(frmMain & main, const std::string & photo)
+{
+    return small_photo_of(main, photo).path;
+}
+
+void clear_thumbnail_places(frmMain & main)
 {
     std::set<std::string> places;
     for (int i = 0; i <= main.table.last_photo; ++i)
         places.insert(folder_of(thumbnail_path(photo_path(main.table[i]))));
-    for (const std::string & place : places)
-        remove_abandoned_parts(place);
+    alone_beside(main.desk, main.workers, [&] { std::ranges::for_each(places, remove_abandoned_parts); });
 }
 
 void photos_from_thumbnails(frmMain & main)
@@ -126,12 +141,11 @@ void photos_from_thumbnails(frmMain & main)
 
 void thumbnails_from_photos(frmMain & main)
 {
-    for (int i = 0; i <= main.table.last_photo; ++i) {
-        std::string & entry = main.table[i];
-        if (is_thumbnail(entry))
-            continue;
-        const std::string thumbnail = thumbnail_path(entry);
-        if (file_exists(thumbnail))
-            entry = thumbnail;
-    }
+    const auto end = main.table.photos.begin() + main.table.last_photo + 1;
+    std::vector<std::string> entries(main.table.photos.begin(), end);
+    entries = alone_beside(main.desk, main.workers, [&] {
+        std::ranges::for_each(entries, swap_for_thumbnail);
+        return std::move(entries);
+    });
+    std::ranges::move(entries, main.table.photos.begin());
 }

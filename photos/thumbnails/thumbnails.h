@@ -12,8 +12,11 @@
 /// photo doesn't exist. Where that place can't be written it is the photo itself.
 std::string chk_sample_thumb(frmMain & main, const std::string & photo);
 
-/// Begins to make thumbnails for the photos from `index` of the table on that have none, as many at once as
-/// there are cores, and returns at once. What comes of them chk_sample_thumb gives, when it is their turn.
+/// The same with its size.
+small_photo small_photo_of(frmMain & main, const std::string & photo);
+
+/// Has workers look at the photos from `index` of the table on, and make thumbnails for those that have none;
+/// returns at once. What comes of it is given when it is their turn.
 void begin_thumbnails(frmMain & main, int index);
 
 /// Waits for what was begun and forgets it. To be called before a walk through the table, and behind it.
@@ -21,7 +24,7 @@ void finish_thumbnails(frmMain & main);
 
 /// Clears the places of the table's thumbnails of what killed programs left half written there. Raises
 /// nothing.
-void clear_thumbnail_places(const frmMain & main);
+void clear_thumbnail_places(frmMain & main);
 
 /// Turns every entry of the table that is a thumbnail back into its photo.
 void photos_from_thumbnails(frmMain & main);

@@ -1,15 +1,22 @@
 #pragma once
 
-#include "support/cores.h"
+#include "support/MFreeImage.h"
 
 #include <future>
 #include <map>
+#include <optional>
 #include <string>
 
-/// The thumbnails that other cores make while the photos before them in the table are looked at.
+/// What stands in for a photo in previews.
+struct small_photo {
+    std::string path{};                  ///< empty for a photo that isn't there
+    std::optional<picture_size> size{};  ///< nothing for what can't be read
+    bool was_older = false;              ///< it had to be made anew, since the photo is newer
+};
+
+/// The photos that workers look at, and make thumbnails for, while those before them in the table are
+/// counted.
 struct thumbnails_ahead {
-    int at_once = usable_cores();
-    int next = 0;  ///< of the table: the first photo that wasn't looked at yet
-    /// By photo, what chk_sample_thumb is to give.
-    std::map<std::string, std::future<std::string>> begun{};
+    int next = 0;  ///< of the table: the first photo that wasn't begun yet
+    std::map<std::string, std::future<small_photo>> begun{};  ///< by photo
 };

@@ -51,6 +51,15 @@ void show_own_help(frmMain & main)
     show_help(main, main.mnuFile.visible() ? "help_main.htm" : "finishing.htm");
 }
 
+// Escape ends a run as the button does; it doesn't leave the finishing stage.
+void key_pressed(frmMain & main, key pressed)
+{
+    if (pressed != key::escape)
+        show_own_help(main);
+    else if (main.run.run_active)
+        main.cmdCancel.click();
+}
+
 }  // namespace
 
 void connect_buttons(frmMain & main)
@@ -60,5 +69,5 @@ void connect_buttons(frmMain & main)
     main.cmdHelp.on_click = [&main] { show_help(main, "finishing.htm"); };
     main.optPreview.on_click = [&main] { optPreview_click(main); };
     main.optSample.on_click = [&main] { optSample_click(main); };
-    main.on_key = [&main](key) { show_own_help(main); };
+    main.on_key = [&main](key pressed) { key_pressed(main, pressed); };
 }

@@ -104,6 +104,7 @@ void load_main(frmMain & main)
     main.frmSquares.show(false);
     main.chkOutline.show(false);
     place_outline(main);
+    main.barDoing.show(false);
     reset_design_flags(main);
     reset_window_flags(main);
     blacken(main);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "support/desktop.h"
+#include "support/for_now.h"
+#include "support/workers.h"
 
 #include <chrono>
 #include <future>
@@ -32,9 +34,31 @@ Result awaited(desktop & desk, std::future<Result> result)
 }
 
 /// Runs `step` on another core, lets pending events through meanwhile, and gives its result or raises its
-/// error. The step works on files and pixels of its own and touches nothing of the session.
+/// error. The step works on files and pixels of its own and touches nothing of the session; what it refers to
+/// stays until it has ended.
 template <typename Step>
-auto beside(desktop & desk, Step step)
+auto beside(desktop & desk, worker_pool & workers, Step step)
 {
-    return awaited(desk, std::async(std::launch::async, std::move(step)));
+    auto result = workers.begin_at_once(std::move(step));
+    const afterwards ended([&] {
+        if (result.valid())
+            result.wait();
+    });
+    wait_for(desk, result);
+    return result.get();
+}
+
+/// The same for a step that nothing the user does may come in between: the windows are drawn, and that is
+/// all.
+template <typename Step>
+auto alone_beside(desktop & desk, worker_pool & workers, Step step)
+{
+    auto result = workers.begin_at_once(std::move(step));
+    const afterwards ended([&] {
+        if (result.valid())
+            result.wait();
+    });
+    while (result.wait_for(longest_standstill) != std::future_status::ready)
+        desk.breathe_alone();
+    return result.get();
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -199,10 +200,11 @@ bool folder_writable(const std::string & folder)
 
 std::optional<file_stamp> stamp_of(const std::string & path)
 {
-    std::error_code failed_time, failed_size;
-    const fs::file_time_type changed = fs::last_write_time(path, failed_time);
-    const std::uintmax_t bytes = fs::file_size(path, failed_size);
-    if (failed_time || failed_size)
+    constexpr std::int64_t nanoseconds = 1'000'000'000;
+    struct stat file {};
+    if (::stat(path.c_str(), &file) != 0 || !S_ISREG(file.st_mode))
         return std::nullopt;
-    return file_stamp{.changed = changed.time_since_epoch().count(), .bytes = bytes};
+    return file_stamp{.changed = file.st_mtim.tv_sec * nanoseconds + file.st_mtim.tv_nsec,
+                      .bytes = static_cast<std::uint64_t>(file.st_size),
+                      .number = file.st_ino};
 }

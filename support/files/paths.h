@@ -74,8 +74,9 @@ bool is_newer(const std::string & path, const std::string & other);
 
 /// Tells one state of a file from another.
 struct file_stamp {
-    std::int64_t changed = 0;  ///< when, in the file system's own ticks
+    std::int64_t changed = 0;  ///< when, in nanoseconds
     std::uint64_t bytes = 0;
+    std::uint64_t number = 0;  ///< of the file: one that takes another's place has another
     bool operator==(const file_stamp &) const = default;
 };
 

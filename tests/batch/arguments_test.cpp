@@ -24,7 +24,7 @@ TEST(batch_arguments, reads_every_option)
         {"--photos", "a.jpg",       "b.jpg", "--design",       "Wall",      "--orientation", "square",
          "--set",    "cmbFrame=20", "--set", "txtCaption=a=b", "--caption", "Summer",        "--size",
          "750",      "--random",    "7",     "--data",         "d",         "--preview",     "--answer",
-         "yes",      "--out",       "o.jpg"});
+         "yes",      "--out",       "o.jpg", "--threads",      "3"});
     EXPECT_EQ(read.photos, (std::vector<std::string>{"a.jpg", "b.jpg"}));
     EXPECT_EQ(read.design, "Wall");
     EXPECT_EQ(read.orientation, "square");
@@ -34,6 +34,7 @@ TEST(batch_arguments, reads_every_option)
     EXPECT_EQ(read.caption, "Summer");
     EXPECT_EQ(read.size, 750);
     EXPECT_EQ(read.seed, 7U);
+    EXPECT_EQ(read.threads, 3);
     EXPECT_EQ(read.data_folder, "d");
     EXPECT_TRUE(read.preview);
     EXPECT_TRUE(read.answers_yes);
@@ -80,6 +81,9 @@ TEST(batch_arguments, what_is_missing_or_wrong_is_named)
         {{"--orientation", "round"}, "--orientation is portrait, landscape or square, not \"round\""},
         {{"--size", "12x"}, "--size takes a whole number from 16 to 12000, not \"12x\""},
         {{"--size", "99999"}, "--size takes a whole number from 16 to 12000, not \"99999\""},
+        {{"--threads", "0"}, "--threads takes a whole number from 1 to 64, not \"0\""},
+        {{"--threads", "65"}, "--threads takes a whole number from 1 to 64, not \"65\""},
+        {{"--threads", "all"}, "--threads takes a whole number from 1 to 64, not \"all\""},
         {{"--random", "-1"}, "--random takes a whole number from 0 to 18446744073709551615, not \"-1\""},
         {{"--answer", "maybe"}, "--answer is yes or no, not \"maybe\""},
         {{"--preview=yes"}, "--preview takes no value"},
@@ -144,8 +148,8 @@ TEST(batch_arguments, an_empty_value_is_refused_where_it_says_nothing)
 TEST(batch_arguments, the_usage_names_every_option)
 {
     for (const char * option :
-         {"--photos", "--design", "--frames", "--quick",   "--orientation", "--set",    "--caption",
-          "--size",   "--random", "--data",   "--preview", "--answer",      "--out",    "--keep",
-          "--jobs",   "--again",  "--list",   "--dump",    "-h, --help",    "--version"})
+         {"--photos", "--design", "--frames", "--quick",   "--orientation", "--set",      "--caption",
+          "--size",   "--random", "--data",   "--preview", "--answer",      "--out",      "--threads",
+          "--keep",   "--jobs",   "--again",  "--list",    "--dump",        "-h, --help", "--version"})
         EXPECT_NE(usage().find(option), std::string::npos) << option;
 }

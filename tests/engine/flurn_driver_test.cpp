@@ -234,3 +234,31 @@ TEST(make_flurn, dark_colours_keep_away_from_the_key)
     EXPECT_EQ(run.main.run.frame_color, (rgb_triple{.blue = 7}));
     EXPECT_EQ(run.main.run.shadow_color, (rgb_triple{.red = 12, .green = 11, .blue = 10}));
 }
+
+TEST(make_flurn, shows_how_many_images_of_how_many_while_it_goes_on)
+{
+    four_photos run;
+    std::vector<std::string> told;
+    for (int pump = 1; pump <= 8; ++pump)
+        run.desk.on_pump(pump, [&] {
+            const std::string now = run.main.barDoing.visible() ? run.main.barDoing.value() : "";
+            if (told.empty() || told.back() != now)
+                told.push_back(now);
+        });
+    run.main.barDoing.show(false);
+    run.full_run();
+    EXPECT_EQ(told, (std::vector<std::string>{"", "1 of 4", "2 of 4", "3 of 4", "4 of 4"}));
+    EXPECT_FALSE(run.main.barDoing.visible());
+}
+
+TEST(make_flurn, a_bar_tells_the_cells_of_all_layers)
+{
+    four_photos run;
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    run.main.work_style = run.main.design_record.style = "Fill";
+    run.use_template(
+        {"0:0:2:3:0:0:0:0:", "10:10:400:500:0:0:0:0:", "1500:0:1:2:0:0:0:0:", "10:10:400:500:0:0:0:0:"});
+    run.full_run();
+    EXPECT_EQ(run.main.run.images_in_all, 8);
+    EXPECT_EQ(run.main.run.image_number, 9);
+}

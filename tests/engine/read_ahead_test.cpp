@@ -1,4 +1,5 @@
 #include "engine/fill_loop.h"
+#include "engine/photo/look_at_files.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/pixels/resize_image.h"
 #include "engine/place_loop.h"
@@ -9,7 +10,6 @@
 
 namespace {
 
-// Files of more than 200,000 bytes, which are those that another core reads.
 std::string noisy_photo(const collage_fixture & run, const std::string & name, int width, int height)
 {
     save_jpeg(noise(width, height), run.home.at(name));
@@ -36,7 +36,7 @@ using preparation = std::function<void(collage_fixture &)>;
 told_run run_of(int at_once, const preparation & prepare, loop_of_a_run loop)
 {
     collage_fixture run;
-    run.main.run.ahead.at_once = at_once;
+    run.main.workers.set_count(at_once);
     run.use_canvas(400, 300);
     run.add_path(noisy_photo(run, "a.jpg", 300, 400));
     run.add_path(noisy_photo(run, "b.jpg", 420, 300));
@@ -130,12 +130,12 @@ TEST(read_ahead, a_photo_for_another_place_is_read_again)
     forget_ahead(run.main);
 }
 
-TEST(read_ahead, begins_nothing_for_a_thumbnail_or_what_is_gone_or_when_switched_off)
+TEST(read_ahead, begins_nothing_for_what_is_gone_or_no_photo_or_without_workers)
 {
     collage_fixture run;
-    read_ahead(run.main, {{run.picture("small.jpg", red, 60, 40), small_place},
+    read_ahead(run.main, {{run.home.write("text.jpg", "no picture"), small_place},
                           {run.home.at("gone.jpg"), small_place}});
-    run.main.run.ahead.at_once = 0;
+    run.main.workers.set_count(0);
     read_ahead(run.main, {{noisy_photo(run, "a.jpg", 600, 400), small_place}});
     EXPECT_TRUE(run.main.run.ahead.begun.empty());
 }
@@ -143,7 +143,7 @@ TEST(read_ahead, begins_nothing_for_a_thumbnail_or_what_is_gone_or_when_switched
 TEST(read_ahead, begins_as_many_as_there_are_cores_and_each_once)
 {
     collage_fixture run;
-    run.main.run.ahead.at_once = 2;
+    run.main.workers.set_count(2);
     std::vector<wanted_photo> next;
     for (const char * name : {"a.jpg", "b.jpg", "c.jpg"})
         next.push_back({noisy_photo(run, name, 600, 400), small_place});
@@ -158,7 +158,7 @@ TEST(read_ahead, begins_as_many_as_there_are_cores_and_each_once)
 TEST(read_ahead, drops_a_guess_that_has_gone_wrong)
 {
     collage_fixture run;
-    run.main.run.ahead.at_once = 1;
+    run.main.workers.set_count(1);
     const std::string wrong = noisy_photo(run, "a.jpg", 600, 400),
                       right = noisy_photo(run, "b.jpg", 600, 400);
     read_ahead(run.main, {{wrong, small_place}});
@@ -167,6 +167,55 @@ TEST(read_ahead, drops_a_guess_that_has_gone_wrong)
     ASSERT_EQ(run.main.run.ahead.begun.size(), 1U);
     EXPECT_EQ(run.main.run.ahead.begun.front().wanted.path, right);
     forget_ahead(run.main);
+}
+
+// Keeps every worker busy, and the thread of what is waited for, until it goes.
+struct all_busy {
+    explicit all_busy(worker_pool & workers)
+    {
+        const auto wait = [opened = std::shared_future<void>(opening.get_future())] { opened.wait(); };
+        for (int i = 0; i < workers.count(); ++i)
+            workers.begin(wait);
+        workers.begin_at_once(wait);
+    }
+    ~all_busy() { opening.set_value(); }
+    std::promise<void> opening;
+};
+
+TEST(read_ahead, is_forgotten_without_waiting_for_busy_workers)
+{
+    collage_fixture run;
+    run.main.workers.set_count(2);
+    const std::string path = noisy_photo(run, "a.jpg", 600, 400);
+    file_of(run.main, path);
+    const all_busy busy(run.main.workers);
+    read_ahead(run.main, {{path, small_place}});
+    const std::stop_token stop = run.main.run.ahead.begun.front().stop.get_token();
+    forget_ahead(run.main);
+    EXPECT_TRUE(run.main.run.ahead.begun.empty());
+    EXPECT_TRUE(stop.stop_requested());
+}
+
+TEST(read_ahead, a_cancel_ends_places_while_their_photo_is_waited_for)
+{
+    // Without an end at the cancel the loop would wait for ever: the workers are let go behind it.
+    for (const bool looked_at : {false, true}) {
+        collage_fixture run;
+        run.use_canvas(400, 300);
+        run.add_path(noisy_photo(run, "a.jpg", 300, 400));
+        add_places(run);
+        std::optional<all_busy> busy;
+        run.desk.on_breath = [&] { run.main.run.cancel_requested = true; };
+        const sign_of_life hold = [&] {
+            if (looked_at)
+                file_of(run.main, run.main.table[0]);
+            busy.emplace(run.main.workers);
+        };
+        place_loop(run.main, hold);
+        EXPECT_TRUE(run.main.run.cancel_requested);
+        EXPECT_FALSE(run.main.run.ends_at_cancel);
+        EXPECT_EQ(run.main.run.image_number, 2);
+    }
 }
 
 TEST(read_ahead, is_forgotten_when_a_run_has_ended)
@@ -183,7 +232,7 @@ TEST(read_ahead, guesses_right_in_a_run_of_places_and_of_a_shaken_grid)
     // guessed right there is nothing.
     for (const bool grid : {false, true}) {
         collage_fixture run;
-        run.main.run.ahead.at_once = 3;
+        run.main.workers.set_count(3);
         run.use_canvas(400, 300);
         for (int i = 0; i < 6; ++i)
             run.add_path(noisy_photo(run, std::to_string(i) + ".jpg", 300, 400));

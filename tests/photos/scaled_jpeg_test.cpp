@@ -126,3 +126,12 @@ TEST(scaled_jpeg, a_thumbnail_of_a_photo_of_its_size_is_left_to_the_library)
     photo_file file({}, 200, 150);
     EXPECT_FALSE(read_thumbnail(file.path, {200, 150}, file.memory));
 }
+
+TEST(scaled_jpeg, gives_nothing_once_a_stop_is_asked_for)
+{
+    photo_file file({}, 300, 200);
+    std::stop_source stop;
+    EXPECT_TRUE(read_fitted_jpeg(file.path, {.width = 40, .height = 30}, file.memory, stop.get_token()));
+    stop.request_stop();
+    EXPECT_FALSE(read_fitted_jpeg(file.path, {.width = 40, .height = 30}, file.memory, stop.get_token()));
+}

@@ -24,9 +24,9 @@ def until(what, told):
 
 
 def slow_disk(plugins):
-    """What makes a program wait for its disk; nothing where it isn't asked for."""
-    pause = os.environ.get('TESSALOOM_SLOW_DISK')
-    return {'LD_PRELOAD': os.path.join(plugins, 'slow_disk.so'), 'TESSALOOM_SLOW_DISK': pause} if pause else {}
+    """What makes a program wait for its disk, or for that of its photos; nothing where it isn't asked for."""
+    slow = {name: value for name, value in os.environ.items() if name.startswith('TESSALOOM_SLOW_')}
+    return {'LD_PRELOAD': os.path.join(plugins, 'slow_disk.so'), **slow} if slow else {}
 
 
 def those_of_no_desktop(variables):

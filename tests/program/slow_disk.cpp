@@ -1,32 +1,125 @@
-// Loaded in front of the system's library: a disk that takes its time until it has what is written, as under
-// load or on a card. What two programs do to one folder then lies side by side in time, which on a quick disk
-// happens once in a thousand times.
+// Loaded in front of the system's library: disks that take their time. What two programs do to one folder
+// then lies side by side in time, which on a quick disk happens once in a thousand times; and who waits for a
+// disk is seen to wait.
 
 #include <chrono>
+#include <cstdarg>
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <dirent.h>
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <thread>
 
 namespace {
 
-using flush = int (*)(int);
-
-int flushed_late(const char * name, int descriptor)
+template <typename Function>
+Function really(const char * name)
 {
-    static const char * const pause = std::getenv("TESSALOOM_SLOW_DISK");
-    if (pause != nullptr)
+    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+}
+
+void wait_as_told(const char * variable)
+{
+    if (const char * const pause = std::getenv(variable))
         std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(pause)));
-    return reinterpret_cast<flush>(::dlsym(RTLD_NEXT, name))(descriptor);
+}
+
+// The folder of the photos, and what lies in it, on a share at the other end of the world.
+void wait_for_photos(const char * path)
+{
+    static const char * const folder = std::getenv("TESSALOOM_SLOW_FOLDER");
+    if (folder != nullptr && path != nullptr && std::strncmp(path, folder, std::strlen(folder)) == 0)
+        wait_as_told("TESSALOOM_SLOW_PHOTOS");
+}
+
+mode_t mode_of(int flags, std::va_list more)
+{
+    return (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
 }
 
 }  // namespace
 
-extern "C" int fsync(int descriptor)
+extern "C" {
+
+int fsync(int descriptor)
 {
-    return flushed_late("fsync", descriptor);
+    static const auto flush = really<int (*)(int)>("fsync");
+    wait_as_told("TESSALOOM_SLOW_DISK");
+    return flush(descriptor);
 }
 
-extern "C" int syncfs(int descriptor)
+int syncfs(int descriptor) noexcept
 {
-    return flushed_late("syncfs", descriptor);
+    static const auto flush = really<int (*)(int)>("syncfs");
+    wait_as_told("TESSALOOM_SLOW_DISK");
+    return flush(descriptor);
 }
+
+int open(const char * path, int flags, ...)
+{
+    static const auto open_really = really<int (*)(const char *, int, mode_t)>("open");
+    std::va_list more;
+    va_start(more, flags);
+    const mode_t mode = mode_of(flags, more);
+    va_end(more);
+    wait_for_photos(path);
+    return open_really(path, flags, mode);
+}
+
+int open64(const char * path, int flags, ...)
+{
+    static const auto open_really = really<int (*)(const char *, int, mode_t)>("open64");
+    std::va_list more;
+    va_start(more, flags);
+    const mode_t mode = mode_of(flags, more);
+    va_end(more);
+    wait_for_photos(path);
+    return open_really(path, flags, mode);
+}
+
+FILE * fopen(const char * path, const char * way)
+{
+    static const auto open_really = really<FILE * (*)(const char *, const char *)>("fopen");
+    wait_for_photos(path);
+    return open_really(path, way);
+}
+
+FILE * fopen64(const char * path, const char * way)
+{
+    static const auto open_really = really<FILE * (*)(const char *, const char *)>("fopen64");
+    wait_for_photos(path);
+    return open_really(path, way);
+}
+
+int stat(const char * path, struct stat * told) noexcept
+{
+    static const auto stat_really = really<int (*)(const char *, struct stat *)>("stat");
+    wait_for_photos(path);
+    return stat_really(path, told);
+}
+
+int lstat(const char * path, struct stat * told) noexcept
+{
+    static const auto stat_really = really<int (*)(const char *, struct stat *)>("lstat");
+    wait_for_photos(path);
+    return stat_really(path, told);
+}
+
+int faccessat(int folder, const char * path, int wanted, int flags) noexcept
+{
+    static const auto ask_really = really<int (*)(int, const char *, int, int)>("faccessat");
+    wait_for_photos(path);
+    return ask_really(folder, path, wanted, flags);
+}
+
+DIR * opendir(const char * path)
+{
+    static const auto open_really = really<DIR * (*)(const char *)>("opendir");
+    wait_for_photos(path);
+    return open_really(path);
+}
+
+}  // extern "C"

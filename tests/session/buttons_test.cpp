@@ -76,6 +76,19 @@ TEST(help, follows_the_stage)
                                         joined(folder, "finishing.htm"), joined(folder, "finishing.htm")}));
 }
 
+TEST(cmdCancel, escape_is_the_button_while_a_run_goes_on_and_nothing_otherwise)
+{
+    opened_session session;
+    session.finish();
+    session.main.on_key(key::escape);
+    EXPECT_FALSE(session.main.menus_shown);
+    EXPECT_FALSE(session.main.run.cancel_requested);
+    session.main.run.run_active = true;
+    session.main.on_key(key::escape);
+    EXPECT_TRUE(session.main.run.cancel_requested);
+    EXPECT_FALSE(session.main.menus_shown);
+}
+
 TEST(help, tutorials_and_questions_are_on_the_site)
 {
     opened_session session;

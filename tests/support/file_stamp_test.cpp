@@ -21,3 +21,24 @@ TEST(stamp_of, is_nothing_for_a_missing_file_and_for_a_folder)
     EXPECT_FALSE(stamp_of(folder.at("none.gif")));
     EXPECT_FALSE(stamp_of(folder.path()));
 }
+
+TEST(stamp_of, is_another_for_a_file_that_took_the_place_of_one_of_the_same_size_and_time)
+{
+    const temporary_folder folder;
+    const std::string path = folder.write("a.gif", "four"), other = folder.write("b.gif", "five");
+    const auto before = stamp_of(path);
+    std::filesystem::last_write_time(other, std::filesystem::last_write_time(path));
+    std::filesystem::rename(other, path);
+    EXPECT_EQ(stamp_of(path)->changed, before->changed);
+    EXPECT_NE(stamp_of(path), before);
+}
+
+TEST(stamp_of, tells_times_apart_to_the_nanosecond)
+{
+    const temporary_folder folder;
+    const std::string path = folder.write("a.gif", "four");
+    const auto time = std::filesystem::last_write_time(path);
+    const auto before = stamp_of(path);
+    std::filesystem::last_write_time(path, time + std::chrono::nanoseconds(1));
+    EXPECT_NE(stamp_of(path), before);
+}

@@ -299,3 +299,21 @@ TEST(entry_box, takes_its_entries_alone_from_a_user)
     EXPECT_EQ(shape.text(), "Clouds");
     EXPECT_EQ(chosen, 1);
 }
+
+TEST(progress_bar, tells_how_much_of_how_much)
+{
+    form window("window");
+    progress_bar bar(window, "bar");
+    int changes = 0;
+    bar.on_shown_change = [&] { ++changes; };
+    EXPECT_EQ(bar.value(), "0 of 1");
+    bar.tell(3, 10);
+    bar.tell(3, 10);
+    EXPECT_EQ(bar.value(), "3 of 10");
+    EXPECT_EQ(changes, 1);
+    bar.tell(12, 10);
+    EXPECT_EQ(bar.done(), 10);
+    bar.tell(-1, 0);
+    EXPECT_EQ(bar.done(), 0);
+    EXPECT_EQ(bar.total(), 1);
+}
