@@ -46,7 +46,8 @@ bitmap full_background(const frmMain & main)
     bitmap image = loaded(full_size_picture(main.txtBGimage.text()));
     if (main.optSquare.selected())
         image = squared(image);
-    return rescaled(image, main.collage_width, main.collage_height);
+    const int scale = main.run.drawn_at.canvas();
+    return rescaled(image, main.collage_width * scale, main.collage_height * scale);
 }
 
 }  // namespace
@@ -57,5 +58,6 @@ void lay_background(frmMain & main, run_size size)
     if (alpha == 0 || !(main.optBGimage.selected() || main.collage.bg_from_design))
         return;
     const bitmap image = size == run_size::preview ? small_background(main) : full_background(main);
-    paste(main.run.canvas, image, main.run.collage_margin, main.run.collage_margin, alpha);
+    const int margin = main.run.collage_margin * main.run.drawn_at.canvas();
+    paste(main.run.canvas, image, margin, margin, alpha);
 }

@@ -39,11 +39,12 @@ std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size 
     return photo ? read_by_plan(photo, all_scaled(photo.size(), size), memory.scaling) : std::nullopt;
 }
 
-std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory)
+std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory,
+                                       int scale)
 {
     jpeg_rows photo(path, memory.reading);
     const std::optional<scaling_plan> plan = photo ? plan_to_fit(photo.size(), place) : std::nullopt;
-    return plan ? read_by_plan(photo, *plan, memory.scaling) : std::nullopt;
+    return plan ? read_by_plan(photo, enlarged(*plan, scale), memory.scaling) : std::nullopt;
 }
 
 std::optional<bitmap> read_thumbnail(const std::string & path, picture_size size, photo_memory & memory)

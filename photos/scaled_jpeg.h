@@ -16,8 +16,9 @@ struct photo_memory {
 /// As `rescaled`. Raises out_of_memory (7), here and below.
 std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size size, photo_memory & memory);
 
-/// As `resize_image`; nothing as well for a photo that can't be fitted.
-std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory);
+/// As `resize_image`, with that many pixels for one; nothing as well for a photo that can't be fitted.
+std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory,
+                                       int scale = 1);
 
 /// As `rescaled`, with the notes that a saved thumbnail carries: its file has the same bytes. Nothing for a
 /// photo that has that size already.

@@ -35,15 +35,19 @@ bitmap loaded(const std::string & path)
     return image ? std::move(*image) : load_picture(picture_format::jpeg, path);
 }
 
-bitmap fitted(const bitmap & image, int width, int height)
+bitmap fitted(const bitmap & image, picture_size place, int scale)
 {
     if (!image)
         return {};
     try {
-        const scaling_plan plan =
-            covering_plan({.width = image.width(), .height = image.height()}, width, height);
+        const scaling_plan plan = enlarged(
+            covering_plan({.width = image.width(), .height = image.height()}, place.width, place.height),
+            scale);
         scaling_memory memory;
-        return is_possible(plan) ? scaled_by_rows(image, plan, memory) : resize_image(image, width, height);
+        if (is_possible(plan))
+            return scaled_by_rows(image, plan, memory);
+        // What is larger than any canvas could show nothing there.
+        return scale == 1 ? resize_image(image, place.width, place.height) : bitmap();
     } catch (const platform_error & error) {
         if (error.number != error_number::overflow)
             throw;
@@ -51,10 +55,10 @@ bitmap fitted(const bitmap & image, int width, int height)
     }
 }
 
-bitmap fitted_or_none(const bitmap & image, picture_size place)
+bitmap fitted_or_none(const bitmap & image, picture_size place, int scale)
 {
     try {
-        return fitted(image, place.width, place.height);
+        return fitted(image, place, scale);
     } catch (const photo_too_long &) {
         return {};
     }
@@ -69,17 +73,17 @@ run_photo whole_photo(const std::string & path)
 
 // Of a kind of JPEG that can't be fitted while it is read the whole is loaded, and kept where it can't be
 // fitted at all.
-run_photo fitted_photo(const std::string & path, picture_size place)
+run_photo fitted_photo(const std::string & path, picture_size place, int scale)
 {
     photo_memory memory;
     run_photo photo;
     photo.path = path;
-    if (std::optional<bitmap> read = read_fitted_jpeg(path, place, memory)) {
+    if (std::optional<bitmap> read = read_fitted_jpeg(path, place, memory, scale)) {
         photo.own = usable_jpeg_size(path).value_or(picture_size{});
         photo.fitted = std::move(*read);
     } else {
         photo = whole_photo(path);
-        photo.fitted = fitted_or_none(photo.whole, place);
+        photo.fitted = fitted_or_none(photo.whole, place, scale);
         if (photo.fitted)
             photo.whole = {};
     }
@@ -103,14 +107,14 @@ void drop_wrong_guesses(photo_ahead & ahead, const std::vector<wanted_photo> & n
     });
 }
 
-void begin_reading(photo_ahead & ahead, const wanted_photo & wanted)
+void begin_reading(photo_ahead & ahead, const wanted_photo & wanted, int scale)
 {
     const std::optional<file_stamp> stamp = stamp_of(wanted.path);
     if (!stamp || stamp->bytes < small_file || found_ahead(ahead, wanted, stamp) != ahead.begun.end())
         return;
     ahead.begun.push_back(
-        {.wanted = wanted, .stamp = *stamp, .photo = std::async(std::launch::async, [wanted] {
-                                                return fitted_photo(wanted.path, wanted.place);
+        {.wanted = wanted, .stamp = *stamp, .photo = std::async(std::launch::async, [wanted, scale] {
+                                                return fitted_photo(wanted.path, wanted.place, scale);
                                             })});
 }
 
@@ -132,7 +136,7 @@ void read_ahead(frmMain & main, const std::vector<wanted_photo> & next)
     drop_wrong_guesses(ahead, next);
     for (const wanted_photo & wanted : next)
         if (std::ssize(ahead.begun) < ahead.at_once)
-            begin_reading(ahead, wanted);
+            begin_reading(ahead, wanted, main.run.drawn_at.canvas());
 }
 
 void forget_ahead(frmMain & main)
@@ -152,7 +156,9 @@ run_photo load_photo(frmMain & main, const std::string & path, const place_of_ph
     photo_ahead & ahead = main.run.ahead;
     const auto found = found_ahead(ahead, wanted, stamp);
     if (found == ahead.begun.end())
-        return beside(main.desk, [wanted] { return fitted_photo(wanted.path, wanted.place); });
+        return beside(main.desk, [wanted, scale = main.run.drawn_at.canvas()] {
+            return fitted_photo(wanted.path, wanted.place, scale);
+        });
     std::future<run_photo> photo = std::move(found->photo);
     ahead.begun.erase(found);
     return awaited(main.desk, std::move(photo));
@@ -160,11 +166,13 @@ run_photo load_photo(frmMain & main, const std::string & path, const place_of_ph
 
 bitmap fit_photo(frmMain & main, run_photo photo, int width, int height)
 {
-    if (photo.fitted && photo.place == picture_size{.width = width, .height = height})
+    const picture_size place{.width = width, .height = height};
+    if (photo.fitted && photo.place == place)
         return std::move(photo.fitted);
     if (!photo.whole && photo)
         photo.whole = beside(main.desk, [path = photo.path] { return loaded(path); });
-    return done_where(is_small(photo.whole), main, [&] { return fitted(photo.whole, width, height); });
+    return done_where(is_small(photo.whole), main,
+                      [&] { return fitted(photo.whole, place, main.run.drawn_at.canvas()); });
 }
 
 void save_photo(frmMain & main, const bitmap & image, const std::string & path)

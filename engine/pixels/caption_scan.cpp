@@ -9,23 +9,23 @@
 namespace {
 
 constexpr int text_contrast = 110;
-constexpr int left_out = 5;
+constexpr int left_out = 4;
 
 // The last row and column that are looked at.
-int last_row(const bitmap & caption)
+int last_row(const bitmap & caption, int scale)
 {
-    return caption.height() - left_out;
+    return caption.height() - 1 - left_out * scale;
 }
 
-int last_column(const bitmap & caption)
+int last_column(const bitmap & caption, int scale)
 {
-    return caption.width() - left_out;
+    return caption.width() - 1 - left_out * scale;
 }
 
-bool row_has_text(const bitmap & caption, int y, rgb_triple ground)
+bool row_has_text(const bitmap & caption, int y, rgb_triple ground, int scale)
 {
     const std::span<const pixel> row = caption.row(y);
-    for (int x = 0; x <= last_column(caption); ++x)
+    for (int x = 0; x <= last_column(caption, scale); ++x)
         if (is_text(row[static_cast<std::size_t>(x)], ground))
             return true;
     return false;
@@ -57,21 +57,21 @@ bool is_text(rgb_triple color, rgb_triple ground)
            std::abs(color.blue - ground.blue) > text_contrast;
 }
 
-int first_text_row(const bitmap & caption)
+int first_text_row(const bitmap & caption, int scale)
 {
     const rgb_triple ground = ground_of(caption);
-    for (int y = 0; y <= last_row(caption); ++y)
-        if (row_has_text(caption, y, ground))
+    for (int y = 0; y <= last_row(caption, scale); ++y)
+        if (row_has_text(caption, y, ground, scale))
             return y;
     return 0;
 }
 
-void print_text(bitmap & target, const bitmap & caption, int left, int low)
+void print_text(bitmap & target, const bitmap & caption, int left, int low, int scale)
 {
     const rgb_triple ground = ground_of(caption);
     const column_span columns{.first = std::max(0, -left),
-                              .last = std::min(last_column(caption) + 1, target.width() - left)};
-    for (int y = first_text_row(caption); y <= last_row(caption); ++y)
+                              .last = std::min(last_column(caption, scale) + 1, target.width() - left)};
+    for (int y = first_text_row(caption, scale); y <= last_row(caption, scale); ++y)
         if (y + low >= 0 && y + low < target.height())
             print_row(target.row(y + low), caption.row(y), columns, left, ground);
 }
