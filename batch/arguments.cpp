@@ -178,6 +178,7 @@ const std::map<std::string, option> & options()
         {"--dump", task_of(task::dump)},
         {"--help", task_of(task::help)},
         {"-h", task_of(task::help)},
+        {"--report", task_of(task::report)},
         {"--version", task_of(task::version)},
     };
     return table;

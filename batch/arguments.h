@@ -7,7 +7,7 @@
 
 /// What the command line of the batch program asks for.
 struct batch_arguments {
-    enum class task { make, list, dump, help, version, jobs };
+    enum class task { make, list, dump, help, version, jobs, report };
     task wanted = task::make;
     std::vector<std::string> photos;  ///< folders, lists and files, in the order given
     std::string design;

@@ -1,11 +1,13 @@
 #include "batch/batch_desktop.h"
 #include "batch/batch_session.h"
 #include "batch/job_run.h"
+#include "batch/report.h"
 #include "batch/usage.h"
 #include "desktop/program_folders.h"
 #include "support/files/paths.h"
 #include "support/files/scratch_folder.h"
 #include "support/platform_error.h"
+#include "versions/version.h"
 
 #include <QGuiApplication>
 
@@ -25,13 +27,17 @@ exit_status run(const std::vector<std::string> & words)
         return exit_status::made;
     }
     if (arguments.wanted == batch_arguments::task::version) {
-        std::printf("tessaloom-batch %s\n", TESSALOOM_VERSION);
+        std::printf("%s", version_told("tessaloom-batch", libraries_in_use()).c_str());
         return exit_status::made;
     }
     batch_folders folders{
         .install_folder = program_folder(), .data = data_folder_choice(), .scratch = scratch_place()};
     if (arguments.data_folder)
         folders.data = {.use_public_folder = true, .public_folder = absolute_path(*arguments.data_folder)};
+    if (arguments.wanted == batch_arguments::task::report) {
+        std::printf("%s", report(folders).c_str());
+        return exit_status::made;
+    }
     return arguments.wanted == batch_arguments::task::jobs ? run_jobs(arguments, folders)
                                                            : run_batch(arguments, folders);
 }

@@ -43,6 +43,8 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
   --list                          prints the designs: section, name, family, count, tab-separated
   --dump                          prints every control of the main window once the design is applied: name, visible,
                                   enabled, value or text, tag, tab-separated; makes nothing without --out
+  --report                        prints what a report of a fault needs: versions, fonts, cores, the state of the data
+                                  folder; no names and no paths, and nothing is written
   -h, --help, --version
 
 A value may stand behind its option or be tied to it: --size 750, --size=750. Messages go to standard error, one line

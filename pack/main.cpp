@@ -2,6 +2,8 @@
 #include "pack/package_check.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "versions/archive_version.h"
+#include "versions/version.h"
 
 #include <cstdio>
 
@@ -23,7 +25,7 @@ int run(const std::vector<std::string> & words)
             std::printf("%s", pack_usage().c_str());
             return 0;
         case pack_arguments::task::version:
-            std::printf("tessaloom-pack %s\n", TESSALOOM_VERSION);
+            std::printf("%s", version_told("tessaloom-pack", {archive_version()}).c_str());
             return 0;
         case pack_arguments::task::check:
             return check(arguments.file);

@@ -46,6 +46,18 @@ function(bring from to)
     endforeach()
 endfunction()
 
+# Links each name of FROM that has a file in it from the folder TO to where the data lies: link_to(FROM DATA TO).
+function(link_to from data to)
+    file(GLOB_RECURSE files RELATIVE ${from} ${from}/*)
+    list(TRANSFORM files REPLACE "/.*" "")
+    list(REMOVE_DUPLICATES files)
+    file(MAKE_DIRECTORY ${to})
+    file(RELATIVE_PATH way ${to} ${data})
+    foreach(name IN LISTS files)
+        file(CREATE_LINK ${way}/${name} ${to}/${name} SYMBOLIC)
+    endforeach()
+endfunction()
+
 # An earlier version kept the user's data in a program folder that it could write; this one keeps it in the user's data
 # home. What was kept there is put beside the folder, whole.
 function(put_aside_earlier_data to)

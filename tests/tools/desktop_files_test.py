@@ -1,0 +1,170 @@
+#!/usr/bin/env python3
+"""What desktops and shells are told of the programs: desktop_files_test.py APP FILES, the staged program folder and the build's
+folder of packaging. Man pages and completions know what --help knows; completions play in the shells that are there."""
+import gzip
+import os
+import pathlib
+import re
+import shutil
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+APP, FILES = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
+SIZES = [16, 22, 24, 32, 48, 64, 128, 256, 512]
+# In a terminal one types such a line and presses Tab.
+BASH = """source {script}
+compopt() {{ :; }}
+COMP_WORDS=({words}); COMP_CWORD=$((${{#COMP_WORDS[@]}} - 1))
+{function} "${{COMP_WORDS[0]}}"
+printf '%s\\n' "${{COMPREPLY[@]}}"
+"""
+
+
+def output_of(*command, **more):
+    return subprocess.run([str(word) for word in command], capture_output=True, text=True, check=True, timeout=120, **more).stdout
+
+
+def options_of_help(program):
+    """The option lines of --help, as it writes them, its values included."""
+    lines = output_of(APP / program, "--help").splitlines()
+    return [re.split(r"   +", line.strip())[0] for line in lines if re.match(r"  -", line)]
+
+
+def names_of(rows):
+    return {name for row in rows for name in re.findall(r"(?<![\w-])-{1,2}[a-z]+", row)}
+
+
+def options_of_page(program):
+    """The option lines of the man page, without what only its looks need."""
+    text = gzip.decompress((FILES / f"{program}.1.gz").read_bytes()).decode()
+    return [re.sub(r"\\f[BIR]|\\&", "", line).replace("\\-", "-")
+            for line in re.findall(r"^\.TP\n(\\fB\\-.*)$", text, re.M)]
+
+
+class desktop_files(unittest.TestCase):
+    def setUp(self):
+        place = tempfile.TemporaryDirectory()
+        self.addCleanup(place.cleanup)
+        self.home = pathlib.Path(place.name)
+        self.environment = {"PATH": f"{APP}:{os.environ['PATH']}", "HOME": str(self.home), "LANG": "C.UTF-8"}
+        self.data = self.home / ".local" / "share" / "tessaloom4"
+
+    def keep_a_design(self):
+        output_of("tessaloom-batch", "--list", env=self.environment)
+        with open(self.data / "designs.ini", "ab") as catalogue:
+            catalogue.write(b"[Design600]\r\nName=Zebra's stripes\r\nFamily=Block\r\n")
+
+    def test_man_pages_tell_every_option_as_the_help_does(self):
+        for program in ("tessaloom-batch", "tessaloom-pack"):
+            self.assertTrue(options_of_help(program))
+            self.assertEqual(options_of_page(program), options_of_help(program))
+
+    def test_man_pages_are_clean(self):
+        if not shutil.which("groff"):
+            self.skipTest("no groff")
+        for page in sorted(FILES.glob("man/*.1")):
+            told = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", "-rCHECKSTYLE=3", str(page)], capture_output=True, text=True)
+            self.assertEqual((told.returncode, told.stderr), (0, ""), page.name)
+
+    def test_every_shell_knows_every_option(self):
+        bash = (FILES / "tessaloom.bash").read_text()
+        zsh = (FILES / "_tessaloom").read_text()
+        for program in ("batch", "pack"):
+            fish = ((FILES / "tessaloom-batch.fish") if program == "batch" else
+                    (ROOT / "packaging" / "completions" / "tessaloom-pack.fish")).read_text()
+            wanted = names_of(options_of_help(f"tessaloom-{program}"))
+            in_bash = re.search(rf"_tessaloom_{program}\(\) {{.*?\n}}", bash, re.S)[0]
+            self.assertEqual(set(re.search(r'"(--[a-z]+ --.*)"', in_bash)[1].split()), wanted - {"-h"})
+            in_zsh = re.search(rf"_tessaloom_{program}\(\) {{\n.*?\n}}", zsh, re.S)[0]
+            self.assertEqual(set(re.findall(r"""['"*){,](-h|--[a-z]+)(?=[\[,}])""", in_zsh)), wanted)
+            fish = "\n".join(re.findall(r"^complete .*", fish, re.M))
+            named = {f"--{name}" for name in re.findall(r" -l (\w+)", fish)} | {f"-{name}" for name in re.findall(r" -s (\w)", fish)}
+            self.assertEqual(named, wanted)
+
+    def test_controls_are_those_that_can_be_set(self):
+        refused = subprocess.run([APP / "tessaloom-batch", "--photos", self.home, "--design", "Mosaic wall", "--out", self.home / "x.jpg",
+                                  "--set", "rubbish=1"], capture_output=True, text=True, env=self.environment).stderr
+        known = set(re.findall(r"\w+", refused.partition("there are ")[2]))
+        offered = set(self.bash("tessaloom-batch --set ''"))
+        self.assertEqual({name.rstrip("=") for name in offered} - known, set())
+        self.assertEqual({name for name in known if re.match(r"chk|cmb|opt|txtCaption", name)} -
+                         {name.rstrip("=") for name in offered}, set())
+
+    def bash(self, words):
+        program = words.split()[0]
+        script = BASH.format(script=FILES / "tessaloom.bash", words=words, function=f"_tessaloom_{program.rpartition('-')[2]}")
+        return output_of("bash", "-c", script, env=self.environment, cwd=self.home).splitlines()
+
+    def fish(self, words):
+        script = f"source {FILES / 'tessaloom-batch.fish'}; complete -C '{words}'"
+        told = output_of("fish", "--no-config", "-c", script, env=self.environment, cwd=self.home)
+        return [line.split("\t")[0] for line in told.splitlines()]
+
+    def test_bash_offers_what_can_follow(self):
+        self.assertEqual(self.bash("tessaloom-batch --orientation l"), ["landscape"])
+        self.assertEqual(self.bash("tessaloom-batch --pre"), ["--preview"])
+        self.assertEqual(self.bash("tessaloom-batch --set cmbFr"), ["cmbFrame="])
+        self.assertEqual(self.bash("tessaloom-batch --design Mosaic\\ w"), ["Mosaic\\ wall"])
+        self.assertEqual(self.bash("tessaloom-batch --design = Mosaic\\ w"), ["Mosaic\\ wall"])
+        self.assertEqual(self.bash("tessaloom-batch --random 5 --ag"), ["--again"])
+        (self.home / "my photos").mkdir()
+        self.assertEqual(self.bash("tessaloom-batch --photos a.jpg my"), ["my photos"])
+        self.assertFalse(self.data.exists())
+
+    def test_bash_offers_what_the_user_keeps(self):
+        self.keep_a_design()
+        self.assertEqual(self.bash("tessaloom-batch --design Zeb"), ["Zebra\\'s\\ stripes"])
+        self.assertEqual(self.bash("tessaloom-pack --data ~/.local/share/tessaloom4 --design ''"), ["Zebra\\'s\\ stripes"])
+        self.assertEqual(self.bash("tessaloom-pack --frame co"), ["colts"])
+        self.assertEqual(self.bash("tessaloom-batch --frames co"), ["colts"])
+        self.assertEqual(self.bash("tessaloom-pack --icon He"), ["Heart"])
+
+    def test_bash_runs_nothing_that_stands_on_the_line(self):
+        script = (FILES / "tessaloom.bash").read_text()
+        self.assertNotIn("eval", script)
+        words = "tessaloom-pack --data '$(touch ran)' --design '`touch ran`'"
+        self.bash(words)
+        self.assertFalse((self.home / "ran").exists())
+
+    def test_fish_offers_what_can_follow(self):
+        if not shutil.which("fish"):
+            self.skipTest("no fish")
+        self.assertEqual(self.fish("tessaloom-batch --orientation l"), ["landscape"])
+        self.assertEqual(self.fish("tessaloom-batch --set cmbFr"), ["cmbFrame="])
+        self.assertEqual(self.fish("tessaloom-batch --design Mosaic"), ["Mosaic wall"])
+        self.assertFalse(self.data.exists())
+        self.keep_a_design()
+        self.assertEqual(self.fish("tessaloom-batch --design Zebra"), ["Zebra's stripes"])
+
+    def test_zsh_reads_its_completion(self):
+        if not shutil.which("zsh"):
+            self.skipTest("no zsh")
+        script = f"""autoload -Uz compinit; fpath=({FILES} $fpath); compinit -u -d {self.home}/dump
+whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pack]; zsh -n {FILES}/_tessaloom"""
+        self.assertEqual(output_of("zsh", "-f", "-c", script, env=self.environment).split(),
+                         ["_tessaloom:", "function", "_tessaloom", "_tessaloom"])
+
+    def test_icons_have_their_sizes_and_are_no_blank(self):
+        for size in SIZES:
+            icon = (FILES / "icons" / str(size) / "tessaloom.png").read_bytes()
+            self.assertEqual(struct.unpack(">II", icon[16:24]), (size, size))
+            self.assertGreater(len(icon), 10 * size)
+
+    def test_the_desktop_takes_entry_and_metainfo(self):
+        entry = ROOT / "packaging" / "tessaloom.desktop"
+        metainfo = FILES / "example.tessaloom.tessaloom.metainfo.xml"
+        if shutil.which("desktop-file-validate"):
+            self.assertEqual(output_of("desktop-file-validate", entry), "")
+        if shutil.which("appstreamcli"):
+            self.assertIn("Validation was successful", output_of("appstreamcli", "validate", "--no-net", "--no-color", metainfo))
+        for name in re.findall(r"/screens/(\S+?)<", metainfo.read_text()):
+            self.assertTrue((ROOT / "docs" / "screens" / name).exists(), name)
+        self.assertNotIn("MimeType", entry.read_text())  # .pls is known as a list of music
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
