@@ -4,6 +4,7 @@
 #include "desktop/binder/captions.h"
 #include "desktop/binder/windows_made.h"
 #include "desktop/file_filter.h"
+#include "desktop/opener.h"
 #include "desktop/printing.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_text.h"
@@ -14,7 +15,6 @@
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QDesktopServices>
 #include <QFile>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -266,8 +266,7 @@ std::optional<std::uint32_t> qt_desktop::choose_color(std::uint32_t initial)
 bool qt_desktop::open_document(const std::string & target)
 {
     const bool is_file = file_exists(target) || folder_exists(target);
-    return QDesktopServices::openUrl(is_file ? QUrl::fromLocalFile(toolkit_path(target))
-                                             : QUrl(shown(target)));
+    return opened_by_desktop(is_file ? QUrl::fromLocalFile(toolkit_path(target)) : QUrl(shown(target)));
 }
 
 print_result qt_desktop::print(const bitmap & image, orientation page)

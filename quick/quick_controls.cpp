@@ -1,7 +1,10 @@
 #include "quick/quick_controls.h"
 
 #include "quick/poster_sides.h"
+#include "quick/quick_tables.h"
 #include "session/main_window/redraw.h"
+
+#include <cmath>
 
 namespace {
 
@@ -27,10 +30,20 @@ void cmbSpace_click(frmMain & main)
     refresh_preview(main);
 }
 
+// True when the text had to be cut into range: the handler has then run for the new text already.
+bool cut_into_range(frmMain & main)
+{
+    const int kept = spacing_in(main);
+    if (std::abs(number_in(main.cmbSpace) - kept) < 1)
+        return false;
+    main.cmbSpace.set_text(formatted(kept));
+    return true;
+}
+
 // Half-typed numbers aren't worth a preview: it is off until the user turns it on again.
 void cmbSpace_typed(frmMain & main)
 {
-    if (!main.cmbSpace.visible())
+    if (!main.cmbSpace.visible() || cut_into_range(main))
         return;
     if (main.optPreview.selected()) {
         main.optPreview.select(false);

@@ -40,13 +40,6 @@ void drop_unfit_background(frmMain & main, poster_shape shape)
         main.optSolid.select();
 }
 
-// The picture that was drawn for the new shape stays, but further changes wait for the user.
-void turn_preview_off(frmMain & main)
-{
-    const updating quiet(main);
-    main.optSample.select();
-}
-
 void update_orientation(frmMain & main, poster_shape shape)
 {
     if (main.shape_in_force == shape)
@@ -55,9 +48,14 @@ void update_orientation(frmMain & main, poster_shape shape)
     refresh_preview(main);
     if (main.optShapes.selected())
         return;
-    if (main.optPreview.selected())
-        turn_preview_off(main);
+    const bool drawn = main.optPreview.selected();
+    if (drawn) {
+        const updating quiet(main);
+        main.optSample.select();
+    }
     show_rows_cols(main);
+    if (drawn)
+        resume_preview(main);
 }
 
 int caller_number(poster_shape shape)

@@ -3,6 +3,14 @@
 #include "support/files/paths.h"
 #include "support/platform_error.h"
 
+#include <algorithm>
+
+namespace {
+
+constexpr int longest_run = 1000;  // lines: no template has more
+
+}  // namespace
+
 void with_table(const frmMain & main, std::string_view name, const std::function<void(line_source &)> & work)
 {
     const std::string path = joined(main.install_folder, name);
@@ -23,7 +31,7 @@ void write_quick_template(const frmMain & main, const std::vector<std::string> &
 
 blank_run start_blanks(frmMain & main)
 {
-    const int length = pixels_in(main.cmbBlanks);
+    const int length = nearest(std::clamp<double>(number_in(main.cmbBlanks), 0, longest_run));
     main.random.reseed();
     return start_blanks(length, main.random);
 }
@@ -31,4 +39,11 @@ blank_run start_blanks(frmMain & main)
 int pixels_in(const combo_box & list)
 {
     return nearest16(number_in(list));
+}
+
+int spacing_in(const frmMain & main)
+{
+    const std::vector<std::string> & offered = main.cmbSpace.items();
+    return nearest(std::clamp(number_in(main.cmbSpace), leading_number(offered.front()),
+                              leading_number(offered.back())));
 }

@@ -17,8 +17,11 @@ void with_table(const frmMain & main, std::string_view name, const std::function
 /// Writes `designs/__quick` anew. Raises 61, 70, 75, 76; the old one then stays.
 void write_quick_template(const frmMain & main, const std::vector<std::string> & lines);
 
-/// The holes that `cmbBlanks` asks for; chance starts anew. Raises overflow (6).
+/// The holes that `cmbBlanks` asks for, at most one in the longest template; chance starts anew.
 blank_run start_blanks(frmMain & main);
 
 /// The number in a list of the window in whole pixels. Raises overflow (6).
 int pixels_in(const combo_box & list);
+
+/// The spacing that `cmbSpace` holds, in whole pixels inside the range that it offers.
+int spacing_in(const frmMain & main);

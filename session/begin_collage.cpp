@@ -13,6 +13,7 @@ void begin_collage(frmMain & main, collage_kind kind)
         main.quick = {};
     main.shape_row_bias = main.shape_column_bias = 0;
     main.skip_preview_click = false;
+    main.drawn_background.reset();
     for (option_button * each : main.border_options)
         each->enable(true);
 }

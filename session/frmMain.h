@@ -20,6 +20,7 @@
 #include "support/random.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 struct windows;
@@ -124,7 +125,7 @@ struct frmMain : form {
     option_button optScatter{*this, "optScatter", style_options, "Scattered"};
     option_button optMatrix{*this, "optMatrix", style_options, "Matrix"};
     option_button optShapes{*this, "optShapes", style_options, "Shapes"};
-    combo_box cmbShapes{*this, "cmbShapes"};
+    entry_box cmbShapes{*this, "cmbShapes"};
 
     group frmOrnaments{*this, "frmOrnaments", "   F r a m e   S t y l e   "};
     check_box chkRounded{*this, "chkRounded", "Rounded"};
@@ -243,6 +244,9 @@ struct frmMain : form {
     poster_shape shape_in_force = poster_shape::portrait;
     bool bg_portrait = true;
     std::uint32_t bg_color = 0, caption_color = 0;
+    /// While a background is being typed the preview waits: the text it was drawn for. Nothing: it doesn't
+    /// wait.
+    std::optional<std::string> drawn_background;
     bool font_extended = false;  ///< the font window offers size and colour as well
     std::string font_size_text;  ///< size that the font window gave, empty after a cancel
     std::string last_frame_size;

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr std::uint32_t white = 0xFFFFFF, red = 0x0000FF, black = 0;
+constexpr std::uint32_t red = 0x0000FF, black = 0;
 
 using controls = std::initializer_list<control *>;
 
@@ -37,14 +37,6 @@ void begin_poster(frmMain & main)
         main.optBGimage.select(false);
         main.optBGimage.select();
     }
-}
-
-void color_caption_box(frmMain & main)
-{
-    const std::uint32_t behind = main.picBGcolor.back_color();
-    main.txtCaption.set_back_color(behind);
-    const std::uint32_t readable = behind == black ? white : black;
-    main.txtCaption.set_fore_color(main.caption_color != 0 ? main.caption_color : readable);
 }
 
 void prepare_caption_box(frmMain & main)
@@ -325,6 +317,13 @@ void show_what_remains(frmMain & main)
         main.chkRounded.enable(false);
 }
 
+// The keyboard begins where a key that is pressed unawares changes nothing.
+void give_keyboard(const frmMain & main)
+{
+    const option_button * const style = main.collage.quick_active ? selected_of(main.style_options) : nullptr;
+    (style != nullptr ? *style : main.optPreview).take_focus();
+}
+
 }  // namespace
 
 void new_poster(frmMain & main)
@@ -349,4 +348,5 @@ void new_poster(frmMain & main)
     }
     take_list_of_frame_set(main);
     show_what_remains(main);
+    give_keyboard(main);
 }

@@ -7,7 +7,7 @@
 namespace {
 
 constexpr std::uint32_t red = 0x0000FF, yellow = 0x00FFFF, green = 0x00FF00, blue = 0xFF0000, cyan = 0xFFFF00,
-                        magenta = 0xFF00FF, black = 0;
+                        magenta = 0xFF00FF, black = 0, white = 0xFFFFFF;
 
 // The groups that a run closes, in the order of `enable_memory::groups`.
 std::array<group *, 9> run_groups(frmMain & main)
@@ -158,4 +158,14 @@ std::uint32_t color_from_name(std::string_view name)
 void show_caption_font(frmMain & main)
 {
     main.lblFont.set_caption(main.txtCaption.font().name + " x " + main.txtCaption.tag);
+}
+
+// Letters of the ground's own colour can't have been meant for it: they were chosen on another one.
+void color_caption_box(frmMain & main)
+{
+    const std::uint32_t behind = main.picBGcolor.back_color();
+    main.txtCaption.set_back_color(behind);
+    const std::uint32_t readable = behind == black ? white : black;
+    const bool chosen = main.caption_color != 0 && main.caption_color != behind;
+    main.txtCaption.set_fore_color(chosen ? main.caption_color : readable);
 }

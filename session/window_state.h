@@ -31,3 +31,7 @@ std::uint32_t color_from_name(std::string_view name);
 
 /// Shows font name and size beside the caption.
 void show_caption_font(frmMain & main);
+
+/// Gives the caption box the ground's colour, and letters that can be read on it unless the user chose
+/// theirs.
+void color_caption_box(frmMain & main);

@@ -51,14 +51,25 @@ void combo_box::choose(int index)
     fire(on_click);
 }
 
-bool combo_box::set_as_user(std::string_view text)
+bool combo_box::choose_text(std::string_view text)
 {
     const auto found = std::find(entries.begin(), entries.end(), text);
-    if (found != entries.end())
-        choose(static_cast<int>(found - entries.begin()));
-    else
+    if (found == entries.end())
+        return false;
+    choose(static_cast<int>(found - entries.begin()));
+    return true;
+}
+
+bool combo_box::set_as_user(std::string_view text)
+{
+    if (!choose_text(text))
         set_text(std::string(text));
     return true;
+}
+
+bool entry_box::set_as_user(std::string_view text)
+{
+    return choose_text(text);
 }
 
 void list_box::set_items(std::vector<std::string> texts)

@@ -18,6 +18,8 @@ public:
     void set_text(std::string text);
     /// Chooses an entry: takes its text and fires the click handler. Raises subscript (9).
     void choose(int index);
+    /// Chooses the first entry of that text. False when there is none.
+    bool choose_text(std::string_view text);
     std::function<void()> on_typed;
     std::function<void()> on_click;
     std::string value() const override { return shown_text; }
@@ -26,6 +28,13 @@ public:
 private:
     std::vector<std::string> entries;
     std::string shown_text;
+};
+
+/// A drop-down list that takes its entries alone: nothing can be typed into it.
+class entry_box : public combo_box {
+public:
+    using combo_box::combo_box;
+    bool set_as_user(std::string_view text) override;
 };
 
 /// A plain list; at most one entry is selected.

@@ -32,7 +32,7 @@ struct frmThemes : form {
     option_set orientation_options;
     option_button optPortrait{*this, "optPortrait", orientation_options, "Portrait"};
     option_button optLandscape{*this, "optLandscape", orientation_options, "Landscape"};
-    combo_box cmbDesign{*this, "cmbDesign"};  ///< photo counts: "Any number", " 7 images", …
+    entry_box cmbDesign{*this, "cmbDesign"};  ///< photo counts: "Any number", " 7 images", …
 
     group frmDesigns{*this, "frmDesigns", "  Available Designs  "};
     option_set design_options;

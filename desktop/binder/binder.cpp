@@ -5,7 +5,9 @@
 #include "desktop/binder/control_input.h"
 #include "desktop/binder/focus_keeper.h"
 #include "desktop/binder/growing_room.h"
+#include "desktop/binder/main_keys.h"
 #include "desktop/binder/move_keys.h"
+#include "desktop/binder/wheel.h"
 #include "desktop/qt_text.h"
 
 #include <QCloseEvent>
@@ -112,6 +114,8 @@ void binding::bind_control(control & held)
         return;
     if (auto * const widget = qobject_cast<QWidget *>(found)) {
         widget->installEventFilter(this);
+        widget->installEventFilter(&focus);
+        leave_wheel_to_focus(*widget);
         if (widget->property("keepsRoom").toBool())
             keep_room(*widget);
         const QString cover = widget->property("coveredBy").toString();
@@ -300,11 +304,13 @@ void binding::pressed_on(const QObject & watched)
 // Keys arrive here when no widget of the window took them; a text field takes its "?".
 bool binding::key_pressed(const QKeyEvent & event)
 {
-    const bool is_dialog = !qobject_cast<QMainWindow *>(&window);
-    if (event.key() == Qt::Key_Escape && is_dialog) {
+    auto * const main = qobject_cast<QMainWindow *>(&window);
+    if (event.key() == Qt::Key_Escape && !main) {
         act([this] { bound.request_close(); });
         return true;
     }
+    if (main && pressed_in_main(*main, event))
+        return true;
     std::optional<key> asked;
     if (event.key() == Qt::Key_F1)
         asked = key::f1;

@@ -2,6 +2,8 @@
 
 #include "desktop/qt_text.h"
 
+#include <QPointer>
+
 namespace {
 
 struct listener {
@@ -54,9 +56,13 @@ struct listener {
         if (!widget.lineEdit())
             return;
         widget.setCompleter(nullptr);
-        QObject::connect(
-            widget.lineEdit(), &QLineEdit::textEdited, &owner,
-            [run = act, &held](const QString & text) { run([&] { held.set_text(bytes_of(text)); }); });
+        QObject::connect(widget.lineEdit(), &QLineEdit::textEdited, &owner,
+                         [run = act, &held, line = QPointer(widget.lineEdit())](const QString & text) {
+                             run([&] { held.set_text(bytes_of(text)); });
+                             // Another text than the typed one isn't to be typed on.
+                             if (line && shown(held.text()) != text)
+                                 line->selectAll();
+                         });
     }
 
     void operator()(text_box & held, QLineEdit & widget) const

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QFocusEvent>
 #include <QLineEdit>
 
 namespace {
@@ -20,12 +21,15 @@ void focus_keeper::before_loss(QWidget & lost)
     if (!focus || focus == &window || (focus != &lost && !lost.isAncestorOf(focus)))
         return;
     lost_focus = focus;
+    stand_in = nullptr;
     focus->clearFocus();
 }
 
 void focus_keeper::after_return()
 {
-    if (!lost_focus || window.focusWidget() || !lost_focus->isEnabled() || !lost_focus->isVisibleTo(&window))
+    const QWidget * const now = window.focusWidget();
+    if (!lost_focus || (now && now != stand_in) || !lost_focus->isEnabled() ||
+        !lost_focus->isVisibleTo(&window))
         return;
     QWidget * const back = lost_focus;
     lost_focus = nullptr;
@@ -37,6 +41,10 @@ void focus_keeper::after_return()
 
 bool focus_keeper::eventFilter(QObject * watched, QEvent * event)
 {
+    // A window that comes to the front gives its focus to the first widget that can take it.
+    if (event->type() == QEvent::FocusIn && lost_focus && watched != lost_focus &&
+        static_cast<QFocusEvent *>(event)->reason() == Qt::ActiveWindowFocusReason)
+        stand_in = qobject_cast<QWidget *>(watched);
     const bool is_key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
     if (!is_key || watched != &window || window.focusWidget() || !takes_text(lost_focus) ||
         lost_focus->isEnabled())

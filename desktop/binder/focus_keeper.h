@@ -13,7 +13,7 @@
 /// focus would move on to the button that cancels.
 class focus_keeper : public QObject {
 public:
-    /// To be installed on the window as an event filter.
+    /// To be installed as an event filter, on the window and on its widgets.
     explicit focus_keeper(QWidget & kept_window) : window(kept_window) {}
 
     /// To be told before a widget is disabled or hidden.
@@ -28,5 +28,6 @@ public:
 private:
     QWidget & window;
     QPointer<QWidget> lost_focus;
+    QPointer<QWidget> stand_in;  // given the focus by the toolkit meanwhile, by nobody's wish
     std::vector<std::unique_ptr<QEvent>> waiting;
 };

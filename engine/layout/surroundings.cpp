@@ -144,6 +144,13 @@ int caption_column(const frmMain & main, picture_size canvas, picture_size capti
     return main.in_preview ? column + 10 : column;
 }
 
+// The margins that are left out of a caption grow with it: what they have more goes off before.
+bitmap without_larger_margins(const bitmap & caption, int scale)
+{
+    const int more = empty_caption_margin * (scale - 1);
+    return copied(caption, 0, more, caption.width() - more, caption.height());
+}
+
 // Larger letters are not exactly as much larger: they stand about the middle of those of the layout.
 void print_caption(frmMain & main, const bitmap & caption, int scale)
 {
@@ -151,9 +158,10 @@ void print_caption(frmMain & main, const bitmap & caption, int scale)
     const picture_size own = scale == 1 ? drawn : main.desk.text_size(caption_request(main, 1));
     const picture_size canvas{.width = main.run.canvas.width() / scale,
                               .height = main.run.canvas.height() / scale};
-    print_text(main.run.canvas, caption,
+    print_text(main.run.canvas, without_larger_margins(caption, scale),
+               get_rgb_triple(main.txtCaption.fore_color()),
                scale * caption_column(main, canvas, own) + (scale * own.width - drawn.width) / 2,
-               scale * caption_row(main, canvas, own) + (scale * own.height - drawn.height) / 2, scale);
+               scale * caption_row(main, canvas, own) + (scale * own.height - drawn.height) / 2);
 }
 
 }  // namespace

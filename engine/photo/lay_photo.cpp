@@ -59,14 +59,6 @@ void lay_upright(frmMain & main, run_photo photo, const photo_place & at)
                    at.worn);
 }
 
-/// Width of the frame that is drawn before the turn. Beyond the size in force the photo would stand on black.
-int early_frame(const frmMain & main, int frame_size)
-{
-    const double chosen = number_in(main.cmbFrame);
-    const int width = !main.in_preview ? nearest(chosen) : chosen < 1 ? 0 : std::max(nearest(chosen / 8), 1);
-    return std::clamp(width, 0, std::max(frame_size, 0));
-}
-
 rectangle tilted_area(const frmMain & main, picture_size photo, const rectangle & area)
 {
     if (!main.chkEvolve.ticked())
@@ -85,7 +77,6 @@ void tilt_onto_canvas(frmMain & main, bitmap fitted, const photo_place & at, con
         {.place = area,
          .rotation = rotation,
          .worn = at.worn,
-         .early_frame = early_frame(main, at.worn.frame),
          .numbers = numbers_of_section(main, rotation_section(area.width, area.height, rotation))},
         sheet);
 }
@@ -95,6 +86,8 @@ void lay_tilted(frmMain & main, run_photo photo, const photo_place & at)
     if (!photo)
         return;
     const rectangle area = tilted_area(main, photo.own, at.area);
+    if (area.width < 1 || area.height < 1)
+        return;
     // The photo goes before the turn begins, which takes as much memory again.
     bitmap fitted = fit_photo(main, std::move(photo), area.width, area.height);
     const int scale = at.worn.scale;
@@ -134,5 +127,6 @@ picture_size fitted_size(const frmMain & main, const photo_place & at, picture_s
         place = photo_on_card(at.area.width, at.area.height);
     else if (at.rotation != 0)
         place = tilted_area(main, own, at.area);
-    return {.width = place.width, .height = place.height};
+    // Nothing is drawn of a photo without room, which is no reason to fail.
+    return {.width = std::max(place.width, 1), .height = std::max(place.height, 1)};
 }

@@ -4,42 +4,61 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
+#include <cstdint>
 
 namespace {
 
-constexpr int text_contrast = 110;
-constexpr int left_out = 4;
+constexpr int left_out = empty_caption_margin + 1;
 
 // The last row and column that are looked at.
-int last_row(const bitmap & caption, int scale)
+int last_row(const bitmap & caption)
 {
-    return caption.height() - 1 - left_out * scale;
+    return caption.height() - left_out;
 }
 
-int last_column(const bitmap & caption, int scale)
+int last_column(const bitmap & caption)
 {
-    return caption.width() - 1 - left_out * scale;
+    return caption.width() - left_out;
 }
 
-bool row_has_text(const bitmap & caption, int y, rgb_triple ground, int scale)
+// The colours of a caption.
+struct lettering {
+    rgb_triple ground, color;
+};
+
+// The product of two ways from the ground, as vectors of their channels.
+int along(rgb_triple ground, rgb_triple one, rgb_triple other)
 {
-    const std::span<const pixel> row = caption.row(y);
-    for (int x = 0; x <= last_column(caption, scale); ++x)
-        if (is_text(row[static_cast<std::size_t>(x)], ground))
-            return true;
-    return false;
+    return (one.red - ground.red) * (other.red - ground.red) +
+           (one.green - ground.green) * (other.green - ground.green) +
+           (one.blue - ground.blue) * (other.blue - ground.blue);
+}
+
+// `share` of `whole` parts of the upper colour.
+std::uint8_t blended(int below, int above, int share, int whole)
+{
+    return static_cast<std::uint8_t>((below * (whole - share) + above * share + whole / 2) / whole);
+}
+
+pixel lettered(pixel below, pixel seen, const lettering & text)
+{
+    const int whole = along(text.ground, text.color, text.color);
+    const int share = std::clamp(along(text.ground, seen, text.color), 0, whole);
+    if (share == 0)
+        return below;
+    return rgb_triple{.red = blended(below.red, text.color.red, share, whole),
+                      .green = blended(below.green, text.color.green, share, whole),
+                      .blue = blended(below.blue, text.color.blue, share, whole)};
 }
 
 // The caption's columns, `left` further right in the target.
 void print_row(std::span<pixel> target, std::span<const pixel> source, column_span columns, int left,
-               rgb_triple ground)
+               const lettering & text)
 {
     for (int x = columns.first; x < columns.last; ++x) {
-        const pixel seen = source[static_cast<std::size_t>(x)];
         const int column = left + x;
-        if (is_text(seen, ground))
-            target[static_cast<std::size_t>(column)] = seen;
+        pixel & below = target[static_cast<std::size_t>(column)];
+        below = lettered(below, source[static_cast<std::size_t>(x)], text);
     }
 }
 
@@ -50,28 +69,12 @@ rgb_triple ground_of(const bitmap & caption)
     return pixel_at(caption, 0, 0).value_or(rgb_triple{});
 }
 
-bool is_text(rgb_triple color, rgb_triple ground)
+void print_text(bitmap & target, const bitmap & caption, rgb_triple color, int left, int low)
 {
-    return std::abs(color.red - ground.red) > text_contrast ||
-           std::abs(color.green - ground.green) > text_contrast ||
-           std::abs(color.blue - ground.blue) > text_contrast;
-}
-
-int first_text_row(const bitmap & caption, int scale)
-{
-    const rgb_triple ground = ground_of(caption);
-    for (int y = 0; y <= last_row(caption, scale); ++y)
-        if (row_has_text(caption, y, ground, scale))
-            return y;
-    return 0;
-}
-
-void print_text(bitmap & target, const bitmap & caption, int left, int low, int scale)
-{
-    const rgb_triple ground = ground_of(caption);
+    const lettering text{.ground = ground_of(caption), .color = color};
     const column_span columns{.first = std::max(0, -left),
-                              .last = std::min(last_column(caption, scale) + 1, target.width() - left)};
-    for (int y = first_text_row(caption, scale); y <= last_row(caption, scale); ++y)
+                              .last = std::min(last_column(caption) + 1, target.width() - left)};
+    for (int y = 0; y <= last_row(caption); ++y)
         if (y + low >= 0 && y + low < target.height())
-            print_row(target.row(y + low), caption.row(y), columns, left, ground);
+            print_row(target.row(y + low), caption.row(y), columns, left, text);
 }

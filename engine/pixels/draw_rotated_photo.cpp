@@ -26,7 +26,7 @@ struct tilted_photo {
 /// knows of no frame then.
 void frame_early(tilted_photo & work)
 {
-    const int width = work.how.early_frame, scale = work.how.worn.scale;
+    const int width = work.how.worn.frame, scale = work.how.worn.scale;
     const rectangle inner = work.how.place;
     work.how.place = grown(inner, width);
     bitmap framed(work.how.place.width * scale, work.how.place.height * scale);
@@ -125,6 +125,10 @@ void draw_upright(bitmap & ground, const bitmap & photo, const rectangle & place
     paste(ground, photo, place.left * scale, place.top * scale, opaque);
     draw_frame(ground, place, how.worn, how.rotation);
     draw_shadow(ground, place, how.worn);
+    // From ten degrees on a frame reaches one pixel under its shadow. The library's turn blurs that; a larger
+    // one would show it as a line.
+    if (scale > 1)
+        draw_frame(ground, place, how.worn, how.rotation);
 }
 
 /// The photo's place in a part of the turned area.
@@ -146,6 +150,18 @@ std::vector<picture_point> turned_corners(const pixel_window & window, picture_s
         corners.push_back(
             turned_point(size, degrees, {.x = static_cast<double>(x), .y = static_cast<double>(y)}));
     return corners;
+}
+
+/// True when nothing of the sheet is lost: turned back it lies where it is copied from.
+bool is_wholly_drawn(const tilted_photo & work, picture_size sheet)
+{
+    const pixel_window window = sheet_window(work), copy = copy_window(work);
+    return can_be_drawn(work, window, sheet) &&
+           std::ranges::all_of(turned_corners(window, work.sizes.turned, -work.how.rotation),
+                               [&](const picture_point & corner) {
+                                   return corner.x > copy.left - slack && corner.x < copy.right + slack &&
+                                          corner.y > copy.low - slack && corner.y < copy.high + slack;
+                               });
 }
 
 /// Turns the finished part back and copies what the mask marks to the canvas.
@@ -258,6 +274,13 @@ void draw_larger(bitmap & canvas, const tilted_photo & work, const mask_sheet & 
                   .degrees = how.rotation});
 }
 
+void take_numbers(tilted_photo & work, const rotation_numbers & of_section, int divisor)
+{
+    const rectangle & place = work.how.place;
+    work.how.numbers = scaled(of_section, reference_factor(place.width, place.height), divisor);
+    work.sizes = tilt_sizes_of(work.how.numbers, work.how.rotation);
+}
+
 }  // namespace
 
 void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet)
@@ -266,11 +289,12 @@ void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const m
     work.ring = frame_in_rotation(work.how.worn.frame, work.how.rotation);
     if (work.ring > widest_turned_frame && work.how.worn.corners != photo_corners::rounded)
         frame_early(work);
-    const picture_size drawn{.width = work.how.place.width, .height = work.how.place.height};
-    work.how.numbers =
-        scaled(work.how.numbers, reference_factor(drawn.width, drawn.height),
-               work.how.worn.size == run_size::preview ? preview_divisor(drawn.width, drawn.height) : 1);
-    work.sizes = tilt_sizes_of(work.how.numbers, work.how.rotation);
+    const int width = work.how.place.width, height = work.how.place.height;
+    const int divisor = work.how.worn.size == run_size::preview ? preview_divisor(width, height) : 1;
+    take_numbers(work, how.numbers, divisor);
+    // The areas of a preview are meant for the usual sizes; a larger photo takes the area of the full size.
+    if (divisor > 1 && !is_wholly_drawn(work, sheet.size))
+        take_numbers(work, how.numbers, 1);
     if (work.how.worn.scale == 1)
         draw_tilted(canvas, work, sheet);
     else

@@ -14,7 +14,6 @@ struct tilt {
     rectangle place;   ///< of the canvas, before the turn
     int rotation = 0;  ///< degrees clockwise as seen, a multiple of 5
     ornaments worn;
-    int early_frame = 0;       ///< width of a frame that is drawn before the turn
     rotation_numbers numbers;  ///< of the photo's section of `rotate.ini`; all 0: nothing is drawn
 };
 

@@ -5,6 +5,7 @@
 #include "support/numbers.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -13,6 +14,25 @@ namespace {
 int ring_alpha(const soft_class & edge, double i)
 {
     return std::max(nearest(255 - i * edge.step), 0);
+}
+
+/// The outermost pixels of an area, each in one strip: laid twice, the corners would show as a thin line from
+/// ring to ring.
+std::vector<rectangle> strips_of(const rectangle & area)
+{
+    if (area.width < 1 || area.height < 1)
+        return {};
+    if (area.width == 1 || area.height == 1)
+        return {area};
+    const int inner = area.width - 2;
+    std::vector<rectangle> strips{
+        {.left = area.left, .top = area.top, .width = 1, .height = area.height},
+        {.left = area.right() - 1, .top = area.top, .width = 1, .height = area.height}};
+    if (inner > 0) {
+        strips.push_back({.left = area.left + 1, .top = area.top, .width = inner, .height = 1});
+        strips.push_back({.left = area.left + 1, .top = area.bottom() - 1, .width = inner, .height = 1});
+    }
+    return strips;
 }
 
 }  // namespace
@@ -26,14 +46,10 @@ void soft_edge_paste(bitmap & target, const bitmap & image, const rectangle & pl
     };
     const rectangle photo{.left = 0, .top = 0, .width = place.width * scale, .height = place.height * scale};
     const int rings = edge.feather * scale;
-    part(grown(photo, -rings), plain_copy);
-    // Corners of a ring belong to two strips and are pasted twice, which rounds the fading off.
-    for (int i = 1; i <= rings; ++i) {
-        const rectangle ring = grown(photo, i - rings);
-        const int alpha = ring_alpha(edge, (i - 0.5) / scale + 0.5);
-        part({.left = ring.left, .top = ring.top, .width = 1, .height = ring.height}, alpha);
-        part({.left = ring.left, .top = ring.top, .width = ring.width, .height = 1}, alpha);
-        part({.left = ring.right() - 1, .top = ring.top, .width = 1, .height = ring.height}, alpha);
-        part({.left = ring.left, .top = ring.bottom() - 1, .width = ring.width, .height = 1}, alpha);
-    }
+    const rectangle core = grown(photo, -rings);
+    if (core.width > 0 && core.height > 0)
+        part(core, plain_copy);
+    for (int i = 1; i <= rings; ++i)
+        for (const rectangle & strip : strips_of(grown(photo, i - rings)))
+            part(strip, ring_alpha(edge, (i - 0.5) / scale + 0.5));
 }

@@ -27,9 +27,9 @@ struct frmFrames : form {
     label lblCaption{*this, "lblCaption", "Default Caption:"};
     text_box txtCaption{*this, "txtCaption"};
     label lblIcon{*this, "lblIcon", "Icon:"};
-    combo_box cmbIcons{*this, "cmbIcons"};
+    entry_box cmbIcons{*this, "cmbIcons"};
     label lblPictures{*this, "lblPictures", "Photo List:"};
-    combo_box cmbPhotos{*this, "cmbPhotos"};
+    entry_box cmbPhotos{*this, "cmbPhotos"};
     button cmdCaptions{*this, "cmdCaptions", "Add Captions"};
     label lblCount{*this, "lblCount"};  ///< how far the rendering is; hidden at other times
     button cmdSave{*this, "cmdSave", "Save"};

@@ -69,8 +69,12 @@ void mnuMove_click(frmPictures & window)
 
 void mnuView_click(windows & all)
 {
-    if (holds_photo(all.pictures, all.pictures.selected_cell))
-        all.main.desk.open_document(cell_of(all.pictures, all.pictures.selected_cell).tag);
+    if (!holds_photo(all.pictures, all.pictures.selected_cell))
+        return;
+    const std::string & photo = cell_of(all.pictures, all.pictures.selected_cell).tag;
+    if (!all.main.desk.open_document(photo))
+        all.main.desk.message("No program could be started for this photo:\r\n" + photo +
+                              "\r\n\r\nPlease open it in a program of your choice.");
 }
 
 void press_key(frmPictures & window, int cell, picture_key pressed)

@@ -1,7 +1,10 @@
 #include "quick/block/block_plan.h"
 
+#include "quick/gap.h"
 #include "quick/template_text.h"
 #include "support/rectangle.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -12,13 +15,15 @@ rectangle rectangle_of(const std::string & line)
     return {.left = left, .top = top, .width = number_at(fields, 3), .height = height};
 }
 
+// Both sides of a rectangle give up the gap, in each direction as far as there is room.
 location inside_gap(const rectangle & place, int gap)
 {
-    const rectangle area = grown(place, -gap);
-    return {.top = narrow(area.top),
-            .left = narrow(area.left),
-            .height = narrow(area.height),
-            .width = narrow(area.width)};
+    const int down = std::min(gap, widest_gap(place.height, 2)),
+              across = std::min(gap, widest_gap(place.width, 2));
+    return {.top = narrow(place.top + down),
+            .left = narrow(place.left + across),
+            .height = narrow(place.height - 2 * down),
+            .width = narrow(place.width - 2 * across)};
 }
 
 // Twice as high on every poster: after the turn of a landscape one that is twice as wide.

@@ -12,7 +12,7 @@ void write_quick_block(frmMain & main)
     find_block_match(main);
     notice_reduced(main);
     const block_request request{.poster = selected_shape(main),
-                                .gap = pixels_in(main.cmbSpace),
+                                .gap = spacing_in(main),
                                 .doubled = main.quick.block_doubled,
                                 .split = main.quick.block_split,
                                 .blanks = blanks};

@@ -27,7 +27,7 @@ void write_quick_shapes(frmMain & main)
                                               .last_photo = main.table.last_photo,
                                               .row_bias = main.shape_row_bias,
                                               .column_bias = main.shape_column_bias,
-                                              .gap = pixels_in(main.cmbSpace),
+                                              .gap = spacing_in(main),
                                               .frame = pixels_in(main.cmbFrame),
                                               .shadow = pixels_in(main.cmbShadow),
                                               .align = selected_align(main),

@@ -1,5 +1,6 @@
 #include "quick/shapes/shapes_plan.h"
 
+#include "quick/gap.h"
 #include "quick/shapes/shapes_tables.h"
 #include "support/numbers.h"
 
@@ -53,16 +54,39 @@ void count_cells(const shapes_request & request, shapes_layout & plan)
     plan.columns = at_least_one(grid.columns + request.column_bias, plan.column_bias);
 }
 
+// What is left of the poster for cells and gaps.
+struct grid_room {
+    int across = 0, down = 0;
+};
+
+grid_room room_of(const shapes_request & request)
+{
+    const int ornaments = is_squares(request) ? request.shadow + request.frame : 0;
+    const int below = request.poster == poster_shape::square ? kept_free_below_square : 0;
+    return {.across = poster_width - ornaments - kept_free,
+            .down = poster_height_of(request) - below - ornaments - kept_free};
+}
+
+// All cells have the same gap between them, as wide as both directions have room for.
+int gap_of(const shapes_request & request, const shapes_layout & plan)
+{
+    const grid_room room = room_of(request);
+    return std::min({request.gap, widest_gap(room.across, nearest(plan.columns) - 1),
+                     widest_gap(room.down, nearest(plan.rows) - 1)});
+}
+
 int cell_size(const shapes_request & request, const shapes_layout & plan)
 {
-    double across = poster_width - (plan.columns - 1) * request.gap;
-    double down = poster_height_of(request) - (plan.rows - 1) * request.gap;
-    if (request.poster == poster_shape::square)
-        down -= kept_free_below_square;
-    const int ornaments = is_squares(request) ? request.shadow + request.frame : 0;
-    across -= ornaments + kept_free;
-    down -= ornaments + kept_free;
-    return std::min(nearest(down) / nearest(plan.rows), nearest(across) / nearest(plan.columns));
+    const grid_room room = room_of(request);
+    const double across = room.across - (plan.columns - 1) * request.gap;
+    const double down = room.down - (plan.rows - 1) * request.gap;
+    return std::max(1, std::min(nearest(down) / nearest(plan.rows), nearest(across) / nearest(plan.columns)));
+}
+
+// A mix makes some cells smaller, but leaves at least half of them.
+int grown_cell(int size, int by)
+{
+    return std::max({size + by, size / 2, 1});
 }
 
 struct grid_start {
@@ -166,7 +190,7 @@ public:
             const int unit = request.mix ? mix_unit : 0;
             if (!is_blank(blanks))
                 plan.places.push_back(cell_at(top + unit * by.down, left + unit * by.right,
-                                              size + unit * by.growth, masks.next(random)));
+                                              grown_cell(size, unit * by.growth), masks.next(random)));
             mix = mix == last_mix ? 1 : mix + 1;
             next_line(blanks, random);
             left += size + request.gap;
@@ -184,10 +208,12 @@ private:
 
 }  // namespace
 
-shapes_layout shapes_plan(const shapes_request & request, const random_source & random)
+shapes_layout shapes_plan(const shapes_request & asked, const random_source & random)
 {
     shapes_layout plan;
+    shapes_request request = asked;
     count_cells(request, plan);
+    request.gap = gap_of(request, plan);
     const int size = cell_size(request, plan);
     const grid_start start = start_of(request, plan, size);
     double top = start.top + lift_of(request, start.spare_down);

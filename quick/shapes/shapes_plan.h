@@ -16,7 +16,7 @@ struct shapes_request {
     std::string shape = "Squares";  ///< text of the list of shapes
     int last_photo = 0;
     double row_bias = 0, column_bias = 0;  ///< rows and columns that the user added
-    int gap = 0;
+    int gap = 0;  ///< between the cells, less where a quarter of the poster wouldn't be left for them
     int frame = 0, shadow = 0;
     shapes_align align = shapes_align::center;
     bool mix = false;
@@ -33,4 +33,4 @@ struct shapes_layout {
 /// The locations of a grid of shapes, in pixels of the upright poster, row by row. A grid has from 6 to
 /// 84 cells before the user's own rows and columns. Draws one number a row, and one for each written leaf or
 /// puzzle piece. Raises overflow (6).
-shapes_layout shapes_plan(const shapes_request & request, const random_source & random);
+shapes_layout shapes_plan(const shapes_request & asked, const random_source & random);

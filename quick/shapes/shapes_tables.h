@@ -28,7 +28,7 @@ inline constexpr std::array<shapes_mix, 11> shapes_mixes{{{-5, -10, 25},
                                                           {0, 15, 25},
                                                           {-15, 0, 0},
                                                           {-5, 10, -5},
-                                                          {10, -5, 15},
+                                                          {10, -10, 15},
                                                           {-10, 5, -10}}};
 
 /// The texts of the list of shapes, and their masks. Any other text is a heart, "Hearrs" among them.

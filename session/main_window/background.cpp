@@ -1,7 +1,10 @@
 #include "session/main_window/background.h"
 
 #include "session/main_window/redraw.h"
+#include "session/window_state.h"
 #include "support/files/paths.h"
+
+#include <utility>
 
 namespace {
 
@@ -20,25 +23,43 @@ void optSolid_click(frmMain & main)
     refresh_preview(main);
 }
 
+// A choice that isn't made leaves the plain ground, and with it the picture that is shown.
+bool picture_chosen(frmMain & main)
+{
+    const updating quiet(main);
+    main.cmdBGimage.click();
+    if (main.txtBGimage.text().empty())
+        main.optSolid.select();
+    return !main.txtBGimage.text().empty();
+}
+
 void optBGimage_click(frmMain & main)
 {
     if (!main.collage.bg_from_design)
         show_picture_controls(main, true);
-    if (main.txtBGimage.text().empty()) {
-        const updating quiet(main);
-        main.cmdBGimage.click();
-    }
-    refresh_after_change(main);
     main.cmdFlurn.enable(true);
+    if (main.txtBGimage.text().empty() && !picture_chosen(main))
+        return;
+    refresh_after_change(main);
+}
+
+void turn_plain(frmMain & main)
+{
+    {
+        const updating quiet(main);
+        main.skip_preview_click = true;
+        main.optSolid.select();
+    }
+    main.optSolid.take_focus();  // the box has gone
+    if (std::exchange(main.drawn_background, std::nullopt))
+        resume_preview(main);
 }
 
 void txtBGimage_change(frmMain & main)
 {
     // Code that empties the box settles the two options itself.
-    if (main.txtBGimage.text().empty() && !main.updating_controls) {
-        main.skip_preview_click = true;
-        main.optSolid.select();
-    }
+    if (main.txtBGimage.text().empty() && !main.updating_controls)
+        turn_plain(main);
     main.cmdFlurn.enable(true);
     refresh_after_change(main);
 }
@@ -64,7 +85,33 @@ void cmdBGcolor_click(frmMain & main)
     if (!chosen)
         return;
     main.picBGcolor.set_back_color(*chosen);
+    main.bg_color = *chosen;  // behind a picture that lets it through, too
+    color_caption_box(main);
     refresh_after_change(main);
+}
+
+// A path that is half typed names no picture.
+void txtBGimage_enter(frmMain & main)
+{
+    if (!main.optPreview.selected())
+        return;
+    main.drawn_background = main.txtBGimage.text();
+    main.optPreview.select(false);
+}
+
+// What was typed is drawn when the user asks for it; where nothing was, the preview goes on.
+void txtBGimage_leave(frmMain & main)
+{
+    const std::optional<std::string> drawn = std::exchange(main.drawn_background, std::nullopt);
+    if (drawn == main.txtBGimage.text() && !main.optSample.selected())
+        resume_preview(main);
+}
+
+void txtBGimage_return(frmMain & main)
+{
+    main.drawn_background.reset();
+    main.optPreview.select();
+    main.optPreview.take_focus();
 }
 
 }  // namespace
@@ -74,7 +121,9 @@ void connect_background(frmMain & main)
     main.optSolid.on_click = [&main] { optSolid_click(main); };
     main.optBGimage.on_click = [&main] { optBGimage_click(main); };
     main.txtBGimage.on_change = [&main] { txtBGimage_change(main); };
-    main.txtBGimage.on_enter = [&main] { main.optPreview.select(false); };
+    main.txtBGimage.on_enter = [&main] { txtBGimage_enter(main); };
+    main.txtBGimage.on_leave = [&main] { txtBGimage_leave(main); };
+    main.txtBGimage.on_return = [&main] { txtBGimage_return(main); };
     main.cmdBGimage.on_click = [&main] { cmdBGimage_click(main); };
     main.cmdBGcolor.on_click = [&main] { cmdBGcolor_click(main); };
     main.picBGcolor.on_click = [&main] { main.cmdBGcolor.click(); };

@@ -18,6 +18,7 @@ void leave_finishing_stage(frmMain & main)
 void cmdCancel_click(frmMain & main)
 {
     main.trace = " CC " + main.trace;
+    main.drawn_background.reset();
     {
         const updating quiet(main);
         main.optPreview.select(false);
@@ -35,10 +36,8 @@ void optPreview_click(frmMain & main)
         const updating quiet(main);
         main.chkRandom.tick(false);
     }
-    if (main.skip_preview_click)
-        main.skip_preview_click = false;
-    else
-        refresh_preview(main);
+    main.skip_preview_click = false;
+    refresh_preview(main);
 }
 
 void optSample_click(frmMain & main)

@@ -36,12 +36,12 @@ void help_topics(frmMain & main)
 
 void tutorials(frmMain & main)
 {
-    main.desk.open_document(documentation_address("/tutorials.htm"));
+    show_documentation(main, "tutorials.htm");
 }
 
 void answers_to_questions(frmMain & main)
 {
-    main.desk.open_document(documentation_address("/faq.htm"));
+    show_documentation(main, "faq.htm");
 }
 
 void about(frmMain & main)

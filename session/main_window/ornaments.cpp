@@ -73,9 +73,28 @@ bool cut_into_range(combo_box & list, double largest)
     return list.text() != before;
 }
 
+// "0." may become 0.5, which is cut: cutting the point at once would leave the 5 alone.
+bool is_half_typed(const combo_box & list)
+{
+    return !list.text().empty() &&
+           std::string_view("+-.,").find(list.text().back()) != std::string_view::npos;
+}
+
+bool typed_out_of_range(combo_box & list, double largest)
+{
+    return !is_half_typed(list) && cut_into_range(list, largest);
+}
+
+// The number it was read as has been drawn.
+void end_typing(frmMain & main, combo_box & list, double largest)
+{
+    const updating quiet(main);
+    cut_into_range(list, largest);
+}
+
 void offer_color(button & chooser, picture & swatch, const combo_box & size)
 {
-    const bool drawn = size.text() != "0";
+    const bool drawn = number_in(size) >= 1;
     chooser.enable(drawn);
     swatch.show(drawn);
 }
@@ -89,7 +108,7 @@ bool differs_on_sample(double size, double before)
 
 void cmbFrame_change(frmMain & main)
 {
-    if (cut_into_range(main.cmbFrame, largest_frame))
+    if (typed_out_of_range(main.cmbFrame, largest_frame))
         return;
     const double before = leading_number(main.last_frame_size);
     main.last_frame_size = main.cmbFrame.text();
@@ -100,7 +119,7 @@ void cmbFrame_change(frmMain & main)
 
 void cmbShadow_change(frmMain & main)
 {
-    if (cut_into_range(main.cmbShadow, largest_shadow))
+    if (typed_out_of_range(main.cmbShadow, largest_shadow))
         return;
     offer_color(main.cmdShadowColor, main.picShadowColor, main.cmbShadow);
     refresh_preview(main);
@@ -124,6 +143,8 @@ void connect_ornaments(frmMain & main)
     main.chkCaption.on_change = [&main] { chkCaption_change(main); };
     main.cmbFrame.on_typed = main.cmbFrame.on_click = [&main] { cmbFrame_change(main); };
     main.cmbShadow.on_typed = main.cmbShadow.on_click = [&main] { cmbShadow_change(main); };
+    main.cmbFrame.on_leave = [&main] { end_typing(main, main.cmbFrame, largest_frame); };
+    main.cmbShadow.on_leave = [&main] { end_typing(main, main.cmbShadow, largest_shadow); };
     main.cmdFrameColor.on_click = [&main] { choose_swatch_color(main, main.picFrameColor); };
     main.cmdShadowColor.on_click = [&main] { choose_swatch_color(main, main.picShadowColor); };
     main.picFrameColor.on_click = [&main] { main.cmdFrameColor.click(); };

@@ -51,7 +51,7 @@ void cmdPhotos_click(frmMain & main)
 
 void connect_photos(frmMain & main)
 {
-    main.chkMatch.on_change = [&main] { refresh_preview(main); };
+    main.chkMatch.on_change = main.chkEvolve.on_change = [&main] { refresh_preview(main); };
     main.chkRandom.on_change = [&main] { chkRandom_change(main); };
     main.cmdShuffle.on_click = [&main] { cmdShuffle_click(main); };
     main.cmdMore.on_click = [&main] { cmdMore_click(main); };

@@ -32,6 +32,14 @@ void refresh_after_change(frmMain & main)
     main.chkOutline.tag.clear();
 }
 
+void resume_preview(frmMain & main)
+{
+    const updating quiet(main);
+    const bool random = main.chkRandom.ticked();
+    main.optPreview.select();
+    main.chkRandom.tick(random);  // the user's click takes it away
+}
+
 void redraw_sample(frmMain & main)
 {
     // In the choosing stage no design is in force, and with the preview off the picture goes stale.

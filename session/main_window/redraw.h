@@ -11,6 +11,9 @@ void refresh_preview(frmMain & main);
 /// The same after a change that leaves the layout alone.
 void refresh_after_change(frmMain & main);
 
+/// Turns the preview on again after the window itself turned it off. Draws nothing.
+void resume_preview(frmMain & main);
+
 /// Makes the preview anew and shows it; nothing in the choosing stage and while the preview is off: the
 /// picture goes stale then.
 void redraw_sample(frmMain & main);

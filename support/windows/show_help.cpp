@@ -2,10 +2,27 @@
 
 #include "support/files/paths.h"
 
+namespace {
+
+void open_page(const frmMain & main, const std::string & name, const std::string & address)
+{
+    const std::string beside = joined(joined(main.install_folder, "help"), name);
+    const std::string target = file_exists(beside) ? beside : address;
+    if (!main.desk.open_document(target))
+        main.desk.message("No program on this computer opens the page\r\n" + target +
+                          "\r\n\r\nPlease install a web browser, or open the page on another computer.");
+}
+
+}  // namespace
+
 void show_help(const frmMain & main, const std::string & topic)
 {
-    const std::string page = joined(joined(main.install_folder, "help"), topic);
-    main.desk.open_document(file_exists(page) ? page : documentation_address("/help/" + topic));
+    open_page(main, topic, documentation_address("/help/" + topic));
+}
+
+void show_documentation(const frmMain & main, const std::string & page)
+{
+    open_page(main, page, documentation_address("/" + page));
 }
 
 void offer_help(const frmMain & main, form & window, const std::string & topic)

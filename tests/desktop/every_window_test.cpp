@@ -6,8 +6,10 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QPushButton>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -106,6 +108,31 @@ TEST_P(every_window, is_called_by_its_title_without_the_blanks_between_the_lette
     });
 }
 
+TEST_P(every_window, has_a_button_for_enter_but_where_there_is_none_at_all)
+{
+    look_at_each([](form &, QWidget & window) {
+        const auto buttons = window.findChildren<QPushButton *>();
+        const auto count = std::ranges::count_if(buttons, [](auto * each) { return each->isDefault(); });
+        EXPECT_EQ(count, buttons.isEmpty() ? 0 : 1);
+    });
+}
+
+// The space bar, pressed unawares, would be taken for the answer.
+TEST_P(every_window, begins_where_its_work_begins)
+{
+    look_at_each([](form &, QWidget & window) {
+        QApplication::processEvents();
+        const QWidget * const focus = window.focusWidget();
+        if (window.findChildren<QPushButton *>().isEmpty())
+            return;
+        ASSERT_TRUE(focus);
+        const auto * const button = qobject_cast<const QPushButton *>(focus);
+        const QString text = button ? button->text().remove(QLatin1Char('&')) : QString();
+        EXPECT_TRUE(text != QLatin1String("Cancel") && text != QLatin1String("Help"))
+            << "the focus is on " << text.toStdString();
+    });
+}
+
 TEST_P(every_window, takes_enter_for_its_ok)
 {
     look_at_each([](form & held, QWidget & window) {
@@ -118,6 +145,26 @@ TEST_P(every_window, takes_enter_for_its_ok)
 
 INSTANTIATE_TEST_SUITE_P(letters, every_window, testing::Values(usual_letters, large_letters),
                          [](const auto & each) { return std::to_string(each.param) + "_pixels"; });
+
+// ---- lists
+
+TEST(lists, those_of_entries_alone_are_not_typed_into)
+{
+    scripted_desktop desk;
+    windows all(desk, listed({}));
+    std::vector<form *> forms = all.others();
+    forms.push_back(&all.main);
+    for (const form * each : forms) {
+        const std::unique_ptr<QWidget> window = make_window(each->name());
+        for (const control * held : each->controls())
+            if (const auto * const list = dynamic_cast<const combo_box *>(held)) {
+                const auto * const widget =
+                    window->findChild<QComboBox *>(QString::fromStdString(list->name()));
+                ASSERT_TRUE(widget) << each->name() << " " << list->name();
+                EXPECT_EQ(widget->isEditable(), !dynamic_cast<const entry_box *>(list)) << list->name();
+            }
+    }
+}
 
 // ---- what a reader of the screen hears
 

@@ -96,23 +96,18 @@ void draw_shadow_by_paste(bitmap & target, int left, int top, int height, int wi
     shade_below(target, at, color);
 }
 
-void soft_edge_by_paste(bitmap & target, const bitmap & image, int width, int height, int top, int left)
+void soft_edge_by_pixel(bitmap & target, const bitmap & image, const rectangle & place)
 {
-    const int side = std::min(width, height);
+    const int side = std::min(place.width, place.height);
     const int n = side < 120 ? 5 : side < 200 ? 17 : side < 270 ? 50 : 80;
     const double step = side < 120 ? 50.0 : side < 200 ? 15.0 : side < 270 ? 5.1 : 3.2;
-    paste(target, copied(image, n, n, width - n, height - n), left + n, top + n, 256);
-    for (int i = 1; i <= n; ++i) {
-        const int alpha = std::max(0, static_cast<int>(std::nearbyint(255 - i * step)));
-        paste(target, copied(image, n - i, n - i, n + 1 - i, height - n + i), left + n - i, top + n - i,
-              alpha);
-        paste(target, copied(image, n - i, n - i, width - n + i, n + 1 - i), left + n - i, top + n - i,
-              alpha);
-        paste(target, copied(image, width - n + i - 1, n - i, width - n + i, height - n + i),
-              left + width - n + i - 1, top + n - i, alpha);
-        paste(target, copied(image, n - i, height - n + i - 1, width - n + i, height - n + i), left + n - i,
-              top + height - n + i - 1, alpha);
-    }
+    for (int y = 0; y < place.height; ++y)
+        for (int x = 0; x < place.width; ++x) {
+            const int depth = std::min({x, y, place.width - 1 - x, place.height - 1 - y});
+            const int alpha =
+                depth >= n ? 256 : std::max(0, static_cast<int>(std::nearbyint(255 - (n - depth) * step)));
+            paste(target, copied(image, x, y, x + 1, y + 1), place.left + x, place.top + y, alpha);
+        }
 }
 
 void cut_corners_by_pixel(bitmap & photo, const bitmap & canvas, int width, int height, int left,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/MFreeImage.h"
+#include "support/rectangle.h"
 
 #include <cstdint>
 #include <span>
@@ -15,7 +16,7 @@ void draw_frame_by_pixel(bitmap & target, int left, int row, int height, int wid
 void draw_shadow_by_paste(bitmap & target, int left, int top, int height, int width, int frame,
                           int shadow_size, rgb_triple color);
 
-void soft_edge_by_paste(bitmap & target, const bitmap & image, int width, int height, int top, int left);
+void soft_edge_by_pixel(bitmap & target, const bitmap & image, const rectangle & place);
 
 void cut_corners_by_pixel(bitmap & photo, const bitmap & canvas, int width, int height, int left,
                           int bottom_row, std::span<const std::uint8_t> table);

@@ -176,13 +176,13 @@ TEST(orientation, lays_the_window_out)
     expect_states(main, "picSample^");
 }
 
-TEST(orientation, draws_once_and_then_waits)
+TEST(orientation, draws_once_each_time)
 {
     started_session session;
     EXPECT_EQ(session.previews_of([&] { session.main.optLandscape.select(); }), 1);
-    expect_states(session.main, "optSample1 optPreview0");
+    expect_states(session.main, "optSample0 optPreview1");
     EXPECT_EQ(session.main.lblRows.caption(), "00    Columns");
-    EXPECT_EQ(session.previews_of([&] { session.main.optSquare.select(); }), 0);
+    EXPECT_EQ(session.previews_of([&] { session.main.optSquare.select(); }), 1);
     EXPECT_EQ(session.main.lblRows.caption(), "00      Rows");
 }
 

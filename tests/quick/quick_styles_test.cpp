@@ -281,14 +281,20 @@ TEST(preview_off, shapes_turn_it_on)
     expect_states(session.main, "optPreview1");
 }
 
-TEST(preview_off, a_new_orientation_keeps_the_picture_that_was_drawn_for_it)
+TEST(orientation, draws_the_picture_once_and_leaves_the_preview_as_it_was)
 {
-    quick_session session;
-    session.start();
-    session.folder.write("install/images/preview/l_sb.jpg", "a picture");
-    session.main.optLandscape.select();
-    expect_states(session.main, "optSample1");
-    EXPECT_EQ(session.main.picSample.file(), joined(session.main.data_folder, "tmp/finished.jpg"));
+    for (const bool on : {true, false}) {
+        quick_session session;
+        session.start();
+        frmMain & main = session.main;
+        session.folder.write("install/images/preview/l_sb.jpg", "a picture");
+        if (!on)
+            main.optSample.select();
+        main.chkRandom.tick(true);
+        EXPECT_EQ(session.previews_of([&] { main.optLandscape.select(); }), on ? 1 : 0);
+        expect_states(main, on ? "optPreview1 optSample0 chkRandom1" : "optPreview0 optSample1 chkRandom1");
+        EXPECT_EQ(session.previews_of([&] { main.chkMatch.tick(false); }), on ? 1 : 0);
+    }
 }
 
 // ---- full size

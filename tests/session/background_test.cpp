@@ -36,13 +36,15 @@ TEST(optBGimage, does_not_ask_when_there_is_a_picture)
     EXPECT_EQ(session.main.txtBGimage.text(), "/a.jpg");
 }
 
-TEST(optBGimage, stays_selected_after_a_cancel)
+TEST(optBGimage, a_cancel_goes_back_to_the_plain_ground_and_its_picture)
 {
     opened_session session;
+    session.finish();
+    session.main.picBGcolor.set_back_color(0x123456);
     session.desk.will_choose_file(std::nullopt);
-    session.main.optBGimage.select();
-    expect_states(session.main, "optBGimage1");
-    EXPECT_EQ(session.main.txtBGimage.text(), "");
+    EXPECT_EQ(session.previews_of([&] { session.main.optBGimage.select(); }), 0);
+    expect_states(session.main, "optSolid1 optBGimage0 txtBGimage_ cmdBGimage_ frmBlend_ cmdFlurn+");
+    EXPECT_EQ(session.main.bg_color, 0x123456u);
 }
 
 TEST(optBGimage, shows_no_picture_controls_for_the_picture_of_a_design)
@@ -114,6 +116,77 @@ TEST(txtBGimage, each_change_is_drawn_unless_the_user_is_typing)
     fire(session.main.txtBGimage.on_enter);
     expect_states(session.main, "optPreview0");
     EXPECT_EQ(session.previews_of([&] { session.main.txtBGimage.set_text("/ab.jpg"); }), 0);
+}
+
+TEST(txtBGimage, emptied_while_the_preview_waits_draws_the_plain_ground_once)
+{
+    opened_session session;
+    session.finish();
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.optBGimage.select();
+    fire(session.main.txtBGimage.on_enter);
+    EXPECT_EQ(session.previews_of([&] { session.main.txtBGimage.set_text(""); }), 1);
+    expect_states(session.main, "optSolid1 optPreview1");
+    fire(session.main.txtBGimage.on_leave);
+    expect_states(session.main, "optPreview1");
+}
+
+TEST(txtBGimage, emptied_with_the_preview_off_leaves_it_off)
+{
+    opened_session session;
+    session.finish();
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.optBGimage.select();
+    session.main.optSample.select();
+    fire(session.main.txtBGimage.on_enter);
+    EXPECT_EQ(session.previews_of([&] { session.main.txtBGimage.set_text(""); }), 0);
+    expect_states(session.main, "optSolid1 optSample1 optPreview0");
+}
+
+TEST(txtBGimage, gone_through_without_a_change_lets_the_preview_go_on)
+{
+    opened_session session;
+    session.finish();
+    session.main.txtBGimage.set_text("/a.jpg");
+    session.main.chkRandom.tick(true);
+    fire(session.main.txtBGimage.on_enter);
+    EXPECT_EQ(session.previews_of([&] { fire(session.main.txtBGimage.on_leave); }), 0);
+    expect_states(session.main, "optPreview1 chkRandom1");
+    fire(session.main.txtBGimage.on_enter);
+    session.main.txtBGimage.set_text("/ab.jpg");
+    fire(session.main.txtBGimage.on_leave);
+    expect_states(session.main, "optPreview0");
+}
+
+TEST(txtBGimage, the_enter_key_draws_what_was_typed)
+{
+    opened_session session;
+    session.finish();
+    fire(session.main.txtBGimage.on_enter);
+    session.main.txtBGimage.set_text("/ab.jpg");
+    EXPECT_EQ(session.previews_of([&] { fire(session.main.txtBGimage.on_return); }), 1);
+    expect_states(session.main, "optPreview1");
+}
+
+TEST(background_color, reaches_the_caption_box_and_the_ground_behind_a_photo_at_once)
+{
+    struct row {
+        std::uint32_t letters, ground, shown;
+    };
+    constexpr std::uint32_t white = 0xFFFFFF, black = 0, red = 0x0000FF;
+    for (const row & each : {row{0, white, black}, row{0, black, white}, row{red, white, red},
+                             row{red, red, black}, row{white, white, black}}) {
+        opened_session session;
+        session.finish();
+        session.main.caption_color = each.letters;
+        session.main.txtBGimage.set_text("/a.jpg");
+        session.main.optBGimage.select();
+        session.desk.will_choose_color(each.ground);
+        EXPECT_EQ(session.previews_of([&] { session.main.cmdBGcolor.click(); }), 1);
+        EXPECT_EQ(session.main.bg_color, each.ground);
+        EXPECT_EQ(session.main.txtCaption.back_color(), each.ground);
+        EXPECT_EQ(session.main.txtCaption.fore_color(), each.shown) << each.letters << " on " << each.ground;
+    }
 }
 
 TEST(background_color, is_chosen_by_button_and_swatch)

@@ -36,8 +36,12 @@ TEST(new_poster, leaves_the_preview_to_its_caller)
 TEST(new_poster, asks_again_for_a_picture_that_was_never_given)
 {
     opened_session session;
-    session.desk.will_choose_file(std::nullopt);
-    session.main.optBGimage.select();
+    {
+        const updating quiet(session.main);
+        session.main.txtBGimage.set_text("/gone.jpg");
+        session.main.optBGimage.select();
+        session.main.txtBGimage.set_text("");
+    }
     session.desk.will_choose_file("/sea.jpg");
     new_poster(session.main);
     EXPECT_EQ(session.main.txtBGimage.text(), "/sea.jpg");

@@ -90,6 +90,31 @@ TEST(cmbFrame, cuts_what_is_typed_into_range)
     }
 }
 
+TEST(cmbFrame, waits_for_the_digits_behind_a_point_or_sign_while_it_is_typed_into)
+{
+    for (const char * text : {"0.5", "0,5", "-5", ".5"}) {
+        opened_session session;
+        const std::string typed = text;
+        combo_box & list = session.main.cmbFrame;
+        for (std::size_t i = 0; i < typed.size(); ++i)
+            list.set_text(i == 0 ? typed.substr(0, 1) : list.text() + typed[i]);
+        EXPECT_EQ(list.text(), "0") << text;
+    }
+}
+
+TEST(cmbFrame, is_a_number_again_when_the_keyboard_leaves_it)
+{
+    for (combo_box frmMain::*each : {&frmMain::cmbFrame, &frmMain::cmbShadow}) {
+        opened_session session;
+        session.finish();
+        combo_box & list = session.main.*each;
+        list.set_text("0");
+        list.set_text("0.");
+        EXPECT_EQ(session.previews_of([&] { fire(list.on_leave); }), 0);
+        EXPECT_EQ(list.text(), "0");
+    }
+}
+
 TEST(cmbFrame, no_frame_needs_no_colour)
 {
     opened_session session;

@@ -31,11 +31,12 @@ TEST(cmdShuffle, shuffles_and_redraws)
     EXPECT_GT(session.draws, 0);
 }
 
-TEST(chkMatch, redraws)
+TEST(chkMatch, redraws_as_does_chkEvolve)
 {
     opened_session session;
     session.finish();
     EXPECT_EQ(session.previews_of([&] { session.main.chkMatch.tick(true); }), 1);
+    EXPECT_EQ(session.previews_of([&] { session.main.chkEvolve.tick(true); }), 1);
 }
 
 TEST(cmdMore, does_what_its_caption_says)

@@ -286,3 +286,16 @@ TEST(slider, keeps_its_position_in_its_range)
     EXPECT_TRUE(window.ScrSize.set_as_user("12"));
     EXPECT_EQ(window.ScrSize.value(), "12");
 }
+
+TEST(entry_box, takes_its_entries_alone_from_a_user)
+{
+    form window("shapes");
+    entry_box shape(window, "cmbShape");
+    shape.set_items({"Stars", "Clouds"});
+    int chosen = 0;
+    shape.on_click = [&] { ++chosen; };
+    EXPECT_TRUE(shape.set_as_user("Clouds"));
+    EXPECT_FALSE(shape.set_as_user("Cloud"));
+    EXPECT_EQ(shape.text(), "Clouds");
+    EXPECT_EQ(chosen, 1);
+}

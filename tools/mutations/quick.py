@@ -10,6 +10,7 @@ ROWS = [
         "one number of the most slots along the poster"),
     Row("quick/scatter/scatter_tables.h", "42, 40, 41, 39, 40, 38,", "42, 40, 41, 38, 40, 38,",
         "one number of the most slots across the poster"),
+    Row("quick/gap.h", "* 3 / 4 /", "/", "the widest spacing hides photos"),
     Row("quick/shapes/shapes_tables.h", "{66, 6},", "{66, 11},", "one grid of shapes has other columns"),
     Row("quick/shapes/shapes_tables.h", "{5, -10, 5},", "{5, 10, 5},", "one cell of a mixed grid lies to the other side"),
     Row("quick/shapes/shapes_plan.cpp", "mix = mix == last_mix ? 1 : mix + 1;", "mix = mix == last_mix ? 0 : mix + 1;",

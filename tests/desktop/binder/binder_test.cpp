@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 #include <utility>
@@ -157,6 +158,58 @@ TEST(binder, a_list_whose_handler_cuts_the_value_shows_the_cut_value)
     shown.size->setFocus();
     QTest::keyClicks(shown.size->lineEdit(), "0");
     EXPECT_EQ(shown.size->currentText(), "30");
+}
+
+TEST(binder, what_a_handler_puts_into_a_list_is_replaced_by_the_next_key)
+{
+    bound_form shown;
+    shown.held.cmbSize.on_typed = [&] {
+        if (shown.held.cmbSize.text().empty())
+            shown.held.cmbSize.set_text("0");
+    };
+    shown.size->setFocus();
+    shown.size->lineEdit()->end(false);
+    QTest::keyClick(shown.size, Qt::Key_Backspace);
+    QTest::keyClick(shown.size, Qt::Key_Backspace);
+    EXPECT_EQ(shown.size->lineEdit()->selectedText(), "0");
+    QTest::keyClicks(shown.size, "25");
+    EXPECT_EQ(shown.held.cmbSize.text(), "25");
+}
+
+void turn_wheel(QWidget & over)
+{
+    const QPointF middle = over.rect().center();
+    QWheelEvent down(middle, over.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&over, &down);
+}
+
+struct wheel_counter : QObject {
+    int turns = 0;
+    bool eventFilter(QObject *, QEvent * event) override
+    {
+        turns += event->type() == QEvent::Wheel;
+        return false;
+    }
+};
+
+TEST(binder, the_wheel_changes_only_what_has_the_keyboard)
+{
+    bound_form shown;
+    wheel_counter beneath;
+    shown.window.installEventFilter(&beneath);
+    shown.held.ScrSize.set_position(50);
+    shown.name->setFocus();
+    for (QWidget * each : {static_cast<QWidget *>(shown.size), static_cast<QWidget *>(shown.scale)}) {
+        turn_wheel(*each);
+        EXPECT_NE(each->focusPolicy(), Qt::WheelFocus);
+    }
+    EXPECT_EQ(shown.held.cmbSize.text(), "10");
+    EXPECT_EQ(shown.held.ScrSize.position(), 50);
+    EXPECT_EQ(beneath.turns, 2);
+    shown.size->setFocus();
+    turn_wheel(*shown.size);
+    EXPECT_EQ(shown.held.cmbSize.text(), "20");
 }
 
 TEST(binder, a_picture_is_clicked_where_the_mouse_is_released_over_it_and_by_keys)

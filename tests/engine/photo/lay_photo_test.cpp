@@ -215,7 +215,8 @@ TEST_F(lay_photo_test, soft_edges_are_pasted_where_the_ornaments_show)
     main.run.canvas = plain(60, 60, canvas_color);
     main.chkSoftEdge.tick(true);
     bitmap expected = plain(60, 60, canvas_color);
-    soft_edge_by_paste(expected, plain(40, 30, photo_color), 40, 30, 12, 9);
+    soft_edge_by_pixel(expected, plain(40, 30, photo_color),
+                       {.left = 9, .top = 12, .width = 40, .height = 30});
     lay(plain(40, 30, photo_color), {.left = 9, .top = 12, .width = 40, .height = 30});
     EXPECT_TRUE(same(main.run.canvas, expected));
 }
@@ -234,7 +235,8 @@ TEST_F(lay_photo_test, a_soft_photo_keeps_its_square_corners_and_wins_over_round
     main.chkSoftEdge.tick(true);
     main.chkRounded.tick(true);
     bitmap expected = plain(60, 60, canvas_color);
-    soft_edge_by_paste(expected, plain(40, 30, photo_color), 40, 30, 12, 9);
+    soft_edge_by_pixel(expected, plain(40, 30, photo_color),
+                       {.left = 9, .top = 12, .width = 40, .height = 30});
     lay(plain(40, 30, photo_color), {.left = 9, .top = 12, .width = 40, .height = 30});
     EXPECT_TRUE(same(main.run.canvas, expected));
 }
@@ -273,7 +275,8 @@ TEST_F(lay_photo_test, a_photo_in_a_shape_may_be_soft)
     main.run.canvas = plain(60, 70, canvas_color);
     main.chkSoftEdge.tick(true);
     bitmap expected = plain(60, 70, canvas_color);
-    soft_edge_by_paste(expected, plain(30, 30, photo_color), 30, 30, 12, 9);
+    soft_edge_by_pixel(expected, plain(30, 30, photo_color),
+                       {.left = 9, .top = 12, .width = 30, .height = 30});
     lay(plain(30, 30, photo_color), {.left = 9, .top = 12, .width = 30, .height = 0});
     EXPECT_TRUE(same(main.run.canvas, expected));
 }

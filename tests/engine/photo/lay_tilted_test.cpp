@@ -33,6 +33,16 @@ bitmap grabbed(const bitmap & canvas, int left, int top, int width, int height)
     return area;
 }
 
+template <typename Test>
+int count_of(const bitmap & image, Test is_wanted)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += is_wanted(seen(image, x, y)) ? 1 : 0;
+    return count;
+}
+
 /// A photo in one of the upright steps: nothing was framed before.
 struct placed {
     int width, height, top, left, rotation;
@@ -201,16 +211,14 @@ TEST(lay_tilted_photo, a_frame_of_13_is_drawn_in_the_turned_area_at_5_degrees_an
         tilt_stage stage;
         bitmap pixels;
         const mask_sheet sheet = rotation_sheet(stage.main, pixels);
-        tilt how{.place = {.left = 200, .top = 200, .width = 60, .height = 40},
-                 .rotation = rotation,
-                 .worn = {.frame = 13, .frame_color = {250, 240, 230}},
-                 .early_frame = 13,
-                 .numbers = numbers_of_section(stage.main, rotation_section(60, 40, rotation))};
-        bitmap one(500, 500), other(500, 500);
-        draw_rotated_photo(one, graded(60, 40), how, sheet);
-        how.early_frame = 4;  // counts for nothing where the frame is drawn later
-        draw_rotated_photo(other, graded(60, 40), how, sheet);
-        EXPECT_EQ(!same(one, other), early) << rotation;
+        // Soft photos have no frame but one that has become part of them.
+        const tilt how{.place = {.left = 200, .top = 200, .width = 60, .height = 40},
+                       .rotation = rotation,
+                       .worn = {.frame = 13, .frame_color = {250, 0, 0}, .edges = photo_edges::soft},
+                       .numbers = numbers_of_section(stage.main, rotation_section(60, 40, rotation))};
+        bitmap canvas(500, 500);
+        draw_rotated_photo(canvas, plain(60, 40, {0, 0, 250}), how, sheet);
+        EXPECT_EQ(count_of(canvas, [](rgb_triple color) { return color.red > 100; }) > 0, early) << rotation;
     }
 }
 
@@ -229,6 +237,44 @@ TEST(lay_tilted_photo, a_wide_frame_moves_the_corner_out_and_has_the_width_of_th
     EXPECT_EQ(seen(stage.main.run.canvas, 172, 172), (rgb_triple{}));
     EXPECT_EQ(seen(stage.main.run.canvas, 46, 200), (rgb_triple{}));
     EXPECT_EQ(seen(stage.main.run.canvas, 110, 334), (rgb_triple{}));
+}
+
+TEST(lay_tilted_photo, wears_the_frame_of_its_location_whatever_the_list_holds)
+{
+    const auto framed = [](int of_list, int of_location) {
+        tilt_stage stage;
+        stage.wear(of_list, 0);
+        stage.frame = of_location;
+        stage.main.run.canvas = bitmap(500, 500);
+        stage.draw(plain(100, 60, {0, 200, 0}), {.left = 300, .top = 200, .width = 100, .height = 60}, 90);
+        return std::move(stage.main.run.canvas);
+    };
+    for (const int of_location : {13, 30, 60}) {
+        const bitmap expected = framed(of_location, of_location);
+        const int ring = 4 * of_location * (80 + of_location);
+        const int drawn = count_of(expected, [](rgb_triple color) { return color.red > 240; });
+        EXPECT_NEAR(drawn, ring, 0.05 * ring) << of_location;
+        for (const int of_list : {0, 4, 45})
+            EXPECT_TRUE(same(framed(of_list, of_location), expected)) << of_list << ", " << of_location;
+    }
+}
+
+TEST(lay_tilted_photo, is_whole_in_a_preview_however_large_it_is)
+{
+    // Places of 2400 by 1600, 2900 by 300 and 300 by 2900 pixels of the poster.
+    for (const picture_size size : {picture_size{343, 229}, {414, 43}, {43, 414}})
+        for (const int rotation : {-5, 25}) {
+            tilt_stage stage;
+            stage.main.in_preview = true;
+            stage.frame = 6;
+            stage.main.run.canvas = bitmap(650, 650);
+            stage.draw(plain(size.width, size.height, {0, 200, 0}),
+                       {.left = 200, .top = 100, .width = size.width, .height = size.height}, rotation);
+            const int green = count_of(stage.main.run.canvas,
+                                       [](rgb_triple color) { return color.green > 100 && color.red < 100; });
+            EXPECT_GT(green, size.width * size.height * 98 / 100)
+                << size.width << " by " << size.height << " at " << rotation;
+        }
 }
 
 TEST(lay_tilted_photo, stands_on_no_black_where_the_list_holds_a_wider_frame_than_the_location)

@@ -28,6 +28,15 @@ TEST(block_plan, a_negative_gap_lets_them_overlap_and_writes_its_sign)
     EXPECT_EQ(planned({"0:5:300:400"}, {.gap = -100}), (lines{"-100:-95:500:600:0:-1:-1:0:"}));
 }
 
+TEST(block_plan, a_gap_leaves_a_quarter_of_each_side)
+{
+    EXPECT_EQ(planned({"0:0:400:373"}, {.gap = 140}), (lines{"140:139:120:95:0:-1:-1:0:"}));
+    EXPECT_EQ(planned({"0:0:100:8"}, {.gap = 140}), (lines{"37:03:26:02:0:-1:-1:0:"}));
+    EXPECT_EQ(planned({"0:0:100:80"}, {.gap = 60, .split = 1}),
+              (lines{"37:15:26:10:0:-1:-1:0:", "37:55:26:10:0:-1:-1:0:"}));
+    EXPECT_EQ(planned({"5:6:1:1"}, {.gap = 140}), (lines{"05:06:01:01:0:-1:-1:0:"}));
+}
+
 TEST(block_plan, small_numbers_have_two_digits)
 {
     EXPECT_EQ(planned({"1:2:3:4"}, {}), (lines{"01:02:03:04:0:-1:-1:0:"}));
@@ -100,5 +109,5 @@ TEST(block_plan, faults_of_the_data_are_raised)
     EXPECT_EQ(raised("1:2:3", 0), error_number::subscript);
     EXPECT_EQ(raised("", 0), error_number::subscript);
     EXPECT_EQ(raised("40000:2:3:4", 0), error_number::overflow);
-    EXPECT_EQ(raised("0:32700:3:4", 100), error_number::overflow);
+    EXPECT_EQ(raised("0:32700:300:400", 100), error_number::overflow);
 }

@@ -82,7 +82,7 @@ TEST(shapes_tables, hold_the_numbers_that_were_chosen)
     EXPECT_EQ(sum_by_place(shapes_grid_sizes, &shapes_grid_size::cells), 92204);
     EXPECT_EQ(sum_by_place(shapes_grid_sizes, &shapes_grid_size::columns), 48223);
     EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::down), -85);
-    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::right), 110);
+    EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::right), 60);
     EXPECT_EQ(sum_by_place(shapes_mixes, &shapes_mix::growth), 200);
 }
 
@@ -217,7 +217,7 @@ TEST(shapes_plan, a_mixed_grid_takes_its_shifts_from_the_table_row_by_row)
             values.push_back(std::stoi(fields_of_line(line)[static_cast<std::size_t>(i)]));
         return values;
     };
-    const std::vector<std::vector<int>> shifts{{40, -20, 60}, {40, 0, 0},    {-20, -40, 100},
+    const std::vector<std::vector<int>> shifts{{40, -40, 60}, {40, 0, 0},    {-20, -40, 100},
                                                {40, 0, 0},    {60, 20, -40}, {20, -40, 20}};
     for (std::size_t i = 0; i < plain.size(); ++i) {
         const std::vector<int> at = numbers(plain[i]), moved = numbers(mixed[i]);
@@ -226,6 +226,28 @@ TEST(shapes_plan, a_mixed_grid_takes_its_shifts_from_the_table_row_by_row)
         EXPECT_EQ(moved[2] - at[2], shifts[i][2]) << i;
         EXPECT_EQ(moved[3] - at[3], shifts[i][2]) << i;
     }
+}
+
+TEST(shapes_plan, a_gap_leaves_a_quarter_of_the_poster_to_the_cells)
+{
+    // 24 rows by 16 columns: of 2930 down three quarters are 23 gaps of 95, of 1930 across 15 of 96. What
+    // is left is 745 down for 24, 505 across for 16.
+    const shapes_layout plan =
+        planned({.shape = "Stars", .last_photo = 84, .row_bias = 12, .column_bias = 9, .gap = 140});
+    ASSERT_EQ(plan.places.size(), 384U);
+    EXPECT_EQ(plan.places[0].width, 31);
+    EXPECT_EQ(plan.places[1].left - plan.places[0].left, 31 + 95);
+    EXPECT_EQ(plan.places[16].top - plan.places[0].top, 31 + 95);
+}
+
+TEST(shapes_plan, a_mix_leaves_half_of_the_smallest_cells)
+{
+    const shapes_layout plan =
+        shapes_plan({.last_photo = 84, .row_bias = 12, .gap = 140, .mix = true}, seeded_random(1));
+    int least = 1000;
+    for (const location & place : plan.places)
+        least = std::min<int>(least, place.width);
+    EXPECT_EQ(least, 15);  // of 31
 }
 
 TEST(shapes_plan, a_hole_draws_no_leaf)
