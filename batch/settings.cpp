@@ -135,7 +135,10 @@ void apply_settings(frmMain & main, const batch_arguments & arguments)
     const updating guard(main);  // one picture at the end instead of one a setting
     if (arguments.caption)
         main.txtCaption.set_as_user(*arguments.caption);
-    for (const auto & [name, value] : arguments.settings)
+    // The option of a background asks for its picture when none is named, and nobody is here to answer.
+    auto settings = arguments.settings;
+    std::ranges::stable_partition(settings, [](const auto & each) { return each.first == "txtBGimage"; });
+    for (const auto & [name, value] : settings)
         apply_setting(main, name, value);
 }
 

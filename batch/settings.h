@@ -9,7 +9,8 @@
 /// nothing to set, and for a value that it doesn't take.
 void check_settings(const frmMain & main, const batch_arguments & arguments);
 
-/// Sets the caption and the controls as a user would, in the order given. What is disabled for this design is
+/// Sets the caption and the controls as a user would, in the order given but for the background's picture,
+/// which comes first. What is disabled for this design is
 /// set all the same, with a word on standard error.
 void apply_settings(frmMain & main, const batch_arguments & arguments);
 

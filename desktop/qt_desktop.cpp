@@ -40,8 +40,18 @@ std::string path_bytes(const QString & path)
 void prepare_box(QMessageBox & box, const std::string & title, const std::string & text)
 {
     box.setWindowTitle(title.empty() ? QStringLiteral("Tessaloom") : shown(title));
+    box.setAccessibleName(unspaced(box.windowTitle()));
     box.setTextFormat(Qt::PlainText);
     box.setText(shown(text).remove(QLatin1Char('\r')));
+}
+
+// What a window's frame takes of the screen, before it is known.
+constexpr QSize usual_frame{8, 36};
+
+QSize room_for(const QWidget & window)
+{
+    const QSize frame = window.frameGeometry().size() - window.size();
+    return window.screen()->availableSize() - (frame.isNull() ? usual_frame : frame);
 }
 
 // A question that comes up in the midst of work is answered with an arrow, not with an hourglass.
@@ -116,7 +126,8 @@ QWidget & qt_desktop::made(form & window)
         throw std::logic_error("no Designer file for " + window.name());
     bind(window, *widget,
          {.report = [this](const std::string & text) { message(text, {}); },
-          .unloaded = [this, &window] { taken_down(window); }});
+          .unloaded = [this, &window] { taken_down(window); },
+          .room = [its_widget = widget.get()] { return room_for(*its_widget); }});
     windows[&window].widget = widget.get();
     return *widget.release();
 }

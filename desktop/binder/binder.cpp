@@ -7,7 +7,9 @@
 #include "desktop/binder/growing_room.h"
 #include "desktop/binder/main_keys.h"
 #include "desktop/binder/move_keys.h"
+#include "desktop/binder/shortcuts.h"
 #include "desktop/binder/wheel.h"
+#include "desktop/binder/window_room.h"
 #include "desktop/qt_text.h"
 
 #include <QCloseEvent>
@@ -43,7 +45,6 @@ private:
     void act(const std::function<void()> & step);
     bool is_covered(const QWidget & widget) const;
     bool key_pressed(const QKeyEvent & event);
-    bool option_key(QRadioButton & option, int pressed);
     bool moved_about(int pressed);
     bool double_clicked(const QObject & watched);
     bool return_pressed(const QObject & watched, int pressed);
@@ -54,6 +55,7 @@ private:
     QWidget & window;
     window_hooks hooks;
     focus_keeper focus;
+    window_room place;
     QHash<QString, QWidget *> behind;  // what each covering control hides
     QHash<const QObject *, control *> shown_by;
     bool is_hidden = false;  // by its form
@@ -65,7 +67,8 @@ binding::binding(form & its_form, QWidget & its_window, window_hooks its_hooks)
       bound(its_form),
       window(its_window),
       hooks(std::move(its_hooks)),
-      focus(its_window)
+      focus(its_window),
+      place(its_window, hooks.room)
 {
     window.installEventFilter(this);
     window.installEventFilter(&focus);  // sees keys first: one that waits for its text box asks for no help
@@ -124,6 +127,8 @@ void binding::bind_control(control & held)
     } else {
         found->setObjectName(QString::fromStdString(held.name()));
     }
+    if (auto * const entry = qobject_cast<QAction *>(found))
+        give_keys(*entry, window);
     shown_by.insert(found, &held);
     bind_focus(held, *found);
     listen(held, *found, *this, [this, &held, found](const std::function<void()> & step) {
@@ -177,6 +182,8 @@ void binding::show_widget(control & held, QWidget & widget)
         focus.before_loss(widget);
     display(held, widget);
     widget.setVisible(visible);
+    if (widget.property("placed").toBool())
+        place.follow();
     show_frame_around(widget);
     if (QWidget * const hidden = behind.value(widget.objectName()))
         if (control * const covered = bound.find(hidden->objectName().toStdString()))
@@ -201,8 +208,8 @@ void binding::show_window()
         window.setPalette(colors);
     }
     if (bound.width() > 0 && bound.height() > 0)
-        window.setFixedSize(QSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel) +
-                            growth_of(window));
+        place.fix(QSize(bound.width() / units_of_a_pixel, bound.height() / units_of_a_pixel) +
+                  growth_of(window));
     if (!bound.loaded())
         fire(hooks.unloaded);
     else if (is_hidden == bound.visible())
@@ -257,8 +264,11 @@ bool binding::eventFilter(QObject * watched, QEvent * event)
         auto * const option = qobject_cast<QRadioButton *>(watched);
         if ((option || watched == &window) && moved_about(pressed.key()))
             return true;
-        return watched == &window ? key_pressed(pressed) : option && option_key(*option, pressed.key());
+        return watched == &window ? key_pressed(pressed)
+                                  : option && moved_to_neighbour(*option, pressed.key());
     }
+    if (event->type() == QEvent::ShortcutOverride)
+        return left_to_window(*watched, static_cast<QKeyEvent &>(*event));
     if (event->type() == QEvent::MouseButtonDblClick)
         return double_clicked(*watched);
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
@@ -343,22 +353,6 @@ bool binding::double_clicked(const QObject & watched)
     if (!option || !option->on_double_click || !option->selected())
         return false;
     act([option] { option->on_double_click(); });
-    return true;
-}
-
-// With exclusion left to the session the toolkit's arrow keys would only wander.
-bool binding::option_key(QRadioButton & option, int pressed)
-{
-    const bool forward = pressed == Qt::Key_Down || pressed == Qt::Key_Right;
-    const bool backward = pressed == Qt::Key_Up || pressed == Qt::Key_Left;
-    if (!forward && !backward)
-        return false;
-    auto options = option.parentWidget()->findChildren<QRadioButton *>(Qt::FindDirectChildrenOnly);
-    options.removeIf([&](const QRadioButton * other) { return !other->isEnabled() || !other->isVisible(); });
-    const qsizetype count = options.size();
-    QRadioButton * const next = options[(options.indexOf(&option) + (forward ? 1 : count - 1)) % count];
-    next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    next->click();
     return true;
 }
 

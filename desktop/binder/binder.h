@@ -13,6 +13,7 @@
 struct window_hooks {
     error_report report;             ///< shows an error that got out of a handler
     std::function<void()> unloaded;  ///< the form has gone: take the window down, but don't delete it at once
+    std::function<QSize()> room = {};  ///< pixels that the screen has for the window; none: any number
 };
 
 /// Keeps a window and its form in step, until the window is deleted. Widgets are found by the names of the

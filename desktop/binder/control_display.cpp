@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QGroupBox>
+#include <QLayout>
 #include <QMenu>
 
 #include <algorithm>
@@ -180,6 +181,7 @@ void display_content(const picture & held, picture_view & widget)
     widget.setFocusPolicy(usable || can_be_dragged ? Qt::StrongFocus : Qt::NoFocus);
     widget.setCursor(can_be_dragged ? Qt::OpenHandCursor : usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
     widget.set_draggable(can_be_dragged);
+    widget.set_menu(static_cast<bool>(held.on_popup));
     widget.set_back_color(shown_color(held.back_color()));
     if (usable && held.file().empty())
         widget.setAccessibleDescription(shown_color(held.back_color()).name());
@@ -211,10 +213,11 @@ void display_place(const control & held, QWidget & widget)
         widget.setFixedSize(at.width, at.height);
     if (at == box{} || !widget.property("placed").toBool())
         return;
-    const QSize own = widget.sizeHint();
+    const QSize own = widget.sizeHint(),
+                least = widget.layout() ? widget.layout()->totalMinimumSize() : QSize();
     const QPoint corner = QPoint(at.left, at.top) + shift_of(widget, at);
-    widget.setGeometry(corner.x(), corner.y(), at.width ? at.width : own.width(),
-                       at.height ? at.height : own.height());
+    const QSize size(at.width ? at.width : own.width(), at.height ? at.height : own.height());
+    widget.setGeometry({corner, size.expandedTo(least)});
 }
 
 // Without a tip of its own the control leaves the one of the Designer file.

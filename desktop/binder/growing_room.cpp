@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <QVariant>
 
+#include <algorithm>
+
 QWidget * growing_widget(const QWidget & window)
 {
     const QByteArray name = window.property("grows").toByteArray();
@@ -18,8 +20,16 @@ QSize growth_of(const QWidget & window)
         widget->setProperty("drawnSize", widget->size());
     const QSize drawn = widget->property("drawnSize").toSize();
     const QSize whole = drawn.expandedTo(widget->minimumSizeHint());
-    widget->resize(whole);
+    const QVariant bottom = widget->property("bottom");
+    const int most = bottom.isValid() ? bottom.toInt() - widget->y() : whole.height();
+    widget->resize(whole.width(), std::clamp(most, widget->minimumSizeHint().height(), whole.height()));
     return whole - drawn;
+}
+
+void end_above(QWidget & growing, int bottom)
+{
+    growing.setProperty("bottom", bottom);
+    growth_of(*growing.window());
 }
 
 QPoint shift_of(const QWidget & widget, const box & at)

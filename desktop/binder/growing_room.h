@@ -19,6 +19,10 @@ QWidget * growing_widget(const QWidget & window);
 /// Pixels that the widget needs beyond its drawn size; it is resized to them.
 QSize growth_of(const QWidget & window);
 
+/// From now on the widget ends above that row of its parent, as far as its content allows. Its growth is
+/// counted as if it didn't.
+void end_above(QWidget & growing, int bottom);
+
 /// Pixels that a widget beside or below the growing one moves; {0, 0} for all others.
 QPoint shift_of(const QWidget & widget, const box & at);
 

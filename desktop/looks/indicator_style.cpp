@@ -1,11 +1,15 @@
 #include "desktop/looks/indicator_style.h"
 
+#include <QMenuBar>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolButton>
 
 namespace {
 
 constexpr int button_air = 10;  // beside the text
+constexpr int line_air = 2;     // above and below the text
+const QString more_menus = QStringLiteral("More");
 
 QColor fill_of(const QStyleOption & option)
 {
@@ -53,7 +57,29 @@ QSize indicator_style::sizeFromContents(ContentsType type, const QStyleOption * 
                                         const QWidget * widget) const
 {
     const QSize usual = QProxyStyle::sizeFromContents(type, option, content, widget);
+    if (type == CT_LineEdit)
+        return usual.expandedTo({0, option->fontMetrics.height() + 2 * line_air});
     return type == CT_PushButton ? usual.expandedTo({content.width() + 2 * button_air, 0}) : usual;
+}
+
+// A bar of menus without room for all has a button for the others, which the toolkit makes a square.
+int indicator_style::pixelMetric(PixelMetric metric, const QStyleOption * option,
+                                 const QWidget * widget) const
+{
+    const auto * const bar = qobject_cast<const QMenuBar *>(widget);
+    if (metric != PM_ToolBarExtensionExtent || !bar)
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    return bar->fontMetrics().horizontalAdvance(more_menus) + 2 * button_air;
+}
+
+void indicator_style::polish(QWidget * widget)
+{
+    QProxyStyle::polish(widget);
+    auto * const button = qobject_cast<QToolButton *>(widget);
+    if (!button || button->objectName() != QLatin1String("qt_menubar_ext_button"))
+        return;
+    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    button->setText(more_menus);
 }
 
 int indicator_style::styleHint(StyleHint hint, const QStyleOption * option, const QWidget * widget,

@@ -2,21 +2,19 @@
 
 #include "desktop/binder/captions.h"
 #include "desktop/looks/indicator_style.h"
+#include "desktop/looks/letters.h"
+#include "desktop/looks/screen_readers.h"
 #include "support/colors.h"
 
 #include <QFont>
 #include <QFontInfo>
 #include <QIcon>
 #include <QPalette>
-
-#include <algorithm>
+#include <QScreen>
 
 namespace {
 
 const char * const accent = "#f0b050";
-
-// Pixels. The windows are drawn for the first and have room for the second.
-constexpr int smallest_letters = 12, largest_letters = 16;
 
 struct role_color {
     QPalette::ColorRole role;
@@ -48,19 +46,21 @@ QPalette dark_palette()
     return colors;
 }
 
-// Only what the style can't say by colours: the panels, their titles, the bar of the menus and the button
-// that makes the collage.
+// Only what the style can't say by colours: the panels, their titles, which interrupt the line around them,
+// the bar of the menus and the button that makes the collage.
 QString sheet()
 {
     return QStringLiteral(R"(
 QGroupBox, QFrame[panel="true"] { border: 1px solid #3f444a; border-radius: 6px; background: #2d3034; }
-QGroupBox { margin-top: 9px; padding-top: 9px; }
-QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 2px; color: %1; background: transparent; }
+QGroupBox { margin-top: 0.55em; padding-top: 0.45em; }
+QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: %1;
+    background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 %2, stop: 0.52 %2, stop: 0.54 #2d3034); }
 QGroupBox::title:disabled { color: #83888f; }
 QMenuBar { background: transparent; padding: 3px 6px; }
 QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: %1; color: #1a1c1f; }
 QMenuBar::item:disabled { color: #83888f; }
+QMenuBar QToolButton { color: #1a1c1f; background: %1; border-radius: 4px; }
 QPushButton[primary="true"] { background: %1; color: #1a1c1f; border: 1px solid #b98636; border-radius: 4px;
     padding: 4px 18px; font-weight: bold; }
 QPushButton[primary="true"]:hover { background: #f7c272; }
@@ -70,7 +70,7 @@ QPushButton[primary="true"]:disabled { background: #2f3236; color: #83888f; bord
 QListWidget::item { padding: 3px 4px; }
 QToolTip { border: 1px solid #585d64; padding: 3px; }
 )")
-        .arg(QLatin1String(accent));
+        .arg(QLatin1String(accent), shown_color(about_background).name());
 }
 
 }  // namespace
@@ -86,10 +86,10 @@ QIcon application_icon()
 void apply_looks(QApplication & application)
 {
     application.setStyle(new indicator_style);  // owned by the application
-    QFont font = application.font();
-    font.setPixelSize(std::clamp(QFontInfo(font).pixelSize(), smallest_letters, largest_letters));
-    application.setFont(font);
+    set_letters(letters_for(QFontInfo(application.font()).pixelSize(),
+                            application.primaryScreen()->availableSize().height()));
     application.setPalette(dark_palette());
     application.setStyleSheet(sheet());
     application.setWindowIcon(application_icon());
+    tell_screen_readers();
 }

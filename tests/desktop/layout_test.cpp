@@ -2,11 +2,13 @@
 #include "desktop/binder/binder.h"
 #include "desktop/binder/captions.h"
 #include "desktop/binder/windows_made.h"
+#include "desktop/looks/letters.h"
 #include "support/colors.h"
 #include "tests/desktop/layout_checks.h"
 #include "tests/desktop/stages.h"
 
 #include <QApplication>
+#include <QMenuBar>
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -15,28 +17,43 @@ namespace {
 
 using faults = std::vector<std::string>;
 
-// One window for all: its making takes longer than the looking.
-struct layout_test : testing::TestWithParam<std::tuple<look, shape>> {
+constexpr int points(int size)
+{
+    return size * 4 / 3;
+}  // in pixels of a usual screen
+
+// One window for all of one size of letters: its making takes longer than the looking.
+struct layout_test : testing::TestWithParam<std::tuple<int, look, shape>> {
     struct shown_main {
-        shown_main()
+        explicit shown_main(int pixels) : letters(pixels)
         {
+            set_letters(pixels);
+            window = make_window("frmMain");
             bind(main, *window, {});
             main.load();
             window->show();
         }
+        ~shown_main() { set_letters(smallest_letters); }
+        int letters;
         scripted_desktop desk;
         frmMain main{desk, listed({})};
-        std::unique_ptr<QWidget> window = make_window("frmMain");
+        std::unique_ptr<QWidget> window;
     };
-    static void SetUpTestSuite() { kept = std::make_unique<shown_main>(); }
     static void TearDownTestSuite() { kept.reset(); }
-    layout_test() : window(kept->window.get())
+    layout_test() : letters(std::get<0>(GetParam())), poster(std::get<2>(GetParam()))
     {
-        bring_to(kept->main, std::get<0>(GetParam()), std::get<1>(GetParam()));
+        if (!kept || kept->letters != letters) {
+            kept.reset();
+            kept = std::make_unique<shown_main>(letters);
+        }
+        window = kept->window.get();
+        bring_to(kept->main, std::get<1>(GetParam()), poster);
         QApplication::processEvents();
     }
     static std::unique_ptr<shown_main> kept;
-    QWidget * window;
+    int letters;
+    shape poster;
+    QWidget * window = nullptr;
 };
 
 std::unique_ptr<layout_test::shown_main> layout_test::kept;
@@ -71,16 +88,38 @@ TEST_P(layout_test, no_letter_stands_for_two)
     EXPECT_EQ(shared_letters(*window), faults());
 }
 
-TEST_P(layout_test, the_window_has_its_fixed_size)
+TEST_P(layout_test, the_window_has_its_fixed_size_and_grows_with_the_letters_alone)
 {
-    EXPECT_EQ(window->size(),
-              std::get<1>(GetParam()) == shape::landscape ? QSize(1183, 675) : QSize(1040, 675));
+    const QSize drawn = poster == shape::landscape ? QSize(1183, 675) : QSize(1040, 675);
+    if (letters == smallest_letters)
+        EXPECT_EQ(window->size(), drawn);
+    else
+        EXPECT_EQ(window->size(), window->size().expandedTo(drawn));
+}
+
+TEST_P(layout_test, the_window_has_room_on_the_screens_that_have_such_letters)
+{
+    constexpr int lowest_screen = 768, bars = 76;  // of the desktop and around the window
+    int screen = lowest_screen;
+    while (letters_for(letters, screen) < letters)
+        ++screen;
+    EXPECT_LE(window->height(), screen - bars);
+}
+
+TEST_P(layout_test, all_menus_stand_in_their_bar)
+{
+    const auto * const bar = window->findChild<QMenuBar *>();
+    for (QAction * menu : bar->isVisible() ? bar->actions() : QList<QAction *>())
+        EXPECT_TRUE(bar->rect().contains(bar->actionGeometry(menu)) && !bar->actionGeometry(menu).isEmpty())
+            << menu->text().toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(stages, layout_test,
-                         testing::Combine(testing::ValuesIn(all_looks), testing::ValuesIn(all_shapes)),
+                         testing::Combine(testing::Values(points(9), 15, points(12), points(14), points(16)),
+                                          testing::ValuesIn(all_looks), testing::ValuesIn(all_shapes)),
                          [](const auto & stage) {
-                             return name_of(std::get<0>(stage.param), std::get<1>(stage.param));
+                             return name_of(std::get<1>(stage.param), std::get<2>(stage.param)) + "_" +
+                                    std::to_string(std::get<0>(stage.param)) + "_pixels";
                          });
 
 // ---- contrast, by the formula of the web's accessibility guidelines

@@ -3,6 +3,7 @@
 // density. tessaloom-screens --redraw DRAWN SHOWN copies those of DRAWN to SHOWN that look different there.
 
 #include "designs/catalogue/catalogue.h"
+#include "desktop/looks/letters.h"
 #include "desktop/looks/looks.h"
 #include "engine/run_steps.h"
 #include "session/start_designed.h"
@@ -75,13 +76,6 @@ void draw_views(filled_session & session, const QString & folder)
         const shown_view shown(view);
         save(shown.window(), folder, view.name);
     }
-}
-
-void set_letters(int pixels)
-{
-    QFont font = QApplication::font();
-    font.setPixelSize(pixels);
-    QApplication::setFont(font);
 }
 
 }  // namespace

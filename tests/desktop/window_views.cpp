@@ -245,10 +245,13 @@ std::vector<window_view> filled_session::views()
     return views;
 }
 
-shown_view::shown_view(const window_view & wanted)
+shown_view::shown_view(const window_view & wanted, std::optional<QSize> room)
     : held(*wanted.window), widget(make_window(wanted.window->name()))
 {
-    bind(held, *widget, {});
+    window_hooks hooks;
+    if (room)
+        hooks.room = [size = *room] { return size; };
+    bind(held, *widget, hooks);
     fire(wanted.prepare);
     held.load();
     fire(wanted.fill);

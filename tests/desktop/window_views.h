@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,10 +41,10 @@ private:
     void add_designer_views(std::vector<window_view> & views);
 };
 
-/// The window of a view while it lives: open, bound and shown.
+/// The window of a view while it lives: open, bound and shown on a screen with that room for it, or with any.
 class shown_view {
 public:
-    explicit shown_view(const window_view & wanted);
+    explicit shown_view(const window_view & wanted, std::optional<QSize> room = {});
     shown_view(const shown_view &) = delete;
     shown_view & operator=(const shown_view &) = delete;
     ~shown_view();

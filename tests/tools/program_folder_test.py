@@ -74,7 +74,7 @@ class program_folder(unittest.TestCase):
         self.install(self.folder / "prefix")
         self.assertEqual(times(home), first)
         links = self.folder / "prefix" / "bin"
-        self.assertEqual(sorted(path.name for path in links.iterdir()), ["tessaloom", "tessaloom-batch", "tessaloom-pack"])
+        self.assertEqual(sorted(path.name for path in links.iterdir()), ["tessaloom", "tessaloom-batch", "tessaloom-intake", "tessaloom-pack"])
         for link in links.iterdir():
             self.assertEqual(link.resolve(), home / link.name)
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPointer>
+#include <QScrollArea>
+#include <QWidget>
+
+#include <functional>
+
+/// Keeps a window on its screen. One that has room there is as large as its form and its content ask for; of
+/// one that hasn't, first the growing widget gives up the height it doesn't need, then the content is
+/// scrolled.
+class window_room : public QObject {
+public:
+    /// `its_room` gives the pixels that the screen has for the window inside its frame; without it there is
+    /// room for any.
+    window_room(QWidget & kept_window, std::function<QSize()> its_room);
+
+    /// For a window whose size its form tells. The others are as large as their layouts ask for.
+    void fix(QSize wanted);
+    /// To be told when a widget of the window was placed anew.
+    void follow();
+
+    bool eventFilter(QObject * watched, QEvent * event) override;
+
+private:
+    bool has_room(QSize wanted) const;
+    void take_content();
+    void fit();
+    void fold(int most);
+    void scroll();
+    void stay_on_screen();
+
+    QWidget & window;
+    std::function<QSize()> room;
+    QPointer<QScrollArea> view;  ///< none as long as the window has room
+    QPointer<QWidget> content;   ///< what it scrolls
+    QSize whole;                 ///< of the content where a form tells it
+};

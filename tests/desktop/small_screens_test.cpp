@@ -1,0 +1,99 @@
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "desktop/looks/letters.h"
+#include "tests/desktop/layout_checks.h"
+#include "tests/desktop/stages.h"
+#include "tests/desktop/window_views.h"
+
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using faults = std::vector<std::string>;
+
+struct small_screens : testing::TestWithParam<std::tuple<QSize, int>> {
+    ~small_screens() override { set_letters(smallest_letters); }
+};
+
+// Nothing stands outside the window, but what scrolling brings into it.
+faults out_of_reach(const form & shown, const QWidget & window)
+{
+    faults found;
+    for (QWidget * one : seen_widgets(shown, window)) {
+        bool scrolled = false;
+        for (QWidget * above = one->parentWidget(); above; above = above->parentWidget())
+            if (auto * const view = qobject_cast<QScrollArea *>(above)) {
+                view->ensureWidgetVisible(one, 0, 0);
+                scrolled = true;
+            }
+        const QRect place(one->mapTo(&window, QPoint(0, 0)), one->size());
+        if (scrolled ? !window.rect().intersects(place) : !window.rect().contains(place))
+            found.push_back(one->objectName().toStdString());
+    }
+    return found;
+}
+
+TEST_P(small_screens, have_room_for_every_window_and_show_all_that_stands_in_it)
+{
+    const auto [room, pixels] = GetParam();
+    set_letters(pixels);
+    filled_session session;
+    session.desk.room = {.width = room.width() * 9 / 10, .height = room.height() * 9 / 10};
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view, room);
+        EXPECT_EQ(shown.window().size(), shown.window().size().boundedTo(room));
+        EXPECT_EQ(out_of_reach(*view.window, shown.window()), faults());
+    }
+}
+
+TEST_P(small_screens, have_room_for_the_main_window_in_all_its_stages)
+{
+    const auto [room, pixels] = GetParam();
+    set_letters(pixels);
+    scripted_desktop desk;
+    frmMain main(desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {.report = {}, .unloaded = {}, .room = [size = room] { return size; }});
+    main.load();
+    window->show();
+    for (const look stage : all_looks)
+        for (const shape poster : all_shapes) {
+            SCOPED_TRACE(name_of(stage, poster));
+            bring_to(main, stage, poster);
+            QApplication::processEvents();
+            EXPECT_EQ(window->size(), window->size().boundedTo(room));
+            EXPECT_EQ(out_of_reach(main, *window), faults());
+        }
+}
+
+// Without the frame of a window and the bar of the desktop: 1280 by 720 pixels, 1366 by 768, and 1280 by 720
+// at two and at three times the usual density.
+INSTANTIATE_TEST_SUITE_P(sizes, small_screens,
+                         testing::Combine(testing::Values(QSize(1272, 644), QSize(1358, 692), QSize(632, 284),
+                                                          QSize(418, 180)),
+                                          testing::Values(smallest_letters, roomy_letters)));
+
+TEST(the_main_window, gives_up_what_it_does_not_need_before_it_scrolls)
+{
+    scripted_desktop desk;
+    frmMain main(desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    const QSize room(1272, 644);
+    bind(main, *window, {.report = {}, .unloaded = {}, .room = [&room] { return room; }});
+    main.load();
+    bring_to(main, look::designed, shape::portrait);
+    window->show();
+    QApplication::processEvents();
+    EXPECT_EQ(window->height(), room.height());
+    EXPECT_EQ(window->findChild<QScrollArea *>(QLatin1String("view_area"))->verticalScrollBar()->maximum(),
+              0);
+    EXPECT_EQ(strays(main, *window), faults());
+    EXPECT_EQ(cut_texts(main, *window), faults());
+}
+
+}  // namespace
