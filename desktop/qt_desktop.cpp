@@ -5,7 +5,7 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/file_filter.h"
 #include "desktop/opener.h"
-#include "desktop/printing.h"
+#include "desktop/printing/printing.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_text.h"
 #include "desktop/save_chooser.h"
@@ -280,13 +280,9 @@ bool qt_desktop::open_document(const std::string & target)
     return opened_by_desktop(is_file ? QUrl::fromLocalFile(toolkit_path(target)) : QUrl(shown(target)));
 }
 
-print_result qt_desktop::print(const bitmap & image, orientation page)
+print_report qt_desktop::print(const bitmap & image, orientation page)
 {
-    const QPrinterInfo info = printer();
-    if (info.isNull())
-        return print_result::no_printer;
-    QPrinter paper(info, QPrinter::HighResolution);
-    return print_on(paper, image, page) ? print_result::printed : print_result::failed;
+    return print_by_dialog(printer(), image, page, owner());
 }
 
 // A window fills the screen to nine tenths, which leaves room for its frame.
