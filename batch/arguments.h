@@ -16,7 +16,10 @@ struct batch_arguments {
     std::string orientation;  ///< "portrait", "landscape", "square"; empty: the one the design was drawn for
     std::vector<std::pair<std::string, std::string>> settings;  ///< control and value, in the order given
     std::optional<std::string> caption;
-    std::optional<int> size;  ///< long side in pixels
+    std::optional<int> size;   ///< long side in pixels
+    std::optional<int> scale;  ///< pixels of the poster for one of the full size, in each direction
+    std::optional<int> dpi;    ///< pixels an inch, for the file's header
+    bool smooth = false;
     std::optional<unsigned long long> seed;
     std::optional<std::string> data_folder;
     std::optional<int> threads;  ///< workers beside the session's own thread

@@ -4,6 +4,7 @@
 #include "engine/photo/photo_ahead.h"
 #include "engine/photo/small_photos.h"
 #include "engine/pixels/mask_shelf.h"
+#include "engine/render_scale.h"
 #include "support/MFreeImage.h"
 #include "support/numbers.h"
 
@@ -16,9 +17,10 @@
 struct kept_canvas;
 
 /// The state of one collage run, seen by the driver, the loops and the drawing alike. Pixels are those of the
-/// canvas.
+/// layout.
 struct run_state {
     bitmap canvas;             ///< collage with its bleed; after a full run the finished collage
+    render_scale drawn_at;     ///< set by whoever starts a full-size run; the preview knows 1 alone
     int16 collage_margin = 0;  ///< bleed around the collage, in each direction
     double collage_scale = 0;  ///< collage height / 600
     bool run_active = false;
