@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/desktop.h"
+#include "support/dragged_files.h"
 
 #include <QEventLoop>
 #include <QFileDialog>
@@ -41,6 +42,9 @@ public:
     void forget_windows();
     /// The window of a form that has been shown, nullptr before.
     QWidget * window_of(const form & its_form) const;
+
+    /// Windows that take files from other programs; to be named before they are shown.
+    drop_targets drops;
 
     /// Where a page goes; null when there is no printer.
     std::function<QPrinterInfo()> printer = &QPrinterInfo::defaultPrinter;

@@ -23,5 +23,8 @@ bool has_usable_photo(const frmMain & main);
 /// Names those left out that haven't been named yet, in one box with the remedy; nothing when there are none.
 void tell_left_out(frmMain & main);
 
+/// Why that photo, which can't be used, can't be.
+photo_fault fault_of(const std::string & photo);
+
 /// "/photos/a.jpg: it isn't there any more", in one line.
 std::string line_of(const left_out_photo & photo);
