@@ -3,6 +3,7 @@
 #include "desktop/binder/binder.h"
 #include "desktop/binder/captions.h"
 #include "desktop/binder/windows_made.h"
+#include "desktop/drop_zone.h"
 #include "desktop/file_filter.h"
 #include "desktop/opener.h"
 #include "desktop/printing/printing.h"
@@ -142,6 +143,8 @@ QWidget & qt_desktop::made(form & window)
          {.report = [this](const std::string & text) { message(text, {}); },
           .unloaded = [this, &window] { taken_down(window); },
           .room = [its_widget = widget.get()] { return room_for(*its_widget); }});
+    if (const auto target = drops.find(&window); target != drops.end())
+        take_drops(*widget, target->second, [this](const std::string & text) { message(text, {}); });
     windows[&window].widget = widget.get();
     return *widget.release();
 }

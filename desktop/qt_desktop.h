@@ -2,6 +2,7 @@
 
 #include "desktop/printing/printing.h"
 #include "support/desktop.h"
+#include "support/dragged_files.h"
 
 #include <QEventLoop>
 #include <QFileDialog>
@@ -42,6 +43,9 @@ public:
     void forget_windows();
     /// The window of a form that has been shown, nullptr before.
     QWidget * window_of(const form & its_form) const;
+
+    /// Windows that take files from other programs; to be named before they are shown.
+    drop_targets drops;
 
     /// Which printer is offered first; null when there is none.
     std::function<QPrinterInfo()> printer = &first_printer;

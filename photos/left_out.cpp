@@ -13,18 +13,6 @@ namespace {
 
 constexpr std::size_t most_in_a_box = 20;  // more lines than that leave the screen
 
-photo_fault fault_of(const std::string & photo)
-{
-    if (!file_exists(photo))
-        return photo_fault::gone;
-    try {
-        jpeg_size(photo);
-        return photo_fault::unreadable;
-    } catch (const platform_error &) {
-        return photo_fault::too_large;
-    }
-}
-
 std::string reason(photo_fault fault)
 {
     switch (fault) {
@@ -75,6 +63,18 @@ std::string box_text(const frmMain & main, std::span<const left_out_photo> photo
 }
 
 }  // namespace
+
+photo_fault fault_of(const std::string & photo)
+{
+    if (!file_exists(photo))
+        return photo_fault::gone;
+    try {
+        jpeg_size(photo);
+        return photo_fault::unreadable;
+    } catch (const platform_error &) {
+        return photo_fault::too_large;
+    }
+}
 
 void forget_left_out(frmMain & main)
 {

@@ -27,5 +27,8 @@ void tell_left_out(frmMain & main);
 /// them with the reason. A preview doesn't repeat what the user knows.
 void tell_no_match(frmMain & main, const std::string & text);
 
+/// Why that photo, which can't be used, can't be.
+photo_fault fault_of(const std::string & photo);
+
 /// "/photos/a.jpg: it isn't there any more", in one line.
 std::string line_of(const left_out_photo & photo);

@@ -5,6 +5,7 @@
 #include "desktop/program_folders.h"
 #include "desktop/qt_desktop.h"
 #include "session/connect_all.h"
+#include "session/drops.h"
 #include "session/start/start_up.h"
 #include "session/undo/keep_history.h"
 #include "support/files/paths.h"
@@ -14,6 +15,13 @@
 #include <QApplication>
 
 namespace {
+
+drop_targets drops_on(windows & all, change_history & history)
+{
+    return connect_drops(
+        all, {.is_busy = [&history] { return history.actions > 0; },
+              .act = [&](const std::function<void()> & step) { act_as_user(all.main, history, step); }});
+}
 
 void start(windows & all, change_history & history)
 {
@@ -42,7 +50,10 @@ int run(qt_desktop & desk)
     // Widgets go before the forms they show.
     const afterwards gone([&desk] { desk.forget_windows(); });
     try {
-        with_platform_errors([&] { start(all, history); });
+        with_platform_errors([&] {
+            desk.drops = drops_on(all, history);
+            start(all, history);
+        });
     } catch (const data_folder_in_use & taken) {
         return give_way(desk, taken.data_folder);
     } catch (const end_of_program & end) {

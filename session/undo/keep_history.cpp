@@ -170,3 +170,8 @@ void keep_history(frmMain & main, change_history & history)
     main.picSample.on_popup = [&] { main.mnuChanges.pop_up(); };
     show_steps(main, history);
 }
+
+void act_as_user(frmMain & main, change_history & history, const std::function<void()> & step)
+{
+    act(main, history, step, {});
+}

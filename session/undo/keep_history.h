@@ -19,3 +19,6 @@ struct change_history {
 /// Another collage begins another history. To be called when all handlers are hooked; `history` has to
 /// outlive the window.
 void keep_history(frmMain & main, change_history & history);
+
+/// Runs `step` as an action of the user's that no handler answers: what it changes is a step.
+void act_as_user(frmMain & main, change_history & history, const std::function<void()> & step);
