@@ -157,6 +157,7 @@ const std::map<std::string, option> & options()
         {"--keep", on_the_command_line(text_into(&batch_arguments::keep))},
         {"--data", on_the_command_line(valued(read_data))},
         {"--jobs", on_the_command_line(valued(read_jobs))},
+        {"--intake", on_the_command_line(switched(&batch_arguments::intake))},
         {"--preview", on_the_command_line(switched(&batch_arguments::preview))},
         {"--again", on_the_command_line(switched(&batch_arguments::again))},
         {"--list", task_of(task::list)},

@@ -20,6 +20,7 @@ struct batch_arguments {
     std::optional<unsigned long long> seed;
     std::optional<std::string> data_folder;
     bool preview = false;
+    bool intake = false;  ///< photos that need it are prepared first
     bool answers_yes = false;
     std::string out;     ///< "-": standard output
     std::string keep;    ///< folder that the work files are left in; empty: none

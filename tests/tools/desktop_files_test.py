@@ -59,7 +59,7 @@ class desktop_files(unittest.TestCase):
             catalogue.write(b"[Design600]\r\nName=Zebra's stripes\r\nFamily=Block\r\n")
 
     def test_man_pages_tell_every_option_as_the_help_does(self):
-        for program in ("tessaloom-batch", "tessaloom-pack"):
+        for program in ("tessaloom-batch", "tessaloom-intake", "tessaloom-pack"):
             self.assertTrue(options_of_help(program))
             self.assertEqual(options_of_page(program), options_of_help(program))
 
@@ -73,9 +73,9 @@ class desktop_files(unittest.TestCase):
     def test_every_shell_knows_every_option(self):
         bash = (FILES / "tessaloom.bash").read_text()
         zsh = (FILES / "_tessaloom").read_text()
-        for program in ("batch", "pack"):
+        for program in ("batch", "intake", "pack"):
             fish = ((FILES / "tessaloom-batch.fish") if program == "batch" else
-                    (ROOT / "packaging" / "completions" / "tessaloom-pack.fish")).read_text()
+                    (ROOT / "packaging" / "completions" / f"tessaloom-{program}.fish")).read_text()
             wanted = names_of(options_of_help(f"tessaloom-{program}"))
             in_bash = re.search(rf"_tessaloom_{program}\(\) {{.*?\n}}", bash, re.S)[0]
             self.assertEqual(set(re.search(r'"(--[a-z]+ --.*)"', in_bash)[1].split()), wanted - {"-h"})
