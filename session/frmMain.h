@@ -76,6 +76,11 @@ struct frmMain : form {
     menu_entry mnuFAQ{*this, "mnuFAQ", "FAQ"};
     menu_entry mnuHelpAbout{*this, "mnuHelpAbout", "About Flurns"};
 
+    // In no bar, which is hidden while there is something to undo: at the preview, and by their keys.
+    menu_entry mnuChanges{*this, "mnuChanges"};
+    menu_entry mnuUndo{*this, "mnuUndo", "Undo"};
+    menu_entry mnuRedo{*this, "mnuRedo", "Redo"};
+
     // Photos and design of the collage.
     group frmOutput{*this, "frmOutput"};
     label lblTemplate{*this, "lblTemplate", "Design:"};

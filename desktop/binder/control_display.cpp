@@ -181,6 +181,7 @@ void display_content(const picture & held, picture_view & widget)
     widget.setFocusPolicy(usable || can_be_dragged ? Qt::StrongFocus : Qt::NoFocus);
     widget.setCursor(can_be_dragged ? Qt::OpenHandCursor : usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
     widget.set_draggable(can_be_dragged);
+    widget.set_menu(static_cast<bool>(held.on_popup));
     widget.set_back_color(shown_color(held.back_color()));
     if (usable && held.file().empty())
         widget.setAccessibleDescription(shown_color(held.back_color()).name());
