@@ -125,6 +125,5 @@ std::vector<std::string> chosen_files_with_copies(frmMain & main, const std::vec
     std::vector<intake_photo> seen;
     for (const std::string & file : files)
         seen.push_back(looked_at(file));
-    auto photos = photos_with_copies(main, std::move(seen), copies_wanted::asked);
-    return photos ? std::move(*photos) : files;
+    return photos_with_copies(main, std::move(seen), copies_wanted::asked).value_or(files);
 }
