@@ -178,6 +178,7 @@ const std::map<std::string, option> & options()
         {"--keep", on_the_command_line(text_into(&batch_arguments::keep))},
         {"--data", on_the_command_line(valued(read_data))},
         {"--jobs", on_the_command_line(valued(read_jobs))},
+        {"--intake", on_the_command_line(switched(&batch_arguments::intake))},
         {"--threads", on_the_command_line(valued(read_threads))},
         {"--preview", on_the_command_line(switched(&batch_arguments::preview))},
         {"--smooth", on_the_command_line(switched(&batch_arguments::smooth))},

@@ -24,6 +24,7 @@ struct batch_arguments {
     std::optional<std::string> data_folder;
     std::optional<int> threads;  ///< workers beside the session's own thread
     bool preview = false;
+    bool intake = false;  ///< photos that need it are prepared first
     bool answers_yes = false;
     std::string out;     ///< "-": standard output
     std::string keep;    ///< folder that the work files are left in; empty: none

@@ -2,6 +2,7 @@
 
 #include "batch/design_choice.h"
 #include "batch/given_photos.h"
+#include "batch/intake_step.h"
 #include "batch/kept_files.h"
 #include "batch/missing_pictures.h"
 #include "batch/output_file.h"
@@ -59,11 +60,17 @@ bool template_found(frmMain & main)
     return found;
 }
 
+void bring_photos(frmMain & main, const batch_arguments & arguments)
+{
+    take_photos(main, arguments.intake ? prepared_for_collage(main, arguments) : arguments.photos,
+                arguments.out);
+}
+
 bool start_quick_style(frmMain & main, const batch_arguments & arguments)
 {
     {
         const updating guard(main);  // one picture at the end instead of one a setting
-        if (!begin_quick(main, [&] { take_photos(main, arguments.photos, arguments.out); }))
+        if (!begin_quick(main, [&] { bring_photos(main, arguments); }))
             return false;
         style_option(main, arguments.quick).select();
         orientation_option(main, arguments.orientation).select();
@@ -86,7 +93,7 @@ bool start_design(frmMain & main, const batch_arguments & arguments)
     if (arguments.photos.empty()) {
         apply_without_photos(main);
     } else {
-        take_photos(main, arguments.photos, arguments.out);
+        bring_photos(main, arguments);
         start_designed(main);
     }
     apply_settings(main, arguments);

@@ -17,6 +17,8 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
                                   set by --set cmbShapes=Stars
   --out FILE                      where the JPEG goes, a name ending in .jpg or .jpeg; a file that is there is
                                   replaced, a link is written through; - is standard output
+  --intake                        prepares photos that need it first, as tessaloom-intake does: those on their side, HEIC,
+                                  PNG and other formats, wide colours; copies are kept in the data folder
   --orientation portrait|landscape|square
                                   shape of the poster; without it the one the design was drawn for, and
                                   portrait for a quick style
