@@ -110,9 +110,11 @@ std::vector<std::string> photos_in(const std::string & folder)
 
 std::vector<std::string> photos_of_chosen_folder(frmMain & main, const std::string & folder)
 {
-    auto seen = beside(main.desk, [&folder] { return looked_at_folder(folder); });
+    auto seen = alone_beside(main.desk, main.workers, [&folder] { return looked_at_folder(folder); });
     auto photos = photos_with_copies(main, std::move(seen), copies_wanted::asked);
-    return photos ? std::move(*photos) : photos_in(folder);
+    if (photos)
+        return std::move(*photos);
+    return alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); });
 }
 
 void photos_of_folder(frmMain & main, const std::string & folder)
