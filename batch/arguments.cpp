@@ -13,6 +13,8 @@ namespace {
 
 constexpr int smallest_size = 16;
 constexpr int largest_size = 12000;  // four times the full size
+constexpr int largest_scale = 4;
+constexpr int largest_dpi = 2400;
 
 using words = std::span<const std::string>;
 using value_reader =
@@ -123,6 +125,16 @@ void read_threads(batch_arguments & read, const std::string & name, const std::s
     read.threads = whole_number(name, value, 1, worker_pool::most);
 }
 
+void read_scale(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    read.scale = whole_number(name, value, 1, largest_scale);
+}
+
+void read_dpi(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    read.dpi = whole_number(name, value, 1, largest_dpi);
+}
+
 void read_seed(batch_arguments & read, const std::string & name, const std::string & value)
 {
     read.seed = whole_number(name, value, 0ULL, ~0ULL);
@@ -158,14 +170,18 @@ const std::map<std::string, option> & options()
         {"--set", valued(read_setting)},
         {"--caption", valued(read_caption)},
         {"--size", valued(read_size)},
+        {"--scale", valued(read_scale)},
+        {"--dpi", valued(read_dpi)},
         {"--random", valued(read_seed)},
         {"--answer", valued(read_answer)},
         {"--out", text_into(&batch_arguments::out)},
         {"--keep", on_the_command_line(text_into(&batch_arguments::keep))},
         {"--data", on_the_command_line(valued(read_data))},
         {"--jobs", on_the_command_line(valued(read_jobs))},
+        {"--intake", on_the_command_line(switched(&batch_arguments::intake))},
         {"--threads", on_the_command_line(valued(read_threads))},
         {"--preview", on_the_command_line(switched(&batch_arguments::preview))},
+        {"--smooth", on_the_command_line(switched(&batch_arguments::smooth))},
         {"--again", on_the_command_line(switched(&batch_arguments::again))},
         {"--list", task_of(task::list)},
         {"--dump", task_of(task::dump)},
@@ -268,6 +284,9 @@ void check_complete(const batch_arguments & read)
         throw bad_arguments{"--photos is missing"};
     if (read.out.empty() && read.wanted == task::make)
         throw bad_arguments{"--out is missing"};
+    if (read.preview && (read.scale || read.smooth))
+        throw bad_arguments{
+            "--scale and --smooth belong to the full size, not to the small picture of --preview"};
     if (read.out == standard_stream && read.wanted == task::dump)
         throw bad_arguments{"--dump prints to standard output, so --out has to name a file"};
 }

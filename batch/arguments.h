@@ -16,11 +16,15 @@ struct batch_arguments {
     std::string orientation;  ///< "portrait", "landscape", "square"; empty: the one the design was drawn for
     std::vector<std::pair<std::string, std::string>> settings;  ///< control and value, in the order given
     std::optional<std::string> caption;
-    std::optional<int> size;  ///< long side in pixels
+    std::optional<int> size;   ///< long side in pixels
+    std::optional<int> scale;  ///< pixels of the poster for one of the full size, in each direction
+    std::optional<int> dpi;    ///< pixels an inch, for the file's header
+    bool smooth = false;
     std::optional<unsigned long long> seed;
     std::optional<std::string> data_folder;
     std::optional<int> threads;  ///< workers beside the session's own thread
     bool preview = false;
+    bool intake = false;  ///< photos that need it are prepared first
     bool answers_yes = false;
     std::string out;     ///< "-": standard output
     std::string keep;    ///< folder that the work files are left in; empty: none

@@ -2,9 +2,11 @@
 
 #include "batch/design_choice.h"
 #include "batch/given_photos.h"
+#include "batch/intake_step.h"
 #include "batch/kept_files.h"
 #include "batch/missing_pictures.h"
 #include "batch/output_file.h"
+#include "batch/print_size.h"
 #include "batch/settings.h"
 #include "engine/output/flurn_file.h"
 #include "engine/preview.h"
@@ -20,6 +22,7 @@
 #include "session/window_state.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
+#include "support/free_memory.h"
 #include "support/platform_error.h"
 
 #include <cstdio>
@@ -57,11 +60,17 @@ bool template_found(frmMain & main)
     return found;
 }
 
+void bring_photos(frmMain & main, const batch_arguments & arguments)
+{
+    take_photos(main, arguments.intake ? prepared_for_collage(main, arguments) : arguments.photos,
+                arguments.out);
+}
+
 bool start_quick_style(frmMain & main, const batch_arguments & arguments)
 {
     {
         const updating guard(main);  // one picture at the end instead of one a setting
-        if (!begin_quick(main, [&] { take_photos(main, arguments.photos, arguments.out); }))
+        if (!begin_quick(main, [&] { bring_photos(main, arguments); }))
             return false;
         style_option(main, arguments.quick).select();
         orientation_option(main, arguments.orientation).select();
@@ -84,7 +93,7 @@ bool start_design(frmMain & main, const batch_arguments & arguments)
     if (arguments.photos.empty()) {
         apply_without_photos(main);
     } else {
-        take_photos(main, arguments.photos, arguments.out);
+        bring_photos(main, arguments);
         start_designed(main);
     }
     apply_settings(main, arguments);
@@ -128,7 +137,8 @@ using encoder = std::function<std::string()>;
 
 bool goes_out(const open_session & running, const batch_arguments & arguments, const encoder & jpeg)
 {
-    return is_whole(running) && went_well([&] { write_output(arguments.out, jpeg()); });
+    return is_whole(running) &&
+           went_well([&] { write_output(arguments.out, with_asked_dpi(jpeg(), arguments)); });
 }
 
 // `went_out` is nothing where the run drew no picture at all: there are settings that keep it from drawing
@@ -140,16 +150,22 @@ exit_status outcome_of(const open_session & running, const std::optional<bool> &
     return went_out.value_or(false) ? exit_status::made : exit_status::not_made;
 }
 
+// The run has encoded its poster already.
+std::string bytes_of_poster(const frmMain & main, std::optional<int> size)
+{
+    return size ? flurn_bytes(main.run.canvas, *size) : read_file(finished_path(main));
+}
+
 exit_status make_full_size(open_session & running, const batch_arguments & arguments)
 {
     std::optional<bool> went_out;
     running.desk.on_modal = [&](form & window) {
-        const bitmap & image = running.all.main.run.canvas;
-        const int own = std::max(image.width(), image.height());
         if (&window == &running.all.image)
             went_out = goes_out(running, arguments,
-                                [&] { return flurn_bytes(image, arguments.size.value_or(own)); });
+                                [&] { return bytes_of_poster(running.all.main, arguments.size); });
     };
+    running.all.main.run.drawn_at = drawn_scale(arguments);
+    check_memory(running.all.main.run.drawn_at, free_memory());
     // The grid of shapes is laid out by a preview; the full size draws it as it stands.
     if (running.all.main.collage.quick_active && running.all.main.optShapes.selected())
         write_quick_shapes(running.all.main);

@@ -86,15 +86,6 @@ paths usable(const paths & photos)
     return kept;
 }
 
-// A poster among the photos would be a photo of the next one, and a photo in the poster's place be lost.
-void check_is_none_of(const paths & photos, const std::string & out)
-{
-    std::error_code missing;
-    for (const std::string & photo : photos)
-        if (std::filesystem::equivalent(photo, out, missing))
-            throw bad_arguments{"\"" + out + "\" is one of the photos and would be replaced by the collage"};
-}
-
 void use_folder(frmMain & main, const std::string & folder, const paths & photos)
 {
     std::ranges::copy(photos, main.table.photos.begin());
@@ -126,6 +117,15 @@ void use_selection(frmMain & main, const paths & photos)
 }
 
 }  // namespace
+
+// A poster among the photos would be a photo of the next one, and a photo in the poster's place be lost.
+void check_is_none_of(const paths & photos, const std::string & out)
+{
+    std::error_code missing;
+    for (const std::string & photo : photos)
+        if (std::filesystem::equivalent(photo, out, missing))
+            throw bad_arguments{"\"" + out + "\" is one of the photos and would be replaced by the collage"};
+}
 
 void take_photos(frmMain & main, const std::vector<std::string> & given, const std::string & out)
 {

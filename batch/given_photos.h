@@ -14,6 +14,9 @@
 /// the collage is going to replace, is one of them.
 void take_photos(frmMain & main, const std::vector<std::string> & given, const std::string & out);
 
+/// Throws bad_arguments when `out`, which the collage is going to replace, is one of the photos.
+void check_is_none_of(const std::vector<std::string> & photos, const std::string & out);
+
 /// Names on standard error, each in a line, the photos that the session had to leave out later: their headers
 /// were those of pictures.
 void name_left_out(const frmMain & main);

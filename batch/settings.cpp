@@ -1,7 +1,10 @@
 #include "batch/settings.h"
 
+#include "support/real_text.h"
+
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -12,9 +15,8 @@ constexpr std::uint32_t largest_color = 0xFFFFFF;
 
 bool is_number(std::string_view text)
 {
-    double number = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return fault == std::errc{} && end == text.data() + text.size() && number - number == 0;
+    const real_read number = real_at_start(text);
+    return number.fault == std::errc{} && number.length == text.size() && std::isfinite(number.value);
 }
 
 bool is_color(std::string_view text)

@@ -17,12 +17,19 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
                                   set by --set cmbShapes=Stars
   --out FILE                      where the JPEG goes, a name ending in .jpg or .jpeg; a file that is there is
                                   replaced, a link is written through; - is standard output
+  --intake                        prepares photos that need it first, as tessaloom-intake does: those on their side, HEIC,
+                                  PNG and other formats, wide colours; copies are kept in the data folder
   --orientation portrait|landscape|square
                                   shape of the poster; without it the one the design was drawn for, and
                                   portrait for a quick style
   --set CONTROL=VALUE             changes a control of the main window as a user would; may be repeated
   --caption TEXT                  text printed on the collage
   --size LONG_SIDE                long side in pixels, 16 to 12000; without it full size
+  --scale 1|2|3|4                 draws the poster for print, from the photos themselves, with so many times its pixels
+                                  in each direction: 2000 by 3000 becomes 6000 by 9000 with 3
+  --smooth                        draws with twice as many pixels in each direction and brings them down: letters,
+                                  shapes, corners and tilted edges without stairs
+  --dpi N                         pixels an inch, 1 to 2400, that the file tells printers; with --scale 300 without it
   --random SEED                   repeats the same chance for the same whole number
   --data DIR                      folder of the user's data, made and filled on first use
   --preview                       makes the small preview instead of the full size
@@ -32,8 +39,8 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
   --keep DIR                      leaves the work files there: templates, lists, finished.jpg
 
   --jobs FILE                     works off a job list: tab-separated, a header line that names the columns (out,
-                                  photos, design, quick, frames, orientation, set, caption, size, random, answer;
-                                  photos and set may stand there more than once), a job a line; - is standard
+                                  photos, design, quick, frames, orientation, set, caption, size, scale, dpi, random,
+                                  answer; photos and set may stand there more than once), a job a line; - is standard
                                   input. Options given beside it hold for all jobs. A job whose out is there is done
   --again                         makes those jobs too
 

@@ -58,7 +58,7 @@ public:
     std::optional<std::string> choose_save(const file_request &) override { return std::nullopt; }
     std::optional<std::uint32_t> choose_color(std::uint32_t) override { return std::nullopt; }
     bool open_document(const std::string &) override { return false; }
-    print_result print(const bitmap &, orientation) override { return print_result::no_printer; }
+    print_report print(const bitmap &, orientation) override { return {}; }
     picture_size screen_room() override { return {.width = 1280, .height = 960}; }
     std::vector<std::string> font_names() override { return {}; }
     bitmap draw_text(const text_request & request) override

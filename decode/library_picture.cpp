@@ -41,8 +41,6 @@ FREE_IMAGE_FORMAT format_of(picture_kind kind)
 // profile repeats or contradicts, isn't applied.
 int flags_for(picture_kind kind)
 {
-    if (kind == picture_kind::gif)
-        return GIF_PLAYBACK;
     if (kind == picture_kind::tiff)
         return TIFF_CMYK;
     return kind == picture_kind::png ? PNG_IGNOREGAMMA : 0;
@@ -55,11 +53,38 @@ open_image loaded(byte_view file, picture_kind kind, int more_flags)
     return open_image(FreeImage_LoadFromMemory(format_of(kind), memory.get(), flags_for(kind) | more_flags));
 }
 
+// Where the first picture of a GIF is described: behind colours, and blocks that say other things.
+std::size_t first_picture_of_gif(byte_view file)
+{
+    const auto colors_behind = [file](std::size_t flags) {
+        return (byte_at(file, flags) & 0x80U) != 0 ? std::size_t{3} << (1U + (byte_at(file, flags) & 7U)) : 0;
+    };
+    std::size_t at = 13 + colors_behind(10);
+    while (byte_at(file, at) == '!') {
+        at += 2;
+        while (byte_at(file, at) != 0)
+            at += 1U + byte_at(file, at);
+        ++at;
+    }
+    return at;
+}
+
+// Of both, the screen and what is drawn on it.
+void expect_usable_screen(byte_view file)
+{
+    expect_usable(number16(file, 6, byte_order::little), number16(file, 8, byte_order::little));
+    const std::size_t picture = first_picture_of_gif(file);
+    if (byte_at(file, picture) != ',')
+        throw decode_fault::damaged;
+    expect_usable(number16(file, picture + 5, byte_order::little),
+                  number16(file, picture + 7, byte_order::little));
+}
+
 // Some kinds tell their size without their pixels; a claim that is beyond all limits costs nothing then.
 void expect_usable_header(byte_view file, picture_kind kind)
 {
     if (kind == picture_kind::gif)
-        expect_usable(number16(file, 6, byte_order::little), number16(file, 8, byte_order::little));
+        expect_usable_screen(file);
     if (!FreeImage_FIFSupportsNoPixels(format_of(kind)))
         return;
     if (const open_image header = loaded(file, kind, FIF_LOAD_NOPIXELS))
@@ -151,6 +176,35 @@ samples samples_of(FIBITMAP & image)
         default:
             throw decode_fault::not_known;
     }
+}
+
+int number_of(FIBITMAP & image, const char * name)
+{
+    FITAG * tag = nullptr;
+    const bool is_there = FreeImage_GetMetadata(FIMD_ANIMATION, &image, name, &tag) != FALSE &&
+                          FreeImage_GetTagType(tag) == FIDT_SHORT;
+    return is_there ? *static_cast<const std::uint16_t *>(FreeImage_GetTagValue(tag)) : 0;
+}
+
+// The first picture of a GIF may cover a part of its screen; what it leaves free shows through. Drawn here,
+// since the library's own way to do that trips over damaged files.
+samples on_its_screen(const samples & drawn, picture_size screen, FIBITMAP & image)
+{
+    const bool has_alpha = drawn.model == sample_model::rgb_alpha;
+    samples whole = made_samples(screen, sample_model::rgb_alpha, 1);
+    const int left = number_of(image, "FrameLeft"), top = number_of(image, "FrameTop");
+    const std::size_t step = static_cast<std::size_t>(samples_a_pixel(drawn.model));
+    for (int y = 0; y < drawn.size.height && top + y < screen.height; ++y)
+        for (int x = 0; x < drawn.size.width && left + x < screen.width; ++x) {
+            const std::uint8_t * from =
+                &drawn.values[step * static_cast<std::size_t>(y * drawn.size.width + x)];
+            std::uint8_t * to =
+                &whole.values[4 * static_cast<std::size_t>((top + y) * screen.width + left + x)];
+            for (std::size_t c = 0; c < 3; ++c)
+                to[c] = from[step >= 3 ? c : 0];
+            to[3] = has_alpha ? from[3] : 255;
+        }
+    return whole;
 }
 
 byte_view exif_of(byte_view file, picture_kind kind)
@@ -267,6 +321,11 @@ samples library_picture(byte_view file, picture_kind kind)
     if (!image)
         throw decode_fault::damaged;
     samples picture = samples_of(*image);
+    if (kind == picture_kind::gif)
+        picture = on_its_screen(
+            picture,
+            {.width = number16(own, 6, byte_order::little), .height = number16(own, 8, byte_order::little)},
+            *image);
     const photo_notes notes = notes_of(own, kind, *image);
     picture.profile = kind == picture_kind::png ? profile_of_png(own) : profile_of(*image);
     picture.orientation = notes.orientation;

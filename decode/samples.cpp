@@ -14,6 +14,12 @@ int samples_a_pixel(sample_model model)
     }
 }
 
+namespace {
+
+constexpr std::int64_t most_pixels = TESSALOOM_MOST_PIXELS;
+
+}  // namespace
+
 void expect_usable(std::int64_t width, std::int64_t height)
 {
     if (width <= 0 || height <= 0)

@@ -30,11 +30,11 @@ struct samples {
 
 int samples_a_pixel(sample_model model);
 
-/// Most pixels of a picture, and most a side: what a collage takes.
-inline constexpr std::int64_t most_pixels = 260'000'000;
+/// Most pixels a side: what a collage takes.
 inline constexpr int longest_side = 32'767;
 
-/// Throws decode_fault::too_large beyond those limits, and damaged for an empty size.
+/// Throws decode_fault::too_large beyond that and beyond 260 million pixels in all, and damaged for an empty
+/// size.
 void expect_usable(std::int64_t width, std::int64_t height);
 
 /// Room for a picture of that size. Throws as expect_usable.

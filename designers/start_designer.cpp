@@ -59,12 +59,9 @@ bool photos_chosen(frmMain & main, const std::function<void()> & choose_photos)
     return !main.txtPhotos.tag.empty() && !main.photo_choice_cancelled;
 }
 
-// What is left of a quick style has no say, and letters and pieces have no ornaments.
-void forget_other_styles(frmMain & main, designer chosen)
+// Letters and pieces have none.
+void untick_ornaments(frmMain & main, designer chosen)
 {
-    main.quick = {};
-    for (option_button * style : main.style_options)
-        style->select(false);
     if (chosen != designer::matrix)
         for (check_box * ornament : {&main.chkRounded, &main.chkCaption, &main.chkSoftEdge})
             main.collage.forced.tick(*ornament, false);
@@ -73,7 +70,7 @@ void forget_other_styles(frmMain & main, designer chosen)
 void enter_poster(frmMain & main, designer chosen)
 {
     const updating quiet(main);
-    forget_other_styles(main, chosen);
+    untick_ornaments(main, chosen);
     new_poster(main);
     main.picSample.show(false);
     main.frmSpace.show(false);

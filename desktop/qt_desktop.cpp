@@ -3,9 +3,10 @@
 #include "desktop/binder/binder.h"
 #include "desktop/binder/captions.h"
 #include "desktop/binder/windows_made.h"
+#include "desktop/drop_zone.h"
 #include "desktop/file_filter.h"
 #include "desktop/opener.h"
-#include "desktop/printing.h"
+#include "desktop/printing/printing.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_text.h"
 #include "desktop/save_chooser.h"
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFile>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QScreen>
@@ -52,6 +54,19 @@ QSize room_for(const QWidget & window)
 {
     const QSize frame = window.frameGeometry().size() - window.size();
     return window.screen()->availableSize() - (frame.isNull() ? usual_frame : frame);
+}
+
+// What the toolkit's chooser doesn't tell readers of the screen.
+void name_parts(QFileDialog & chooser)
+{
+    for (const char * list : {"lookIn", "fileType"})
+        if (auto * const label = chooser.findChild<QLabel *>(QLatin1String(list) + QLatin1String("Label")))
+            label->setBuddy(chooser.findChild<QWidget *>(QLatin1String(list) + QLatin1String("Combo")));
+    const std::pair<const char *, const char *> names[] = {
+        {"sidebar", "Places"}, {"listView", "Files"}, {"treeView", "Files with details"}};
+    for (const auto & [part, name] : names)
+        if (auto * const view = chooser.findChild<QWidget *>(QLatin1String(part)))
+            view->setAccessibleName(QLatin1String(name));
 }
 
 // A question that comes up in the midst of work is answered with an arrow, not with an hourglass.
@@ -128,6 +143,8 @@ QWidget & qt_desktop::made(form & window)
          {.report = [this](const std::string & text) { message(text, {}); },
           .unloaded = [this, &window] { taken_down(window); },
           .room = [its_widget = widget.get()] { return room_for(*its_widget); }});
+    if (const auto target = drops.find(&window); target != drops.end())
+        take_drops(*widget, target->second, [this](const std::string & text) { message(text, {}); });
     windows[&window].widget = widget.get();
     return *widget.release();
 }
@@ -218,6 +235,7 @@ QString qt_desktop::folder_to_open(const std::string & wanted) const
 
 bool qt_desktop::is_accepted(QFileDialog & chooser, const file_request & asked)
 {
+    name_parts(chooser);
     chooser.setWindowTitle(shown(asked.title));
     chooser.setDirectory(folder_to_open(asked.folder));
     if (!asked.filter.empty())
@@ -285,13 +303,9 @@ bool qt_desktop::open_document(const std::string & target)
     return opened_by_desktop(is_file ? QUrl::fromLocalFile(toolkit_path(target)) : QUrl(shown(target)));
 }
 
-print_result qt_desktop::print(const bitmap & image, orientation page)
+print_report qt_desktop::print(const bitmap & image, orientation page)
 {
-    const QPrinterInfo info = printer();
-    if (info.isNull())
-        return print_result::no_printer;
-    QPrinter paper(info, QPrinter::HighResolution);
-    return print_on(paper, image, page) ? print_result::printed : print_result::failed;
+    return print_by_dialog(printer(), image, page, owner());
 }
 
 // A window fills the screen to nine tenths, which leaves room for its frame.

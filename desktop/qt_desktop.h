@@ -1,11 +1,12 @@
 #pragma once
 
+#include "desktop/printing/printing.h"
 #include "support/desktop.h"
+#include "support/dragged_files.h"
 
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QPointer>
-#include <QPrinterInfo>
 
 #include <functional>
 #include <map>
@@ -30,7 +31,7 @@ public:
     std::optional<std::string> choose_save(const file_request & asked) override;
     std::optional<std::uint32_t> choose_color(std::uint32_t initial) override;
     bool open_document(const std::string & target) override;
-    print_result print(const bitmap & image, orientation page) override;
+    print_report print(const bitmap & image, orientation page) override;
     picture_size screen_room() override;
     std::vector<std::string> font_names() override;
     bitmap draw_text(const text_request & request) override;
@@ -43,8 +44,11 @@ public:
     /// The window of a form that has been shown, nullptr before.
     QWidget * window_of(const form & its_form) const;
 
-    /// Where a page goes; null when there is no printer.
-    std::function<QPrinterInfo()> printer = &QPrinterInfo::defaultPrinter;
+    /// Windows that take files from other programs; to be named before they are shown.
+    drop_targets drops;
+
+    /// Which printer is offered first; null when there is none.
+    std::function<QPrinterInfo()> printer = &first_printer;
 
 private:
     struct shown_window {

@@ -58,7 +58,8 @@ bitmap full_background(frmMain & main)
 {
     const std::string path = full_size_picture(main.txtBGimage.text());
     const bool is_square = main.optSquare.selected();
-    const picture_size size{.width = main.collage_width, .height = main.collage_height};
+    const int scale = main.run.drawn_at.canvas();
+    const picture_size size{.width = main.collage_width * scale, .height = main.collage_height * scale};
     return beside(main.desk, main.workers, [=] {
         bitmap image = loaded(path);
         if (is_square)
@@ -75,5 +76,6 @@ void lay_background(frmMain & main, run_size size)
     if (alpha == 0 || !(main.optBGimage.selected() || main.collage.bg_from_design))
         return;
     const bitmap image = size == run_size::preview ? small_background(main) : full_background(main);
-    paste(main.run.canvas, image, main.run.collage_margin, main.run.collage_margin, alpha);
+    const int margin = main.run.collage_margin * main.run.drawn_at.canvas();
+    paste(main.run.canvas, image, margin, margin, alpha);
 }

@@ -41,7 +41,8 @@ void allocate_canvas(frmMain & main, run_size size)
     else
         size_full(main);
     const int bleed = 2 * main.run.collage_margin;
-    main.run.canvas = bitmap(main.collage_width + bleed, main.collage_height + bleed);
+    const int scale = main.run.drawn_at.canvas();
+    main.run.canvas = bitmap((main.collage_width + bleed) * scale, (main.collage_height + bleed) * scale);
     if (main.optBGimage.selected() && number_in(main.cmbBlend) >= 100)
         return;  // black, for the picture to cover
     fill(main.run.canvas,

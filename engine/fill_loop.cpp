@@ -74,7 +74,7 @@ void pass_over(frmMain & main, grid_walk & walk)
         ask_reshuffle(main);
         return;
     }
-    main.desk.message("You don't have any photos that match this design.");
+    tell_no_match(main, "You don't have any photos that match this design.");
     const updating no_preview(main);
     main.chkMatch.tick(false);
 }

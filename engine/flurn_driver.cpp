@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/last_flurn.h"
 #include "engine/photo/photo_steps.h"
+#include "engine/pixels/brought_down.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
 #include "photos/thumbnails/thumbnails.h"
@@ -85,8 +86,11 @@ void keep_collage(frmMain & main)
 {
     run_state & run = main.run;
     const int margin = run.collage_margin;
-    run.canvas =
-        copied(run.canvas, margin, margin, main.collage_width + margin, main.collage_height + margin);
+    run.canvas = brought_down(
+        run.canvas,
+        enlarged({.left = margin, .top = margin, .width = main.collage_width, .height = main.collage_height},
+                 run.drawn_at.canvas()),
+        run.drawn_at.samples);
     save_photo(main, run.canvas, finished_path(main));
     main.txtDoing.show(false);
     main.barDoing.show(false);

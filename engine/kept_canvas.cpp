@@ -91,7 +91,8 @@ loop_state state_of(const frmMain & main)
             .next_landscape = main.run.next_landscape,
             .portrait_wraps = main.run.evolve_portrait_wraps,
             .landscape_wraps = main.run.evolve_landscape_wraps,
-            .match_active = main.run.match_active};
+            .match_active = main.run.match_active,
+            .photos_shown = main.run.photos_shown};
 }
 
 void take_state(frmMain & main, const loop_state & state)
@@ -105,6 +106,7 @@ void take_state(frmMain & main, const loop_state & state)
     main.run.next_landscape = state.next_landscape;
     main.run.evolve_portrait_wraps = state.portrait_wraps;
     main.run.evolve_landscape_wraps = state.landscape_wraps;
+    main.run.photos_shown = state.photos_shown;
 }
 
 bitmap copy_of(const bitmap & image)

@@ -8,6 +8,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,7 @@ struct loop_state {
     int16 photo_cursor = 0, image_number = 0, shake_start = 0;
     int16 next_portrait = 0, next_landscape = 0, portrait_wraps = 0, landscape_wraps = 0;
     bool match_active = false;
+    std::set<int> photos_shown;
     bool operator==(const loop_state &) const = default;
 };
 

@@ -190,10 +190,14 @@ bool is_filled(frmMain & main, int i, int & photo)
         picked_picture next = picture_for(main, place, photo);
         if (!next.found)
             return false;
+        const int index = next.index;
         // A painted shape gives its photo back once it is drawn.
         read_upcoming(main, i + 1, is_painted(main, place) ? photo - 1 : photo);
-        if (is_drawn(main, place, std::move(next), photo))
+        if (is_drawn(main, place, std::move(next), photo)) {
+            if (index >= 0 && !is_painted(main, place))
+                main.run.photos_shown.insert(index);
             return true;
+        }
     }
 }
 

@@ -4,20 +4,23 @@
 #include "engine/photo/photo_ahead.h"
 #include "engine/photo/small_photos.h"
 #include "engine/pixels/mask_shelf.h"
+#include "engine/render_scale.h"
 #include "support/MFreeImage.h"
 #include "support/numbers.h"
 
 #include <chrono>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 struct kept_canvas;
 
 /// The state of one collage run, seen by the driver, the loops and the drawing alike. Pixels are those of the
-/// canvas.
+/// layout.
 struct run_state {
     bitmap canvas;             ///< collage with its bleed; after a full run the finished collage
+    render_scale drawn_at;     ///< set by whoever starts a full-size run; the preview knows 1 alone
     int16 collage_margin = 0;  ///< bleed around the collage, in each direction
     double collage_scale = 0;  ///< collage height / 600
     bool run_active = false;
@@ -32,7 +35,8 @@ struct run_state {
     bool match_active = false;
     int16 next_portrait = 0, next_landscape = 0;  ///< cursors of the orientation matching
     int16 evolve_portrait_wraps = 0, evolve_landscape_wraps = 0;
-    mask_shelf masks;  ///< outlives the run: a preview uses the same again
+    std::set<int> photos_shown;  ///< of the table, by their indices; none of a run that failed
+    mask_shelf masks;            ///< outlives the run: a preview uses the same again
     photo_ahead ahead;
     std::shared_ptr<kept_canvas> kept;  ///< of the last preview, with its photos and without its caption
     known_files known;                  ///< outlives the run as well

@@ -1,6 +1,7 @@
 #include "engine/run_steps.h"
 
 #include "designs/templates/location_mixing.h"
+#include "designs/templates/location_order.h"
 #include "designs/templates/template_reader.h"
 #include "engine/background.h"
 #include "engine/canvas.h"
@@ -94,15 +95,31 @@ void make_room_for_ornaments(frmMain & main, run_size size)
             main, [&](const location & place, location_role role) { return softened(place, role, size); });
 }
 
-// Shuffling would tear the pairs of a grid's rows apart.
-void turn_the_order(frmMain & main)
+std::vector<order_turn> turned_by_chance(frmMain & main)
 {
-    if (!main.collage.random_design || !main.collage.design_rotated || layout_of(main) == layout::grids)
-        return;
     main.random.reseed();
     const int turns = whole(main.random.next() * 9 + 1) % 9 * (whole(main.random.next() * 3) + 1);
+    std::vector<order_turn> made;
     for (int i = 0; i <= turns; ++i)
-        shuffle_locations(main, whole(main.random.next() * 7 + 1) % 7);
+        made.push_back(shuffle_locations(main, whole(main.random.next() * 7 + 1) % 7));
+    return made;
+}
+
+// Each preview turns the order anew; the poster is the one that the last preview showed. Shuffling would tear
+// the pairs of a grid's rows apart.
+void turn_the_order(frmMain & main, run_size size)
+{
+    collage & of = main.collage;
+    location_table & table = main.design_locations;
+    if (!of.random_design || !of.design_rotated || layout_of(main) == layout::grids)
+        return;
+    if (size == run_size::preview || of.turns_shown.empty() || of.locations_shown != table.count) {
+        of.locations_shown = table.count;
+        of.turns_shown = turned_by_chance(main);
+    } else {
+        for (const order_turn & turn : of.turns_shown)
+            shuffle(table, main.scratch_locations, turn);
+    }
 }
 
 void fill_all_layers(frmMain & main, const sign_of_life & sign)
@@ -166,6 +183,7 @@ void begin_run(frmMain & main)
     main.run.began = std::chrono::steady_clock::now();
     main.trace = "MMM  ";
     main.left_out.in_this_run.clear();
+    main.run.photos_shown.clear();
     main.run.match_active = match_is_active(main);
     reset_matching(main);
     if (main.chkRandom.ticked())
@@ -190,7 +208,8 @@ run_end place_photos(frmMain & main, run_size size)
     turn_if_needed(main);
     move_to_canvas(main, size);
     make_room_for_ornaments(main, size);
-    turn_the_order(main);
+    const std::vector<order_turn> shown_before = main.collage.turns_shown;
+    turn_the_order(main, size);
     count_images(main);
     main.trace += "GGG  ";
     const int16 wraps = main.chkEvolve.ticked() ? 0 : evolve_off;
@@ -198,6 +217,9 @@ run_end place_photos(frmMain & main, run_size size)
     run_end end = run_end::complete;
     with_kept_canvas(main, [&] { end = run_loops(main); });
     forget_ahead(main);
+    // What was cancelled has not been shown.
+    if (end == run_end::cancelled)
+        main.collage.turns_shown = shown_before;
     main.trace += "BBB  ";
     return end;
 }
@@ -219,6 +241,7 @@ bool went_through(frmMain & main, const std::function<void()> & work)
     } catch (const platform_error & error) {
         // The memory first: it may be what was missing.
         main.run.canvas = bitmap{};
+        main.run.photos_shown.clear();
         main.desk.message(failure_text(main, error));
         return false;
     }
@@ -239,6 +262,7 @@ void report_cancel(frmMain & main)
 {
     main.run.run_active = false;
     main.run.cancel_requested = false;
+    main.run.photos_shown.clear();
     main.txtDoing.show(false);
     main.barDoing.show(false);
     main.desk.message("Flurning has been canceled.");

@@ -81,12 +81,13 @@ bool each_segment(const file_reader & read, const std::function<void(const segme
 // A profile may be cut into parts, each with its number.
 class profile_parts {
 public:
-    void take(std::string bytes)
+    // The file may end inside of it, whatever the segment's length says.
+    void take(const std::string & bytes)
     {
-        const auto number = static_cast<std::uint8_t>(bytes.at(profile_mark.size()));
+        const std::size_t begin = profile_mark.size() + 2;
         total += bytes.size();
-        if (total <= most_profile)
-            parts[number] = bytes.substr(profile_mark.size() + 2);
+        if (bytes.size() > begin && total <= most_profile)
+            parts[static_cast<std::uint8_t>(bytes[profile_mark.size()])] = bytes.substr(begin);
     }
     std::string whole() const
     {

@@ -101,19 +101,16 @@ std::optional<std::string> preparing::copy_of(intake_photo & photo)
     return shelf.put(*identity, *jpeg);
 }
 
+// A photo that is only copied is decoded as well: a damaged one would leave a grey part on the poster.
 std::optional<std::string> preparing::jpeg_for(intake_photo & photo)
 {
-    if (photo.need == photo_need::copy)
-        return copied_jpeg(photo.path);
     decoder_answer answer = answer_for(used, photo.path, photo.kind, stopping);
+    if (!answer.fault && size_in(answer.jpeg) == picture_size{})
+        answer.fault = decode_fault::broken_down;
     if (answer.fault) {
         refuse(photo, told(*answer.fault));
         return std::nullopt;
     }
     without_sandbox = without_sandbox || answer.kept_by == sandbox::none;
-    if (size_in(answer.jpeg) == picture_size{}) {
-        refuse(photo, told(decode_fault::broken_down));
-        return std::nullopt;
-    }
-    return std::move(answer.jpeg);
+    return photo.need == photo_need::copy ? copied_jpeg(photo.path) : std::move(answer.jpeg);
 }

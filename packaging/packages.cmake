@@ -27,8 +27,8 @@ install(CODE "
     COMPONENT links EXCLUDE_FROM_ALL)
 
 set(CPACK_GENERATOR TGZ)
-find_program(DPKG_DEB dpkg-deb)
-if(DPKG_DEB)
+find_program(DPKG_SHLIBDEPS dpkg-shlibdeps)
+if(DPKG_SHLIBDEPS)
     list(APPEND CPACK_GENERATOR DEB)
 endif()
 set(CPACK_PACKAGE_VENDOR "Tessaloom")
@@ -50,9 +50,9 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_NAME tessaloom)
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SHLIBDEPS ON)
-# The fonts are for captions; the platform plugins let the batch program draw them where there is no display.
+# The fonts are for captions.
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS
-    "tessaloom-data (= ${PROJECT_VERSION}), fonts-dejavu-core | fonts-freefont-ttf | fonts-liberation, qt6-qpa-plugins")
+    "tessaloom-data (= ${PROJECT_VERSION}), fonts-dejavu-core | fonts-freefont-ttf | fonts-liberation")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "qt6-wayland, qt6-xdgdesktopportal-platformtheme")
 set(CPACK_COMPONENT_APPLICATION_DESCRIPTION "Tessaloom makes large posters of photos: pick a design or a quick style,
 adjust it under a live preview, save and print the poster.

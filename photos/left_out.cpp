@@ -13,18 +13,6 @@ namespace {
 
 constexpr std::size_t most_in_a_box = 20;  // more lines than that leave the screen
 
-photo_fault fault_of(const std::string & photo)
-{
-    if (!file_exists(photo))
-        return photo_fault::gone;
-    try {
-        jpeg_size(photo);
-        return photo_fault::unreadable;
-    } catch (const platform_error &) {
-        return photo_fault::too_large;
-    }
-}
-
 std::string reason(photo_fault fault)
 {
     switch (fault) {
@@ -76,6 +64,18 @@ std::string box_text(const frmMain & main, std::span<const left_out_photo> photo
 
 }  // namespace
 
+photo_fault fault_of(const std::string & photo)
+{
+    if (!file_exists(photo))
+        return photo_fault::gone;
+    try {
+        jpeg_size(photo);
+        return photo_fault::unreadable;
+    } catch (const platform_error &) {
+        return photo_fault::too_large;
+    }
+}
+
 void forget_left_out(frmMain & main)
 {
     main.left_out = {.told_by = main.left_out.told_by, .photos = {}, .told = 0, .in_this_run = {}};
@@ -117,6 +117,18 @@ void tell_left_out(frmMain & main)
     const std::string text = box_text(main, std::span(left_out.photos).subspan(left_out.told));
     left_out.told = left_out.photos.size();
     main.desk.message(text);
+}
+
+void tell_no_match(frmMain & main, const std::string & text)
+{
+    left_out_photos & left_out = main.left_out;
+    const bool why_is_told_elsewhere = left_out.told_by == left_out_photos::teller::caller;
+    if (has_usable_photo(main) || why_is_told_elsewhere)
+        return main.desk.message(text);
+    if (main.in_preview && left_out.told == left_out.photos.size())
+        return;
+    left_out.told = left_out.photos.size();
+    main.desk.message(text + "\r\n\r\n" + box_text(main, left_out.photos));
 }
 
 std::string line_of(const left_out_photo & photo)

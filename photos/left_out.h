@@ -23,5 +23,12 @@ bool has_usable_photo(const frmMain & main);
 /// Names those left out that haven't been named yet, in one box with the remedy; nothing when there are none.
 void tell_left_out(frmMain & main);
 
+/// Tells, in these words, that no photo fits the design; where none can be used at all, the same box names
+/// them with the reason. A preview doesn't repeat what the user knows.
+void tell_no_match(frmMain & main, const std::string & text);
+
+/// Why that photo, which can't be used, can't be.
+photo_fault fault_of(const std::string & photo);
+
 /// "/photos/a.jpg: it isn't there any more", in one line.
 std::string line_of(const left_out_photo & photo);

@@ -41,11 +41,11 @@ std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size 
 }
 
 std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory,
-                                       const std::stop_token & stop)
+                                       int scale, const std::stop_token & stop)
 {
     jpeg_rows photo(path, memory.reading);
     const std::optional<scaling_plan> plan = photo ? plan_to_fit(photo.size(), place) : std::nullopt;
-    return plan ? read_by_plan(photo, *plan, memory.scaling, stop) : std::nullopt;
+    return plan ? read_by_plan(photo, enlarged(*plan, scale), memory.scaling, stop) : std::nullopt;
 }
 
 std::optional<bitmap> read_thumbnail(const std::string & path, picture_size size, photo_memory & memory)

@@ -18,10 +18,10 @@ struct photo_memory {
 /// As `rescaled`. Raises out_of_memory (7), here and below.
 std::optional<bitmap> read_rescaled_jpeg(const std::string & path, picture_size size, photo_memory & memory);
 
-/// As `resize_image`; nothing as well for a photo that can't be fitted, and at the next row where a stop is
-/// asked for.
+/// As `resize_image`, with `scale` pixels for one in each direction; nothing as well for a photo that can't
+/// be fitted, and at the next row where a stop is asked for.
 std::optional<bitmap> read_fitted_jpeg(const std::string & path, picture_size place, photo_memory & memory,
-                                       const std::stop_token & stop = {});
+                                       int scale = 1, const std::stop_token & stop = {});
 
 /// As `rescaled`, with the notes that a saved thumbnail carries: its file has the same bytes. Nothing for a
 /// photo that has that size already.

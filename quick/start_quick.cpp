@@ -2,8 +2,10 @@
 
 #include "designs/catalogue/catalogue.h"
 #include "photos/chosen_photos.h"
+#include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
 #include "quick/no_template.h"
+#include "quick/photo_note.h"
 #include "quick/quick_match.h"
 #include "session/begin_collage.h"
 #include "session/main_window/redraw.h"
@@ -87,21 +89,12 @@ bool are_enough(frmMain & main)
     const photo_source kind = photo_source_kind(main);
     const int photos = main.table.last_photo + 1;
     if (photos >= fewest_photos)
-        return true;
+        return has_usable_photo(main);  // the count has told why there is none
     if (photos > 0)
         main.desk.message(too_few_message(kind, photos));
     else if (kind == photo_source::folder)
         main.desk.message("There are no photos in that folder.");
     return false;
-}
-
-void note_source(frmMain & main)
-{
-    if (photo_source_kind(main) == photo_source::selection)
-        main.lblOutput.set_caption("Using " + formatted(main.table.last_photo + 1, 2) +
-                                   " selected photos...");
-    else
-        main.lblOutput.set_caption("Using photos from   " + main.txtPhotos.text());
 }
 
 void prepare_controls(frmMain & main)
@@ -200,7 +193,8 @@ bool begin_quick(frmMain & main, const std::function<void()> & choose_photos)
     count_for_quick_styles(main);
     if (!are_enough(main))
         return false;
-    note_source(main);
+    main.run.photos_shown.clear();
+    note_photos_in_use(main);
     prepare_controls(main);
     const bool started = start_quick(main);
     if (started)
@@ -216,7 +210,10 @@ void take_new_photos(frmMain & main)
     note_photos(main);
     if (!main.collage.quick_active)
         return refresh_preview(main);
-    note_source(main);
+    main.run.photos_shown.clear();
+    note_photos_in_use(main);
+    if (!has_usable_photo(main))
+        return refresh_preview(main);  // no template is wanting
     const bool block = main.optBlock.selected();
     if ((block || main.optScatter.selected()) && !match_quick_style(main) &&
         block == main.optBlock.selected())

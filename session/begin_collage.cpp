@@ -7,10 +7,10 @@ void begin_collage(frmMain & main, collage_kind kind)
     main.collage.forced.release();
     main.collage = {};
     main.collage.kind = kind;
-    // The orientation options go on looking for a template of the style that is selected until another design
-    // is applied.
-    if (kind == collage_kind::quick)
-        main.quick = {};
+    // A style that stays selected would have a say in how another design is drawn.
+    main.quick = {};
+    for (option_button * each : main.style_options)
+        each->select(false);
     main.shape_row_bias = main.shape_column_bias = 0;
     main.skip_preview_click = false;
     main.drawn_background.reset();

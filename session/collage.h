@@ -1,9 +1,11 @@
 #pragma once
 
+#include "designs/templates/location.h"
 #include "session/forced_settings.h"
 #include "support/numbers.h"
 
 #include <string>
+#include <vector>
 
 enum class collage_kind { none, quick, designed, matrix, lettering, puzzle };
 
@@ -19,6 +21,11 @@ struct collage {
     bool design_matches = false;
     int16 landscape_turn = 0;  ///< degrees by which the template is turned; 100: a saved landscape design
     bool bg_from_design = false;
+
+    /// How the preview drawn last turned the order of its locations, of which there were so many.
+    std::vector<order_turn> turns_shown;
+    int16 locations_shown = 0;
+
     bool borders_free = true;  ///< false while a scatter needs a border
 
     // A matrix, and custom frames.

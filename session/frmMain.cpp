@@ -60,6 +60,8 @@ frmMain::frmMain(desktop & shown_on, random_source chance, windows * all_windows
     picFrameColor.set_back_color(0xFFFFFF);
     txtCaption.set_font({.name = "Sans Serif", .size = 16});
     lblPhotos.tag = "0";
+    mnuUndo.enable(false);
+    mnuRedo.enable(false);
     design_locations.clear();
     scratch_locations.clear();
 }

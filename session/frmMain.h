@@ -21,10 +21,12 @@
 #include "support/workers.h"
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 
 struct windows;
+class prepared_shelf;
 
 /// What `set_enable` remembers between its calls.
 struct enable_memory {
@@ -75,6 +77,11 @@ struct frmMain : form {
     menu_entry mnuStarted{*this, "mnuStarted", "Tutorials"};
     menu_entry mnuFAQ{*this, "mnuFAQ", "FAQ"};
     menu_entry mnuHelpAbout{*this, "mnuHelpAbout", "About Flurns"};
+
+    // In no bar, which is hidden while there is something to undo: at the preview, and by their keys.
+    menu_entry mnuChanges{*this, "mnuChanges"};
+    menu_entry mnuUndo{*this, "mnuUndo", "Undo"};
+    menu_entry mnuRedo{*this, "mnuRedo", "Redo"};
 
     // Photos and design of the collage.
     group frmOutput{*this, "frmOutput"};
@@ -221,6 +228,7 @@ struct frmMain : form {
     photo_table table;
     left_out_photos left_out;
     thumbnails_ahead thumbnails;
+    std::shared_ptr<prepared_shelf> copies{};  ///< of photos, in use as long as the session; empty before the first
     int16 selected_count = 0;           ///< photos written to the working list so far
     std::string working_list_path;      ///< the list that a selection is gathered in
     bool photo_list_edit_mode = false;  ///< saved lists are managed, not chosen from

@@ -5,7 +5,9 @@
 #include "desktop/program_folders.h"
 #include "desktop/qt_desktop.h"
 #include "session/connect_all.h"
+#include "session/drops.h"
 #include "session/start/start_up.h"
+#include "session/undo/keep_history.h"
 #include "support/files/paths.h"
 #include "support/for_now.h"
 #include "support/platform_error.h"
@@ -14,11 +16,19 @@
 
 namespace {
 
-void start(windows & all)
+drop_targets drops_on(windows & all, change_history & history)
+{
+    return connect_drops(
+        all, {.is_busy = [&history] { return history.actions > 0; },
+              .act = [&](const std::function<void()> & step) { act_as_user(all.main, history, step); }});
+}
+
+void start(windows & all, change_history & history)
 {
     all.main.install_folder = program_folder();
-    prepare_data_folder(all.main, data_folder_choice());
     connect_all(all);
+    prepare_data_folder(all.main, data_folder_choice());
+    keep_history(all.main, history);
     all.main.picSplash.load(joined(all.main.install_folder, "images/splash.png"));
     all.main.desk.show(all.main);
 }
@@ -35,11 +45,15 @@ int give_way(qt_desktop & desk, const std::string & data_folder)
 
 int run(qt_desktop & desk)
 {
+    change_history history;
     windows all(desk, clock_random());
     // Widgets go before the forms they show.
     const afterwards gone([&desk] { desk.forget_windows(); });
     try {
-        with_platform_errors([&all] { start(all); });
+        with_platform_errors([&] {
+            desk.drops = drops_on(all, history);
+            start(all, history);
+        });
     } catch (const data_folder_in_use & taken) {
         return give_way(desk, taken.data_folder);
     } catch (const end_of_program & end) {

@@ -36,7 +36,20 @@ struct text_request {
     int extra_width = 0;  ///< pixels added to the right of the text
 };
 
-enum class print_result { printed, no_printer, failed };
+enum class print_result {
+    sent,       ///< the printer has the job
+    held,       ///< its queue has the job, but the printer stands still
+    written,    ///< to a file instead
+    cancelled,  ///< by the user
+    no_printer,
+    failed
+};
+
+struct print_report {
+    print_result result = print_result::no_printer;
+    std::string where = {};  ///< the printer or the file
+    std::string why = {};    ///< what the system says of a failure or a standstill; may be empty
+};
 
 class desktop {
 public:
@@ -71,8 +84,9 @@ public:
 
     /// Opens a file or an address with the user's default program; false when there is none.
     virtual bool open_document(const std::string & target) = 0;
-    /// Prints on the default printer: whole, centred, proportions kept, on a page of that orientation.
-    virtual print_result print(const bitmap & image, orientation page) = 0;
+    /// Prints on one page of that orientation, whole, centred, proportions kept, on the printer that the user
+    /// takes: the default one is offered first.
+    virtual print_report print(const bitmap & image, orientation page) = 0;
 
     /// What the screen has for a window, in pixels at 100%.
     virtual picture_size screen_room() = 0;

@@ -1,6 +1,7 @@
 #include "support/numbers.h"
 
 #include "support/platform_error.h"
+#include "support/real_text.h"
 
 #include <charconv>
 #include <cmath>
@@ -127,12 +128,11 @@ double value_of(const decimal & number)
     std::string text = number.digits;
     if (!number.exponent.empty())
         text += "e" + number.exponent;
-    const char * start = text.data() + (text.front() == '+' ? 1 : 0);
-    double value = 0;
-    const auto [end, fault] = std::from_chars(start, text.data() + text.size(), value);
-    if (fault == std::errc::result_out_of_range && !is_tiny(number))
+    const std::size_t start = text.front() == '+' ? 1 : 0;
+    const real_read read = real_at_start(std::string_view(text).substr(start));
+    if (read.fault == std::errc::result_out_of_range && !is_tiny(number))
         overflow();
-    return value;
+    return read.value;
 }
 
 }  // namespace

@@ -24,6 +24,15 @@ constexpr rectangle grown(const rectangle & area, int by)
             .height = area.height + 2 * by};
 }
 
+/// The same rectangle where each pixel has become that many, in each direction.
+constexpr rectangle enlarged(const rectangle & area, int scale)
+{
+    return {.left = area.left * scale,
+            .top = area.top * scale,
+            .width = area.width * scale,
+            .height = area.height * scale};
+}
+
 /// Where something's upper left pixel comes to lie.
 struct position {
     int left = 0, top = 0;

@@ -136,7 +136,7 @@ bool scripted_desktop::open_document(const std::string & target)
     return opens_documents;
 }
 
-print_result scripted_desktop::print(const bitmap & image, orientation page)
+print_report scripted_desktop::print(const bitmap & image, orientation page)
 {
     printed_sizes.push_back({.width = image.width(), .height = image.height()});
     printed_pages.push_back(page);

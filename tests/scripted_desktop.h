@@ -43,7 +43,7 @@ public:
     int pumps = 0, breaths = 0;
     std::function<void()> on_breath;
     int busy_depth = 0;  ///< pointers turned on less those turned off
-    print_result next_print = print_result::printed;
+    print_report next_print = {.result = print_result::cancelled};
     std::vector<orientation> printed_pages;
     std::vector<picture_size> printed_sizes;
     picture_size room{.width = 1280, .height = 960};
@@ -68,7 +68,7 @@ public:
     std::optional<std::string> choose_save(const file_request & asked) override;
     std::optional<std::uint32_t> choose_color(std::uint32_t initial) override;
     bool open_document(const std::string & target) override;
-    print_result print(const bitmap & image, orientation page) override;
+    print_report print(const bitmap & image, orientation page) override;
     picture_size screen_room() override { return room; }
     std::vector<std::string> font_names() override { return fonts; }
     /// Draws each character but the blank as a bar of 0.6 by 0.8 of the size in pixels, 0.1 from the top.

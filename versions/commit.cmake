@@ -15,6 +15,7 @@ else()
     if(NOT commit MATCHES "^[0-9a-f]+$")
         set(commit "")
     endif()
+    string(SUBSTRING "${commit}" 0 12 commit)
 endif()
 file(CONFIGURE OUTPUT ${TO} @ONLY CONTENT [[
 #include "versions/version.h"

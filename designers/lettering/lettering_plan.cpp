@@ -203,6 +203,9 @@ std::string lettering_fault(const lettering_choices & choices)
     const lettering_measure text = measured(choices);
     if (text.letters == 0)
         return "There are no letters or digits in that text.";
+    // Other signs leave a gap that a reader understands.
+    if (choices.text.find('&') != std::string::npos)
+        return "There is no picture of  &.\r\n\r\nPlease write  and  instead.";
     if (text.size < smallest_letter || text.letters > most_lines)
         return "There is no room for so many letters.\r\n\r\nPlease shorten the text.";
     return {};

@@ -84,6 +84,26 @@ void take_shape_of_frames(course & across, course & down, std::vector<std::strin
         take_cell(down, nearest(across.cell * frame_ratio), "Shouldnothappen 2?", complaints);
 }
 
+// The room between two borders, and how far a grid in its middle reaches beyond it without leaving the
+// poster.
+struct bordered_room {
+    int room = 0, border = 0;
+};
+
+// A grid whose gaps couldn't give way any further may leave the poster. Both directions shrink alike then, so
+// that the cells keep the shape of the frames, until it stands between the borders. What only reaches into a
+// border stays.
+void scale_to_fit(course & along, course & other, const bordered_room & within)
+{
+    const int span = span_of(along), room = within.room;
+    if (room < 1 || span <= room + 2 * within.border)
+        return;
+    for (course * each : {&along, &other}) {
+        each->cell = static_cast<int>(static_cast<double>(each->cell) * room / span);
+        each->gap = static_cast<int>(static_cast<double>(each->gap) * room / span);
+    }
+}
+
 int centred(int room, const course & along, int border)
 {
     return nearest((room - span_of(along)) / 2.0 + border);
@@ -162,8 +182,11 @@ matrix_layout matrix_layout_of(const matrix_choices & choices, run_size size)
     const int down_room = poster.height - (borders.top + borders.bottom);
     course across = divided(across_room, choices.columns, choices.gap_h);
     course down = divided(down_room, choices.rows, choices.gap_v);
-    if (choices.frames)
+    if (choices.frames) {
         take_shape_of_frames(across, down, layout.complaints);
+        scale_to_fit(across, down, {.room = across_room, .border = std::min(borders.left, borders.right)});
+        scale_to_fit(down, across, {.room = down_room, .border = std::min(borders.top, borders.bottom)});
+    }
     layout.cell_width = across.cell;
     layout.cell_height = down.cell;
     layout.gap_h = across.gap;

@@ -186,10 +186,11 @@ puzzle_grid fit_grid(const puzzle_choices & choices, grid_lead lead)
 {
     puzzle_grid grid{.rows = choices.rows, .columns = choices.columns};
     const bool upright = choices.shape != poster_shape::landscape;
-    if (lead == grid_lead::columns)
+    const int columns = upright ? two_thirds(grid.rows) : three_halves(grid.rows);
+    if (lead == grid_lead::rows)
+        grid.columns = columns;
+    else if (grid.columns != columns)
         grid.rows = upright ? three_halves(grid.columns) : two_thirds(grid.columns);
-    else
-        grid.columns = upright ? two_thirds(grid.rows) : three_halves(grid.rows);
     if (choices.pieces == puzzle_pieces::four)
         grid.rows = rounded_down(grid.rows, 4);
     else if (choices.edges)

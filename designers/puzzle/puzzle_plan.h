@@ -28,6 +28,6 @@ struct puzzle_grid {
     bool operator==(const puzzle_grid &) const = default;
 };
 
-/// The counts as the poster's shape asks for, one of them leading. Rows come in fours where four pieces share
-/// a photo, and in twos with straight edges.
+/// The counts as the poster's shape asks for, one of them leading; rows that go with the columns stay. Rows
+/// come in fours where four pieces share a photo, and in twos with straight edges.
 puzzle_grid fit_grid(const puzzle_choices & choices, grid_lead lead);

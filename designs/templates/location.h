@@ -33,3 +33,9 @@ struct location_table {
     /// Forgets all locations; every record is blank again.
     void clear();
 };
+
+/// One shuffle of a table, as chance had it: dealt into `step` + 1 runs, put back from dealt location `first`
+/// on.
+struct order_turn {
+    int step = 0, first = 0;
+};

@@ -1,7 +1,5 @@
 #include "designs/templates/location_mixing.h"
 
-#include "designs/templates/location_order.h"
-
 void mix_locations(frmMain & main, mixing wanted)
 {
     location_table & table = main.design_locations;
@@ -12,11 +10,14 @@ void mix_locations(frmMain & main, mixing wanted)
     mix(table, main.mix_step);
 }
 
-void shuffle_locations(frmMain & main, int step)
+order_turn shuffle_locations(frmMain & main, int step)
 {
     location_table & table = main.design_locations;
+    order_turn turn{.step = step};
     if (table.count < fewest_shuffled)
-        return;
+        return turn;
     main.random.reseed();
-    shuffle(table, main.scratch_locations, step, first_dealt(table.count, main.random.next()));
+    turn.first = first_dealt(table.count, main.random.next());
+    shuffle(table, main.scratch_locations, turn);
+    return turn;
 }

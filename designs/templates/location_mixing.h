@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designs/templates/location_order.h"
 #include "session/frmMain.h"
 
 /// Changes the order of `main.design_locations`, by chance. Called before a loop runs, while `count` is the
@@ -13,5 +14,5 @@ enum class mixing { as_before, forced };
 void mix_locations(frmMain & main, mixing wanted);
 
 /// Deals the locations into `step` + 1 runs and puts them back from a random place on. Nothing with fewer
-/// than three.
-void shuffle_locations(frmMain & main, int step);
+/// than three. Gives the shuffle, so that it can be done again.
+order_turn shuffle_locations(frmMain & main, int step);

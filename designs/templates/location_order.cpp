@@ -73,11 +73,11 @@ int first_dealt(int count, double drawn)
     return nearest(drawn * last + 1) % last;
 }
 
-void shuffle(location_table & table, location_table & scratch, int step, int first)
+void shuffle(location_table & table, location_table & scratch, const order_turn & turn)
 {
     if (table.count < fewest_shuffled)
         return;
-    deal(table, scratch, step_inside(step + 1, table.count - 1));
+    deal(table, scratch, step_inside(turn.step + 1, table.count - 1));
     for (int i = 0; i < table.count; ++i)
-        table[i] = scratch[(first + i) % table.count];
+        table[i] = scratch[(turn.first + i) % table.count];
 }

@@ -26,4 +26,4 @@ int first_dealt(int count, double drawn);
 /// Deals the locations into `step` + 1 runs, from the last location down, and puts the runs back one after
 /// the other, beginning with dealt location `first` and coming round to it. `scratch` is overwritten. Nothing
 /// with fewer than `fewest_shuffled`.
-void shuffle(location_table & table, location_table & scratch, int step, int first);
+void shuffle(location_table & table, location_table & scratch, const order_turn & turn);

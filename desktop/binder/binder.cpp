@@ -7,6 +7,7 @@
 #include "desktop/binder/growing_room.h"
 #include "desktop/binder/main_keys.h"
 #include "desktop/binder/move_keys.h"
+#include "desktop/binder/shortcuts.h"
 #include "desktop/binder/wheel.h"
 #include "desktop/binder/window_room.h"
 #include "desktop/qt_text.h"
@@ -44,7 +45,6 @@ private:
     void act(const std::function<void()> & step);
     bool is_covered(const QWidget & widget) const;
     bool key_pressed(const QKeyEvent & event);
-    bool option_key(QRadioButton & option, int pressed);
     bool moved_about(int pressed);
     bool double_clicked(const QObject & watched);
     bool return_pressed(const QObject & watched, int pressed);
@@ -127,6 +127,8 @@ void binding::bind_control(control & held)
     } else {
         found->setObjectName(QString::fromStdString(held.name()));
     }
+    if (auto * const entry = qobject_cast<QAction *>(found))
+        give_keys(*entry, window);
     shown_by.insert(found, &held);
     bind_focus(held, *found);
     listen(held, *found, *this, [this, &held, found](const std::function<void()> & step) {
@@ -262,8 +264,11 @@ bool binding::eventFilter(QObject * watched, QEvent * event)
         auto * const option = qobject_cast<QRadioButton *>(watched);
         if ((option || watched == &window) && moved_about(pressed.key()))
             return true;
-        return watched == &window ? key_pressed(pressed) : option && option_key(*option, pressed.key());
+        return watched == &window ? key_pressed(pressed)
+                                  : option && moved_to_neighbour(*option, pressed.key());
     }
+    if (event->type() == QEvent::ShortcutOverride)
+        return left_to_window(*watched, static_cast<QKeyEvent &>(*event));
     if (event->type() == QEvent::MouseButtonDblClick)
         return double_clicked(*watched);
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
@@ -350,22 +355,6 @@ bool binding::double_clicked(const QObject & watched)
     if (!option || !option->on_double_click || !option->selected())
         return false;
     act([option] { option->on_double_click(); });
-    return true;
-}
-
-// With exclusion left to the session the toolkit's arrow keys would only wander.
-bool binding::option_key(QRadioButton & option, int pressed)
-{
-    const bool forward = pressed == Qt::Key_Down || pressed == Qt::Key_Right;
-    const bool backward = pressed == Qt::Key_Up || pressed == Qt::Key_Left;
-    if (!forward && !backward)
-        return false;
-    auto options = option.parentWidget()->findChildren<QRadioButton *>(Qt::FindDirectChildrenOnly);
-    options.removeIf([&](const QRadioButton * other) { return !other->isEnabled() || !other->isVisible(); });
-    const qsizetype count = options.size();
-    QRadioButton * const next = options[(options.indexOf(&option) + (forward ? 1 : count - 1)) % count];
-    next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    next->click();
     return true;
 }
 

@@ -187,6 +187,7 @@ void display_content(const picture & held, picture_view & widget)
     widget.setFocusPolicy(usable || can_be_dragged ? Qt::StrongFocus : Qt::NoFocus);
     widget.setCursor(can_be_dragged ? Qt::OpenHandCursor : usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
     widget.set_draggable(can_be_dragged);
+    widget.set_menu(static_cast<bool>(held.on_popup));
     widget.set_back_color(shown_color(held.back_color()));
     if (usable && held.file().empty())
         widget.setAccessibleDescription(shown_color(held.back_color()).name());
@@ -236,12 +237,20 @@ void display_tool_tip(const control & held, QWidget & widget)
 
 }  // namespace
 
+bool is_being_shown(const QObject & widget)
+{
+    return widget.property("beingShown").toBool();
+}
+
 void display(control & held, QObject & shown_on)
 {
     auto * const widget = qobject_cast<QWidget *>(&shown_on);
     if (widget)
         display_place(held, *widget);  // a picture is read as large as it stands
+    const bool nested = is_being_shown(shown_on);
+    shown_on.setProperty("beingShown", true);
     visit_pair(held, shown_on, [](auto & known, auto & its_widget) { display_content(known, its_widget); });
+    shown_on.setProperty("beingShown", nested);
     if (!widget)
         return;
     widget->setEnabled(held.enabled());

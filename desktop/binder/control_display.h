@@ -19,7 +19,11 @@
 ///   needs
 ///              it (larger letters); what is placed right of it or below it moves, and the window grows with
 ///              it
+///   keys       on a menu entry: its keys in the whole window, "Ctrl+Shift+Z; Ctrl+Y"
 ///   largest    pixels: the greatest height of letters that its box has room for
 
 /// Brings the widget to the state of its control; fires none of the signals that a user's action fires.
 void display(control & held, QObject & widget);
+
+/// True while `display` is at work on it.
+bool is_being_shown(const QObject & widget);

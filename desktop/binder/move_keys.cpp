@@ -31,3 +31,18 @@ void follow_selection(QWidget * had_keyboard)
         if (option->isChecked() && option->isVisible())
             option->setFocus(Qt::OtherFocusReason);
 }
+
+bool moved_to_neighbour(QRadioButton & option, int pressed)
+{
+    const bool forward = pressed == Qt::Key_Down || pressed == Qt::Key_Right;
+    const bool backward = pressed == Qt::Key_Up || pressed == Qt::Key_Left;
+    if (!forward && !backward)
+        return false;
+    auto options = option.parentWidget()->findChildren<QRadioButton *>(Qt::FindDirectChildrenOnly);
+    options.removeIf([&](const QRadioButton * other) { return !other->isEnabled() || !other->isVisible(); });
+    const qsizetype count = options.size();
+    QRadioButton * const next = options[(options.indexOf(&option) + (forward ? 1 : count - 1)) % count];
+    next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    next->click();
+    return true;
+}

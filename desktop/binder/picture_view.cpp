@@ -320,13 +320,14 @@ void picture_view::hideEvent(QHideEvent * event)
 // The keys for it are heard as keys: a platform that makes an event of them as well would ask twice.
 void picture_view::contextMenuEvent(QContextMenuEvent * event)
 {
-    if (!can_be_dragged) {
+    if (!can_be_dragged && !has_menu) {
         QAbstractButton::contextMenuEvent(event);
         return;
     }
     event->accept();
     if (event->reason() == QContextMenuEvent::Keyboard)
         return;
-    setFocus(Qt::PopupFocusReason);
+    if (can_be_dragged)
+        setFocus(Qt::PopupFocusReason);
     emit popup_wanted(event->globalPos());
 }

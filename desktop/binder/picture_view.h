@@ -39,6 +39,8 @@ public:
     /// One that can be dragged over the widget it stands in. It can take the keyboard, from which arrow keys
     /// lead to the nearest picture in their direction.
     void set_draggable(bool can_be_dragged);
+    /// One with a menu of its own, without being draggable.
+    void set_menu(bool has_one) { has_menu = has_one; }
 
     QSize sizeHint() const override;
     bool hasHeightForWidth() const override { return fits_width; }
@@ -67,7 +69,7 @@ private:
 
     QImage picture;
     QColor back;
-    bool fits_width = false, fits_whole = false, fills_view = false, can_be_dragged = false;
+    bool fits_width = false, fits_whole = false, fills_view = false, can_be_dragged = false, has_menu = false;
     QPoint grabbed_at;
     QPointer<QLabel> ghost;  // what follows the mouse
 

@@ -75,22 +75,33 @@ void turn_over(frmMain & main)
     });
 }
 
-bitmap drawn_caption(const frmMain & main)
+// The caption with that many pixels for one of the layout.
+text_request caption_request(const frmMain & main, int scale)
 {
     text_request request{.text = main.txtCaption.text(),
                          .font = main.txtCaption.font(),
                          .color = get_rgb_triple(main.txtCaption.fore_color()),
                          .background = {},
-                         .extra_width = caption_extra_width};
+                         .extra_width = caption_extra_width * scale};
     // The ground must not be the text's own colour: it is what is left out later.
     if (main.txtCaption.fore_color() < light_text)
         request.background = white;
     request.font.size = leading_number(main.txtCaption.tag);
     if (main.in_preview)
         request.font.size /= points_divisor;
-    if (request.text.empty() || request.font.size <= 0)
-        return {};
-    return main.desk.draw_text(request);
+    request.font.size *= scale;
+    return request;
+}
+
+bool is_visible(const text_request & caption)
+{
+    return !caption.text.empty() && caption.font.size > 0;
+}
+
+bitmap drawn_caption(const frmMain & main, int scale)
+{
+    const text_request request = caption_request(main, scale);
+    return is_visible(request) ? main.desk.draw_text(request) : bitmap();
 }
 
 double caption_border(const frmMain & main)
@@ -116,21 +127,41 @@ int room_below(const frmMain & main)
     return main.optLandscape.selected() ? 60 : 50;
 }
 
-// Canvas row, from the bottom, of the caption's lowest row.
-int caption_row(const frmMain & main, const bitmap & caption)
+// Row of the layout's canvas, from the bottom, of the caption's lowest row.
+int caption_row(const frmMain & main, picture_size canvas, picture_size caption)
 {
     const double border = caption_border(main);
     const int margin = main.run.collage_margin;
     if (main.optBottom.selected())
         return nearest(border + margin + room_below(main));
-    const int row = nearest(main.run.canvas.height() - (caption.height() + 75) - margin - border);
+    const int row = nearest(canvas.height - (caption.height + 75) - margin - border);
     return main.in_preview ? row + 65 : row;
 }
 
-int caption_column(const frmMain & main, const bitmap & caption)
+int caption_column(const frmMain & main, picture_size canvas, picture_size caption)
 {
-    const int column = nearest((main.run.canvas.width() - caption.width()) / 2.0);
+    const int column = nearest((canvas.width - caption.width) / 2.0);
     return main.in_preview ? column + 10 : column;
+}
+
+// The margins that are left out of a caption grow with it: what they have more goes off before.
+bitmap without_larger_margins(const bitmap & caption, int scale)
+{
+    const int more = empty_caption_margin * (scale - 1);
+    return copied(caption, 0, more, caption.width() - more, caption.height());
+}
+
+// Larger letters are not exactly as much larger: they stand about the middle of those of the layout.
+void print_caption(frmMain & main, const bitmap & caption, int scale)
+{
+    const picture_size drawn{.width = caption.width(), .height = caption.height()};
+    const picture_size own = scale == 1 ? drawn : main.desk.text_size(caption_request(main, 1));
+    const picture_size canvas{.width = main.run.canvas.width() / scale,
+                              .height = main.run.canvas.height() / scale};
+    print_text(main.run.canvas, without_larger_margins(caption, scale),
+               get_rgb_triple(main.txtCaption.fore_color()),
+               scale * caption_column(main, canvas, own) + (scale * own.width - drawn.width) / 2,
+               scale * caption_row(main, canvas, own) + (scale * own.height - drawn.height) / 2);
 }
 
 }  // namespace
@@ -155,13 +186,14 @@ void make_caption_room(frmMain & main)
 
 void prepare_caption(frmMain & main)
 {
-    main.run.caption_height = narrow(drawn_caption(main).height());
+    main.run.caption_height = narrow(drawn_caption(main, 1).height());
 }
 
 void add_caption(frmMain & main)
 {
     const std::string folder = work_path(main, "tmp");
-    const bitmap drawn = drawn_caption(main);
+    const int scale = main.run.drawn_at.canvas();
+    const bitmap drawn = drawn_caption(main, scale);
     // Without its work folder a collage goes without its caption.
     if (!drawn || !folder_exists(folder))
         return;
@@ -169,6 +201,5 @@ void add_caption(frmMain & main)
     save_bmp(drawn, path);
     const bitmap caption = load_picture(picture_format::bmp, path);
     if (caption)
-        print_text(main.run.canvas, caption, get_rgb_triple(main.txtCaption.fore_color()),
-                   caption_column(main, caption), caption_row(main, caption));
+        print_caption(main, caption, scale);
 }

@@ -39,7 +39,8 @@ ornaments worn_by_boxes(const frmMain & main, int rotation)
             .shadow_color = main.run.shadow_color,
             .corners = corners_of(main),
             .edges = soft ? photo_edges::soft : photo_edges::hard,
-            .size = size_of_run(main)};
+            .size = size_of_run(main),
+            .scale = main.run.drawn_at.canvas()};
 }
 
 ornaments worn_at(const frmMain & main, const location & place, int rotation)

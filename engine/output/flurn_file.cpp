@@ -7,7 +7,8 @@
 
 picture_size saved_size(picture_size own, int save_size)
 {
-    const bool full_square = own.width == own.height && save_size == full_long_side;
+    const bool full_square =
+        own.width == own.height && own.width <= full_short_side && save_size == full_long_side;
     const int long_side = std::max(own.width, own.height);
     if (full_square || save_size == long_side)
         return own;

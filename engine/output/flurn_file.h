@@ -4,8 +4,8 @@
 
 #include <string>
 
-/// Long side of a collage at full size; on a square poster it means the poster's own 2000.
-inline constexpr int full_long_side = 3000;
+/// The sides of a collage at full size; on a square poster the long one means the poster's own 2000.
+inline constexpr int full_long_side = 3000, full_short_side = 2000;
 
 /// The size in which a picture is saved so that its long side has `save_size` pixels, the short side rounded
 /// to nearest, ties to even.

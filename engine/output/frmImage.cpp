@@ -49,22 +49,37 @@ void load_window(frmImage & window, frmMain & main)
         delete_file(finished_path(main));
 }
 
+// What the user hears of a print: that it is on its way as well, so that nobody prints five times.
+std::string words_of(const print_report & report)
+{
+    const std::string why = report.why.empty() ? std::string() : "\r\n" + report.why;
+    switch (report.result) {
+        case print_result::sent:
+            return "The collage was sent to the printer " + report.where + ".";
+        case print_result::held:
+            return "The collage was sent to the printer " + report.where + ", which stands still." + why +
+                   "\r\n\r\nIt prints the collage as soon as it runs again.";
+        case print_result::written:
+            return "The printed page was written to\r\n" + report.where;
+        case print_result::cancelled:
+            return {};
+        case print_result::no_printer:
+            return "There is no printer.\r\n\r\nAdd one in the settings of this computer and print again, or "
+                   "save the "
+                   "collage and print the file.";
+        case print_result::failed:
+            break;
+    }
+    return "The collage could not be printed: " + report.where + why +
+           "\r\n\r\nSee to it and print again, or save the collage and print the file.";
+}
+
 void cmdPrint_click(frmMain & main)
 {
-    switch (main.desk.print(main.run.canvas,
-                            main.optLandscape.selected() ? orientation::landscape : orientation::portrait)) {
-        case print_result::printed:
-            break;
-        case print_result::no_printer:
-            main.desk.message(
-                "There is no printer.\r\n\r\nMake one the default printer of this computer and "
-                "print again, or save the collage and print the file.");
-            break;
-        case print_result::failed:
-            main.desk.message(
-                "The collage could not be printed.\r\n\r\nSee to the printer and print again, or "
-                "save the collage and print the file.");
-    }
+    const std::string words = words_of(main.desk.print(
+        main.run.canvas, main.optLandscape.selected() ? orientation::landscape : orientation::portrait));
+    if (!words.empty())
+        main.desk.message(words);
     set_enable(main, true);
 }
 

@@ -40,7 +40,7 @@ void lay_shape(frmMain & main, run_photo photo, const photo_place & at, const re
     bitmap fitted = painted ? bitmap() : fit_photo(main, std::move(photo), place.width, place.height);
     const bool outlined = main.chkOutline.visible() && main.chkOutline.ticked();
     draw_shape(main.run.canvas, std::move(fitted), place, at.worn,
-               {.mask = shape_mask(main, at.mask, place.width),
+               {.mask = shape_mask(main, at.mask, place.width * at.worn.scale),
                 .fill = painted ? std::optional(shape_fill(at.shape_color)) : std::nullopt,
                 .border = outlined ? shape_border::outlined : shape_border::lightened,
                 .column = shape_column(main, place)});
@@ -90,7 +90,8 @@ void lay_tilted(frmMain & main, run_photo photo, const photo_place & at)
         return;
     // The photo goes before the turn begins, which takes as much memory again.
     bitmap fitted = fit_photo(main, std::move(photo), area.width, area.height);
-    fitted = copied(fitted, 0, 0, area.width, area.height);
+    const int scale = at.worn.scale;
+    fitted = copied(fitted, 0, 0, area.width * scale, area.height * scale);
     tilt_onto_canvas(main, std::move(fitted), at, area);
 }
 
@@ -108,13 +109,13 @@ void lay_card(frmMain & main, run_photo photo, const photo_place & at)
 {
     const rectangle & area = at.area;
     const rectangle place = photo_on_card(area.width, area.height);
-    bitmap card =
-        captioned_card({.width = area.width, .height = area.height},
-                       fit_photo(main, std::move(photo), place.width, place.height), at.worn.frame_color);
+    bitmap card = captioned_card({.width = area.width, .height = area.height},
+                                 fit_photo(main, std::move(photo), place.width, place.height),
+                                 at.worn.frame_color, at.worn.scale);
     if (at.rotation == 0) {
-        paste(main.run.canvas, card, area.left, area.top, plain_copy);
+        paste(main.run.canvas, card, area.left * at.worn.scale, area.top * at.worn.scale, plain_copy);
     } else if (card) {
-        const rectangle tilted = tilted_area(main, {.width = card.width(), .height = card.height()}, area);
+        const rectangle tilted = tilted_area(main, {.width = area.width, .height = area.height}, area);
         tilt_onto_canvas(main, std::move(card), at, tilted);
     }
 }

@@ -9,10 +9,11 @@
 #include <stop_token>
 #include <string>
 
-/// A photo and the size of the place that it will be fitted to.
+/// A photo and the size of the place that it will be fitted to, drawn at a scale.
 struct wanted_photo {
     std::string path;
     picture_size place;
+    int scale = 1;
     bool operator==(const wanted_photo &) const = default;
 };
 

@@ -34,14 +34,17 @@ bitmap loaded(const std::string & path)
     return image ? std::move(*image) : load_picture(picture_format::jpeg, path);
 }
 
-bitmap fitted(const bitmap & image, int width, int height)
+bitmap fitted(const bitmap & image, picture_size place, int scale)
 {
     if (!image)
         return {};
     try {
-        const scaling_plan plan = covering_plan(size_of(image), width, height);
+        const scaling_plan plan = enlarged(covering_plan(size_of(image), place.width, place.height), scale);
         scaling_memory memory;
-        return is_possible(plan) ? scaled_by_rows(image, plan, memory) : resize_image(image, width, height);
+        if (is_possible(plan))
+            return scaled_by_rows(image, plan, memory);
+        // What is larger than any canvas could show nothing there.
+        return scale == 1 ? resize_image(image, place.width, place.height) : bitmap();
     } catch (const platform_error & error) {
         if (error.number != error_number::overflow)
             throw;
@@ -49,10 +52,10 @@ bitmap fitted(const bitmap & image, int width, int height)
     }
 }
 
-bitmap fitted_or_none(const bitmap & image, picture_size place)
+bitmap fitted_or_none(const bitmap & image, picture_size place, int scale)
 {
     try {
-        return fitted(image, place.width, place.height);
+        return fitted(image, place, scale);
     } catch (const photo_too_long &) {
         return {};
     }
@@ -61,7 +64,7 @@ bitmap fitted_or_none(const bitmap & image, picture_size place)
 run_photo whole_and_fitted(const wanted_photo & wanted)
 {
     run_photo photo(loaded(wanted.path));
-    photo.fitted = fitted_or_none(photo.whole, wanted.place);
+    photo.fitted = fitted_or_none(photo.whole, wanted.place, wanted.scale);
     return photo;
 }
 
@@ -72,7 +75,8 @@ run_photo fitted_photo(const wanted_photo & wanted, picture_size own, const std:
     photo_memory memory;
     run_photo photo;
     photo.own = own;
-    if (std::optional<bitmap> read = read_fitted_jpeg(wanted.path, wanted.place, memory, stop)) {
+    if (std::optional<bitmap> read =
+            read_fitted_jpeg(wanted.path, wanted.place, memory, wanted.scale, stop)) {
         photo.fitted = std::move(*read);
     } else if (!stop.stop_requested()) {
         photo = whole_and_fitted(wanted);
@@ -92,6 +96,11 @@ read_photo read_to_fit(const wanted_photo & wanted, const known_file & known, co
     read.photo.path = wanted.path;
     read.photo.place = wanted.place;
     return read;
+}
+
+wanted_photo wanted_for(const frmMain & main, const std::string & path, picture_size place)
+{
+    return {.path = path, .place = place, .scale = main.run.drawn_at.canvas()};
 }
 
 auto found_ahead(photo_ahead & ahead, const wanted_photo & wanted)
@@ -195,7 +204,7 @@ std::optional<run_photo> photo_from_shelf(frmMain & main, const wanted_photo & w
         photo.fitted = copy_of(*there);
     } else {
         photo.whole = copy_of(*main.run.small.find(key_of_whole(wanted, known)));
-        photo.fitted = fitted_or_none(photo.whole, wanted.place);
+        photo.fitted = fitted_or_none(photo.whole, wanted.place, wanted.scale);
         keep_if_small(main, key_of(wanted, known), photo.fitted);
     }
     return photo;
@@ -208,7 +217,7 @@ std::optional<wanted_photo> wanted_at(frmMain & main, const std::string & path,
 {
     const std::optional<picture_size> own = size_of_photo(main, path);
     try {
-        return own ? std::optional(wanted_photo{.path = path, .place = place_of(*own)}) : std::nullopt;
+        return own ? std::optional(wanted_for(main, path, place_of(*own))) : std::nullopt;
     } catch (const platform_error &) {
         return std::nullopt;  // it will be told when it is the photo's turn
     }
@@ -242,7 +251,7 @@ run_photo load_photo(frmMain & main, const std::string & path, const place_of_ph
             none.path = path;
             return none;
         }
-        const wanted_photo wanted{.path = path, .place = place_of(*known.size)};
+        const wanted_photo wanted = wanted_for(main, path, place_of(*known.size));
         if (std::optional<run_photo> photo = photo_from_shelf(main, wanted, known))
             return std::move(*photo);
         read_photo read = photo_read(main, wanted);
@@ -256,12 +265,14 @@ run_photo load_photo(frmMain & main, const std::string & path, const place_of_ph
 
 bitmap fit_photo(frmMain & main, run_photo photo, int width, int height)
 {
-    if (photo.fitted && photo.place == picture_size{.width = width, .height = height})
+    const picture_size place{.width = width, .height = height};
+    if (photo.fitted && photo.place == place)
         return std::move(photo.fitted);
+    const int scale = main.run.drawn_at.canvas();
     if (!photo || (photo.whole && is_small(size_of(photo.whole))))
-        return fitted(photo.whole, width, height);
-    return awaited_in_run(main, main.workers.begin_at_once([photo = std::move(photo), width, height] {
-        return photo.whole ? fitted(photo.whole, width, height) : fitted(loaded(photo.path), width, height);
+        return fitted(photo.whole, place, scale);
+    return awaited_in_run(main, main.workers.begin_at_once([photo = std::move(photo), place, scale] {
+        return photo.whole ? fitted(photo.whole, place, scale) : fitted(loaded(photo.path), place, scale);
     }));
 }
 

@@ -37,7 +37,8 @@ void read_ahead(frmMain & main, const std::vector<wanted_photo> & next);
 /// Drops what was read ahead, and stops what is being read. Waits for nothing.
 void forget_ahead(frmMain & main);
 
-/// As `resize_image` fits the whole photo. Raises photo_too_long, run_cancelled.
+/// As `resize_image` fits the whole photo into a place of the layout, drawn at the scale of the run. Raises
+/// photo_too_long, run_cancelled.
 bitmap fit_photo(frmMain & main, run_photo photo, int width, int height);
 
 /// Writes a JPEG. Raises what `save_jpeg` raises.

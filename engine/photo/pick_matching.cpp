@@ -82,7 +82,7 @@ matched_photo pick_matching(frmMain & main, picture_size location, const place_o
         request, cursors, [&](int index, orientation wish) { return looked_at(main, index, wish, search); });
     keep_cursors(main.run, cursors);
     if (!found) {
-        main.desk.message("No images match the design");
+        tell_no_match(main, "No images match the design");
         return {};
     }
     return {.photo = std::move(search.photo), .index = *found};

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int left_out = 5;
+constexpr int left_out = empty_caption_margin + 1;
 
 // The last row and column that are looked at.
 int last_row(const bitmap & caption)

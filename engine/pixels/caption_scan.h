@@ -5,6 +5,9 @@
 /// The caption is drawn on a ground of one colour and laid on the collage without it. Rows count from the
 /// bottom; the top four rows and the last four columns hold nothing of the text and are left out.
 
+/// So many rows and columns are left out.
+inline constexpr int empty_caption_margin = 4;
+
 /// The colour of the ground: that of the bottom-left pixel, black for no picture.
 rgb_triple ground_of(const bitmap & caption);
 

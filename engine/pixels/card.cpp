@@ -22,11 +22,11 @@ rectangle photo_on_card(int width, int height)
             .height = nearest(height - (height / writing_part + 2 * margin))};
 }
 
-bitmap captioned_card(picture_size size, const bitmap & photo, rgb_triple color)
+bitmap captioned_card(picture_size size, const bitmap & photo, rgb_triple color, int scale)
 {
-    bitmap card(size.width, size.height);
+    bitmap card(size.width * scale, size.height * scale);
     fill(card, color);
     const rectangle place = photo_on_card(size.width, size.height);
-    paste(card, photo, place.left, place.top, plain_copy);
+    paste(card, photo, place.left * scale, place.top * scale, plain_copy);
     return card;
 }

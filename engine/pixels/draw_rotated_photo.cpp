@@ -2,6 +2,7 @@
 
 #include "engine/pixels/draw_frame.h"
 #include "engine/pixels/draw_shadow.h"
+#include "engine/pixels/paste_turned.h"
 #include "engine/pixels/soft_edge_paste.h"
 
 #include <algorithm>
@@ -25,11 +26,11 @@ struct tilted_photo {
 /// knows of no frame then.
 void frame_early(tilted_photo & work)
 {
-    const int width = work.how.worn.frame;
+    const int width = work.how.worn.frame, scale = work.how.worn.scale;
     const rectangle inner = work.how.place;
     work.how.place = grown(inner, width);
-    bitmap framed(work.how.place.width, work.how.place.height);
-    paste(framed, work.photo, width, width, opaque);
+    bitmap framed(work.how.place.width * scale, work.how.place.height * scale);
+    paste(framed, work.photo, width * scale, width * scale, opaque);
     draw_frame(framed, {.left = width, .top = width, .width = inner.width, .height = inner.height},
                work.how.worn, work.how.rotation);
     work.photo = std::move(framed);
@@ -113,21 +114,30 @@ bitmap turned_ground(const bitmap & canvas, const tilted_photo & work, const pix
     return ground;
 }
 
-/// Photo, frame and shadow, upright, on a part of the turned area.
-void draw_upright(const tilted_photo & work, const pixel_window & window, bitmap & ground)
+/// Photo, frame and shadow, upright, on a ground of the same scale.
+void draw_upright(bitmap & ground, const bitmap & photo, const rectangle & place, const tilt & how)
 {
-    const tilt & how = work.how;
-    const rectangle place{.left = how.numbers.put_left - window.left,
-                          .top = how.numbers.put_top - (work.sizes.turned.height - window.high),
-                          .width = how.place.width,
-                          .height = how.place.height};
+    const int scale = how.worn.scale;
     if (how.worn.edges == photo_edges::soft) {
-        soft_edge_paste(ground, work.photo, place);
+        soft_edge_paste(ground, photo, place, scale);
         return;
     }
-    paste(ground, work.photo, place.left, place.top, opaque);
+    paste(ground, photo, place.left * scale, place.top * scale, opaque);
     draw_frame(ground, place, how.worn, how.rotation);
     draw_shadow(ground, place, how.worn);
+    // From ten degrees on a frame reaches one pixel under its shadow. The library's turn blurs that; a larger
+    // one would show it as a line.
+    if (scale > 1)
+        draw_frame(ground, place, how.worn, how.rotation);
+}
+
+/// The photo's place in a part of the turned area.
+rectangle place_in(const pixel_window & window, const tilted_photo & work)
+{
+    return {.left = work.how.numbers.put_left - window.left,
+            .top = work.how.numbers.put_top - (work.sizes.turned.height - window.high),
+            .width = work.how.place.width,
+            .height = work.how.place.height};
 }
 
 std::vector<picture_point> turned_corners(const pixel_window & window, picture_size size, int degrees)
@@ -190,7 +200,7 @@ void draw_tilted(bitmap & canvas, const tilted_photo & work, const mask_sheet & 
                                                                    .right = marked.right + margin,
                                                                    .high = marked.high + margin});
     bitmap ground = turned_ground(canvas, work, window);
-    draw_upright(work, window, ground);
+    draw_upright(ground, work.photo, place_in(window, work), work.how);
     bitmap marks;
     if (sheet.drawn != nullptr)
         marks = copied(*sheet.drawn, 0, 0, marked.right - marked.left, marked.high - marked.low);
@@ -201,6 +211,67 @@ void draw_tilted(bitmap & canvas, const tilted_photo & work, const mask_sheet & 
               .low = window.low,
               .marked = marked,
               .marks = marks ? &marks : nullptr});
+}
+
+/// Width of the frame round the photo in the sheet.
+int framed_by(const tilted_photo & work)
+{
+    const ornaments & worn = work.how.worn;
+    return worn.frame > 0 && worn.corners != photo_corners::rounded && worn.edges == photo_edges::hard
+               ? work.ring + 1
+               : 0;
+}
+
+bool is_seen_through(const ornaments & worn)
+{
+    return worn.shadow > 0 || worn.edges == photo_edges::soft;
+}
+
+/// How far each pixel of the sheet is covered: what covers is drawn in white.
+bitmap cover_of(const tilted_photo & work, const rectangle & place, picture_size sheet)
+{
+    constexpr rgb_triple white{255, 255, 255};
+    tilt how = work.how;
+    how.worn.frame_color = how.worn.shadow_color = white;
+    bitmap photo(work.photo.width(), work.photo.height());
+    fill(photo, white);
+    bitmap cover(sheet.width, sheet.height);
+    draw_upright(cover, photo, place, how);
+    return cover;
+}
+
+/// Photo, frame and shadow, upright, on a sheet of their own with the photo at `place`.
+covered_picture drawn_sheet(const tilted_photo & work, const rectangle & place)
+{
+    const ornaments & worn = work.how.worn;
+    const int scale = worn.scale, behind = place.left + std::max(worn.shadow, 0);
+    const picture_size size{.width = (place.right() + behind) * scale,
+                            .height = (place.bottom() + behind) * scale};
+    covered_picture sheet{.colors = bitmap(size.width, size.height), .cover = {}, .filled = {}};
+    draw_upright(sheet.colors, work.photo, place, work.how);
+    if (is_seen_through(worn))
+        sheet.cover = cover_of(work, place, size);
+    else
+        sheet.filled = enlarged(grown(place, framed_by(work)), scale);
+    return sheet;
+}
+
+/// A larger photo is turned exactly, about the point to which the tables bring its middle.
+void draw_larger(bitmap & canvas, const tilted_photo & work, const mask_sheet & white)
+{
+    if (!can_be_drawn(work, sheet_window(work), white.size))
+        return;
+    const tilt & how = work.how;
+    const double scale = how.worn.scale, width = how.place.width, height = how.place.height;
+    const picture_point middle =
+        on_canvas(how.numbers, work.sizes, how.rotation,
+                  {.x = how.numbers.put_left + width / 2, .y = how.numbers.put_top + height / 2});
+    const int room = std::max(how.worn.frame, 0) + 2;
+    const rectangle place{.left = room, .top = room, .width = how.place.width, .height = how.place.height};
+    paste_turned(canvas, drawn_sheet(work, place),
+                 {.from = {.x = scale * (room + width / 2), .y = scale * (room + height / 2)},
+                  .to = {.x = scale * (how.place.left + middle.x), .y = scale * (how.place.top + middle.y)},
+                  .degrees = how.rotation});
 }
 
 void take_numbers(tilted_photo & work, const rotation_numbers & of_section, int divisor)
@@ -224,5 +295,8 @@ void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const m
     // The areas of a preview are meant for the usual sizes; a larger photo takes the area of the full size.
     if (divisor > 1 && !is_wholly_drawn(work, sheet.size))
         take_numbers(work, how.numbers, 1);
-    draw_tilted(canvas, work, sheet);
+    if (work.how.worn.scale == 1)
+        draw_tilted(canvas, work, sheet);
+    else
+        draw_larger(canvas, work, sheet);
 }

@@ -18,5 +18,6 @@ struct tilt {
 };
 
 /// Puts one photo, fitted to the place, on the canvas turned about its own upper left corner, which stays
-/// where it is. Only the photo's own pixels are disturbed.
+/// where it is. Only the photo's own pixels are disturbed. The place and the numbers are in pixels of the
+/// layout; canvas and photo have the scale of what is worn.
 void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet);

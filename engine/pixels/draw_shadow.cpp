@@ -8,8 +8,8 @@ void draw_shadow(bitmap & target, const rectangle & photo, const ornaments & wor
     if (worn.shadow < 1 || worn.corners == photo_corners::rounded)
         return;
     const rectangle framed = grown(photo, worn.frame);
-    for (const shadow_line & line : right_shadow(framed, worn.shadow))
+    for (const shadow_line & line : right_shadow(framed, worn.shadow, worn.scale))
         blend_rectangle(target, line.area, worn.shadow_color, line.alpha);
-    for (const shadow_line & line : bottom_shadow(framed, worn.shadow))
+    for (const shadow_line & line : bottom_shadow(framed, worn.shadow, worn.scale))
         blend_rectangle(target, line.area, worn.shadow_color, line.alpha);
 }

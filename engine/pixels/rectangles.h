@@ -10,6 +10,15 @@ struct pixel_bounds {
     int left = 0, right = 0, low = 0, high = 0;
 };
 
+/// The same bounds where each pixel has become that many, in each direction.
+constexpr pixel_bounds enlarged(const pixel_bounds & bounds, int scale)
+{
+    return {.left = bounds.left * scale,
+            .right = (bounds.right + 1) * scale - 1,
+            .low = bounds.low * scale,
+            .high = (bounds.high + 1) * scale - 1};
+}
+
 /// Sets every pixel inside the bounds; what lies outside the target is ignored.
 void fill_bounds(bitmap & target, const pixel_bounds & bounds, rgb_triple color);
 

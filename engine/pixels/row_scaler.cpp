@@ -6,10 +6,17 @@
 namespace {
 
 constexpr int side_limit = 32768;
+constexpr int scaled_limit = 8 * side_limit;  // for a part of it that is small enough
 
 bool is_usable(picture_size size)
 {
     return size.width > 0 && size.height > 0 && size.width < side_limit && size.height < side_limit;
+}
+
+bool lies_in(const rectangle & part, picture_size size)
+{
+    return part.left >= 0 && part.top >= 0 && part.width <= size.width - part.left &&
+           part.height <= size.height - part.top;
 }
 
 std::size_t row_bytes(int width)
@@ -33,12 +40,18 @@ scaling_plan all_scaled(picture_size source, picture_size scaled)
             .wanted = {.left = 0, .top = 0, .width = scaled.width, .height = scaled.height}};
 }
 
+scaling_plan enlarged(const scaling_plan & plan, int scale)
+{
+    return {.source = plan.source,
+            .scaled = {.width = plan.scaled.width * scale, .height = plan.scaled.height * scale},
+            .wanted = enlarged(plan.wanted, scale)};
+}
+
 bool is_possible(const scaling_plan & plan)
 {
-    const rectangle & wanted = plan.wanted;
-    return is_usable(plan.source) && is_usable(plan.scaled) && wanted.left >= 0 && wanted.top >= 0 &&
-           wanted.width > 0 && wanted.height > 0 && wanted.width <= plan.scaled.width - wanted.left &&
-           wanted.height <= plan.scaled.height - wanted.top;
+    return is_usable(plan.source) && is_usable({.width = plan.wanted.width, .height = plan.wanted.height}) &&
+           plan.scaled.width < scaled_limit && plan.scaled.height < scaled_limit &&
+           lies_in(plan.wanted, plan.scaled);
 }
 
 row_scaler::row_scaler(const scaling_plan & to_do, scaling_memory & kept, arithmetic by)

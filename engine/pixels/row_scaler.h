@@ -16,7 +16,11 @@ struct scaling_plan {
 /// The plan that wants all of the scaled picture.
 scaling_plan all_scaled(picture_size source, picture_size scaled);
 
-/// True for a plan that can be carried out: every size at least 1 and below 32,768, the wanted part inside.
+/// The same plan for a result that has that many pixels for one, in each direction.
+scaling_plan enlarged(const scaling_plan & plan, int scale);
+
+/// True for a plan that can be carried out: every size at least 1, that of the source and of the wanted part
+/// below 32,768, that of the scaled picture below eight times as much, the wanted part inside.
 bool is_possible(const scaling_plan & plan);
 
 /// What a scaler needs of memory. Handed on from photo to photo it is asked of the system once; each thread

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// One line, or one corner pixel, of a shadow, in pixels from the top.
+/// One line, or one corner pixel, of a shadow, in drawn pixels from the top.
 struct shadow_line {
     rectangle area;
     int alpha = 0;  ///< weight of the shadow's colour, 10 to 200
@@ -15,8 +15,9 @@ struct shadow_line {
 int fade(int lost);
 
 /// The band right of `framed`, a photo with its frame: columns that fade outwards, in the order in which they
-/// are drawn.
-std::vector<shadow_line> right_shadow(const rectangle & framed, int shadow_size);
+/// are drawn. Both sizes are pixels of the layout, of which `scale` are drawn for one: the fading is reckoned
+/// anew for each.
+std::vector<shadow_line> right_shadow(const rectangle & framed, int shadow_size, int scale = 1);
 
 /// The band below it: rows that fade downwards.
-std::vector<shadow_line> bottom_shadow(const rectangle & framed, int shadow_size);
+std::vector<shadow_line> bottom_shadow(const rectangle & framed, int shadow_size, int scale = 1);

@@ -9,9 +9,9 @@
 
 namespace {
 
-/// Alpha of the ring `i` pixels outside the core. Of the widest class the last one would come out as -1,
-/// which the library takes for an opaque line.
-int ring_alpha(const soft_class & edge, int i)
+/// Alpha of the ring whose middle lies `i` pixels of the layout outside the core. Of the widest class the
+/// last one would come out as -1, which the library takes for an opaque line.
+int ring_alpha(const soft_class & edge, double i)
 {
     return std::max(nearest(255 - i * edge.step), 0);
 }
@@ -37,18 +37,19 @@ std::vector<rectangle> strips_of(const rectangle & area)
 
 }  // namespace
 
-void soft_edge_paste(bitmap & target, const bitmap & image, const rectangle & place)
+void soft_edge_paste(bitmap & target, const bitmap & image, const rectangle & place, int scale)
 {
     const soft_class edge = soft_class_of(std::min(place.width, place.height));
     const auto part = [&](const rectangle & area, int alpha) {
-        paste_rectangle(target, image, area, {.left = place.left + area.left, .top = place.top + area.top},
-                        alpha);
+        paste_rectangle(target, image, area,
+                        {.left = place.left * scale + area.left, .top = place.top * scale + area.top}, alpha);
     };
-    const rectangle photo{.left = 0, .top = 0, .width = place.width, .height = place.height};
-    const rectangle core = grown(photo, -edge.feather);
+    const rectangle photo{.left = 0, .top = 0, .width = place.width * scale, .height = place.height * scale};
+    const int rings = edge.feather * scale;
+    const rectangle core = grown(photo, -rings);
     if (core.width > 0 && core.height > 0)
         part(core, plain_copy);
-    for (int i = 1; i <= edge.feather; ++i)
-        for (const rectangle & strip : strips_of(grown(photo, i - edge.feather)))
-            part(strip, ring_alpha(edge, i));
+    for (int i = 1; i <= rings; ++i)
+        for (const rectangle & strip : strips_of(grown(photo, i - rings)))
+            part(strip, ring_alpha(edge, (i - 0.5) / scale + 0.5));
 }

@@ -1,5 +1,6 @@
 #include "frames/icons/frmIconName.h"
 
+#include "frames/icons/icon_line.h"
 #include "frames/icons/icon_list.h"
 #include "session/windows.h"
 
@@ -18,6 +19,11 @@ void cmdOk_click(windows & all)
     const std::string & name = all.icon_name.txtName.text();
     if (name.empty())
         return;
+    const std::string fault = icon_name_fault(name);
+    if (!fault.empty()) {
+        all.main.desk.message(fault);
+        return;
+    }
     if (is_icon_name_taken(all.main, name)) {
         all.main.desk.message("You already have an icon named '" + name +
                               "'\r\nPlease enter a different name.");

@@ -11,6 +11,15 @@ std::optional<icon_entry> icon_of_line(std::string_view line)
                       .file = std::string(line.substr(blank + 1))};
 }
 
+std::string icon_name_fault(std::string_view name)
+{
+    if (name.find(' ') != std::string_view::npos)
+        return "The name of an icon can't have a blank in it.\r\nPlease enter one word.";
+    if (name.find_first_of("\r\n") != std::string_view::npos)
+        return "The name of an icon can't have a line break in it.";
+    return {};
+}
+
 std::optional<std::string> icon_file_name(std::string_view picture_path, std::string_view suffix)
 {
     constexpr std::size_t extension = 4;

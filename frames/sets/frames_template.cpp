@@ -4,7 +4,10 @@
 #include "frames/sets/deal_frames.h"
 #include "frames/sets/frame_field.h"
 #include "frames/sets/frame_sets.h"
+#include "photos/lists/pls_line.h"
 #include "photos/lists/saved_lists.h"
+#include "photos/photo_orientation.h"
+#include "support/MFreeImage.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 
@@ -17,13 +20,22 @@ std::string list_of_set(const frmMain & main)
     return list == "None" ? std::string() : list;
 }
 
+// A list that was gathered without a look at its photos calls all of them landscape.
+std::string letter_of(const std::string & line)
+{
+    const std::string letter = lower_case(line.substr(0, 1));
+    const bool is_looked_at = letter != "l";
+    const auto size = is_looked_at ? std::nullopt : usable_jpeg_size(photo_of_line(line));
+    return counted_orientation(size) == orientation::portrait ? "p" : letter;
+}
+
 // The orientation letters of the photos of a list.
 std::string order_of(const std::string & path)
 {
     std::string letters;
     for (line_source lines(path); !lines.at_end();)
-        letters += lines.read_line().substr(0, 1);
-    return lower_case(letters);
+        letters += letter_of(lines.read_line());
+    return letters;
 }
 
 void read_rest(line_source & lines, std::vector<std::string> & into)

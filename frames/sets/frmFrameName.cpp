@@ -11,6 +11,13 @@ namespace {
 
 constexpr std::size_t longest_name = 255;  // bytes, as file systems have it
 
+// At either end they can't be seen, and a list of names is read back without them.
+std::string without_blanks_around(const std::string & name)
+{
+    const std::size_t first = name.find_first_not_of(' ');
+    return first == std::string::npos ? "" : name.substr(first, name.find_last_not_of(' ') + 1 - first);
+}
+
 // A name without a letter, "." and ".." are folders that are there.
 std::string name_fault(const frmMain & main, const std::string & name)
 {
@@ -24,7 +31,7 @@ std::string name_fault(const frmMain & main, const std::string & name)
 
 void cmdOk_click(windows & all)
 {
-    const std::string & name = all.frame_name.txtName.text();
+    const std::string name = without_blanks_around(all.frame_name.txtName.text());
     const std::string fault = name_fault(all.main, name);
     if (!fault.empty()) {
         all.main.desk.message(fault);

@@ -50,11 +50,6 @@ void load_pictures(windows & all)
     window.cmdSave.enable(!is_empty(window));
 }
 
-std::string truncation_message()
-{
-    return "Photo list truncated to the first 60 photos.\r\n\r\nRemove some photos before adding more.";
-}
-
 // The photos for which there is room behind the `count` of the grid; the others are told once.
 std::vector<std::string> fitting(frmMain & main, std::vector<std::string> photos, int count)
 {

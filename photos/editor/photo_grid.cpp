@@ -57,19 +57,62 @@ void show_checking(windows & all, const std::string & photo)
         notice->set_caption(text);
 }
 
+// What a cell shows of a photo. That a file stands in the way of thumbnails is told once a folder.
+cell_content loaded_content(frmMain & main, const std::string & photo, std::string & told_folder)
+{
+    show_checking(*main.all, photo);
+    if (file_exists(photo) && !make_thumbnail_folder(photo) && told_folder != folder_of(photo)) {
+        told_folder = folder_of(photo);
+        main.desk.message("Conflicting file for thumb directory");
+    }
+    const edit_thumbnail shown = thumbnail_for_editing(main, photo);
+    return {.photo = photo, .file = shown.file, .shape = shown.shape};
+}
+
 void fill_grid(frmMain & main, std::vector<std::string> & photos)
 {
     std::string told_folder;
     for (int number = 0; number < editable_photos && !photos.empty(); ++number) {
-        const std::string & photo = photos.front();
-        show_checking(*main.all, photo);
-        if (file_exists(photo) && !make_thumbnail_folder(photo) && told_folder != folder_of(photo)) {
-            told_folder = folder_of(photo);
-            main.desk.message("Conflicting file for thumb directory");
-        }
-        const edit_thumbnail shown = thumbnail_for_editing(main, photo);
-        fill_cell(main.all->pictures, number, {.photo = photo, .file = shown.file, .shape = shown.shape});
+        fill_cell(main.all->pictures, number, loaded_content(main, photos.front(), told_folder));
         photos.erase(photos.begin());
+    }
+}
+
+std::optional<int> first_free(const frmPictures & window)
+{
+    for (int cell = 0; cell < editable_photos; ++cell)
+        if (is_empty(window.picIn[static_cast<std::size_t>(cell)]))
+            return cell;
+    return std::nullopt;
+}
+
+std::optional<int> behind_the_last(const frmPictures & window)
+{
+    int cell = editable_photos;
+    while (cell > 0 && is_empty(window.picIn[static_cast<std::size_t>(cell - 1)]))
+        --cell;
+    return cell < editable_photos ? std::optional(cell) : first_free(window);
+}
+
+// The cell that takes a photo wanted there, emptied for it.
+std::optional<int> cell_for(frmPictures & window, int wanted)
+{
+    if (wanted < editable_photos && make_gap(window, wanted))
+        return wanted;
+    return first_free(window);
+}
+
+void add_each(frmMain & main, const std::vector<std::string> & photos, int wanted)
+{
+    frmPictures & window = main.all->pictures;
+    std::string told_folder;
+    for (const std::string & photo : photos) {
+        if (!first_free(window)) {
+            main.desk.message(truncation_message());
+            return;
+        }
+        const cell_content content = loaded_content(main, photo, told_folder);
+        fill_cell(window, *cell_for(window, wanted++), content);
     }
 }
 
@@ -85,6 +128,11 @@ void note_left_behind(frmPictures & window, std::vector<std::string> photos, loa
 }
 
 }  // namespace
+
+std::string truncation_message()
+{
+    return "Photo list truncated to the first 60 photos.\r\n\r\nRemove some photos before adding more.";
+}
 
 bool is_empty(const picture & cell)
 {
@@ -150,6 +198,19 @@ void load_photo_grid(frmMain & main, const std::string & path)
         note_left_behind(main.all->pictures, std::move(photos), loading::done);
     } catch (const platform_error & error) {
         note_left_behind(main.all->pictures, std::move(photos), loading::broken_off);
+        main.desk.message("CAUGHT AN ERROR " + told(error));
+    }
+}
+
+void add_photos_at(frmMain & main, const std::vector<std::string> & photos, std::optional<int> cell)
+{
+    frmPictures & window = main.all->pictures;
+    const std::optional<int> wanted = cell ? cell : behind_the_last(window);
+    const busy pointer(main.desk);
+    const for_now held_open(window.checking, true);
+    try {
+        with_platform_errors([&] { add_each(main, photos, wanted.value_or(0)); });
+    } catch (const platform_error & error) {
         main.desk.message("CAUGHT AN ERROR " + told(error));
     }
 }

@@ -2,10 +2,14 @@
 
 #include "session/windows.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 /// The grid of the list editor, filled, emptied and rearranged.
+
+/// What the user is told when photos find no room.
+std::string truncation_message();
 
 bool is_empty(const picture & cell);
 bool is_empty(const frmPictures & window);
@@ -27,6 +31,11 @@ bool make_gap(frmPictures & window, int cell);
 /// was filled so far stays. Photos that found no place, or didn't come that far, are left behind, and a list
 /// of more than 60 is told.
 void load_photo_grid(frmMain & main, const std::string & path);
+
+/// Adds photos where `cell` is, those there move on into the gaps behind; without a cell, or where no gap is
+/// left, they take the first free ones. Those for which there is no room are told. What can't be loaded ends
+/// the adding with a box.
+void add_photos_at(frmMain & main, const std::vector<std::string> & photos, std::optional<int> cell);
 
 /// Writes the photos of the grid in the order of their cells, and those of `behind` after them, as a list; an
 /// empty cell leaves no trace. Empties the grid and gives the number of photos written. Raises 61, 70, 75,

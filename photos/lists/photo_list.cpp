@@ -1,10 +1,12 @@
 #include "photos/lists/photo_list.h"
 
+#include "intake/look.h"
 #include "photos/left_out.h"
 #include "photos/lists/pls_line.h"
 #include "photos/name_order.h"
 #include "photos/photo_orientation.h"
 #include "photos/photo_shuffle.h"
+#include "photos/prepared_photos.h"
 #include "photos/thumbnails/thumbnails.h"
 #include "session/windows.h"
 #include "support/files/beside.h"
@@ -64,6 +66,13 @@ std::string measured_list(frmMain & main, const std::string & list)
     return text;
 }
 
+void take_folder_of(frmMain & main, std::vector<std::string> photos)
+{
+    photos.resize(std::min(photos.size(), folder_limit));
+    std::ranges::move(photos, main.table.photos.begin());
+    main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
+}
+
 bool wants_reshuffle(frmMain & main)
 {
     const question asked{.title = "S h u f f l e   t h e   P h o t o s",
@@ -99,13 +108,16 @@ std::vector<std::string> photos_in(const std::string & folder)
     return photos;
 }
 
+std::vector<std::string> photos_of_chosen_folder(frmMain & main, const std::string & folder)
+{
+    auto seen = beside(main.desk, [&folder] { return looked_at_folder(folder); });
+    auto photos = photos_with_copies(main, std::move(seen), copies_wanted::asked);
+    return photos ? std::move(*photos) : photos_in(folder);
+}
+
 void photos_of_folder(frmMain & main, const std::string & folder)
 {
-    std::vector<std::string> photos =
-        alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); });
-    photos.resize(std::min(photos.size(), folder_limit));
-    std::ranges::move(photos, main.table.photos.begin());
-    main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
+    take_folder_of(main, alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); }));
 }
 
 std::string get_photo_folder(frmMain & main)
@@ -114,7 +126,7 @@ std::string get_photo_folder(frmMain & main)
     if (!folder)
         main.table.last_photo = folder_cancelled;
     else if (!folder->empty())
-        photos_of_folder(main, *folder);
+        take_folder_of(main, photos_of_chosen_folder(main, *folder));
     return folder.value_or("");
 }
 
@@ -125,7 +137,7 @@ std::vector<std::string> choose_photos(frmMain & main)
     std::vector<std::string> photos = main.desk.choose_files(asked);
     if (!photos.empty())
         main.photo_folder = folder_of(photos.front());
-    return photos;
+    return chosen_files_with_copies(main, photos);
 }
 
 void get_selected_photos(frmMain & main)

@@ -18,15 +18,20 @@ std::vector<std::string> photos_in(const std::string & folder);
 /// Most photos that are taken from a folder.
 inline constexpr std::size_t folder_limit = 499;
 
+/// The photos of a folder that the user has chosen: its ".jpg" files, or, where some of its photos need a
+/// copy and the user wants them, all of its photos. Raises 70, 76.
+std::vector<std::string> photos_of_chosen_folder(frmMain & main, const std::string & folder);
+
 /// Fills the table with the ".jpg" files of a folder, the first 499 at most. `last_photo` is -1 for a folder
 /// without any. Raises 70, 76.
 void photos_of_folder(frmMain & main, const std::string & folder);
 
-/// Lets the user choose a folder and fills the table from it. A cancel leaves `last_photo` at
-/// `folder_cancelled`. Gives the folder.
+/// Lets the user choose a folder and fills the table from it, with copies of photos that need one where the
+/// user wants them. A cancel leaves `last_photo` at `folder_cancelled`. Gives the folder.
 std::string get_photo_folder(frmMain & main);
 
-/// Lets the user choose image files, where the last ones came from; none after a cancel.
+/// Lets the user choose image files, where the last ones came from, and gives them, or copies of those that
+/// need one where the user wants them; none after a cancel.
 std::vector<std::string> choose_photos(frmMain & main);
 
 /// Lets the user choose files and appends them to the list at the tag of `txtPhotos`, which becomes

@@ -17,7 +17,7 @@ void folder_of_photos(frmMain & main)
     if (!folder || folder->empty())
         return;
     const int room = std::max(1, most_photos + 1 - main.selected_count);
-    std::vector<std::string> photos = photos_in(*folder);
+    std::vector<std::string> photos = photos_of_chosen_folder(main, *folder);
     photos.resize(std::min(photos.size(), static_cast<std::size_t>(room)));
     const int16 selected = narrow(main.selected_count + static_cast<long>(photos.size()));
     if (!photos.empty())

@@ -15,11 +15,10 @@ rectangle rectangle_of(const std::string & line)
     return {.left = left, .top = top, .width = number_at(fields, 3), .height = height};
 }
 
-// Both sides of a rectangle give up the gap, in each direction as far as there is room.
+// Both sides of a rectangle give up the gap, in each direction where there is room.
 location inside_gap(const rectangle & place, int gap)
 {
-    const int down = std::min(gap, widest_gap(place.height, 2)),
-              across = std::min(gap, widest_gap(place.width, 2));
+    const int down = gap_beside(gap, place.height), across = gap_beside(gap, place.width);
     return {.top = narrow(place.top + down),
             .left = narrow(place.left + across),
             .height = narrow(place.height - 2 * down),

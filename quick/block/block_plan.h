@@ -12,8 +12,8 @@
 /// What is done to the rectangles of a block.
 struct block_request {
     poster_shape poster = poster_shape::portrait;
-    int gap = 0;  ///< pixels that each side of a rectangle gives up, less where a quarter of the rectangle
-                  ///< wouldn't be left; negative: they overlap
+    int gap = 0;      ///< pixels that each side of a rectangle gives up, less where nothing of the rectangle
+                      ///< would be seen; negative: they overlap
     int doubled = 0;  ///< so many rectangles, from the first on, become twice as high
     int split = 0;    ///< so many, behind those, are cut in two
     blank_run blanks{};

@@ -203,6 +203,23 @@ int matrix_inset_down(int inset)
     return nearest(inset * 1.25);
 }
 
+int photos_shown(const matrix_request & request)
+{
+    matrix_shapes shapes = shapes_for(request);
+    int single = 0, pairs = 0;
+    for (int row = 0; row < request.grid.rows; ++row) {
+        shapes.begin_row();
+        for (int column = 0; column < request.grid.columns;) {
+            const bool two = shapes.takes_two(column);
+            (two ? pairs : single) += 1;
+            column += two ? 2 : 1;
+        }
+    }
+    const bool turned = request.poster == poster_shape::landscape;
+    return std::min(single, turned ? request.landscape : request.portrait) +
+           std::min(pairs, turned ? request.portrait : request.landscape);
+}
+
 std::vector<location> matrix_plan(const matrix_request & request, const random_source & random)
 {
     const int photos = request.portrait + request.landscape;

@@ -30,6 +30,9 @@ int matrix_inset_down(int inset);
 /// How the locations of a quick matrix are written.
 inline constexpr line_digits matrix_digits{.place = 2, .rotation = 2};
 
+/// How many of the photos come to a cell, or two, of their own; the rest finds none.
+int photos_shown(const matrix_request & request);
+
 /// The locations of a quick matrix, in pixels of the upright poster, row by row. Raises overflow (6),
 /// also for a grid without rows or columns.
 std::vector<location> matrix_plan(const matrix_request & request, const random_source & random);

@@ -9,15 +9,28 @@ namespace {
 
 constexpr int last_pattern = 23;
 
-std::string offer_fewer(frmMain & main, const matrix_lines & found, int wanted)
+matrix_request request_for(const frmMain & main, const matrix_grid & grid)
 {
-    if (cells_of(found.line) == wanted)
-        main.cmdMore.enable(false);
-    if (found.previous.empty())
-        return found.line;
-    const bool fewer = main.cmdMore.tag == "fewer";
+    return {.grid = grid,
+            .poster = selected_shape(main),
+            .portrait = main.quick.photos_portrait,
+            .landscape = main.quick.photos_landscape,
+            .shapes = main.quick.photo_shapes};
+}
+
+int shown_in(const frmMain & main, const std::string & line)
+{
+    return photos_shown(request_for(main, matrix_grid_of(line)));
+}
+
+// A smaller grid is worth a click where it shows fewer photos.
+std::string offer_fewer(frmMain & main, const matrix_lines & found)
+{
+    const bool offered =
+        !found.previous.empty() && shown_in(main, found.previous) < shown_in(main, found.line);
+    const bool fewer = offered && main.cmdMore.tag == "fewer";
     main.cmdMore.set_caption(fewer ? "More photos" : "Fewer photos");
-    main.cmdMore.enable(true);
+    main.cmdMore.enable(offered);
     return fewer ? found.previous : found.line;
 }
 
@@ -71,7 +84,7 @@ std::string find_matrix_line(frmMain & main, int wanted)
         if (found.corrupt)
             main.desk.message("Corrupt quick_matrix file??");
         matrix_grid_of(found.line);  // a fault is told here, with the name of the table
-        line = found.corrupt ? found.line : offer_fewer(main, found, wanted);
+        line = found.corrupt ? found.line : offer_fewer(main, found);
     });
     return line;
 }
@@ -81,17 +94,18 @@ void write_quick_matrix(frmMain & main)
     if (!main.optMatrix.selected())
         main.desk.message("write_design not for quick matrix");
     const blank_run blanks = start_blanks(main);
-    matrix_request request{.grid = grid_for_photos(main),
-                           .poster = selected_shape(main),
-                           .portrait = main.quick.photos_portrait,
-                           .landscape = main.quick.photos_landscape,
-                           .shapes = main.quick.photo_shapes,
-                           .rotate = main.chkRotate.ticked(),
-                           .resize = main.chkResize.ticked(),
-                           .shuffle = main.chkShuffle.ticked(),
-                           .inset = inset_of(main),
-                           .blanks = blanks};
+    matrix_request request = request_for(main, grid_for_photos(main));
+    request.rotate = main.chkRotate.ticked();
+    request.resize = main.chkResize.ticked();
+    request.shuffle = main.chkShuffle.ticked();
+    request.inset = inset_of(main);
+    request.blanks = blanks;
     main.quick.preview_inset = nearest16(matrix_inset_down(request.inset) / 8.0);
     request.offset = chosen_offset(main);
     write_quick_template(main, template_lines(matrix_plan(request, main.random), matrix_digits));
+}
+
+void offer_fewer_photos(frmMain & main)
+{
+    grid_for_photos(main);
 }

@@ -12,3 +12,6 @@ std::string find_matrix_line(frmMain & main, int wanted);
 /// Writes the matrix for the photos at hand as the quick template. Without portraits a grid of odd rows makes
 /// room for a smaller one, which is told once. Raises as find_matrix_line and write_quick_template do.
 void write_quick_matrix(frmMain & main);
+
+/// Enables `cmdMore`, and says on it what its click would do, as the grid for the photos at hand has it.
+void offer_fewer_photos(frmMain & main);

@@ -67,26 +67,29 @@ grid_room room_of(const shapes_request & request)
             .down = poster_height_of(request) - below - ornaments - kept_free};
 }
 
-// All cells have the same gap between them, as wide as both directions have room for.
-int gap_of(const shapes_request & request, const shapes_layout & plan)
-{
-    const grid_room room = room_of(request);
-    return std::min({request.gap, widest_gap(room.across, nearest(plan.columns) - 1),
-                     widest_gap(room.down, nearest(plan.rows) - 1)});
-}
-
 int cell_size(const shapes_request & request, const shapes_layout & plan)
 {
     const grid_room room = room_of(request);
     const double across = room.across - (plan.columns - 1) * request.gap;
     const double down = room.down - (plan.rows - 1) * request.gap;
-    return std::max(1, std::min(nearest(down) / nearest(plan.rows), nearest(across) / nearest(plan.columns)));
+    return std::min(nearest(down) / nearest(plan.rows), nearest(across) / nearest(plan.columns));
 }
 
-// A mix makes some cells smaller, but leaves at least half of them.
+// All cells have the same gap between them; where it leaves no cells, one for which both directions have
+// room.
+int gap_of(const shapes_request & request, const shapes_layout & plan)
+{
+    if (cell_size(request, plan) >= least_seen)
+        return request.gap;
+    const grid_room room = room_of(request);
+    return std::min({request.gap, widest_gap(room.across, nearest(plan.columns) - 1),
+                     widest_gap(room.down, nearest(plan.rows) - 1)});
+}
+
+// A mix makes some cells smaller, but leaves something to be seen of them.
 int grown_cell(int size, int by)
 {
-    return std::max({size + by, size / 2, 1});
+    return std::max(size + by, std::min(size, least_seen));
 }
 
 struct grid_start {
@@ -214,7 +217,7 @@ shapes_layout shapes_plan(const shapes_request & asked, const random_source & ra
     shapes_request request = asked;
     count_cells(request, plan);
     request.gap = gap_of(request, plan);
-    const int size = cell_size(request, plan);
+    const int size = std::max(cell_size(request, plan), 1);
     const grid_start start = start_of(request, plan, size);
     double top = start.top + lift_of(request, start.spare_down);
     row_writer writer(request, plan, random);

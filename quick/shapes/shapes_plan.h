@@ -16,7 +16,7 @@ struct shapes_request {
     std::string shape = "Squares";  ///< text of the list of shapes
     int last_photo = 0;
     double row_bias = 0, column_bias = 0;  ///< rows and columns that the user added
-    int gap = 0;  ///< between the cells, less where a quarter of the poster wouldn't be left for them
+    int gap = 0;                           ///< between the cells, less where nothing would be seen of them
     int frame = 0, shadow = 0;
     shapes_align align = shapes_align::center;
     bool mix = false;
@@ -25,7 +25,7 @@ struct shapes_request {
 
 struct shapes_layout {
     double rows = 0, columns = 0;
-    double row_bias = 0, column_bias = 0;  ///< those of the request, raised where none would be left
+    double row_bias = 0, column_bias = 0;  ///< those of the request, raised where none would be seen
     std::string file;                      ///< mask of the cell written last, empty for squares
     std::vector<location> places;
 };

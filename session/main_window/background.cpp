@@ -45,13 +45,15 @@ void optBGimage_click(frmMain & main)
 
 void turn_plain(frmMain & main)
 {
+    // The box is left when it hides, and ends the waiting itself.
+    const bool preview_waits = std::exchange(main.drawn_background, std::nullopt).has_value();
     {
         const updating quiet(main);
         main.skip_preview_click = true;
         main.optSolid.select();
     }
     main.optSolid.take_focus();  // the box has gone
-    if (std::exchange(main.drawn_background, std::nullopt))
+    if (preview_waits)
         resume_preview(main);
 }
 

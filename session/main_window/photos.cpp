@@ -41,13 +41,18 @@ void cmdPhotos_click(frmMain & main)
     main.desk.show_modal(main.all->select_photos);
     if (main.photo_choice_cancelled || photo_source_kind(main) == photo_source::none)
         return;
+    go_on_with_chosen_photos(main);
+}
+
+}  // namespace
+
+void go_on_with_chosen_photos(frmMain & main)
+{
     take_chosen_photos(main);
     main.cmdMore.tag.clear();
     main.shape_row_bias = main.shape_column_bias = 0;
     take_new_photos(main);
 }
-
-}  // namespace
 
 void connect_photos(frmMain & main)
 {

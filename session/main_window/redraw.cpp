@@ -2,19 +2,22 @@
 
 #include "engine/preview.h"
 #include "quick/matrix/quick_matrix.h"
+#include "quick/photo_note.h"
 #include "quick/poster_sides.h"
 #include "quick/quick_template.h"
 #include "support/for_now.h"
 
 namespace {
 
-// What the run has counted is shown: the cells of the shapes, and whether the matrix could have fewer photos.
+// What the run has counted is shown: the cells of the shapes, whether the matrix could have fewer photos, and
+// how many are left out.
 void settle_after_preview(frmMain & main)
 {
     if (main.optShapes.selected())
         show_rows_cols(main);
     if (main.optMatrix.selected())
-        find_matrix_line(main, main.quick.photos_portrait + 2 * main.quick.photos_landscape);
+        offer_fewer_photos(main);
+    note_photos_in_use(main);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "session/start/start_up.h"
 
 #include "session/start/displaced.h"
+#include "session/start/filling_work.h"
 #include "session/start/supplied_catalogue.h"
 #include "support/files/archive.h"
 #include "support/files/copies.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <thread>
 
 namespace {
@@ -45,13 +47,27 @@ void copy_seed_file(frmMain & main, std::string_view name, std::string_view to)
     copy_file(in_install(main, name), in_data(main, to));
 }
 
-// Copied beside its place and renamed, so that a copy that broke off isn't taken for the folder next time.
+int files_below(const std::string & folder)
+{
+    int files = 0;
+    with_platform_errors([&] {
+        for (const auto & entry : std::filesystem::recursive_directory_iterator(folder))
+            files += entry.is_directory() ? 0 : 1;
+    });
+    return files;
+}
+
+// Copied beside its place and renamed once the disk has it, so that a copy that broke off isn't taken for the
+// folder next time.
 void copy_seed_folder(frmMain & main, std::string_view name)
 {
-    const std::string target = in_data(main, name);
+    const std::string source = in_install(main, name), target = in_data(main, name);
     const std::string beside = target + ".part";
     remove_tree(beside);
-    copy_folder(in_install(main, name), beside);
+    fill_by(main, files_below(source), [&](std::atomic<int> & done) {
+        fill_folder(source, beside, [&] { ++done; });
+        flush_below(beside);
+    });
     rename_folder(beside, target);
 }
 
@@ -247,7 +263,10 @@ void install_frame_sets(frmMain & main)
         return;
     delete_supplied_frames(main);
     // A program without these frame sets is still a program: whatever comes of it, the start goes on.
-    extract_zip(in_install(main, "frames.zip"), in_data(main, "frames"));
+    fill_by(main, 0, [&](std::atomic<int> &) {
+        if (extract_zip(in_install(main, "frames.zip"), in_data(main, "frames"), unpack_flush::by_caller))
+            flush_below(in_data(main, "frames"));  // before the marker says that they are there
+    });
     copy_seed_file(main, "quick_scatter.ini", release_marker);
     copy_seed_file(main, "quick_scatter.ini", "4_2_install");
 }

@@ -90,8 +90,11 @@ std::optional<std::string> path_of_entry(std::string_view name, archive_entry * 
 // One run over an archive.
 class unpacker {
 public:
-    unpacker(archive * opened, const std::string & into, const unpack_limits & allowed)
-        : reader(opened), destination(into), limits(allowed)
+    unpacker(archive * opened, const std::string & into, const unpack_limits & allowed, unpack_flush flush)
+        : reader(opened),
+          destination(into),
+          limits(allowed),
+          put_file(flush == unpack_flush::each_file ? replace_file : write_file)
     {}
     unpacking run()
     {
@@ -135,13 +138,14 @@ private:
         if (got < 0)
             return unpacking::end::broken;
         make_folders(folder_of(target));
-        replace_file(target, bytes);
+        put_file(target, bytes);
         return unpacking::end::whole;
     }
 
     archive * reader;
     std::string destination;
     unpack_limits limits;
+    void (*put_file)(const std::string & path, std::string_view bytes);
     int entries = 0;
     std::int64_t total = 0;
     std::set<std::string> taken;  // in lower case: on some systems the case makes no difference
@@ -173,19 +177,19 @@ void add_file(archive * writer, const archived_file & file)
 }  // namespace
 
 unpacking unpack_zip(const std::string & source, const std::string & destination,
-                     const unpack_limits & limits)
+                     const unpack_limits & limits, unpack_flush flush)
 {
     const names_in_utf_8 names;
     const archive_reader reader = opened_zip(source);
     if (!reader)
         return {.ended = unpacking::end::broken, .entry = {}};
-    return with_platform_errors([&] { return unpacker(reader.get(), destination, limits).run(); });
+    return with_platform_errors([&] { return unpacker(reader.get(), destination, limits, flush).run(); });
 }
 
-bool extract_zip(const std::string & source, const std::string & destination)
+bool extract_zip(const std::string & source, const std::string & destination, unpack_flush flush)
 {
     try {
-        return unpack_zip(source, destination).ended == unpacking::end::whole;
+        return unpack_zip(source, destination, {}, flush).ended == unpacking::end::whole;
     } catch (const platform_error &) {
         return false;
     }

@@ -10,6 +10,10 @@ struct unpack_limits {
     std::int64_t bytes = std::int64_t{512} << 20;
 };
 
+/// Who sees to it that the disk has what was unpacked: the unpacking, file by file, or its caller, by
+/// `flush_below`.
+enum class unpack_flush { each_file, by_caller };
+
 /// How an unpacking ended. An entry that is not allowed ends it; what was unpacked before stays.
 struct unpacking {
     enum class end {
@@ -27,10 +31,11 @@ struct unpacking {
 /// written anywhere else, whatever the names of the entries say. Names are bytes, UTF-8 where the archive
 /// says so, in every locale. Raises 61, 70, 75, 76 where the folder can't be written.
 unpacking unpack_zip(const std::string & source, const std::string & destination,
-                     const unpack_limits & limits = {});
+                     const unpack_limits & limits = {}, unpack_flush flush = unpack_flush::each_file);
 
 /// The same; true when all went through, false whatever went wrong.
-bool extract_zip(const std::string & source, const std::string & destination);
+bool extract_zip(const std::string & source, const std::string & destination,
+                 unpack_flush flush = unpack_flush::each_file);
 
 /// A file for an archive.
 struct archived_file {

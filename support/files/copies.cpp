@@ -13,7 +13,10 @@ void copy_file(const std::string & from, const std::string & to)
     replace_file(to, read_file(from));
 }
 
-void copy_folder(const std::string & from, const std::string & to)
+namespace {
+
+template <typename Copy>
+void copy_each(const std::string & from, const std::string & to, Copy copy)
 {
     with_platform_errors([&] {
         make_folders(to);
@@ -22,7 +25,22 @@ void copy_folder(const std::string & from, const std::string & to)
             if (entry.is_directory())
                 make_folders(target.string());
             else
-                copy_file(entry.path().string(), target.string());
+                copy(entry.path().string(), target.string());
         }
     });
+}
+
+}  // namespace
+
+void fill_folder(const std::string & from, const std::string & to, const std::function<void()> & copied)
+{
+    copy_each(from, to, [&](const std::string & file, const std::string & target) {
+        write_file(target, read_file(file));
+        copied();
+    });
+}
+
+void copy_folder(const std::string & from, const std::string & to)
+{
+    copy_each(from, to, copy_file);
 }

@@ -6,7 +6,8 @@
 /// Every step by which the program changes the disk goes by here, so that a test can make each of them fail,
 /// or end the process in front of it, in turn. Outside tests nothing is asked.
 
-enum class file_step { make, write, flush, rename, remove, make_folder };
+/// `flush_all` is one flush for all that lies below a folder.
+enum class file_step { make, write, flush, rename, remove, make_folder, flush_all };
 
 /// Asked in front of each step, with the path that it changes (of a rename: the new name). 0 lets it happen,
 /// a number of the system's (ENOSPC, EACCES …) makes it fail so.

@@ -219,6 +219,20 @@ void flush_folder_of(const std::string & path)
     ::close(number);
 }
 
+#ifdef __linux__
+int flushed_disk_of(int folder)
+{
+    return ::syncfs(folder);
+}
+#else
+// Every disk: no system has more to offer for a whole folder.
+int flushed_disk_of(int)
+{
+    ::sync();
+    return 0;
+}
+#endif
+
 }  // namespace
 
 line_source::line_source(const std::string & path) : bytes(read_file(path)), source_path(path) {}
@@ -282,6 +296,18 @@ void remove_abandoned_parts(const std::string & folder)
     for (const auto & entry : std::filesystem::directory_iterator(folder, failed))
         if (is_part_of_ours(entry.path().filename().string()) && is_abandoned(entry))
             std::remove(entry.path().c_str());
+}
+
+void flush_below(const std::string & folder)
+{
+    pass_gate(file_step::flush_all, folder);
+    const int number = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (number < 0)
+        throw from_system(errno, folder);
+    const int failed = flushed_disk_of(number) == 0 ? 0 : errno;
+    ::close(number);
+    if (failed != 0)
+        throw from_system(failed, folder);
 }
 
 void replace_file(const std::string & path, std::string_view bytes)

@@ -98,7 +98,7 @@ TEST(job_list, a_fault_is_told_with_its_line)
 {
     const std::string header = "out\tdesign\tphotos\tsize\n";
     const std::string columns =
-        "answer, caption, design, frames, orientation, out, photos, quick, random, set, size";
+        "answer, caption, design, dpi, frames, orientation, out, photos, quick, random, scale, set, size";
     struct row {
         std::string text, fault;
     };

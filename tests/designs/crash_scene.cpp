@@ -3,6 +3,7 @@
 #include "designs/catalogue/catalogue_lines.h"
 #include "designs/templates/unfinished.h"
 #include "support/files/file_steps.h"
+#include "support/files/paths.h"
 #include "support/platform_error.h"
 
 #include <algorithm>
@@ -14,8 +15,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr int went_through = 0, broken_off = 99, stumbled = 98;
 
 bool changes_nothing_on_a_full_disk(file_step step)
 {
@@ -50,6 +49,8 @@ private:
             unflushed.insert(path);
         if (step == file_step::flush)
             unflushed.erase(path);
+        if (step == file_step::flush_all)
+            std::erase_if(unflushed, [&](const std::string & each) { return is_under(each, path); });
         const auto beside = std::ranges::find_if(unflushed, [&](const std::string & written) {
             return written.starts_with(path + ".") && written.ends_with(part_ending);
         });
@@ -125,14 +126,14 @@ void crash_scene::lay_out()
     before = image_of(session.at(""));
 }
 
-int crash_scene::run_child(int step, mishap fate, const std::function<void(package_session &)> & act)
+int ended_at(int step, mishap fate, const std::function<void()> & act)
 {
     const pid_t child = ::fork();
     if (child == 0) {
         fate_gate decides(step, fate);
         const gated_files gate(std::ref(decides));
         try {
-            act(session);
+            act();
         } catch (const platform_error &) {
             ::_exit(stumbled);  // what the window would show
         }
@@ -141,6 +142,11 @@ int crash_scene::run_child(int step, mishap fate, const std::function<void(packa
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+int crash_scene::run_child(int step, mishap fate, const std::function<void(package_session &)> & act)
+{
+    return ended_at(step, fate, [&] { act(session); });
 }
 
 void crash_scene::expect_whole(const folder_image & after)

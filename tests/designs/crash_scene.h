@@ -13,6 +13,12 @@ enum class mishap {
     no_permission,  ///< from the step on nothing can be changed at all
 };
 
+/// How a child process ended.
+inline constexpr int went_through = 0, broken_off = 99, stumbled = 98;
+
+/// Runs `act` in a child process that fares so in front of its step of that number.
+int ended_at(int step, mishap fate, const std::function<void()> & act);
+
 /// A data folder of which every state is known, and an operation that is broken off at each of its steps in
 /// turn. A start follows; then every file has to be as it was before or as it is after a whole run.
 class crash_scene {

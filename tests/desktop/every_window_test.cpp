@@ -193,7 +193,8 @@ TEST(announcements, every_label_of_a_state_is_one_that_is_told)
     forms.push_back(&all.main);
     for (const form * each : forms) {
         const std::unique_ptr<QWidget> window = make_window(each->name());
-        for (const char * name : {"txtDoing", "lblOutput", "lblCount", "lblAnnounce", "txtCounting"})
+        for (const char * name :
+             {"txtDoing", "lblOutput", "lblCount", "lblAnnounce", "txtCounting", "lblFilling"})
             if (const auto * const widget = window->findChild<QWidget *>(QLatin1String(name))) {
                 EXPECT_TRUE(widget->property("announced").toBool()) << each->name() << " " << name;
             }

@@ -4,7 +4,6 @@
 #include "desktop/binder/captions.h"
 #include "desktop/binder/picture_view.h"
 #include "desktop/file_filter.h"
-#include "desktop/printing.h"
 
 #include <QFile>
 
@@ -120,22 +119,6 @@ TEST(picture_view, scaled_to_its_width_it_asks_for_the_height_that_keeps_the_pro
     view.set_scaled(true);
     view.show_file(colored_file(folder, "wide.png", {40, 20}, red));
     EXPECT_EQ(view.heightForWidth(100), 50);
-}
-
-TEST(printing, a_picture_stands_whole_and_centred_on_the_page)
-{
-    EXPECT_EQ(fitted({2000, 3000}, {0, 0, 800, 900}), QRect(100, 0, 600, 900));
-    EXPECT_EQ(fitted({3000, 2000}, {0, 0, 900, 800}), QRect(0, 100, 900, 600));
-    EXPECT_EQ(fitted({10, 10}, {50, 50, 100, 100}), QRect(50, 50, 100, 100));
-}
-
-TEST(printing, a_printer_that_refuses_and_an_empty_picture_print_nothing)
-{
-    QPrinter printer(QPrinter::ScreenResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName("/nowhere/at all/page.pdf");
-    EXPECT_FALSE(print_on(printer, plain(30, 20, {255, 0, 0}), orientation::portrait));
-    EXPECT_FALSE(print_on(printer, bitmap(), orientation::portrait));
 }
 
 TEST(captions, a_spaced_title_is_read_as_words_and_others_as_they_are)

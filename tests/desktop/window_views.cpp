@@ -95,6 +95,9 @@ void filled_session::add_small_views(std::vector<window_view> & views)
                          all.photo_count.lblAnnounce.set_caption(
                              "photos/of a long summer by the sea/beach_012.jpg");
                      }});
+    views.push_back({.name = "frmFilling", .window = &all.filling, .prepare = {}, .fill = [this] {
+                         all.filling.lblFilling.set_caption("Getting things ready: 84 of 100 files");
+                     }});
     views.push_back({.name = "frmSize", .window = &all.size, .prepare = {}, .fill = {}});
     views.push_back({.name = "frmSize_custom", .window = &all.size, .prepare = {}, .fill = [this] {
                          all.size.optCustom.select();

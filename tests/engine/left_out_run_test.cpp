@@ -4,6 +4,7 @@
 #include "tests/engine/collage_fixture.h"
 #include "tests/small_files.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -133,10 +134,37 @@ TEST(left_out_photos, without_a_photo_that_can_be_used_every_style_comes_to_its_
                 run.main.table.reshuffle_choice = photo_table::reshuffle::yes;
                 EXPECT_EQ(run.seen_run(), "..\n..\n..\n");
                 run.desk.keeps_messages = true;
-                EXPECT_TRUE(run.desk.messages.back().starts_with("None of your photos can be used:\r\n"));
+                const std::string & told = run.desk.messages.back();
+                EXPECT_NE(told.find("None of your photos can be used:\r\n"), std::string::npos) << told;
+                EXPECT_EQ(std::ranges::count_if(run.desk.messages,
+                                                [](const std::string & each) {
+                                                    return each.find("None of your photos can be used") !=
+                                                           std::string::npos;
+                                                }),
+                          1)
+                    << "one cause, one box";
                 EXPECT_EQ(run.main.left_out.photos.size(), 4U);
                 expect_usable(run.main);
             }
+}
+
+TEST(left_out_photos, a_design_without_a_photo_for_it_says_why_in_the_same_box)
+{
+    spoiled_run run;
+    run.main.chkMatch.tick(true);
+    run.main.collage.design_matches = true;
+    const std::string text = run.home.write("photos/text.jpg", "no picture");
+    run.add_path(text);
+    const std::string box =
+        "No images match the design\r\n\r\nNone of your photos can be used:\r\n" + text +
+        ": it can't be read as a JPEG photo\r\n\r\nSave what can't be read as a JPEG again.\r\nThen choose "
+        "your photos again.";
+    gen_sample(run.main);
+    EXPECT_EQ(run.desk.next_message(), box);
+    gen_sample(run.main);
+    EXPECT_TRUE(run.desk.messages.empty()) << "a preview repeats nothing";
+    run.full_run();
+    EXPECT_EQ(run.desk.next_message(), box);
 }
 
 TEST(left_out_photos, are_named_by_the_first_preview_and_not_again)

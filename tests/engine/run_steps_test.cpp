@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
@@ -153,10 +154,60 @@ TEST(place_photos, the_order_is_turned_as_often_as_two_numbers_say_and_once_more
         place_photos(run.main, run_size::full);
         EXPECT_EQ(drawn, 2 + 2 * each.shuffles);
         for (int i = 0; i < each.shuffles; ++i)
-            shuffle(expected, scratch, 3, 4);  // of 0.3: the third step of seven, the fourth of eleven places
+            shuffle(expected, scratch,
+                    {.step = 3, .first = 4});  // of 0.3: the third step of seven, the fourth of eleven places
         for (int i = 0; i < 12; ++i)
             EXPECT_EQ(run.main.design_locations[i], expected[i]) << each.shuffles << " at " << i;
     }
+}
+
+TEST(place_photos, a_full_run_turns_the_order_as_the_preview_before_it_did)
+{
+    const auto tops = [](dozen_run & run, run_size size) {
+        run.main.design_locations.clear();
+        for (int16 i = 0; i < 12; ++i)
+            run.add_location(measures(i, 0, 1, 1));
+        place_photos(run.main, size);
+        std::vector<int> found;
+        for (int i = 0; i < 12; ++i)
+            found.push_back(run.main.design_locations[i].top - run.main.design_locations[0].top);
+        return found;
+    };
+    dozen_run run;
+    run.main.random = seeded_random(5);
+    run.main.collage.random_design = run.main.collage.design_rotated = true;
+    std::set<std::vector<int>> seen_orders;
+    for (int i = 0; i < 5; ++i) {
+        const std::vector<int> preview = tops(run, run_size::preview);
+        seen_orders.insert(preview);
+        EXPECT_EQ(tops(run, run_size::full), preview);
+        EXPECT_EQ(tops(run, run_size::full), preview);
+    }
+    EXPECT_GT(seen_orders.size(), 2U) << "every preview draws anew";
+}
+
+TEST(place_photos, a_cancelled_preview_has_not_been_shown)
+{
+    dozen_run run;
+    run.main.random = seeded_random(5);
+    run.main.collage.random_design = run.main.collage.design_rotated = true;
+    run.main.run.cancel_requested = true;
+    EXPECT_EQ(place_photos(run.main, run_size::preview), run_end::cancelled);
+    EXPECT_TRUE(run.main.collage.turns_shown.empty());
+}
+
+TEST(place_photos, a_design_of_another_size_has_an_order_of_its_own)
+{
+    dozen_run run;
+    run.main.random = seeded_random(5);
+    run.main.collage.random_design = run.main.collage.design_rotated = true;
+    place_photos(run.main, run_size::preview);
+    EXPECT_EQ(run.main.collage.locations_shown, 12);
+    run.main.design_locations.clear();
+    for (int16 i = 0; i < 7; ++i)
+        run.add_location(measures(i, 0, 1, 1));
+    place_photos(run.main, run_size::full);
+    EXPECT_EQ(run.main.collage.locations_shown, 7);
 }
 
 TEST(place_photos, a_stretched_design_is_stretched_before_the_bleed_comes)

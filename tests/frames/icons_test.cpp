@@ -150,6 +150,25 @@ TEST(importing_an_icon, refuses_a_name_that_is_taken_in_either_case)
     EXPECT_EQ(session.list(), "Sun s.bmp\r\n\xC3\xA4rger z.bmp\r\nmoon x.bmp\r\n");
 }
 
+TEST(importing_an_icon, refuses_a_name_that_would_be_read_back_as_another)
+{
+    icons_session session;
+    session.import(session.bmp("x.bmp"), [&](frmIconName & window) {
+        for (const char * name : {"big sun", " sun", "sun ", " "}) {
+            window.txtName.set_text(name);
+            window.cmdOk.click();
+            EXPECT_EQ(session.desk.next_message(),
+                      "The name of an icon can't have a blank in it.\r\nPlease enter one word.");
+            EXPECT_TRUE(window.loaded());
+        }
+        window.txtName.set_text("a\nb");
+        window.cmdOk.click();
+        EXPECT_EQ(session.desk.next_message(), "The name of an icon can't have a line break in it.");
+        window.cmdCancel.click();
+    });
+    EXPECT_EQ(session.list(), "");
+}
+
 TEST(importing_an_icon, needs_a_name)
 {
     icons_session session;

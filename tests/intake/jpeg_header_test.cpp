@@ -78,6 +78,16 @@ TEST(jpeg_header, puts_the_parts_of_a_profile_in_their_order)
     EXPECT_FALSE(header_of(file).has_remarks);
 }
 
+TEST(jpeg_header, takes_no_part_of_a_profile_that_ends_with_the_file)
+{
+    const std::string mark("ICC_PROFILE\0", 12);
+    const std::string file = jpeg_with({{.code = 0xE2, .bytes = mark + "\1\1profile"}});
+    const std::size_t begin = file.find(mark);
+    for (std::size_t length = begin; length < begin + 24; ++length)
+        EXPECT_FALSE(read_jpeg_header(bytes_of_text(file).first(length))) << length;
+    EXPECT_EQ(header_of(jpeg_with({{.code = 0xE2, .bytes = mark}})).profile, "");
+}
+
 TEST(jpeg_header, knows_what_tells_of_people)
 {
     EXPECT_FALSE(header_of(jpeg_with({})).has_remarks);

@@ -20,7 +20,7 @@ def check(is_so, told):
 def drawn(path, size='240x160'):
     """A picture of which no side or corner is like another."""
     run('convert', '-size', size, 'gradient:navy-gold', '-fill', 'red', '-draw', 'rectangle 0,0 70,40', '-fill', 'lime', '-draw',
-        'circle 200,40 220,60', '-fill', 'white', '-draw', 'rectangle 10,120 60,150', '-blur', '0x2', path)
+        'circle 200,40 220,60', '-fill', 'white', '-draw', 'rectangle 10,120 60,150', '-blur', '0x2', '-depth', '8', path)
     return path
 
 

@@ -131,7 +131,7 @@ TEST(scaled_jpeg, gives_nothing_once_a_stop_is_asked_for)
 {
     photo_file file({}, 300, 200);
     std::stop_source stop;
-    EXPECT_TRUE(read_fitted_jpeg(file.path, {.width = 40, .height = 30}, file.memory, stop.get_token()));
+    EXPECT_TRUE(read_fitted_jpeg(file.path, {.width = 40, .height = 30}, file.memory, 1, stop.get_token()));
     stop.request_stop();
-    EXPECT_FALSE(read_fitted_jpeg(file.path, {.width = 40, .height = 30}, file.memory, stop.get_token()));
+    EXPECT_FALSE(read_fitted_jpeg(file.path, {.width = 40, .height = 30}, file.memory, 1, stop.get_token()));
 }

@@ -76,11 +76,15 @@ class Program:
         self.socket_path = tempfile.mktemp(prefix='probe_', dir=self.folder)
         self.process = subprocess.Popen(
             [os.path.join(self.app, 'tessaloom')], stderr=subprocess.DEVNULL,
-            env=dict(self.environment, QT_QPA_PLATFORM='xcb', QT_PLUGIN_PATH=plugins, QT_QPA_GENERIC_PLUGINS='probe',
+            env=dict(self.environment, **self.shown_by(), QT_PLUGIN_PATH=plugins, QT_QPA_GENERIC_PLUGINS='probe',
                      TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8', **slow_disk(plugins)))
         self.probe = until(self.reached, 'the program')
         self.answers = self.probe.makefile('r')
         self.focused = None
+
+    def shown_by(self):
+        """What tells the program how to reach its display."""
+        return {'QT_QPA_PLATFORM': 'xcb'}
 
     def reached(self):
         """The line to the probe, once it listens: its socket is there a moment before."""

@@ -51,6 +51,13 @@ int fsync(int descriptor)
     return flush(descriptor);
 }
 
+int syncfs(int descriptor) noexcept
+{
+    static const auto flush = really<int (*)(int)>("syncfs");
+    wait_as_told("TESSALOOM_SLOW_DISK");
+    return flush(descriptor);
+}
+
 int open(const char * path, int flags, ...)
 {
     static const auto open_really = really<int (*)(const char *, int, mode_t)>("open");

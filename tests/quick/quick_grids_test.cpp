@@ -10,7 +10,7 @@
 TEST(cmdMore, offers_the_grid_in_front_and_takes_it_back)
 {
     quick_session session;
-    session.start();  // six cells are wanted
+    session.start(4, 2);  // eight cells are wanted
     frmMain & main = session.main;
     main.optMatrix.select();
     expect_states(main, "cmdMore^ cmdMore+");
@@ -33,15 +33,48 @@ TEST(cmdMore, stays_disabled_for_the_first_grid)
     expect_states(session.main, "cmdMore-");
 }
 
-TEST(cmdMore, a_count_of_its_own_leaves_it_enabled_for_a_later_grid)
+TEST(cmdMore, the_grid_in_front_counts_and_the_first_has_none)
 {
     quick_session session;
-    session.start();
-    find_matrix_line(session.main, 6);
-    expect_states(session.main, "cmdMore+");
+    session.start(2, 3);
     session.main.cmdMore.tag = "fewer";
     EXPECT_EQ(find_matrix_line(session.main, 8), "6:2:3:20:20:100:100:130");
+    expect_states(session.main, "cmdMore+");
     EXPECT_EQ(find_matrix_line(session.main, 4), "4:2:2:20:20:100:100:130");
+    expect_states(session.main, "cmdMore-");
+}
+
+TEST(cmdMore, is_disabled_where_the_grid_in_front_shows_as_many_photos)
+{
+    quick_session session;
+    session.desk.keeps_messages = true;
+    session.start(4, 0);
+    session.main.optMatrix.select();
+    expect_states(session.main, "cmdMore-");
+    // Six show in eight cells, five in six; in nine cells as in twelve all six.
+    session.start(4, 2);
+    session.main.optMatrix.select();
+    expect_states(session.main, "cmdMore+");
+    find_matrix_line(session.main, 12);
+    expect_states(session.main, "cmdMore-");
+}
+
+TEST(note, says_how_many_photos_are_left_out)
+{
+    quick_session session;
+    session.desk.keeps_messages = true;
+    session.start(4, 2);
+    frmMain & main = session.main;
+    const std::string source = "Using photos from   mine";
+    main.optMatrix.select();
+    main.chkMatch.tick(false);
+    EXPECT_EQ(main.lblOutput.caption(), source);
+    main.cmdMore.click();
+    EXPECT_EQ(main.lblOutput.caption(), source + "   -   1 photo left out");
+    main.cmdMore.click();
+    EXPECT_EQ(main.lblOutput.caption(), source);
+    main.cmbBlanks.set_text("3");
+    EXPECT_EQ(main.lblOutput.caption(), source + "   -   2 photos left out");
 }
 
 TEST(cmdMore, is_for_the_matrix_alone)

@@ -264,6 +264,18 @@ TEST(mnuQuick, without_a_scatter_for_those_few_it_says_so_and_stays)
     expect_choosing(session);
 }
 
+TEST(mnuQuick, without_a_photo_that_can_be_read_there_is_one_box_that_says_why)
+{
+    quick_session session;
+    session.make_photos(1, 2);
+    for (const std::string & photo : session.photos)
+        session.folder.write("photos/" + name_of(photo), "no picture");
+    session.start();
+    EXPECT_TRUE(session.desk.next_message().starts_with("None of your photos can be used:\r\n"));
+    EXPECT_TRUE(session.desk.messages.empty());
+    expect_choosing(session);
+}
+
 // ---- other photos
 
 TEST(cmdPhotos, other_photos_find_their_own_template)

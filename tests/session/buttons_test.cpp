@@ -105,9 +105,9 @@ TEST(menus, offer_what_has_an_answer)
     expect_states(session.main,
                   "mnuFile+ mnuQuit+ mnuHelp+ mnuHelpTopics+ mnuStarted+ mnuFAQ+ mnuHelpAbout+ mnuDesign+ "
                   "mnuPictures+ mnuFrames+ mnuSeparator-");
-    const std::set<control *> containers{&session.main.mnuFile, &session.main.mnuDesign,
+    const std::set<control *> containers{&session.main.mnuFile,     &session.main.mnuDesign,
                                          &session.main.mnuPictures, &session.main.mnuFrames,
-                                         &session.main.mnuHelp};
+                                         &session.main.mnuHelp,     &session.main.mnuChanges};
     for (control * each : session.main.controls()) {
         const auto * const entry = dynamic_cast<menu_entry *>(each);
         if (entry != nullptr && !containers.contains(each)) {

@@ -160,15 +160,22 @@ TEST_F(forced_settings_test, leave_none_of_a_set_selected_where_none_was)
 
 TEST_F(users_settings, of_a_new_collage_have_nothing_of_the_one_before)
 {
-    main.collage.matrix_both = main.collage.frames_design = main.collage.quick_active =
-        main.collage.stretch_design = true;
-    main.collage.frame_set_name = "club";
-    main.quick.quick_reduced = 3;
-    main.shape_row_bias = 2;
-    begin_collage(main, collage_kind::quick);
-    EXPECT_FALSE(main.collage.matrix_both || main.collage.frames_design || main.collage.quick_active ||
-                 main.collage.stretch_design);
-    EXPECT_EQ(main.collage.frame_set_name, "");
-    EXPECT_EQ(main.collage.kind, collage_kind::quick);
-    EXPECT_EQ(main.quick.quick_reduced + main.shape_row_bias, 0);
+    for (const collage_kind kind : {collage_kind::quick, collage_kind::designed}) {
+        main.collage.matrix_both = main.collage.frames_design = main.collage.quick_active =
+            main.collage.stretch_design = true;
+        main.collage.frame_set_name = "club";
+        main.quick.quick_reduced = main.quick.photos_portrait = 3;
+        main.shape_row_bias = 2;
+        {
+            const updating quiet(main);
+            main.optShapes.select();
+        }
+        begin_collage(main, kind);
+        EXPECT_FALSE(main.collage.matrix_both || main.collage.frames_design || main.collage.quick_active ||
+                     main.collage.stretch_design);
+        EXPECT_EQ(main.collage.frame_set_name, "");
+        EXPECT_EQ(main.collage.kind, kind);
+        EXPECT_EQ(main.quick.quick_reduced + main.quick.photos_portrait + main.shape_row_bias, 0);
+        EXPECT_EQ(selected_of(main.style_options), nullptr);
+    }
 }

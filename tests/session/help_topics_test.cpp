@@ -32,6 +32,7 @@ constexpr topic topics[] = {
     {"frmLettering", "lettering.htm"},
     {"frmPuzzle", "puzzle.htm"},
     {"frmPhotoCnt", ""},
+    {"frmFilling", ""},
     {"frmAbout", ""},
     {"frmCaptionText", ""},
 };

@@ -5,6 +5,7 @@ import gzip
 import os
 import pathlib
 import re
+import shlex
 import shutil
 import struct
 import subprocess
@@ -59,7 +60,7 @@ class desktop_files(unittest.TestCase):
             catalogue.write(b"[Design600]\r\nName=Zebra's stripes\r\nFamily=Block\r\n")
 
     def test_man_pages_tell_every_option_as_the_help_does(self):
-        for program in ("tessaloom-batch", "tessaloom-pack"):
+        for program in ("tessaloom-batch", "tessaloom-intake", "tessaloom-pack"):
             self.assertTrue(options_of_help(program))
             self.assertEqual(options_of_page(program), options_of_help(program))
 
@@ -73,9 +74,9 @@ class desktop_files(unittest.TestCase):
     def test_every_shell_knows_every_option(self):
         bash = (FILES / "tessaloom.bash").read_text()
         zsh = (FILES / "_tessaloom").read_text()
-        for program in ("batch", "pack"):
+        for program in ("batch", "intake", "pack"):
             fish = ((FILES / "tessaloom-batch.fish") if program == "batch" else
-                    (ROOT / "packaging" / "completions" / "tessaloom-pack.fish")).read_text()
+                    (ROOT / "packaging" / "completions" / f"tessaloom-{program}.fish")).read_text()
             wanted = names_of(options_of_help(f"tessaloom-{program}"))
             in_bash = re.search(rf"_tessaloom_{program}\(\) {{.*?\n}}", bash, re.S)[0]
             self.assertEqual(set(re.search(r'"(--[a-z]+ --.*)"', in_bash)[1].split()), wanted - {"-h"})
@@ -110,6 +111,7 @@ class desktop_files(unittest.TestCase):
         self.assertEqual(self.bash("tessaloom-batch --set cmbFr"), ["cmbFrame="])
         self.assertEqual(self.bash("tessaloom-batch --design Mosaic\\ w"), ["Mosaic\\ wall"])
         self.assertEqual(self.bash("tessaloom-batch --design = Mosaic\\ w"), ["Mosaic\\ wall"])
+        self.assertEqual(self.bash("tessaloom-intake --li"), ["--list", "--limit"])
         self.assertEqual(self.bash("tessaloom-batch --random 5 --ag"), ["--again"])
         (self.home / "my photos").mkdir()
         self.assertEqual(self.bash("tessaloom-batch --photos a.jpg my"), ["my photos"])
@@ -140,13 +142,30 @@ class desktop_files(unittest.TestCase):
         self.keep_a_design()
         self.assertEqual(self.fish("tessaloom-batch --design Zebra"), ["Zebra's stripes"])
 
+    def zsh(self, typed):
+        """What the line becomes when it is typed and Tab is pressed, in a terminal of its own."""
+        (self.home / "zpty.zsh").write_text(f"""fpath=({FILES} $fpath); autoload -Uz compinit; compinit -u -d {self.home}/dump
+complete_and_show() {{ zle complete-word; print -r -- "LINE<$BUFFER>"; exit }}
+zle -N complete_and_show; bindkey '^I' complete_and_show; PS1=
+""")
+        script = f"""zmodload zsh/zpty; zpty play zsh -f -i; zpty -w play 'source {self.home}/zpty.zsh; print READY'
+zpty -r play told '*READY*READY*'; zpty -n -w play {shlex.quote(typed)}$'\\t'; zpty -r play told '*LINE<*>*'; print -r -- $told"""
+        return re.findall(r"LINE<(.*?)>", output_of("zsh", "-f", "-c", script, env=dict(self.environment, TERM="dumb"), cwd=self.home))[-1]
+
+    def test_zsh_completes_designs_and_controls(self):
+        if not shutil.which("zsh"):
+            self.skipTest("no zsh")
+        self.assertEqual(self.zsh("tessaloom-batch --orientation l"), "tessaloom-batch --orientation landscape ")
+        self.assertEqual(self.zsh("tessaloom-batch --set cmbFr"), "tessaloom-batch --set cmbFrame=")
+        self.assertEqual(self.zsh("tessaloom-batch --design Mosaic"), "tessaloom-batch --design Mosaic\\ wall ")
+
     def test_zsh_reads_its_completion(self):
         if not shutil.which("zsh"):
             self.skipTest("no zsh")
         script = f"""autoload -Uz compinit; fpath=({FILES} $fpath); compinit -u -d {self.home}/dump
-whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pack]; zsh -n {FILES}/_tessaloom"""
+whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pack] $_comps[tessaloom-intake]; zsh -n {FILES}/_tessaloom"""
         self.assertEqual(output_of("zsh", "-f", "-c", script, env=self.environment).split(),
-                         ["_tessaloom:", "function", "_tessaloom", "_tessaloom"])
+                         ["_tessaloom:", "function", "_tessaloom", "_tessaloom", "_tessaloom"])
 
     def test_icons_have_their_sizes_and_are_no_blank(self):
         for size in SIZES:

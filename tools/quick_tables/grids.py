@@ -2,10 +2,14 @@
 
 A portrait takes one cell and a landscape two side by side. A cell of 1 to the root of 2 would suit both; from 1.2 to
 1.6 both are cut a little. Where rows and columns don't give that, wider margins do.
+
+All columns are even in number: rows of two landscapes and more come out full, and a last portrait that is left over costs
+one cell. In an odd row a cell stays without a photo of its own as soon as the portraits run out, one in each row.
 """
 from dataclasses import dataclass
 
-MOST_CELLS = 640
+MOST_ASKED = 2 * 499  # cells, for landscapes alone
+MOST_CELLS = 1020
 
 
 @dataclass(frozen=True)
@@ -18,8 +22,12 @@ class Grid:
     top: int
     bottom: int
 
+    @property
+    def cells(self):
+        return self.rows * self.columns
+
     def line(self):
-        numbers = (self.rows * self.columns, self.rows, self.columns, self.row_gap, self.column_gap, self.side, self.top,
+        numbers = (self.cells, self.rows, self.columns, self.row_gap, self.column_gap, self.side, self.top,
                    self.bottom)
         return ":".join(str(number) for number in numbers)
 
@@ -39,28 +47,35 @@ def margins(cells):
     return 90 if cells <= 24 else 72 if cells <= 70 else 54 if cells <= 160 else 50
 
 
+def filled(cells):
+    """The least part of the poster that goes to photos; four pairs on an upright poster can't have half of it."""
+    return 0.47 if cells <= 8 else 0.5
+
+
 def fitted(rows, columns, height):
     """The grid with its margins: the least ones, and more on two sides until the cells have the shape of a photo."""
     cells = rows * columns
     space, least = gap(cells), margins(cells)
-    for extra in range(0, 261 if cells <= 40 else 131 if cells <= 160 else 151, 10):
+    for extra in range(0, 601, 10):
         for side, ends in ((extra, 0), (0, extra)):
             grid = Grid(rows, columns, space, space, least + side, least + ends, least + ends + least // 3)
             across, down = grid.cell(height)
             if min(across, down) > 0 and 1.2 <= down / across <= 1.6 and (2 * across + space) / down <= 1.7:
-                return extra, grid
+                return (extra, grid) if cells * across * down >= filled(cells) * 2000 * height else None
     return None
 
 
 def best(cells, height):
     """The grid of exactly so many cells that needs the least extra margin; None where none has sensible cells."""
-    ways = [fitted(rows, cells // rows, height) for rows in range(1, cells + 1) if cells % rows == 0]
-    ways = [(extra, grid.columns % 2, grid.rows, grid) for extra, grid in filter(None, ways)]
+    ways = [fitted(cells // columns, columns, height) for columns in range(2, cells + 1, 2) if cells % columns == 0]
+    ways = [(extra, grid.rows, grid) for extra, grid in filter(None, ways)]
     return min(ways)[-1] if ways else None
 
 
 def grids(height):
-    return [grid for grid in (best(cells, height) for cells in range(3, MOST_CELLS + 1)) if grid]
+    """Up to the first that has room for all that can be asked for."""
+    found = [grid for grid in (best(cells, height) for cells in range(3, MOST_CELLS + 1)) if grid]
+    return [grid for number, grid in enumerate(found) if number == 0 or found[number - 1].cells < MOST_ASKED]
 
 
 def table():

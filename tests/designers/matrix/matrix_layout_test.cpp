@@ -1,5 +1,6 @@
 #include "designers/matrix/matrix_layout.h"
 
+#include "designers/poster_area.h"
 #include "designs/templates/location_line.h"
 
 #include <gtest/gtest.h>
@@ -181,6 +182,44 @@ TEST(framed_matrix, says_when_the_gap_between_rows_cannot_be_kept)
     EXPECT_EQ(layout.complaints, lines{"Shouldnothappen 2?"});
     EXPECT_EQ(layout.gap_v, 20);
     EXPECT_EQ(layout.cell_height, 917);
+}
+
+TEST(framed_matrix, never_leaves_the_poster)
+{
+    for (const poster_shape poster : {poster_shape::portrait, poster_shape::landscape})
+        for (int rows = 1; rows <= 12; ++rows)
+            for (int columns = 1; columns <= 12; ++columns)
+                for (const poster_borders & borders :
+                     {poster_borders{100, 100, 100, 100}, {0, 0, 0, 0}, {100, 900, 700, 50}}) {
+                    const matrix_choices choices{.rows = rows,
+                                                 .columns = columns,
+                                                 .borders = borders,
+                                                 .poster = poster,
+                                                 .frames = worn_frames{.set = "club", .captions = 1}};
+                    const matrix_layout layout = matrix_layout_of(choices, run_size::full);
+                    const poster_area area = whole_poster(poster);
+                    for (const framed_cell & cell : framed_cells(choices, layout)) {
+                        ASSERT_GE(cell.area.left, 0) << rows << " by " << columns;
+                        ASSERT_GE(cell.area.top, 0) << rows << " by " << columns;
+                        ASSERT_LE(cell.area.right(), area.width) << rows << " by " << columns;
+                        ASSERT_LE(cell.area.bottom(), area.height) << rows << " by " << columns;
+                    }
+                }
+}
+
+TEST(framed_matrix, scaled_to_fit_its_cells_keep_the_shape_of_the_frames_and_its_message)
+{
+    const matrix_choices choices{
+        .rows = 3, .columns = 4, .frames = worn_frames{.set = "club", .captions = 1}};
+    const matrix_layout layout = matrix_layout_of(choices, run_size::full);
+    EXPECT_EQ(layout.complaints, lines{"Should not happen 1 ?"});
+    // 4 by 607 and 3 gaps of 20 are 2488 of 1800.
+    EXPECT_EQ(layout.cell_width, 439);
+    EXPECT_EQ(layout.cell_height, 665);
+    EXPECT_EQ(layout.gap_h, 14);
+    EXPECT_EQ(layout.gap_v, 14);
+    EXPECT_EQ(layout.left, 101);
+    EXPECT_EQ(layout.top, 488);
 }
 
 TEST(framed_matrix, rows_that_overlap_stay_so_without_a_word_where_cells_shrink)

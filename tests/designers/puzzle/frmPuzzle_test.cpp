@@ -62,6 +62,24 @@ TEST(frmPuzzle, best_fit_lets_one_count_lead_the_other)
     EXPECT_EQ(session.counts(), "4x8") << "five, to the even number";
 }
 
+TEST(frmPuzzle, who_chose_rows_keeps_them_when_the_kind_of_pieces_changes)
+{
+    const puzzle_window session;
+    frmPuzzle & window = session.window;
+    window.chkBest.tick(true);
+    window.cmbRows.choose(4);
+    EXPECT_EQ(session.counts(), "5x3");
+    window.optFour.select();
+    window.cmbRows.choose(6);
+    window.optOne.select();
+    window.cmbRows.choose(6);
+    EXPECT_EQ(session.counts(), "7x5");
+    window.chkBest.tick(false);
+    window.chkBest.tick(true);
+    window.optOne.select();
+    EXPECT_EQ(session.counts(), "7x5");
+}
+
 TEST(frmPuzzle, who_types_rows_keeps_them)
 {
     const puzzle_window session;

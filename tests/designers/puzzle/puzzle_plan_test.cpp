@@ -172,6 +172,22 @@ TEST(fit_grid, the_rows_lead_the_columns_likewise)
     EXPECT_EQ(led(4, landscape), 6);
 }
 
+TEST(fit_grid, rows_that_go_with_the_columns_stay)
+{
+    const auto led = [](puzzle_choices choices) { return fit_grid(choices, grid_lead::columns).rows; };
+    EXPECT_EQ(led({.rows = 5, .columns = 3}), 5);
+    EXPECT_EQ(led({.rows = 7, .columns = 5}), 7);
+    EXPECT_EQ(led({.rows = 11, .columns = 7}), 11);
+    EXPECT_EQ(led({.rows = 5, .columns = 3, .edges = true}), 4);
+    EXPECT_EQ(led({.rows = 5, .columns = 8, .shape = landscape}), 5);
+    for (int rows = 1; rows <= 30; ++rows)
+        for (const poster_shape shape : {poster_shape::portrait, landscape}) {
+            const puzzle_grid chosen =
+                fit_grid({.rows = rows, .columns = 1, .shape = shape}, grid_lead::rows);
+            EXPECT_EQ(led({.rows = chosen.rows, .columns = chosen.columns, .shape = shape}), rows);
+        }
+}
+
 TEST(fit_grid, rows_come_in_fours_for_four_pieces_and_in_twos_with_edges)
 {
     const auto rows = [](int columns, bool edges, puzzle_pieces pieces) {

@@ -99,24 +99,24 @@ TEST(location_order, a_larger_table_has_more_steps_to_choose_from)
 TEST(location_order, six_locations_dealt_into_two_runs)
 {
     location_table table = numbered(6), scratch;
-    shuffle(table, scratch, 1, 0);  // dealt 6 4 2, 5 3 1
+    shuffle(table, scratch, {.step = 1, .first = 0});  // dealt 6 4 2, 5 3 1
     EXPECT_EQ(order(table), (std::vector<int>{6, 4, 2, 5, 3, 1}));
 }
 
 TEST(location_order, the_dealt_runs_come_back_from_the_first_on)
 {
     location_table table = numbered(6), scratch;
-    shuffle(table, scratch, 1, 4);
+    shuffle(table, scratch, {.step = 1, .first = 4});
     EXPECT_EQ(order(table), (std::vector<int>{3, 1, 6, 4, 2, 5}));
 }
 
 TEST(location_order, a_step_beyond_the_table_becomes_one_less_than_its_last_index)
 {
     location_table table = numbered(5), scratch;
-    shuffle(table, scratch, 6, 0);  // last index 4, step 3: 5 2, 4 1, 3
+    shuffle(table, scratch, {.step = 6, .first = 0});  // last index 4, step 3: 5 2, 4 1, 3
     EXPECT_EQ(order(table), (std::vector<int>{5, 2, 4, 1, 3}));
     location_table three = numbered(3);
-    shuffle(three, scratch, 6, 0);  // last index 2: step 1
+    shuffle(three, scratch, {.step = 6, .first = 0});  // last index 2: step 1
     EXPECT_EQ(order(three), (std::vector<int>{3, 2, 1}));
 }
 
@@ -126,7 +126,7 @@ TEST(location_order, shuffling_loses_no_location_and_leaves_the_blank_record_beh
     for (const int count : {3, 4, 5, 9, 100, 1001})
         for (int step = 0; step <= 7; ++step) {
             location_table table = numbered(count);
-            shuffle(table, scratch, step, step % (count - 1));
+            shuffle(table, scratch, {.step = step, .first = step % (count - 1)});
             EXPECT_EQ(sorted_order(table), counted(count)) << count << " by " << step;
             EXPECT_EQ(table[count].top, 0) << count << " by " << step;
         }
@@ -135,7 +135,7 @@ TEST(location_order, shuffling_loses_no_location_and_leaves_the_blank_record_beh
 TEST(location_order, fewer_than_three_locations_are_not_shuffled)
 {
     location_table table = numbered(2), scratch;
-    shuffle(table, scratch, 1, 0);
+    shuffle(table, scratch, {.step = 1, .first = 0});
     EXPECT_EQ(order(table), counted(2));
 }
 

@@ -217,21 +217,44 @@ TEST(cmdPrint, prints_the_whole_collage_in_its_orientation)
     EXPECT_TRUE(session.main.frmOutput.enabled());
 }
 
-TEST(cmdPrint, says_what_to_do_without_a_printer_or_after_a_failure)
+TEST(cmdPrint, says_where_the_collage_went_and_what_to_do_when_it_went_nowhere)
+{
+    const struct {
+        print_report report;
+        const char * words;
+    } cases[] = {
+        {{.result = print_result::sent, .where = "attic"}, "The collage was sent to the printer attic."},
+        {{.result = print_result::held, .where = "attic", .why = "Paused"},
+         "The collage was sent to the printer attic, which stands still.\r\nPaused\r\n\r\nIt prints the "
+         "collage as "
+         "soon as it runs again."},
+        {{.result = print_result::written, .where = "/home/a/page.pdf"},
+         "The printed page was written to\r\n/home/a/page.pdf"},
+        {{.result = print_result::no_printer},
+         "There is no printer.\r\n\r\nAdd one in the settings of this computer and print again, or save the "
+         "collage "
+         "and print the file."},
+        {{.result = print_result::failed, .where = "attic", .why = "It takes no jobs."},
+         "The collage could not be printed: attic\r\nIt takes no jobs.\r\n\r\nSee to it and print again, or "
+         "save the "
+         "collage and print the file."}};
+    finished_session session;
+    for (const auto & each : cases) {
+        session.desk.next_print = each.report;
+        session.all.image.cmdPrint.click();
+        EXPECT_EQ(session.desk.next_message(), each.words);
+    }
+    EXPECT_TRUE(session.main.run.canvas);
+}
+
+TEST(cmdPrint, says_nothing_when_the_user_gives_up)
 {
     finished_session session;
-    session.desk.next_print = print_result::no_printer;
+    session.desk.next_print = {.result = print_result::cancelled};
+    set_enable(session.main, false);
     session.all.image.cmdPrint.click();
-    EXPECT_EQ(session.desk.next_message(),
-              "There is no printer.\r\n\r\nMake one the default printer of this computer and print again, or "
-              "save the collage and print the file.");
-    session.desk.next_print = print_result::failed;
-    session.all.image.cmdPrint.click();
-    EXPECT_EQ(
-        session.desk.next_message(),
-        "The collage could not be printed.\r\n\r\nSee to the printer and print again, or save the collage "
-        "and print the file.");
-    EXPECT_TRUE(session.main.run.canvas);
+    EXPECT_TRUE(session.desk.messages.empty());
+    EXPECT_TRUE(session.main.frmOutput.enabled());
 }
 
 TEST(cmdView, opens_the_finished_picture_with_the_user_s_own_program)

@@ -163,6 +163,6 @@ TEST(row_scaler, a_plan_whose_part_leaves_the_picture_is_impossible)
     EXPECT_FALSE(changed([](scaling_plan & plan) { plan.wanted.top = -1; }));
     EXPECT_FALSE(changed([](scaling_plan & plan) { plan.wanted.width = 0; }));
     EXPECT_FALSE(changed([](scaling_plan & plan) { plan.wanted.height = 16; }));
-    EXPECT_FALSE(changed([](scaling_plan & plan) { plan.scaled.width = 32768; }));
+    EXPECT_FALSE(changed([](scaling_plan & plan) { plan.scaled.width = 8 * 32768; }));
     EXPECT_FALSE(changed([](scaling_plan & plan) { plan.source.height = 0; }));
 }

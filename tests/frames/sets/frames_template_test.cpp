@@ -67,6 +67,21 @@ TEST(build_frames_template, tells_of_a_design_that_isn_t_there_and_goes_on_with_
     EXPECT_EQ(session.built(), "");
 }
 
+TEST(build_frames_template, finds_the_portrait_photos_of_a_list_that_was_gathered_from_a_folder)
+{
+    frame_design session;
+    session.write_set("team");
+    std::string list;
+    for (const auto & [name, width] : {std::pair{"a.jpg", 4}, {"b.jpg", 12}}) {
+        const std::string path = session.folder.at(std::string("photos/") + name);
+        save_jpeg(plain(width, 8, {1, 2, 3}), path);
+        list += "L " + path + "\r\n";
+    }
+    session.folder.write("data/piclists/team.pls", list);
+    EXPECT_EQ(photo_order_of_set(session.main), "pl");
+    EXPECT_TRUE(build_frames_template(session.main));
+}
+
 TEST(build_frames_template, follows_the_photos_of_the_list)
 {
     frame_design session;

@@ -34,6 +34,16 @@ TEST(frmFrameName, gives_the_name)
               "M\xC3\xBCllers \"best\" 50%: a [b] #1 @home");
 }
 
+TEST(frmFrameName, blanks_around_the_name_are_cut)
+{
+    EXPECT_EQ(naming_a_set().given("  new  set "), "new  set");
+    naming_a_set session;
+    EXPECT_EQ(session.given(" club"), "stays");
+    EXPECT_EQ(session.desk.next_message(), "You already have a custom frame named:  club");
+    EXPECT_EQ(session.given("   "), "stays");
+    EXPECT_EQ(session.desk.next_message(), "You already have a custom frame named:  ");
+}
+
 TEST(frmFrameName, a_name_that_is_there_is_told_and_stays)
 {
     naming_a_set session;

@@ -28,9 +28,10 @@ TEST(block_plan, a_negative_gap_lets_them_overlap_and_writes_its_sign)
     EXPECT_EQ(planned({"0:5:300:400"}, {.gap = -100}), (lines{"-100:-95:500:600:0:-1:-1:0:"}));
 }
 
-TEST(block_plan, a_gap_leaves_a_quarter_of_each_side)
+TEST(block_plan, a_gap_that_would_show_nothing_of_a_side_leaves_a_quarter)
 {
-    EXPECT_EQ(planned({"0:0:400:373"}, {.gap = 140}), (lines{"140:139:120:95:0:-1:-1:0:"}));
+    EXPECT_EQ(planned({"0:0:290:373"}, {.gap = 140}), (lines{"140:140:10:93:0:-1:-1:0:"}));
+    EXPECT_EQ(planned({"0:0:289:373"}, {.gap = 140}), (lines{"108:140:73:93:0:-1:-1:0:"}));
     EXPECT_EQ(planned({"0:0:100:8"}, {.gap = 140}), (lines{"37:03:26:02:0:-1:-1:0:"}));
     EXPECT_EQ(planned({"0:0:100:80"}, {.gap = 60, .split = 1}),
               (lines{"37:15:26:10:0:-1:-1:0:", "37:55:26:10:0:-1:-1:0:"}));

@@ -228,7 +228,7 @@ TEST(shapes_plan, a_mixed_grid_takes_its_shifts_from_the_table_row_by_row)
     }
 }
 
-TEST(shapes_plan, a_gap_leaves_a_quarter_of_the_poster_to_the_cells)
+TEST(shapes_plan, a_gap_that_would_show_no_cells_leaves_them_a_quarter_of_the_poster)
 {
     // 24 rows by 16 columns: of 2930 down three quarters are 23 gaps of 95, of 1930 across 15 of 96. What
     // is left is 745 down for 24, 505 across for 16.
@@ -240,14 +240,23 @@ TEST(shapes_plan, a_gap_leaves_a_quarter_of_the_poster_to_the_cells)
     EXPECT_EQ(plan.places[16].top - plan.places[0].top, 31 + 95);
 }
 
-TEST(shapes_plan, a_mix_leaves_half_of_the_smallest_cells)
+TEST(shapes_plan, a_gap_is_kept_while_its_cells_show)
 {
+    // 13 columns with 12 gaps of 140 have 1930 across: 250 for 13.
     const shapes_layout plan =
-        shapes_plan({.last_photo = 84, .row_bias = 12, .gap = 140, .mix = true}, seeded_random(1));
+        planned({.shape = "Stars", .last_photo = 84, .row_bias = 6, .column_bias = 6, .gap = 140});
+    EXPECT_EQ(plan.places[0].width, 19);
+    EXPECT_EQ(plan.places[2].left - plan.places[0].left, 2 * (19 + 140));
+}
+
+TEST(shapes_plan, a_mix_leaves_something_of_the_smallest_cells)
+{
+    const shapes_layout plan = shapes_plan(
+        {.last_photo = 84, .row_bias = 6, .column_bias = 6, .gap = 140, .mix = true}, seeded_random(1));
     int least = 1000;
     for (const location & place : plan.places)
         least = std::min<int>(least, place.width);
-    EXPECT_EQ(least, 15);  // of 31
+    EXPECT_EQ(least, 10);
 }
 
 TEST(shapes_plan, a_hole_draws_no_leaf)

@@ -16,7 +16,8 @@ using names = std::vector<std::string>;
 
 std::string named(file_step step)
 {
-    static const char * const words[] = {"make", "write", "flush", "rename", "remove", "make_folder"};
+    static const char * const words[] = {"make",   "write",       "flush",    "rename",
+                                         "remove", "make_folder", "flush_all"};
     return words[static_cast<int>(step)];
 }
 

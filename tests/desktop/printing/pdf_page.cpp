@@ -1,4 +1,4 @@
-#include "tests/desktop/pdf_page.h"
+#include "tests/desktop/printing/pdf_page.h"
 
 #include <QFile>
 #include <QRegularExpression>

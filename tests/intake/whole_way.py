@@ -1,0 +1,210 @@
+#!/usr/bin/env python3
+"""The program for photos as people use it: folders, lists, copies that are found again, damage, a stop in the middle.
+
+    tests/intake/whole_way.py PROGRAM_FOLDER [PLAY...]
+"""
+import os
+import shutil
+import signal
+import struct
+import subprocess
+import time
+
+from photo_files import check, drawn, heic, likeness, play, run, size_of, with_turn
+
+
+def in_folder(folder, name):
+    return os.path.join(folder, name)
+
+
+def turned(folder, name, size='240x160'):
+    path = in_folder(folder, name)
+    drawn(path, size)
+    return with_turn(path, 6)
+
+
+def copies_of(intake):
+    return sorted(name for name in os.listdir(in_folder(intake.data, 'prepared')) if name != 'in_use')
+
+
+def copies_are_found_again(intake, photos):
+    for i in range(3):
+        turned(photos, f'{i}.jpg', f'{240 + 16 * i}x160')
+    first = intake.take(photos)
+    check('3 (3 made now)' in intake.table, intake.table)
+    check(intake.take(photos) == first and '3 (0 made now)' in intake.table, intake.table)
+    os.utime(in_folder(photos, '1.jpg'), ns=(1, os.stat(in_folder(photos, '1.jpg')).st_mtime_ns + 1))
+    check(intake.take(photos)['1.jpg'] != first['1.jpg'] and '3 (1 made now)' in intake.table, intake.table)
+
+
+def copies_keep_to_their_room(intake, photos):
+    for i in range(4):
+        turned(photos, f'{i}.jpg', f'{640 + 16 * i}x480')
+    for i in range(4):
+        intake.take(in_folder(photos, f'{i}.jpg'), '--limit', '1')
+    check(len(copies_of(intake)) == 1, copies_of(intake))
+    check(os.path.exists(intake.take(in_folder(photos, '3.jpg'))['3.jpg']) and '1 (0 made now)' in intake.table, intake.table)
+
+
+def folders_are_walked_when_asked(intake, photos):
+    os.makedirs(in_folder(photos, 'b/c'))
+    os.makedirs(in_folder(photos, 'b/sample_thumbs'))
+    os.makedirs(in_folder(photos, '.hidden'))
+    for name in ('a10.jpg', 'a2.jpg', 'b/c/d.jpg', 'b/sample_thumbs/a.jpg', '.hidden/e.jpg'):
+        drawn(in_folder(photos, name), '%dx64' % (64 + len(name) * 8 + ord(name[1])))
+    os.symlink(photos, in_folder(photos, 'b/loop'))
+    with open(in_folder(photos, 'film.mov'), 'wb') as file:
+        file.write(b'\0\0\0\x14ftypqt  ' + b'\0' * 100)
+    check(list(intake.take(photos)) == ['a2.jpg', 'a10.jpg'], intake.lines)
+    check(list(intake.take('--deep', photos)) == ['a2.jpg', 'a10.jpg', 'd.jpg'], intake.lines)
+    check(list(intake.take(intake.list)) == ['a2.jpg', 'a10.jpg', 'd.jpg'], intake.lines)
+
+
+def what_is_wrong_is_named_and_the_rest_goes_on(intake, photos):
+    plain = drawn(in_folder(intake.folder, 'plain.png'), '480x480')
+    heic(plain, in_folder(photos, 'whole.heic'))
+    shutil.copy(in_folder(photos, 'whole.heic'), in_folder(photos, 'wrong name.jpg'))
+    shutil.copy(plain, in_folder(photos, 'also wrong.heic'))
+    drawn(in_folder(photos, 'tiny.png'), '20x30')
+    for name in ('cut.heic', 'cut.tif', 'cut.png', 'cut.bmp', 'cut.webp'):
+        run('convert', plain, in_folder(intake.folder, 'x' + name)) if name != 'cut.heic' else heic(plain, in_folder(intake.folder, 'x' + name))
+        data = open(in_folder(intake.folder, 'x' + name), 'rb').read()
+        with open(in_folder(photos, name), 'wb') as file:
+            file.write(data[:len(data) * 2 // 3])
+    turned(intake.folder, 'turned.jpg', '480x480')
+    data = open(in_folder(intake.folder, 'turned.jpg'), 'rb').read()
+    for name, text in (('cut.jpg', data[:len(data) // 2]), ('empty.heic', b''), ('text.png', b'no picture'), ('head.jpg', data[:30])):
+        with open(in_folder(photos, name), 'wb') as file:
+            file.write(text)
+    ready = intake.take(photos, in_folder(photos, 'missing.jpg'))
+    counts = intake.counts()
+    check(sorted(ready) == ['also wrong.jpg', 'tiny.jpg', 'whole.jpg'], intake.table)
+    check(counts == {'taken': 0, 'prepared': 3, 'refused': 10, 'doubles': 1, 'very small': 1}, intake.table)
+    for name, why in (('cut.heic', 'damaged'), ('cut.jpg', 'damaged'), ('empty.heic', 'empty'), ('text.png', 'no picture'),
+                      ('head.jpg', 'damaged'), ('missing.jpg', 'no such file'), ('wrong name.jpg', 'the same bytes as')):
+        check(any(name + ': ' in line and why in line for line in intake.table.splitlines()), f'{name}: {intake.table}')
+    check('tiny.png: 20 x 30' in intake.table, intake.table)
+    none = intake.start(in_folder(photos, 'text.png'))
+    check(none.returncode == 1 and 'there is no photo that could be used' in none.stderr, none)
+
+
+def png_chunk(name, data):
+    import zlib
+    return struct.pack('>I', len(data)) + name + data + struct.pack('>I', zlib.crc32(name + data))
+
+
+def bombs_are_refused_soon(intake, photos):
+    import zlib
+    head = png_chunk(b'IHDR', struct.pack('>IIBBBBB', 60000, 60000, 8, 2, 0, 0, 0))
+    packed = zlib.compress(b'\0' * 10_000_000)
+    files = {'bomb.png': b'\x89PNG\r\n\x1a\n' + head + png_chunk(b'IDAT', packed) + png_chunk(b'IEND', b''),
+             'bomb.bmp': b'BM' + struct.pack('<IHHIIiiHHIIiiII', 1000, 0, 0, 54, 40, 60000, 60000, 1, 24, 0, 0, 0, 0, 0, 0) + b'\0' * 900,
+             'bomb.gif': b'GIF89a' + struct.pack('<HHBBB', 60000, 60000, 0xF0, 0, 0) + b'\0' * 6 + b',' + struct.pack('<HHHHB', 0, 0, 60000, 60000, 0) + b'\2\2L\1\0;'}
+    # Pictures without an end, and folders of a page that lead back to themselves.
+    frame = b'!\xf9\4\4\n\0\0\0,' + struct.pack('<HHHHB', 0, 0, 1, 1, 0) + b'\2\2L\1\0'
+    files['endless.gif'] = b'GIF89a' + struct.pack('<HHBBB', 500, 500, 0xF0, 0, 0) + b'\0' * 6 + frame * 200_000
+    entries = [(256, 4, 1, 60000), (257, 4, 1, 60000), (258, 3, 1, 8), (259, 3, 1, 1), (262, 3, 1, 1), (273, 4, 1, 8), (277, 3, 1, 1),
+               (278, 4, 1, 60000), (279, 4, 1, 100)]
+    files['bomb.tif'] = b'II*\0' + struct.pack('<I', 8) + struct.pack('<H', len(entries)) + b''.join(
+        struct.pack('<HHII', *each) for each in entries) + struct.pack('<I', 8)
+    files['loop.tif'] = b'II*\0' + struct.pack('<I', 8) + struct.pack('<HHHIII', 1, 330, 4, 1, 8, 8)
+    for name, data in files.items():
+        with open(in_folder(photos, name), 'wb') as file:
+            file.write(data)
+    big = in_folder(photos, 'claims.jpg')
+    turned(photos, 'claims.jpg', '64x64')
+    data = bytearray(open(big, 'rb').read())
+    at = data.index(b'\xff\xc0') + 5
+    data[at:at + 4] = struct.pack('>HH', 32000, 32000)
+    with open(big, 'wb') as file:
+        file.write(data)
+    begun = time.monotonic()
+    told = intake.start(photos)
+    refused = [line for line in told.stdout.splitlines() if line.startswith('  ') and ': ' in line]
+    for name in ('bomb.png', 'bomb.bmp', 'bomb.gif', 'bomb.tif', 'loop.tif', 'claims.jpg'):
+        check(any('/' + name + ': ' in line for line in refused), f'{name} was not refused: {told.stdout}')
+    check('too long' not in told.stdout, told.stdout)
+    print('bombs: %.1f s' % (time.monotonic() - begun))
+
+
+def made_raw(path, orientation):
+    """A camera's raw file of its simplest kind: a sensor's values, red at the left, blue at the right, under a mosaic."""
+    width, height = 96, 64
+    rows = b''
+    for y in range(height):
+        for x in range(width):
+            red, blue = (50000, 3000) if x < width // 2 else (3000, 50000)
+            rows += struct.pack('<H', {(0, 0): red, (1, 1): blue}.get((y % 2, x % 2), 9000))
+    values = {'model': b'Made by a test\0\0', 'matrix': b''.join(struct.pack('<ii', round(each * 10000), 10000) for each in (
+        3.1339, -1.6169, -0.4906, -0.9788, 1.9161, 0.0335, 0.0719, -0.2290, 1.4052)), 'neutral': struct.pack('<6I', 1, 1, 1, 1, 1, 1)}
+    tags = [(254, 4, 1, 0), (256, 4, 1, width), (257, 4, 1, height), (258, 3, 1, 16), (259, 3, 1, 1), (262, 3, 1, 32803), (271, 2, 5, 'model'),
+            (272, 2, 15, 'model'), (273, 4, 1, 'rows'), (274, 3, 1, orientation), (277, 3, 1, 1), (278, 4, 1, height), (279, 4, 1, len(rows)),
+            (33421, 3, 2, 2 | 2 << 16), (33422, 1, 4, 0 | 1 << 8 | 1 << 16 | 2 << 24), (50706, 1, 4, 1 | 4 << 8), (50708, 2, 15, 'model'),
+            (50717, 4, 1, 65535), (50721, 10, 9, 'matrix'), (50728, 5, 3, 'neutral')]
+    at, places, body = 8 + 2 + 12 * len(tags) + 4, {}, b''
+    for name, data in {**values, 'rows': rows}.items():
+        places[name] = at + len(body)
+        body += data
+    with open(path, 'wb') as file:
+        file.write(b'II*\0' + struct.pack('<IH', 8, len(tags)) + b''.join(
+            struct.pack('<HHII', tag, kind, count, places.get(value, value)) for tag, kind, count, value in tags) + b'\0' * 4 + body)
+
+
+def raw_files_are_developed(intake, photos):
+    made_raw(in_folder(photos, 'level.dng'), 1)
+    made_raw(in_folder(photos, 'side.dng'), 6)
+    ready = intake.take(photos)
+    check(size_of(ready['level.jpg']) == (96, 64) and size_of(ready['side.jpg']) == (64, 96), [size_of(each) for each in ready.values()])
+    for name, first, second in (('level.jpg', (20, 32), (76, 32)), ('side.jpg', (32, 20), (32, 76))):
+        red, blue = (run('convert', ready[name], '-crop', '1x1+%d+%d' % at, '-format', '%[fx:u.r>u.b]', 'info:').strip() for at in (first, second))
+        check((red, blue) == ('1', '0'), f'{name}: {red} {blue}')
+
+
+def a_stop_leaves_nothing_half(intake, photos):
+    plain = drawn(in_folder(intake.folder, 'plain.png'), '1600x1200')
+    for i in range(12):
+        run('convert', plain, '-define', f'png:compression-level=1', '-fill', 'red', '-draw', f'point {i},0', in_folder(photos, f'{i}.png'))
+    running = subprocess.Popen(intake.command(photos), stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+    end = time.monotonic() + 60
+    while time.monotonic() < end and not (os.path.isdir(in_folder(intake.data, 'prepared')) and copies_of(intake)):
+        time.sleep(0.002)
+    running.send_signal(signal.SIGINT)
+    running.communicate(timeout=30)
+    check(running.returncode == 130, f'status {running.returncode}')
+    left = [name for _, _, names in os.walk(intake.folder) for name in names if name.endswith('.part')]
+    check(not left and not os.path.exists(intake.list), left)
+    for place in copies_of(intake):
+        names = os.listdir(in_folder(intake.data, 'prepared/' + place))
+        check('origin' in names and len(names) == 2, names)
+    check(len(intake.take(photos)) == 12, intake.table)
+    for copy in intake.lines:
+        check(likeness(copy[2:], plain) > 30, copy)
+
+
+def many_at_once_share_a_data_folder(intake, photos):
+    for i in range(6):
+        turned(photos, f'{i}.jpg', f'{320 + 16 * i}x160')
+    running = [subprocess.Popen(intake.command(photos, '--limit', '1')[:3] + [photos, '--limit', '1'], stdout=subprocess.PIPE, text=True)
+               for _ in range(6)]
+    for each in running:
+        told, _ = each.communicate(timeout=60)
+        check(each.returncode == 0 and 'refused         0' in told, told)
+    check(len(intake.take(photos)) == 6, intake.table)
+
+
+def a_place_that_cannot_be_written_is_told(intake, photos):
+    turned(photos, 'a.jpg')
+    with open(intake.data, 'w', encoding='utf-8') as file:
+        file.write('no folder')
+    told = intake.start(photos)
+    check(told.returncode == 1 and intake.data in told.stderr, told)
+    os.remove(intake.data)
+    intake.list = in_folder(intake.folder, 'no/such/place.pls')
+    told = intake.start(photos)
+    check(told.returncode == 1 and intake.list in told.stderr, told)
+
+
+if __name__ == '__main__':
+    play(copies_are_found_again, copies_keep_to_their_room, folders_are_walked_when_asked, what_is_wrong_is_named_and_the_rest_goes_on,
+         bombs_are_refused_soon, raw_files_are_developed, a_stop_leaves_nothing_half, many_at_once_share_a_data_folder,
+         a_place_that_cannot_be_written_is_told)

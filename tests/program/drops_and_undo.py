@@ -1,0 +1,138 @@
+"""Photos dragged from another program into the built one, and the way back by keys, with real mouse and key events."""
+import glob
+import os
+import shutil
+import subprocess
+import sys
+
+import collage
+import screen
+from collage import check
+
+SHOTS = os.environ.get('TESSALOOM_SCREENS')
+
+
+class Dragged:
+    """Files on their way from a file manager; it ends with the drag."""
+
+    def __init__(self, program, source, *urls):
+        self.program = program
+        self.process = subprocess.Popen([source, *urls], env=dict(program.environment, QT_QPA_PLATFORM='xcb'),
+                                        stderr=subprocess.DEVNULL)
+        screen.until(lambda: self.titled('waiting'), 'the file manager')
+        program.tool('mousemove', '--sync', '1530', '1130')
+        program.tool('mousedown', '1')
+        for x in range(1525, 1500, -4):
+            program.tool('mousemove', '--sync', str(x), '1130')
+        screen.until(lambda: self.titled('dragging'), 'the drag')
+
+    def titled(self, title):
+        found = subprocess.run(['xdotool', 'search', '--pid', str(self.process.pid), '--name', title],
+                               env=self.program.environment, capture_output=True)
+        return found.stdout.strip()
+
+    def over(self, x, y):
+        for step in (30, 20, 10, 0):
+            self.program.tool('mousemove', '--sync', str(x - step), str(y - step))
+
+    def let_go(self, end, seen):
+        """It stays until the drop was seen: who takes it asks it for the files."""
+        self.program.tool('mouseup', '1')
+        screen.until(lambda: self.titled(end), 'the drag to end as ' + end)
+        screen.until(seen, 'what the drop does')
+        self.process.kill()
+        self.process.wait()
+
+
+def offer(program):
+    found = program.find('drop_area')
+    return found['text'] if found else ''
+
+
+def keep(program, name):
+    if SHOTS:
+        program.keep(screen.WHOLE, os.path.join(SHOTS, name))
+
+
+def hovered(program, dragged, sentence, shot):
+    at = program.widget('mnuQuick') if program.find('mnuQuick') else program.widget('cmdHelp')
+    x, y = at['x'] + 60, at['y'] + (60 if program.find('mnuQuick') else 0)
+
+    def said():
+        dragged.over(x, y)  # a hand is never quite still
+        return sentence in offer(program)
+    screen.until(said, sentence)
+    keep(program, shot)
+
+
+def play(program, source):
+    collage.welcomed(program)
+    files = sorted(glob.glob(os.path.join(program.photos, '*.jpg')))
+    few = os.path.join(program.folder, 'few')
+    os.makedirs(few)
+    for path in files[:4]:
+        shutil.copy(path, few)
+
+    refused = Dragged(program, source, 'https://example.org/a.jpg')
+    hovered(program, refused, 'Only files of this computer', 'drop_refused.png')
+    refused.let_go('refused', lambda: not offer(program))
+
+    away = Dragged(program, source, *files)
+    hovered(program, away, 'quick collage', 'drop_quick.png')
+    def gone():
+        away.over(1540, 1000)
+        return not offer(program)
+    screen.until(gone, 'the sentence to go with the drag')
+    away.let_go('refused', lambda: not offer(program))
+    check(program.find('mnuQuick'), 'a drag that leaves begins nothing')
+
+    begun = Dragged(program, source, *files)
+    hovered(program, begun, 'quick collage', 'drop_quick.png')
+    begun.let_go('copied', program.finished)
+    program.widget('cmdFlurn')
+    check(all(os.path.exists(path) for path in files), 'the photos stay where they are')
+    keep(program, 'drop_begun.png')
+
+    before = program.finished()
+    other = Dragged(program, source, few)
+    hovered(program, other, 'instead of those', 'drop_instead.png')
+    other.let_go('copied', lambda: program.finished() != before)
+    program.widget('cmdFlurn')
+    few_drawn = program.finished()
+    keep(program, 'drop_taken.png')
+
+    collage.changed_preview(program, lambda: program.click('optHuge'), 'a border')
+    huge = program.finished()
+    program.keys('ctrl+z')
+    screen.until(lambda: program.finished() == few_drawn, 'the preview without the border')
+    check(program.find('optNone')['checked'], 'the border is as it was')
+    program.keys('ctrl+z')
+    screen.until(lambda: program.finished() == before, 'the preview of the first photos, byte by byte')
+    program.keys('ctrl+z')
+    for back in (few_drawn, huge):
+        program.keys('ctrl+shift+z')
+        screen.until(lambda: program.finished() == back, 'the way forward')
+    keep(program, 'undo_forward.png')
+
+    program.click('txtCaption')
+    program.type('Sea')
+    screen.until(lambda: program.find('txtCaption')['text'] == 'Sea', 'the caption')
+    program.keys('ctrl+z')
+    screen.until(lambda: program.find('txtCaption')['text'] == '', 'the undo of the box itself')
+    check(program.find('optHuge')['checked'], 'the keys were the box\'s')
+    program.keys('ctrl+z')
+    screen.until(lambda: program.find('optNone')['checked'], 'the undo of the window, from the box')
+
+
+def main():
+    program = collage.started()
+    try:
+        play(program, os.path.join(sys.argv[2], os.pardir, 'bin', 'drag_source'))
+    except BaseException:
+        keep(program, 'drop_failed.png')
+        raise
+    finally:
+        program.close()
+
+
+main()
