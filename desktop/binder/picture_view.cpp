@@ -4,13 +4,16 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QEventLoop>
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -52,6 +55,35 @@ QImage small_picture(const std::string & path, const QSize & size)
     const QImage image = reader.read();
     // There are files that the toolkit can't read, but the image library can.
     return image.isNull() ? image_of(load_picture(picture_format::tiff, path)) : image;
+}
+
+bool is_large(const std::string & path)
+{
+    constexpr std::uintmax_t large_file = 1'000'000;  // bytes; a finished collage has more, a preview less
+    std::error_code unknown;
+    const std::uintmax_t bytes = std::filesystem::file_size(path, unknown);
+    return !unknown && bytes > large_file;
+}
+
+// Another thread reads; meanwhile the windows are drawn, and what the user does waits.
+template <typename Reader>
+QImage read_beside(Reader read)
+{
+    QImage image;
+    QEventLoop waiting;
+    QThreadPool::globalInstance()->start([&] {
+        image = read();
+        QMetaObject::invokeMethod(&waiting, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    return image;
+}
+
+QImage small_picture_of_any_size(const std::string & path, const QSize & size)
+{
+    if (!is_large(path))
+        return small_picture(path, size);
+    return read_beside([&] { return small_picture(path, size); });
 }
 
 std::optional<picture_key> direction_of(int pressed)
@@ -118,7 +150,7 @@ void picture_view::show_file(const std::string & path)
     if (path.empty())
         picture = {};
     else
-        picture = fills_view ? small_picture(path, size() * devicePixelRatioF())
+        picture = fills_view ? small_picture_of_any_size(path, size() * devicePixelRatioF())
                              : picture_of(path, devicePixelRatioF());
     updateGeometry();
     update();

@@ -12,7 +12,7 @@ namespace {
 bool is_kept(const frmMain & main, const control & each)
 {
     for (const control * without : std::initializer_list<const control *>{
-             &main.cmdFlurn, &main.cmdCancel, &main.cmdHelp, &main.txtDoing, &main.picSplash})
+             &main.cmdFlurn, &main.cmdCancel, &main.cmdHelp, &main.txtDoing, &main.barDoing, &main.picSplash})
         if (&each == without)
             return false;
     return dynamic_cast<const menu_entry *>(&each) == nullptr;

@@ -1,8 +1,10 @@
 #include "session/undo/keep_history.h"
 
+#include "session/undo/moment.h"
 #include "support/files/file_steps.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "tests/session/opened_session.h"
 #include "tests/session/undo/undo_session.h"
 
 #include <cerrno>
@@ -343,4 +345,13 @@ TEST(undo, holds_a_step_of_a_change_that_failed)
     EXPECT_TRUE(main.optSmall.selected());
     main.mnuUndo.click();
     EXPECT_TRUE(main.optNone.selected());
+}
+
+TEST(moment, how_far_a_run_has_come_is_no_part_of_it)
+{
+    opened_session session;
+    const moment before = moment_of(session.main, {});
+    session.main.barDoing.tell(3, 4);
+    session.main.barDoing.show(!session.main.barDoing.visible());
+    EXPECT_TRUE(moment_of(session.main, before) == before);
 }
