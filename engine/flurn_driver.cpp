@@ -1,6 +1,7 @@
 #include "engine/flurn_driver.h"
 
 #include "designs/catalogue/last_flurn.h"
+#include "engine/image_number.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/pixels/brought_down.h"
 #include "engine/run_steps.h"
@@ -92,8 +93,7 @@ void keep_collage(frmMain & main)
                  run.drawn_at.canvas()),
         run.drawn_at.samples);
     save_photo(main, run.canvas, finished_path(main));
-    main.txtDoing.show(false);
-    main.barDoing.show(false);
+    hide_image_number(main);
     main.trace += "FFF  ";
 }
 

@@ -63,3 +63,10 @@ void show_image_number(frmMain & main)
     main.barDoing.show(is_worth_a_bar(main));
     main.desk.pump();
 }
+
+void hide_image_number(frmMain & main)
+{
+    main.txtDoing.show(false);
+    main.barDoing.show(false);
+    main.barDoing.tell(0, 1);
+}

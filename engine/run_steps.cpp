@@ -253,8 +253,7 @@ void end_run(frmMain & main)
     main.run.canvas = bitmap{};
     main.run.run_active = false;
     main.run.cancel_requested = false;
-    main.txtDoing.show(false);
-    main.barDoing.show(false);
+    hide_image_number(main);
     set_enable(main, true);
 }
 
@@ -263,8 +262,7 @@ void report_cancel(frmMain & main)
     main.run.run_active = false;
     main.run.cancel_requested = false;
     main.run.photos_shown.clear();
-    main.txtDoing.show(false);
-    main.barDoing.show(false);
+    hide_image_number(main);
     main.desk.message("Flurning has been canceled.");
     set_enable(main, true);
 }

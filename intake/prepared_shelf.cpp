@@ -82,8 +82,10 @@ std::string text_in(const std::string & path)
 
 void give_time(const std::string & copy, const photo_identity & photo)
 {
+    const std::chrono::sys_time<std::chrono::nanoseconds> changed{
+        std::chrono::nanoseconds(photo.stamp.changed)};
     std::error_code ignored;
-    fs::last_write_time(copy, fs::file_time_type(fs::file_time_type::duration(photo.stamp.changed)), ignored);
+    fs::last_write_time(copy, std::chrono::file_clock::from_sys(changed), ignored);
 }
 
 struct kept_copy {

@@ -74,7 +74,7 @@ bool is_newer(const std::string & path, const std::string & other);
 
 /// Tells one state of a file from another.
 struct file_stamp {
-    std::int64_t changed = 0;  ///< when, in nanoseconds
+    std::int64_t changed = 0;  ///< when, in nanoseconds since 1970
     std::uint64_t bytes = 0;
     std::uint64_t number = 0;  ///< of the file: one that takes another's place has another
     bool operator==(const file_stamp &) const = default;

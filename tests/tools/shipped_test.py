@@ -33,7 +33,8 @@ class shipped(unittest.TestCase):
         for program in PROGRAMS:
             symbols = told_by("readelf", "--dyn-syms", "-W", program)
             self.assertIn("__stack_chk_fail", symbols)
-            self.assertRegex(symbols, r"__\w+_chk\b(?<!__stack_chk)")
+            if not program.endswith("-decode"):  # which calls none of the functions that have a guarded twin
+                self.assertRegex(symbols, r"__\w+_chk\b(?<!__stack_chk)")
 
     def test_the_folders_of_the_build_are_not_in_it(self):
         for program in PROGRAMS:
