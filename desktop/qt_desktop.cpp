@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFile>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QScreen>
@@ -52,6 +53,19 @@ QSize room_for(const QWidget & window)
 {
     const QSize frame = window.frameGeometry().size() - window.size();
     return window.screen()->availableSize() - (frame.isNull() ? usual_frame : frame);
+}
+
+// What the toolkit's chooser doesn't tell readers of the screen.
+void name_parts(QFileDialog & chooser)
+{
+    for (const char * list : {"lookIn", "fileType"})
+        if (auto * const label = chooser.findChild<QLabel *>(QLatin1String(list) + QLatin1String("Label")))
+            label->setBuddy(chooser.findChild<QWidget *>(QLatin1String(list) + QLatin1String("Combo")));
+    const std::pair<const char *, const char *> names[] = {
+        {"sidebar", "Places"}, {"listView", "Files"}, {"treeView", "Files with details"}};
+    for (const auto & [part, name] : names)
+        if (auto * const view = chooser.findChild<QWidget *>(QLatin1String(part)))
+            view->setAccessibleName(QLatin1String(name));
 }
 
 // A question that comes up in the midst of work is answered with an arrow, not with an hourglass.
@@ -213,6 +227,7 @@ QString qt_desktop::folder_to_open(const std::string & wanted) const
 
 bool qt_desktop::is_accepted(QFileDialog & chooser, const file_request & asked)
 {
+    name_parts(chooser);
     chooser.setWindowTitle(shown(asked.title));
     chooser.setDirectory(folder_to_open(asked.folder));
     if (!asked.filter.empty())

@@ -231,12 +231,20 @@ void display_tool_tip(const control & held, QWidget & widget)
 
 }  // namespace
 
+bool is_being_shown(const QObject & widget)
+{
+    return widget.property("beingShown").toBool();
+}
+
 void display(control & held, QObject & shown_on)
 {
     auto * const widget = qobject_cast<QWidget *>(&shown_on);
     if (widget)
         display_place(held, *widget);  // a picture is read as large as it stands
+    const bool nested = is_being_shown(shown_on);
+    shown_on.setProperty("beingShown", true);
     visit_pair(held, shown_on, [](auto & known, auto & its_widget) { display_content(known, its_widget); });
+    shown_on.setProperty("beingShown", nested);
     if (!widget)
         return;
     widget->setEnabled(held.enabled());

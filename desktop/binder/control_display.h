@@ -24,3 +24,6 @@
 
 /// Brings the widget to the state of its control; fires none of the signals that a user's action fires.
 void display(control & held, QObject & widget);
+
+/// True while `display` is at work on it.
+bool is_being_shown(const QObject & widget);

@@ -1,5 +1,6 @@
 #include "desktop/binder/control_input.h"
 
+#include "desktop/binder/control_display.h"
 #include "desktop/qt_text.h"
 
 #include <QPointer>
@@ -56,6 +57,7 @@ struct listener {
         if (!widget.lineEdit())
             return;
         widget.setCompleter(nullptr);
+        widget.lineEdit()->setAccessibleName(widget.accessibleName());
         QObject::connect(widget.lineEdit(), &QLineEdit::textEdited, &owner,
                          [run = act, &held, line = QPointer(widget.lineEdit())](const QString & text) {
                              run([&] { held.set_text(bytes_of(text)); });
@@ -63,12 +65,27 @@ struct listener {
                              if (line && shown(held.text()) != text)
                                  line->selectAll();
                          });
+        hear_reader(held, widget, *widget.lineEdit());
     }
 
     void operator()(text_box & held, QLineEdit & widget) const
     {
         QObject::connect(&widget, &QLineEdit::textEdited, &owner, [run = act, &held](const QString & text) {
             run([&] { held.set_text(bytes_of(text)); });
+        });
+        hear_reader(held, widget, widget);
+    }
+
+    // A reader of the screen enters a text for the user, which the toolkit doesn't take for an edit. A text
+    // that an entry of the list gave comes with its choice.
+    template <typename Control>
+    void hear_reader(Control & held, QWidget & widget, QLineEdit & line) const
+    {
+        QObject::connect(&line, &QLineEdit::textChanged, &owner, [run = act, &held, &widget, &line] {
+            const auto * const list = qobject_cast<const QComboBox *>(&widget);
+            const bool chosen = list && list->itemText(list->currentIndex()) == line.text();
+            if (!is_being_shown(widget) && !chosen && line.text() != shown(held.text()))
+                run([&] { held.set_text(bytes_of(line.text())); });
         });
     }
 

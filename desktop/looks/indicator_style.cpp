@@ -107,3 +107,18 @@ void indicator_style::drawPrimitive(PrimitiveElement element, const QStyleOption
         draw_circle(*option, *painter);
     painter->restore();
 }
+
+// The button that Enter presses and the one that has the keyboard would look alike.
+void indicator_style::drawControl(ControlElement element, const QStyleOption * option, QPainter * painter,
+                                  const QWidget * widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element != CE_PushButton || !(option->state & State_HasFocus))
+        return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(option->palette.color(QPalette::ButtonText));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(QRectF(option->rect).adjusted(2.5, 2.5, -2.5, -2.5), 2, 2);
+    painter->restore();
+}

@@ -6,11 +6,13 @@
 #include "desktop/looks/screen_readers.h"
 #include "support/colors.h"
 
+#include <QEvent>
 #include <QFont>
 #include <QFontInfo>
 #include <QIcon>
 #include <QPalette>
 #include <QScreen>
+#include <QWidget>
 
 namespace {
 
@@ -23,13 +25,13 @@ struct role_color {
 };
 
 constexpr role_color role_colors[] = {
-    {QPalette::WindowText, "#e9eaec", "#83888f"},    {QPalette::Base, "#1a1c1f", "#24272a"},
-    {QPalette::AlternateBase, "#212428", "#24272a"}, {QPalette::Text, "#e9eaec", "#83888f"},
-    {QPalette::Button, "#3b3f45", "#2f3236"},        {QPalette::ButtonText, "#e9eaec", "#83888f"},
+    {QPalette::WindowText, "#e9eaec", "#959ba2"},    {QPalette::Base, "#1a1c1f", "#24272a"},
+    {QPalette::AlternateBase, "#212428", "#24272a"}, {QPalette::Text, "#e9eaec", "#959ba2"},
+    {QPalette::Button, "#3b3f45", "#2f3236"},        {QPalette::ButtonText, "#e9eaec", "#959ba2"},
     {QPalette::BrightText, "#ffffff", "#ffffff"},    {QPalette::ToolTipBase, "#3b3f45", "#3b3f45"},
-    {QPalette::ToolTipText, "#e9eaec", "#e9eaec"},   {QPalette::PlaceholderText, "#9aa0a7", "#6d7278"},
+    {QPalette::ToolTipText, "#e9eaec", "#e9eaec"},   {QPalette::PlaceholderText, "#9aa0a7", "#959ba2"},
     {QPalette::Highlight, "#f0b050", "#55595f"},     {QPalette::HighlightedText, "#1a1c1f", "#c0c4c8"},
-    {QPalette::Link, "#f0b050", "#83888f"},          {QPalette::LinkVisited, "#d8a860", "#83888f"},
+    {QPalette::Link, "#f0b050", "#959ba2"},          {QPalette::LinkVisited, "#d8a860", "#959ba2"},
     {QPalette::Light, "#4c5158", "#3b3f45"},         {QPalette::Midlight, "#43484e", "#363a3f"},
     {QPalette::Mid, "#585d64", "#43484e"},           {QPalette::Dark, "#17181b", "#17181b"},
     {QPalette::Shadow, "#0c0d0e", "#0c0d0e"},
@@ -55,23 +57,39 @@ QGroupBox, QFrame[panel="true"] { border: 1px solid #3f444a; border-radius: 6px;
 QGroupBox { margin-top: 0.55em; padding-top: 0.45em; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: %1;
     background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 %2, stop: 0.52 %2, stop: 0.54 #2d3034); }
-QGroupBox::title:disabled { color: #83888f; }
+QGroupBox::title:disabled { color: #959ba2; }
 QMenuBar { background: transparent; padding: 3px 6px; }
 QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: %1; color: #1a1c1f; }
-QMenuBar::item:disabled { color: #83888f; }
+QMenuBar::item:disabled { color: #959ba2; }
 QMenuBar QToolButton { color: #1a1c1f; background: %1; border-radius: 4px; }
 QPushButton[primary="true"] { background: %1; color: #1a1c1f; border: 1px solid #b98636; border-radius: 4px;
     padding: 4px 18px; font-weight: bold; }
 QPushButton[primary="true"]:hover { background: #f7c272; }
 QPushButton[primary="true"]:pressed { background: #d2963b; }
 QPushButton[primary="true"]:focus { border: 2px solid #ffffff; }
-QPushButton[primary="true"]:disabled { background: #2f3236; color: #83888f; border-color: #43484e; }
+QPushButton[primary="true"]:disabled { background: #2f3236; color: #959ba2; border-color: #43484e; }
+QPlainTextEdit, QListWidget { border: 1px solid #3f444a; }
+QPlainTextEdit:focus, QListWidget:focus { border-color: %1; }
 QListWidget::item { padding: 3px 4px; }
 QToolTip { border: 1px solid #585d64; padding: 3px; }
 )")
         .arg(QLatin1String(accent), shown_color(about_background).name());
 }
+
+// The toolkit shows the focus from the first Tab key on; whoever came by a letter, by the mouse or by a
+// reader of the screen wants to see it too.
+class focus_shower : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject * watched, QEvent * event) override
+    {
+        auto * const widget = event->type() == QEvent::FocusIn ? qobject_cast<QWidget *>(watched) : nullptr;
+        if (widget)
+            widget->window()->setAttribute(Qt::WA_KeyboardFocusChange);
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 }  // namespace
 
@@ -92,4 +110,5 @@ void apply_looks(QApplication & application)
     application.setStyleSheet(sheet());
     application.setWindowIcon(application_icon());
     tell_screen_readers();
+    application.installEventFilter(new focus_shower(&application));
 }

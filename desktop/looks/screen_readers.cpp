@@ -3,6 +3,7 @@
 #include "desktop/binder/picture_view.h"
 
 #include <QAccessibleWidget>
+#include <QCheckBox>
 #include <QFrame>
 #include <QRadioButton>
 
@@ -29,13 +30,13 @@ public:
     {
         QStringList names = QAccessibleWidget::actionNames();
         if (can_be_pressed())
-            names.prepend(pressAction());
+            names.prepend(pressing());
         return names;
     }
 
     void doAction(const QString & name) override
     {
-        if (name == pressAction() && can_be_pressed())
+        if (name == pressing() && can_be_pressed())
             button.animateClick();
         else
             QAccessibleWidget::doAction(name);
@@ -43,7 +44,7 @@ public:
 
     QStringList keyBindingsForAction(const QString & name) const override
     {
-        return name == pressAction() && !button.shortcut().isEmpty()
+        return name == pressing() && !button.shortcut().isEmpty()
                    ? QStringList(button.shortcut().toString(QKeySequence::NativeText))
                    : QStringList();
     }
@@ -58,13 +59,13 @@ public:
 
 protected:
     virtual bool can_be_pressed() const { return button.isEnabled(); }
+    virtual QString pressing() const { return pressAction(); }
     QAbstractButton & button;
 };
 
-class told_option : public pressed_widget {
+class told_mark : public pressed_widget {
 public:
     using pressed_widget::pressed_widget;
-    QAccessible::Role role() const override { return QAccessible::RadioButton; }
     QAccessible::State state() const override
     {
         QAccessible::State known = pressed_widget::state();
@@ -72,6 +73,22 @@ public:
         known.checked = button.isChecked();
         return known;
     }
+};
+
+class told_option : public told_mark {
+public:
+    using told_mark::told_mark;
+    QAccessible::Role role() const override { return QAccessible::RadioButton; }
+};
+
+// Left to the toolkit, a reader's toggle would be none of the user's clicks.
+class told_check_box : public told_mark {
+public:
+    using told_mark::told_mark;
+    QAccessible::Role role() const override { return QAccessible::CheckBox; }
+
+protected:
+    QString pressing() const override { return toggleAction(); }
 };
 
 class told_picture : public pressed_widget {
@@ -86,18 +103,36 @@ private:
     bool has_use() const { return button.focusPolicy() != Qt::NoFocus; }
 };
 
+// The toolkit would call one without a name by the title of the group it stands in.
+class told_frame : public QAccessibleWidget {
+public:
+    explicit told_frame(QWidget & its_frame) : QAccessibleWidget(&its_frame), frame(its_frame) {}
+    QAccessible::Role role() const override
+    {
+        return frame.accessibleName().isEmpty() ? QAccessible::Client : QAccessible::Grouping;
+    }
+    QString text(QAccessible::Text wanted) const override
+    {
+        return wanted == QAccessible::Name ? frame.accessibleName() : QAccessibleWidget::text(wanted);
+    }
+
+private:
+    QWidget & frame;
+};
+
 QAccessibleInterface * told(const QString & kind, QObject * object)
 {
     if (auto * const option = qobject_cast<QRadioButton *>(object))
         return new told_option(*option);  // owned by the toolkit
+    if (auto * const box = qobject_cast<QCheckBox *>(object))
+        return new told_check_box(*box);
     if (auto * const picture = qobject_cast<picture_view *>(object))
         return new told_picture(*picture);
-    auto * const group = qobject_cast<QWidget *>(object);
+    auto * const frame = qobject_cast<QWidget *>(object);
     const bool is_plain = kind == QLatin1String("QFrame") || kind == QLatin1String("QWidget");
-    if (!group || !is_plain || kind != QLatin1String(object->metaObject()->className()) ||
-        group->accessibleName().isEmpty())
+    if (!frame || frame->isWindow() || !is_plain || kind != QLatin1String(object->metaObject()->className()))
         return nullptr;
-    return new QAccessibleWidget(group, QAccessible::Grouping);
+    return new told_frame(*frame);
 }
 
 }  // namespace

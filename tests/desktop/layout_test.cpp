@@ -4,13 +4,13 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/looks/letters.h"
 #include "support/colors.h"
+#include "tests/desktop/contrast.h"
 #include "tests/desktop/layout_checks.h"
 #include "tests/desktop/stages.h"
 
 #include <QApplication>
 #include <QMenuBar>
 
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
@@ -122,21 +122,7 @@ INSTANTIATE_TEST_SUITE_P(stages, layout_test,
                                     std::to_string(std::get<0>(stage.param)) + "_pixels";
                          });
 
-// ---- contrast, by the formula of the web's accessibility guidelines
-
-double light_of(const QColor & color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor & one, const QColor & other)
-{
-    const double brighter = std::max(light_of(one), light_of(other));
-    return (brighter + 0.05) / (std::min(light_of(one), light_of(other)) + 0.05);
-}
+// ---- colours
 
 TEST(looks, every_text_stands_out_from_what_lies_behind_it)
 {

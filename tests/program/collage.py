@@ -7,9 +7,9 @@ import sys
 import screen
 
 
-def started():
+def started(kind=screen.Program):
     app, plugins, photos = sys.argv[1:4]
-    program = screen.Program(app, plugins)
+    program = kind(app, plugins)
     program.photos = os.path.join(program.folder, 'my photos')
     os.makedirs(program.photos)
     for path in sorted(glob.glob(os.path.join(photos, '*.jpg')))[:12]:
@@ -27,11 +27,17 @@ def check_saved(program, path, size):
     check(program.picture_of(path) == size, '%s is %s, not %s' % (path, program.picture_of(path), size))
 
 
-def changed_preview(program, act, told):
-    """Does something and waits until a new preview is on disk and on the screen."""
-    file, pixels = program.finished(), program.pixels('picSample')
+def changed(program, act, told):
+    """Does something and waits until a new preview is on disk."""
+    file = program.finished()
     act()
     screen.until(lambda: program.finished() not in ('', file), 'a new preview after ' + told)
+
+
+def changed_preview(program, act, told):
+    """Does something and waits until a new preview is on disk and on the screen."""
+    pixels = program.pixels('picSample')
+    changed(program, act, told)
     screen.until(lambda: program.pixels('picSample') != pixels, 'the new preview on the screen after ' + told)
 
 
@@ -128,8 +134,8 @@ def ended(program):
     check(program.process.returncode == 0, 'the program ended with %d' % program.process.returncode)
 
 
-def run(play):
-    program = started()
+def run(play, kind=screen.Program):
+    program = started(kind)
     try:
         play(program)
     except BaseException:

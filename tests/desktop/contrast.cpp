@@ -1,0 +1,125 @@
+#include "tests/desktop/contrast.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace {
+
+constexpr double usual_least = 4.5, disabled_least = 3;
+
+double light_of(const QColor & color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+bool has_text(const QWidget & widget)
+{
+    if (const auto * const button = qobject_cast<const QAbstractButton *>(&widget))
+        return !button->text().trimmed().isEmpty();
+    if (const auto * const label = qobject_cast<const QLabel *>(&widget))
+        return !label->text().trimmed().isEmpty();
+    if (const auto * const line = qobject_cast<const QLineEdit *>(&widget))
+        return !line->text().trimmed().isEmpty() || !line->placeholderText().isEmpty();
+    if (const auto * const list = qobject_cast<const QComboBox *>(&widget))
+        return !list->lineEdit() && !list->currentText().trimmed().isEmpty();
+    if (const auto * const text = qobject_cast<const QPlainTextEdit *>(&widget))
+        return !text->toPlainText().trimmed().isEmpty();
+    const auto * const group = qobject_cast<const QGroupBox *>(&widget);
+    return group && !group->title().trimmed().isEmpty();
+}
+
+// Where the text stands: marks beside it and frames around it aren't text.
+QRect text_place(const QWidget & widget)
+{
+    const int line = widget.fontMetrics().height();
+    if (qobject_cast<const QGroupBox *>(&widget))
+        return {14, 0,
+                widget.fontMetrics().horizontalAdvance(qobject_cast<const QGroupBox *>(&widget)->title()),
+                line};
+    const auto * const button = qobject_cast<const QAbstractButton *>(&widget);
+    const bool marked = button && button->isCheckable();
+    const int left = marked ? widget.style()->pixelMetric(QStyle::PM_IndicatorWidth) + 4 : 3;
+    const int right = qobject_cast<const QComboBox *>(&widget) ? 24 : 3;
+    return widget.rect().adjusted(left, 2, -right, -2);
+}
+
+// The colour of most pixels, and the one that stands out most from it.
+double contrast_in(const QImage & pixels)
+{
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < pixels.height(); ++y)
+        for (int x = 0; x < pixels.width(); ++x)
+            ++counts[pixels.pixel(x, y)];
+    const auto ground =
+        std::max_element(counts.begin(), counts.end(),
+                         [](const auto & one, const auto & other) { return one.second < other.second; });
+    double most = 1;
+    for (const auto & [color, unused] : counts)
+        most = std::max(most, contrast(QColor(color), QColor(ground->first)));
+    return most;
+}
+
+std::string named(const QWidget & widget)
+{
+    return widget.objectName().toStdString() + " of " + widget.window()->objectName().toStdString();
+}
+
+}  // namespace
+
+double contrast(const QColor & one, const QColor & other)
+{
+    const double brighter = std::max(light_of(one), light_of(other));
+    return (brighter + 0.05) / (std::min(light_of(one), light_of(other)) + 0.05);
+}
+
+std::vector<std::string> faint_texts(QWidget & window)
+{
+    std::vector<std::string> faults;
+    const QImage whole = window.grab().toImage();
+    const double density = whole.devicePixelRatio();
+    for (const QWidget * each : window.findChildren<QWidget *>()) {
+        if (!each->isVisible() || !has_text(*each) || each->visibleRegion().isEmpty())
+            continue;
+        const QRect place(each->mapTo(&window, text_place(*each).topLeft()), text_place(*each).size());
+        const QRect dense(place.topLeft() * density, place.size() * density);
+        const double least = each->isEnabled() ? usual_least : disabled_least;
+        const double found = contrast_in(whole.copy(dense & whole.rect()));
+        if (found < least)
+            faults.push_back(named(*each) + " has " + std::to_string(found));
+    }
+    return faults;
+}
+
+std::vector<std::string> unseen_focus(QWidget & window)
+{
+    std::vector<std::string> faults;
+    for (QWidget * each : window.findChildren<QWidget *>()) {
+        if (!each->isVisible() || !each->isEnabled() || !(each->focusPolicy() & Qt::TabFocus) ||
+            each->focusProxy())
+            continue;
+        if (window.focusWidget())
+            window.focusWidget()->clearFocus();
+        QApplication::processEvents();
+        const QImage without = window.grab().toImage();
+        each->setFocus(Qt::TabFocusReason);
+        QApplication::processEvents();
+        const QImage with = window.grab().toImage();
+        if (!each->hasFocus() || with == without)
+            faults.push_back(named(*each));
+    }
+    return faults;
+}
