@@ -70,6 +70,7 @@ def play(p):
     screen.until(lambda: p.finished() not in ('', without), 'a preview with the copies')
     p.widget('cmdFlurn')
     keep(p, 'phone_yes')
+    p.click('cmdCancel')
     quit_by_mouse(p)
 
 
