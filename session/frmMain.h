@@ -228,10 +228,10 @@ struct frmMain : form {
     photo_table table;
     left_out_photos left_out;
     thumbnails_ahead thumbnails;
-    std::shared_ptr<prepared_shelf> copies{};  ///< of photos, in use as long as the session; empty before the first
-    int16 selected_count = 0;           ///< photos written to the working list so far
-    std::string working_list_path;      ///< the list that a selection is gathered in
-    bool photo_list_edit_mode = false;  ///< saved lists are managed, not chosen from
+    std::shared_ptr<prepared_shelf> copies{};  ///< of photos, in use while the session lasts
+    int16 selected_count = 0;                  ///< photos written to the working list so far
+    std::string working_list_path;             ///< the list that a selection is gathered in
+    bool photo_list_edit_mode = false;         ///< saved lists are managed, not chosen from
     bool photo_choice_cancelled = false;
 
     // The run and the picture it makes.
