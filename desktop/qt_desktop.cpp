@@ -29,6 +29,8 @@
 
 namespace {
 
+constexpr int text_air = 4;  // pixels beside a line
+
 QString toolkit_path(const std::string & path)
 {
     return QFile::decodeName(QByteArray::fromStdString(path));
@@ -39,12 +41,23 @@ std::string path_bytes(const QString & path)
     return QFile::encodeName(path).toStdString();
 }
 
+// A line that the session breaks itself isn't broken once more where the screen has room for it.
+void keep_lines(QMessageBox & box)
+{
+    auto * const label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    if (!label)
+        return;
+    const int widest = label->fontMetrics().size(0, box.text()).width();
+    label->setMinimumWidth(std::min(widest, box.screen()->availableSize().width() * 3 / 5) + 2 * text_air);
+}
+
 void prepare_box(QMessageBox & box, const std::string & title, const std::string & text)
 {
     box.setWindowTitle(title.empty() ? QStringLiteral("Tessaloom") : shown(title));
     box.setAccessibleName(unspaced(box.windowTitle()));
     box.setTextFormat(Qt::PlainText);
     box.setText(shown(text).remove(QLatin1Char('\r')));
+    keep_lines(box);
 }
 
 // What a window's frame takes of the screen, before it is known.

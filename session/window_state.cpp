@@ -90,6 +90,12 @@ void show_menus(frmMain & main, bool show)
     main.set_caption(show ? "F l u r n s" : "F i n i s h i n g   t o u c h e s");
 }
 
+void show_choosing_stage(frmMain & main)
+{
+    main.set_back_color(stage_background);
+    main.picSplash.show(true);
+}
+
 void clear_stage(frmMain & main)
 {
     main.picSplash.show(false);

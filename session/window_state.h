@@ -13,6 +13,9 @@ void show_work_controls(frmMain & main, bool show);
 /// Shows or hides the menus: the choosing stage.
 void show_menus(frmMain & main, bool show);
 
+/// The black stage with the start picture, where the next collage is chosen.
+void show_choosing_stage(frmMain & main);
+
 /// Makes room for a collage by a design: no start picture, no controls of a quick style.
 void clear_stage(frmMain & main);
 

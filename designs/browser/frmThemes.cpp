@@ -161,6 +161,9 @@ void connect_designs(windows & all)
             if (window.cmdOk.enabled())
                 window.cmdOk.click();
         };
+        window.picDesign[static_cast<std::size_t>(index)].on_click = [&window, index] {
+            slot_of(window, index).select();
+        };
     }
     window.cmdPage_plus.on_click = [&all] { list_next_page(all.themes, all.main); };
     window.cmdPage_minus.on_click = [&all] { list_page_before(all.themes, all.main); };

@@ -40,6 +40,9 @@ struct frmThemes : form {
     /// caption is empty.
     std::array<option_button, slot_count> optDesign =
         design_slots(std::make_index_sequence<static_cast<std::size_t>(slot_count)>());
+    /// The sample of each, small, beside its name.
+    std::array<picture, slot_count> picDesign =
+        small_samples(std::make_index_sequence<static_cast<std::size_t>(slot_count)>());
     button cmdPage_minus{*this, "cmdPage_minus", "<  Page"};
     button cmdPrevious{*this, "cmdPrevious", "Previous"};
     button cmdNext{*this, "cmdNext", "Next"};
@@ -70,6 +73,11 @@ private:
     std::array<option_button, sizeof...(index)> design_slots(std::index_sequence<index...>)
     {
         return {{option_button{*this, "optDesign_" + std::to_string(index), design_options}...}};
+    }
+    template <std::size_t... index>
+    std::array<picture, sizeof...(index)> small_samples(std::index_sequence<index...>)
+    {
+        return {{picture{*this, "picDesign_" + std::to_string(index)}...}};
     }
 };
 

@@ -8,6 +8,7 @@ struct theme_designs {
     std::string Number;  ///< the section of the catalogue
     std::string Help_Tip;
     std::string own_name{};  ///< as it stands in the catalogue, where others may have the same
+    std::string sample{};    ///< the file of its sample, empty where it has none
     bool operator==(const theme_designs &) const = default;
 };
 

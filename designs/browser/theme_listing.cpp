@@ -1,5 +1,6 @@
 #include "designs/browser/theme_listing.h"
 
+#include "designs/browser/sample_path.h"
 #include "designs/catalogue/catalogue.h"
 #include "support/for_now.h"
 
@@ -37,6 +38,10 @@ void empty_slots(frmThemes & window)
         slot.set_caption("");
         slot.tag.clear();
     }
+    for (picture & beside : window.picDesign) {
+        beside.show(false);
+        beside.load("");
+    }
 }
 
 void clear_page(frmThemes & window)
@@ -72,12 +77,14 @@ bool passes_count(listing & made, const design_record & design)
     return made.wanted_count == label || made.wanted_count == any_number;
 }
 
-void add_passing(listing & made, const design_record & design)
+void add_passing(listing & made, const frmMain & main)
 {
+    const design_record & design = main.design_record;
     if (is_offered(design.name) && design_passes_family(design, made.family) &&
         fits_ratio(design, ratio_in_force) && fits_orientation(design, made.view) &&
         passes_count(made, design))
-        made.designs.push_back({design.name, design.section, design.help_tip, design.name});
+        made.designs.push_back(
+            {design.name, design.section, design.help_tip, design.name, sample_path(main, made.view)});
 }
 
 // A design of the same name tells apart wherever it stands: in another family, on another page.
@@ -99,7 +106,7 @@ void walk_catalogue(frmMain & main, listing & made)
         if (main.design_record.section.empty())
             continue;
         made.walked.push_back({.section = main.design_record.section, .name = main.design_record.name});
-        add_passing(made, main.design_record);
+        add_passing(made, main);
     }
     tell_apart(made);
 }
@@ -115,6 +122,8 @@ void fill_slots(frmThemes & window, const listing & made, int count)
         slot.tag = design.Number;
         slot.set_tool_tip(design.Help_Tip);
         slot.show(true);
+        window.picDesign[static_cast<std::size_t>(index)].load(design.sample);
+        window.picDesign[static_cast<std::size_t>(index)].show(!design.sample.empty());
     }
 }
 

@@ -1,18 +1,13 @@
 #include "designs/browser/theme_sample.h"
 
 #include "designs/browser/description.h"
+#include "designs/browser/sample_path.h"
 #include "designs/browser/theme_listing.h"
 #include "designs/catalogue/catalogue.h"
 #include "designs/catalogue/chosen_design.h"
 #include "support/files/paths.h"
 
 namespace {
-
-// Designs of the user's have all that belongs to them in the data folder.
-const std::string & base_folder(const frmMain & main)
-{
-    return main.design_record.system == "No" ? main.data_folder : main.install_folder;
-}
 
 void allow_turns(frmThemes & window, const design_record & design)
 {
@@ -26,12 +21,10 @@ void allow_turns(frmThemes & window, const design_record & design)
 
 void show_sample(frmThemes & window, const frmMain & main)
 {
-    const std::string name = sample_name(main.design_record, view_of(window));
-    window.picSample.show(!name.empty());
-    if (name.empty())
-        return;
-    const std::string path = joined(joined(base_folder(main), "samples"), name);
-    window.picSample.load(file_exists(path) ? path : joined(main.install_folder, "samples/not_yet.jpg"));
+    const std::string path = sample_path(main, view_of(window));
+    window.picSample.show(!path.empty());
+    if (!path.empty())
+        window.picSample.load(path);
 }
 
 std::string description_of(const frmMain & main)

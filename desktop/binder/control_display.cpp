@@ -37,6 +37,7 @@ void display_colors(const control & held, QWidget & widget, QPalette::ColorRole 
     QPalette colors = widget.palette();
     colors.setColor(back, shown_color(held.back_color()));
     colors.setColor(fore, shown_color(held.fore_color()));
+    colors.setColor(QPalette::PlaceholderText, shown_color(held.fore_color()));  // on any ground
     widget.setPalette(colors);
 }
 
@@ -184,7 +185,8 @@ void display_content(const label & held, QLabel & widget)
 void display_content(const picture & held, picture_view & widget)
 {
     const bool usable = static_cast<bool>(held.on_click), can_be_dragged = static_cast<bool>(held.on_drop);
-    widget.setFocusPolicy(usable || can_be_dragged ? Qt::StrongFocus : Qt::NoFocus);
+    const bool by_mouse = widget.property("beside").toBool();
+    widget.setFocusPolicy((usable && !by_mouse) || can_be_dragged ? Qt::StrongFocus : Qt::NoFocus);
     widget.setCursor(can_be_dragged ? Qt::OpenHandCursor : usable ? Qt::PointingHandCursor : Qt::ArrowCursor);
     widget.set_draggable(can_be_dragged);
     widget.set_menu(static_cast<bool>(held.on_popup));

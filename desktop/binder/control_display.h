@@ -20,6 +20,7 @@
 ///              it (larger letters); what is placed right of it or below it moves, and the window grows with
 ///              it
 ///   keys       on a menu entry: its keys in the whole window, "Ctrl+Shift+Z; Ctrl+Y"
+///   beside     on a picture: true: it is pressed by the mouse alone, as what stands beside it is by keys too
 ///   largest    pixels: the greatest height of letters that its box has room for
 
 /// Brings the widget to the state of its control; fires none of the signals that a user's action fires.

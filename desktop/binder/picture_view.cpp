@@ -194,8 +194,10 @@ void picture_view::paintEvent(QPaintEvent *)
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QRect(0, 0, width(), heightForWidth(width())), picture);
     } else if (!picture.isNull() && fits_whole) {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(whole_place(), picture);
+        // The painter alone would pick single pixels for a very small one.
+        const QSize size = whole_place().size() * devicePixelRatioF();
+        painter.drawImage(whole_place(),
+                          picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     } else if (!picture.isNull()) {
         painter.drawImage(0, 0, picture);
     }

@@ -12,6 +12,7 @@ void leave_finishing_stage(frmMain & main)
 {
     show_menus(main, true);
     show_work_controls(main, false);
+    show_choosing_stage(main);
     main.collage.quick_active = false;
 }
 

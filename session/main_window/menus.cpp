@@ -8,6 +8,7 @@
 #include "quick/start_quick.h"
 #include "session/main_window/closing.h"
 #include "session/main_window/designed.h"
+#include "session/window_state.h"
 #include "session/windows.h"
 #include "support/windows/show_help.h"
 
@@ -76,11 +77,19 @@ constexpr hooked_entry hooked_entries[] = {
     {&frmMain::mnuHelpAbout, about},
 };
 
+// What began no collage leaves the stage as it was.
+void choose(frmMain & main, void (*action)(frmMain & main))
+{
+    action(main);
+    if (main.loaded() && main.menus_shown)
+        show_choosing_stage(main);
+}
+
 }  // namespace
 
 void connect_menus(frmMain & main)
 {
     main.mnuSeparator.enable(false);  // a divider, never to be chosen
     for (const hooked_entry & each : hooked_entries)
-        (main.*each.entry).on_click = [&main, action = each.action] { action(main); };
+        (main.*each.entry).on_click = [&main, action = each.action] { choose(main, action); };
 }

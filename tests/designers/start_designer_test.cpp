@@ -79,7 +79,7 @@ TEST(designer_menus, a_cancel_of_the_design_stays_in_the_choosing_stage)
             session.desk.on_modal<frmPuzzle>([](frmPuzzle & window) { window.request_close(); });
         session.entry(each.chosen).click();
         EXPECT_EQ(session.desk.shown_windows, names{each.window});
-        expect_states(session.main, "mnuFile^ frmOutput_ picSplash_");
+        expect_states(session.main, "mnuFile^ frmOutput_ picSplash^");
         EXPECT_EQ(session.previews(), 0);
         EXPECT_FALSE(session.main.collage.matrix_session);
     }

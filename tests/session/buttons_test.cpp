@@ -1,3 +1,4 @@
+#include "support/colors.h"
 #include "support/windows/show_help.h"
 #include "tests/session/opened_session.h"
 
@@ -9,7 +10,9 @@ TEST(cmdCancel, goes_back_to_the_choosing_stage)
     session.finish();
     session.main.collage.quick_active = true;
     session.main.cmdCancel.click();
-    expect_states(session.main, "mnuFile^ mnuDesigned^ frmOutput_ frmStyle_ picSample_ optPreview0");
+    expect_states(session.main,
+                  "mnuFile^ mnuDesigned^ frmOutput_ frmStyle_ picSample_ optPreview0 picSplash^");
+    EXPECT_EQ(session.main.back_color(), stage_background);
     EXPECT_TRUE(session.main.menus_shown);
     EXPECT_FALSE(session.main.collage.quick_active);
     EXPECT_FALSE(session.main.updating_controls);

@@ -100,7 +100,7 @@ TEST(mnuDesigned, a_cancel_of_the_photo_chooser_stays_in_the_choosing_stage)
     session.will_choose_design();
     session.desk.on_modal<frmSelectPhotos>([](frmSelectPhotos & chooser) { chooser.cmdCancel.click(); });
     session.main.mnuDesigned.click();
-    expect_states(session.main, "mnuFile^ frmOutput_ picSample_");
+    expect_states(session.main, "mnuFile^ frmOutput_ picSample_ picSplash^");
     EXPECT_EQ(session.previews(), 0);
     EXPECT_FALSE(session.main.updating_controls);
 }

@@ -1,5 +1,7 @@
 #include "designs/browser/theme_sample.h"
 
+#include "designs/browser/theme_listing.h"
+#include "support/files/paths.h"
 #include "tests/designs/opened_browser.h"
 
 namespace {
@@ -199,4 +201,22 @@ TEST(optDesign, one_that_has_another_behind_it_brings_next_back)
     EXPECT_FALSE(session.browser.cmdNext.enabled());
     session.browser.optDesign[1].select();  // the slot behind it is empty, the next design stands in slot 8
     EXPECT_TRUE(session.browser.cmdNext.enabled());
+}
+
+TEST(picDesign, shows_the_sample_beside_the_name_and_selects_the_design)
+{
+    opened_browser session(design_section_text(1, "one", {"Sample=a.jpg"}) +
+                           design_section_text(2, "two", {"Sample=gone.jpg"}) +
+                           design_section_text(3, "three", {}));
+    const std::string ours = session.folder.write("install/samples/a.jpg", "");
+    GetDesigns(session.browser, session.main, count_list::made_anew);
+    EXPECT_EQ(session.browser.picDesign[0].file(), ours);
+    EXPECT_EQ(session.browser.picDesign[1].file(),
+              joined(session.main.install_folder, "samples/not_yet.jpg"));
+    EXPECT_TRUE(session.browser.picDesign[1].visible());
+    EXPECT_FALSE(session.browser.picDesign[8].visible());
+    EXPECT_FALSE(session.browser.picDesign[2].visible());
+    session.browser.picDesign[1].click();
+    EXPECT_EQ(session.browser.selected_index, 1);
+    EXPECT_EQ(session.main.design_record.name, "two");
 }
