@@ -212,7 +212,7 @@ TEST(mnuEditSelections, without_lists_it_says_so)
     session.main.picSample.load("a.jpg");
     session.main.mnuEditSelections.click();
     EXPECT_EQ(session.desk.next_message(), "You have not created any photo lists yet.");
-    expect_states(session.main, "picSplash^");
+    expect_states(session.main, "picSplash_");
     EXPECT_EQ(session.main.picSample.file(), "");
     EXPECT_TRUE(session.main.photo_list_edit_mode);
 }
