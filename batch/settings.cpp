@@ -139,7 +139,8 @@ void apply_settings(frmMain & main, const batch_arguments & arguments)
         main.txtCaption.set_as_user(*arguments.caption);
     // The option of a background asks for its picture when none is named, and nobody is here to answer.
     auto settings = arguments.settings;
-    std::ranges::stable_partition(settings, [](const auto & each) { return each.first == "txtBGimage"; });
+    std::stable_partition(settings.begin(), settings.end(),
+                          [](const auto & each) { return each.first == "txtBGimage"; });
     for (const auto & [name, value] : settings)
         apply_setting(main, name, value);
 }
