@@ -28,6 +28,14 @@ QString marked_caption(const control & held, const QObject & widget)
     return with_mnemonic(shown(held.caption()), letters_of(widget));
 }
 
+// Fainter than what is typed, on any ground.
+QColor faded(const QColor & fore, const QColor & back)
+{
+    const auto mixed = [](int text, int ground) { return (3 * text + ground) / 4; };
+    return {mixed(fore.red(), back.red()), mixed(fore.green(), back.green()),
+            mixed(fore.blue(), back.blue())};
+}
+
 // A colour of 0 on 0 is one that nobody chose.
 void display_colors(const control & held, QWidget & widget, QPalette::ColorRole back,
                     QPalette::ColorRole fore)
@@ -35,9 +43,10 @@ void display_colors(const control & held, QWidget & widget, QPalette::ColorRole 
     if (held.back_color() == held.fore_color())
         return;
     QPalette colors = widget.palette();
-    colors.setColor(back, shown_color(held.back_color()));
-    colors.setColor(fore, shown_color(held.fore_color()));
-    colors.setColor(QPalette::PlaceholderText, shown_color(held.fore_color()));  // on any ground
+    const QColor ground = shown_color(held.back_color()), text = shown_color(held.fore_color());
+    colors.setColor(back, ground);
+    colors.setColor(fore, text);
+    colors.setColor(QPalette::PlaceholderText, faded(text, ground));
     widget.setPalette(colors);
 }
 

@@ -16,6 +16,7 @@ namespace {
 // In pixels. The row stands on the black below the name of the program.
 constexpr int row_top = 384, least_width = 128, picture_width = 72, picture_height = 48, air = 6, gap = 8,
               least_left = 16;
+constexpr int art_center = 480;  // in the start picture, which is black left of its art
 
 struct way {
     const char * action;
@@ -109,7 +110,7 @@ private:
         int width = -gap;
         for (const begin_button * each : buttons)
             width += each->sizeHint().width() + gap;
-        int left = std::max(least_left, splash.geometry().center().x() - width / 2);
+        int left = std::max(least_left, splash.x() + art_center - width / 2);
         for (begin_button * each : buttons) {
             each->setGeometry({{left, splash.y() + row_top}, each->sizeHint()});
             each->setVisible(!splash.isHidden());
