@@ -1,8 +1,11 @@
 #include "photos/dropped_photos.h"
 
+#include "intake/look.h"
 #include "photos/left_out.h"
 #include "photos/lists/photo_list.h"
 #include "photos/lists/pls_line.h"
+#include "photos/prepared_photos.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -72,6 +75,32 @@ private:
     std::set<std::string> seen;
 };
 
+std::vector<intake_photo> looked_at_drop(const dragged_files & dropped)
+{
+    std::vector<intake_photo> photos;
+    for (const std::string & path : dropped.paths) {
+        const std::string place = without_separator_at_end(path);
+        if (!folder_exists(place))
+            photos.push_back(looked_at(place));
+        else
+            for (intake_photo & photo : looked_at_folder(place))
+                photos.push_back(std::move(photo));
+    }
+    return photos;
+}
+
+// Who drops photos wants them in: what a collage can't take as it is gets its copy unasked.
+dragged_files with_copies(frmMain & main, const dragged_files & dropped)
+{
+    try {
+        auto seen = alone_beside(main.desk, main.workers, [&] { return looked_at_drop(dropped); });
+        auto ready = photos_with_copies(main, std::move(seen), copies_wanted::anyway);
+        return ready ? dragged_files{.paths = std::move(*ready), .elsewhere = dropped.elsewhere} : dropped;
+    } catch (const platform_error &) {
+        return dropped;  // a folder that can't be opened is told of by name
+    }
+}
+
 std::string box_text(const dropped_photos & found)
 {
     std::string text = found.photos.empty() ? "Nothing of what you dropped can be used:"
@@ -127,7 +156,7 @@ dropped_photos told_photos_of_drop(frmMain & main, const dragged_files & dropped
     dropped_photos found;
     {
         const busy pointer(main.desk);
-        found = photos_of_drop(dropped);
+        found = photos_of_drop(with_copies(main, dropped));
     }
     if (!found.left_out.empty())
         main.desk.message(box_text(found));

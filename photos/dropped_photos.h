@@ -18,7 +18,8 @@ struct dropped_photos {
 /// folders in them. Raises nothing.
 dropped_photos photos_of_drop(const dragged_files & dropped);
 
-/// The same, at most `most` photos. The user is told what was left out, or that nothing can be used.
+/// The same, at most `most` photos, after copies were made of those that need one. The user is told what was
+/// left out, or that nothing can be used.
 dropped_photos told_photos_of_drop(frmMain & main, const dragged_files & dropped, std::size_t most);
 
 /// Makes the photos the source of the next collage, or of the one at hand: one folder as a folder, all else

@@ -1,6 +1,7 @@
 #include "photos/prepared_photos.h"
 
 #include "intake/jpeg_header.h"
+#include "photos/dropped_photos.h"
 #include "photos/lists/working_list.h"
 #include "support/files/text_file.h"
 #include "tests/jpeg_files.h"
@@ -62,6 +63,27 @@ TEST_F(prepared_photos_test, speaks_of_one_photo_as_one)
               "1 of the 40 photos is turned or in another format. Prepare a copy that fits?");
     EXPECT_EQ(question_of_copies(12, 40),
               "12 of the 40 photos are turned or in another format. Prepare copies that fit?");
+}
+
+TEST_F(prepared_photos_test, prepares_without_a_question_what_is_dropped)
+{
+    const dropped_photos found = told_photos_of_drop(
+        main,
+        {.paths = {photos + "/1 upright.jpg", photos + "/2 turned.jpg", photos + "/3 other name.jpeg"},
+         .elsewhere = {}},
+        998);
+    EXPECT_TRUE(desk.questions.empty());
+    ASSERT_EQ(found.photos.size(), 3U);
+    EXPECT_EQ(found.photos[0], photos + "/1 upright.jpg");
+    EXPECT_EQ(size_of(found.photos[1]).width, 32);  // upright now
+    EXPECT_NE(found.photos[2], photos + "/3 other name.jpeg");
+}
+
+TEST_F(prepared_photos_test, takes_a_dropped_folder_that_needs_nothing_as_a_folder)
+{
+    for (const char * name : {"2 turned.jpg", "3 other name.jpeg", "4 damaged.png"})
+        delete_file(photos + "/" + name);
+    EXPECT_EQ(told_photos_of_drop(main, {.paths = {photos}, .elsewhere = {}}, 998).folder, photos);
 }
 
 TEST_F(prepared_photos_test, leaves_all_as_it_was_after_a_no)
