@@ -11,7 +11,20 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+// The address sanitizer keeps its books in terabytes of addresses.
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define TAKES_ADDRESSES
+#endif
+#endif
+
 namespace {
+
+#ifdef TAKES_ADDRESSES
+constexpr bool memory_can_be_limited = false;
+#else
+constexpr bool memory_can_be_limited = true;
+#endif
 
 void limit(__rlimit_resource what, std::uint64_t most)
 {
@@ -142,7 +155,8 @@ void limit_process(const process_limits & limits)
     std::signal(SIGXFSZ, SIG_IGN);  // what is written in spite of it just fails
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, 0);
-    limit(RLIMIT_AS, limits.memory);
+    if (memory_can_be_limited)
+        limit(RLIMIT_AS, limits.memory);
     limit(RLIMIT_CPU, limits.seconds);
 }
 

@@ -14,7 +14,7 @@ struct run_cancelled {};
 /// waited for behind a cancel: the step is asked to stop and comes to its end alone, so it must refer to
 /// nothing. Raises run_cancelled.
 template <typename Result>
-Result awaited_in_run(frmMain & main, std::future<Result> result, std::stop_source stop = {})
+Result awaited_in_run(frmMain & main, std::future<Result> result, std::stop_source && stop = {})
 {
     while (result.wait_for(longest_standstill) != std::future_status::ready) {
         main.desk.breathe();
