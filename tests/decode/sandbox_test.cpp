@@ -13,6 +13,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -100,7 +101,7 @@ TEST_F(in_sandbox, begins_no_other_process_and_stops_none)
 TEST(sandbox, still_has_memory_and_threads)
 {
     EXPECT_NE(tried_inside([] {
-                  std::string text(50'000'000, 'x');
+                  std::vector<char> text(50'000'000, 'x');
                   std::thread other([&text] { text.resize(100'000'000); });
                   other.join();
                   return text.size() == 100'000'000;

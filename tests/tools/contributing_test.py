@@ -29,7 +29,7 @@ class contributing(unittest.TestCase):
         cls.addClassCleanup(place.cleanup)
         cls.root = pathlib.Path(place.name) / "tessaloom"
         cls.root.mkdir()
-        rooms = [path.name for path in ROOT.iterdir() if path.name not in (".git", "build", "out", "docs", ".ccache")]
+        rooms = [path.name for path in ROOT.iterdir() if path.name not in (".git", "build", "out", "docs")]
         for name in rooms:
             if (ROOT / name).is_dir():
                 shutil.copytree(ROOT / name, cls.root / name, ignore=shutil.ignore_patterns("__pycache__"))
