@@ -4,6 +4,9 @@
 #include <new>
 
 // A picture file of the kind that this program is built for: what comes of it is a JPEG, or a fault.
+#ifndef FUZZED_KIND
+#define FUZZED_KIND "jpeg"
+#endif
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * bytes, std::size_t count)
 {

@@ -1,6 +1,7 @@
 #include "support/files/paths.h"
 #include "tests/temporary_folder.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 TEST(stamp_of, is_the_same_for_a_file_left_alone_and_another_when_it_grew)
