@@ -12,7 +12,10 @@ namespace {
 text_lines section_in(const std::string & catalogue, const design_record & design)
 {
     const double number = number_of_header("[" + design.section + "]", 3).value_or(0);
-    return section_of(lines_of_file(catalogue), nearest(number));
+    text_lines lines = section_of(lines_of_file(catalogue), nearest(number));
+    while (!lines.empty() && lines.back().empty())
+        lines.pop_back();  // what parts it from the next section, if there is one
+    return lines;
 }
 
 }  // namespace

@@ -52,6 +52,14 @@ TEST_F(sharing_session, tells_when_the_number_has_gone_to_another_design_meanwhi
     EXPECT_FALSE(keep_template(main));
 }
 
+// The catalogue parts its sections by an empty line, which the last one gets with the next.
+TEST_F(sharing_session, minds_no_design_that_is_added_behind_its_own_meanwhile)
+{
+    folder.write("data/designs.ini",
+                 catalogue + "\r\n[Design601]\r\nName=Another\r\nSystem=No\r\nFile=saved601\r\n");
+    EXPECT_TRUE(keep_template(main));
+}
+
 TEST_F(sharing_session, has_nothing_to_keep_of_a_supplied_design_or_one_without_its_template)
 {
     main.design_record.file = "saved601";
