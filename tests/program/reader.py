@@ -122,7 +122,7 @@ class Reader:
 
     def window(self, name):
         """Waits for the window that is called so."""
-        return until(lambda: next((each for each in heard(self.windows) if heard(lambda: each.name) == name), None), name)
+        return until(lambda: next((each for each in heard(self.windows) or [] if heard(lambda: each.name) == name), None), name)
 
     def find(self, window, role, name):
         """Waits for what has that role and that name there."""
