@@ -2,8 +2,8 @@
 
 #include "designs/catalogue/catalogue_lines.h"
 #include "desktop/program_folders.h"
-#include "desktop/qt_text.h"
 #include "desktop/text_drawing.h"
+#include "desktop/without_windows.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -11,11 +11,10 @@
 #include "versions/picture_versions.h"
 #include "versions/version.h"
 
-#include <QFontInfo>
-#include <QSysInfo>
-
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <thread>
 #include <unistd.h>
 
@@ -46,28 +45,27 @@ std::string found_out(Step step)
 
 // ---- the system
 
+std::optional<std::string> variable(const char * name)
+{
+    const char * const value = std::getenv(name);
+    return value ? std::optional<std::string>(value) : std::nullopt;
+}
+
 std::string surroundings()
 {
     std::string told;
     for (const char * name : {"LANG", "LC_ALL", "XDG_SESSION_TYPE", "XDG_CURRENT_DESKTOP"})
-        if (const QString value = qEnvironmentVariable(name); !value.isEmpty())
-            told += (told.empty() ? "" : ", ") + std::string(name) + "=" + bytes_of(value);
+        if (const std::string value = variable(name).value_or(""); !value.empty())
+            told += (told.empty() ? "" : ", ") + std::string(name) + "=" + value;
     for (const char * name : {"DISPLAY", "WAYLAND_DISPLAY"})
-        if (qEnvironmentVariableIsSet(name))
+        if (variable(name))
             told += (told.empty() ? "" : ", ") + std::string(name) + " is set";
     return told.empty() ? "no desktop" : told;
 }
 
-std::string system_told()
-{
-    return bytes_of(QSysInfo::prettyProductName()) + ", " + bytes_of(QSysInfo::kernelType()) + " " +
-           bytes_of(QSysInfo::kernelVersion()) + ", " + bytes_of(QSysInfo::currentCpuArchitecture());
-}
-
 std::string fonts_told()
 {
-    return counted(installed_fonts().size(), "families") + ", captions begin with " +
-           bytes_of(QFontInfo(pixel_font({})).family());
+    return counted(installed_fonts().size(), "families") + ", captions begin with " + first_caption_family();
 }
 
 // ---- the folders
@@ -132,7 +130,7 @@ std::string programs_told(const std::string & install)
 
 std::vector<std::string> libraries_in_use()
 {
-    return {std::string("Qt ") + qVersion(), picture_version(), jpeg_version(), archive_version()};
+    return {toolkit_version(), picture_version(), jpeg_version(), archive_version()};
 }
 
 std::string report(const batch_folders & folders)
@@ -140,7 +138,7 @@ std::string report(const batch_folders & folders)
     const std::string data =
         folders.data.use_public_folder ? folders.data.public_folder : folders.install_folder;
     return version_told("tessaloom-batch", libraries_in_use()) + row("Built with", compiler()) +
-           row("System", system_told()) + row("Surroundings", surroundings()) +
+           row("System", system_in_words()) + row("Surroundings", surroundings()) +
            row("Cores", std::to_string(std::thread::hardware_concurrency())) + row("Fonts", fonts_told()) +
            row("Program", programs_told(folders.install_folder)) +
            row("Data folder", kind_of_place(folders)) + data_told(data);

@@ -1,4 +1,5 @@
 #include "desktop/program_folders.h"
+#include "desktop/without_windows.h"
 #include "intake/gathered.h"
 #include "intake/intake_arguments.h"
 #include "intake/intake_report.h"
@@ -8,8 +9,6 @@
 #include "support/platform_error.h"
 #include "versions/archive_version.h"
 #include "versions/version.h"
-
-#include <QCoreApplication>
 
 #include <csignal>
 #include <cstdio>
@@ -96,8 +95,7 @@ int run(const intake_arguments & arguments)
             return 0;
         case intake_arguments::task::version:
             std::printf("%s",
-                        version_told("tessaloom-intake", {std::string("Qt ") + qVersion(), archive_version()})
-                            .c_str());
+                        version_told("tessaloom-intake", {toolkit_version(), archive_version()}).c_str());
             return 0;
         default:
             return prepare(arguments);
@@ -116,8 +114,7 @@ int main(int count, char ** words)
 {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         std::signal(signal, [](int) { interrupted = 1; });
-    int only_the_name = 1;
-    const QCoreApplication application(only_the_name, words);
+    const windowless_application application(words);
     try {
         return with_platform_errors([&] { return run(parse_intake_arguments({words + 1, words + count})); });
     } catch (const bad_intake_arguments & fault) {

@@ -43,7 +43,7 @@ print_report written_to_file(const print_choice & choice, const QImage & picture
 
 print_report sent_to_printer(const print_choice & choice, const QImage & picture)
 {
-    QTemporaryFile page(QDir::temp().filePath(QStringLiteral("tessaloom_XXXXXX.pdf")));
+    QTemporaryFile page(QDir::temp().filePath(QStringLiteral("tessaloom_page")));
     const std::string fault =
         page.open() ? write_page(page.fileName(), picture, choice.page, title) : bytes_of(page.errorString());
     if (!fault.empty())
