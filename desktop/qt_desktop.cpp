@@ -318,7 +318,7 @@ bool qt_desktop::open_document(const std::string & target)
 
 print_report qt_desktop::print(const bitmap & image, orientation page)
 {
-    return print_by_dialog(printer(), image, page, owner());
+    return print_by_dialog(*this, printer(), image, page, owner());
 }
 
 // A window fills the screen to nine tenths, which leaves room for its frame.

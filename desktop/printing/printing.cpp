@@ -5,33 +5,14 @@
 #include "desktop/printing/print_queue.h"
 #include "desktop/qt_picture.h"
 #include "desktop/qt_text.h"
+#include "support/files/beside.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QTemporaryFile>
-#include <QTimer>
-
-#include <chrono>
-#include <future>
 
 namespace {
 
 constexpr auto title = "Tessaloom Flurn";
-
-// The window goes on being drawn meanwhile, and takes no clicks.
-print_report away_from_the_window(const std::function<print_report()> & work)
-{
-    auto report = std::async(std::launch::async, work);
-    QEventLoop loop;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
-        if (report.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
-            loop.quit();
-    });
-    look.start(20);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return report.get();
-}
 
 print_report written_to_file(const print_choice & choice, const QImage & picture)
 {
@@ -62,15 +43,16 @@ QPrinterInfo first_printer()
     return names.isEmpty() ? QPrinterInfo() : QPrinterInfo::printerInfo(names.front());
 }
 
-print_report carry_out(const print_choice & choice, const QImage & picture)
+print_report carry_out(desktop & desk, const print_choice & choice, const QImage & picture)
 {
-    return away_from_the_window([&] {
+    worker_pool workers;
+    return alone_beside(desk, workers, [&] {
         return choice.file.isEmpty() ? sent_to_printer(choice, picture) : written_to_file(choice, picture);
     });
 }
 
-print_report print_by_dialog(const QPrinterInfo & printer, const bitmap & image, orientation page,
-                             QWidget * owner)
+print_report print_by_dialog(desktop & desk, const QPrinterInfo & printer, const bitmap & image,
+                             orientation page, QWidget * owner)
 {
     if (printer.isNull())
         return {.result = print_result::no_printer};
@@ -80,5 +62,5 @@ print_report print_by_dialog(const QPrinterInfo & printer, const bitmap & image,
                 .why = "There is no collage."};
     const QImage picture = image_of(image);
     const auto choice = choose_print(printer, picture, page_orientation(page), owner);
-    return choice ? carry_out(*choice, picture) : print_report{.result = print_result::cancelled};
+    return choice ? carry_out(desk, *choice, picture) : print_report{.result = print_result::cancelled};
 }

@@ -3,6 +3,7 @@
 #include "desktop/printing/print_dialog.h"
 #include "desktop/printing/print_page.h"
 #include "desktop/printing/printing.h"
+#include "desktop/qt_desktop.h"
 #include "desktop/qt_picture.h"
 #include "tests/pictures.h"
 
@@ -48,6 +49,12 @@ constexpr paper papers[] = {{"paper_a4", 595, 842, 12, 36, 18, 24},
 QString printed_file(const std::string & queue)
 {
     return qEnvironmentVariable("PRINTED") + QStringLiteral("/%1.pdf").arg(QString::fromStdString(queue));
+}
+
+print_report carried_out(const print_choice & choice, const QImage & picture)
+{
+    qt_desktop desk;
+    return carry_out(desk, choice, picture);
 }
 
 print_choice usual_choice(const std::string & queue, QPageLayout::Orientation lies)
@@ -134,8 +141,8 @@ TEST(printers, each_gets_one_sheet_of_its_own_paper_with_the_whole_picture_insid
     for (const paper & on : papers)
         for (const collage & made : collages) {
             SCOPED_TRACE(std::string(on.queue) + " " + std::to_string(made.width));
-            const print_report report = carry_out(usual_choice(on.queue, made.lies),
-                                                  image_of(plain(made.width, made.height, {.red = 80})));
+            const print_report report = carried_out(usual_choice(on.queue, made.lies),
+                                                    image_of(plain(made.width, made.height, {.red = 80})));
             ASSERT_EQ(report.result, print_result::sent) << report.why;
             ASSERT_TRUE(is_through(on.queue));
             const sheet got = printed_sheet(on.queue);
@@ -155,7 +162,7 @@ TEST(printers, each_gets_one_sheet_of_its_own_paper_with_the_whole_picture_insid
 TEST(printers, a_job_has_a_title)
 {
     const print_report report =
-        carry_out(usual_choice("stands_still", QPageLayout::Portrait), image_of(plain(20, 30, {})));
+        carried_out(usual_choice("stands_still", QPageLayout::Portrait), image_of(plain(20, 30, {})));
     EXPECT_EQ(report.result, print_result::held);
     EXPECT_EQ(report.where, "stands_still");
     cups_job_t * jobs = nullptr;
@@ -168,7 +175,7 @@ TEST(printers, a_job_has_a_title)
 TEST(printers, one_that_takes_no_jobs_fails_in_words)
 {
     const print_report report =
-        carry_out(usual_choice("takes_nothing", QPageLayout::Portrait), image_of(plain(20, 30, {})));
+        carried_out(usual_choice("takes_nothing", QPageLayout::Portrait), image_of(plain(20, 30, {})));
     EXPECT_EQ(report.result, print_result::failed);
     EXPECT_EQ(report.where, "takes_nothing");
     EXPECT_NE(report.why, "");
@@ -178,7 +185,7 @@ TEST(printers, one_that_is_gone_fails_in_words)
 {
     print_choice choice = usual_choice("paper_a4", QPageLayout::Portrait);
     choice.queue = "was_here";
-    const print_report report = carry_out(choice, image_of(plain(20, 30, {})));
+    const print_report report = carried_out(choice, image_of(plain(20, 30, {})));
     EXPECT_EQ(report.result, print_result::failed);
     EXPECT_EQ(report.where, "was_here");
     EXPECT_NE(report.why, "");
@@ -194,7 +201,7 @@ TEST(printers, a_full_temporary_folder_is_named_and_nothing_is_printed)
     const rlimit small{.rlim_cur = 1000, .rlim_max = before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &small);
     const print_report report =
-        carry_out(usual_choice("paper_a4", QPageLayout::Portrait), image_of(graded(200, 300)));
+        carried_out(usual_choice("paper_a4", QPageLayout::Portrait), image_of(graded(200, 300)));
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, former);
     EXPECT_EQ(report.result, print_result::failed);
@@ -286,7 +293,7 @@ TEST(print_dialog, a_file_can_be_written_instead)
         press_print(preview);
     });
     ASSERT_TRUE(choice);
-    const print_report report = carry_out(*choice, image_of(plain(30, 20, {})));
+    const print_report report = carried_out(*choice, image_of(plain(30, 20, {})));
     EXPECT_EQ(report.result, print_result::written) << report.why;
     EXPECT_EQ(report.where, path.toStdString());
     EXPECT_TRUE(QFile::exists(path));
