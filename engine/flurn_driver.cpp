@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/last_flurn.h"
 #include "engine/image_number.h"
+#include "engine/output/flurn_file.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/pixels/brought_down.h"
 #include "engine/run_steps.h"
@@ -92,7 +93,8 @@ void keep_collage(frmMain & main)
         enlarged({.left = margin, .top = margin, .width = main.collage_width, .height = main.collage_height},
                  run.drawn_at.canvas()),
         run.drawn_at.samples);
-    save_photo(main, run.canvas, finished_path(main));
+    const picture_notes notes = notes_of_flurn({.width = run.canvas.width(), .height = run.canvas.height()});
+    save_photo(main, run.canvas, notes, finished_path(main));
     hide_image_number(main);
     main.trace += "FFF  ";
 }
