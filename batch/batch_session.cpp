@@ -114,6 +114,8 @@ bool went_well(const std::function<void()> & step)
     }
 }
 
+constexpr const char * none_usable = "None of the photos could be used.";
+
 // Whether the last run has laid what was asked for. Its messages have told what went wrong, but a template
 // without places and a picture of the design that is gone are passed over without a word.
 bool is_whole(const open_session & running)
@@ -123,7 +125,7 @@ bool is_whole(const open_session & running)
         return false;
     const std::string missing = missing_picture(main);
     if (!has_usable_photo(main))
-        std::fprintf(stderr, "None of the photos could be used.\n");
+        std::fprintf(stderr, "%s\n", none_usable);
     else if (main.run.image_number <= 1)
         std::fprintf(stderr,
                      "None of the photos found a place: the template of this design is missing or empty.\n");
@@ -145,7 +147,8 @@ bool goes_out(open_session & running, const batch_arguments & arguments, const m
 exit_status outcome_of(const open_session & running, const std::optional<bool> & went_out)
 {
     if (!went_out && !running.desk.told_of_an_error())
-        std::fprintf(stderr, "These settings make no picture.\n");
+        std::fprintf(stderr, "%s\n",
+                     has_usable_photo(running.all.main) ? "These settings make no picture." : none_usable);
     return went_out.value_or(false) ? exit_status::made : exit_status::not_made;
 }
 

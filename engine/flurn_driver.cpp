@@ -99,6 +99,21 @@ void keep_collage(frmMain & main)
     main.trace += "FFF  ";
 }
 
+// Not a single photo could be laid, or none was left to go on with: what is there is no collage.
+bool is_bare(const frmMain & main)
+{
+    return main.table.last_photo >= 0 && !has_usable_photo(main);
+}
+
+void give_up(frmMain & main)
+{
+    main.run.run_active = false;
+    main.run.photos_shown.clear();
+    hide_image_number(main);
+    tell_none_usable(main);
+    set_enable(main, true);
+}
+
 void make_collage(frmMain & main, borrowed_settings & before)
 {
     const busy pointer(main.desk);
@@ -112,6 +127,10 @@ void make_collage(frmMain & main, borrowed_settings & before)
     }
     if (place_photos(main, run_size::full) == run_end::cancelled) {
         report_cancel(main);
+        return;
+    }
+    if (is_bare(main)) {
+        give_up(main);
         return;
     }
     finish_canvas(main);
