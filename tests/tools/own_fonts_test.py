@@ -40,10 +40,12 @@ class own_fonts(unittest.TestCase):
         self.machine.mkdir()
         shutil.copyfile(mono, self.machine / "STRANGE.ttf")
 
-    def file_of(self, fonts, folder=""):
-        """A fonts file that takes the strange face for an italic one, with the folder besides, and a cache that knows it."""
+    def file_of(self, folder=""):
+        """A fonts file that takes the strange face for an italic one, with the folder besides. What is kept in its cache has
+        been told so too, so it has one of its own."""
+        own_cache = re.sub("<cachedir>.*</cachedir>", f"<cachedir>{self.folder}/cache</cachedir>", self.fonts)
         file = self.folder / "fonts.conf"
-        file.write_text(fonts.replace("</fontconfig>", f"{folder}<cachedir>{self.folder}/cache</cachedir>{STRANGE_IS_ITALIC}</fontconfig>"))
+        file.write_text(own_cache.replace("</fontconfig>", f"{folder}{STRANGE_IS_ITALIC}</fontconfig>"))
         return file
 
     def rendered(self, fonts, **settings):
@@ -54,14 +56,14 @@ class own_fonts(unittest.TestCase):
 
     def test_another_face_of_the_family_is_not_seen(self):
         folder = f"<dir>{self.machine}</dir>"
-        without = self.rendered(self.file_of(self.fonts))
-        self.assertTrue(self.rendered(self.file_of(self.fonts, folder)) == without)
+        without = self.rendered(self.file_of())
+        self.assertTrue(self.rendered(self.file_of(folder)) == without)
         # It would be, were it named.
         named = f"<selectfont><acceptfont><glob>{self.machine}/*</glob></acceptfont></selectfont>"
-        self.assertFalse(self.rendered(self.file_of(self.fonts, folder + named)) == without)
+        self.assertFalse(self.rendered(self.file_of(folder + named)) == without)
 
     def test_fonts_and_settings_of_the_machine_are_not_seen(self):
-        machine = f"<fontconfig><dir>{self.machine}</dir><cachedir>{self.folder}/cache</cachedir></fontconfig>"
+        machine = f"<fontconfig><dir>{self.machine}</dir><cachedir>{self.folder}/machine_cache</cachedir></fontconfig>"
         (self.folder / "machine.conf").write_text(machine)
         self.assertTrue(self.rendered(BUILD / "fonts.conf", FONTCONFIG_FILE=str(self.folder / "machine.conf"),
                                       FREETYPE_PROPERTIES="truetype:interpreter-version=35") == BUILT)
