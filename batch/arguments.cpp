@@ -137,9 +137,10 @@ void read_dpi(batch_arguments & read, const std::string & name, const std::strin
     read.dpi = whole_number(name, value, 1, largest_dpi);
 }
 
-void read_page(batch_arguments & read, const std::string &, const std::string & value)
+void read_page(batch_arguments & read, const std::string & name, const std::string & value)
 {
-    check_page_size(value);
+    if (!is_page_size(value))
+        throw bad_arguments{name + " is " + page_sizes + ", not \"" + value + "\""};
     read.page = value;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "batch/arguments.h"
 #include "batch/page_plan.h"
 #include "session/frmMain.h"
 

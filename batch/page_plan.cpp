@@ -88,21 +88,17 @@ bool page_plan::is_covered() const
     return bleed == 0 && width - poster_width < hair && height - poster_height < hair;
 }
 
-void check_page_size(const std::string & name)
+bool is_page_size(const std::string & name)
 {
-    if (!paper_of(name))
-        throw bad_arguments{
-            "--page is A5, A4, A3, A2, Letter, Legal or Tabloid, or a size from 5 to 500 cm like 30x45, "
-            "or 12x18in in inches, not \"" +
-            name + "\""};
+    return paper_of(name).has_value();
 }
 
-page_plan planned_page(const batch_arguments & arguments, picture_size poster, int dpi)
+page_plan planned_page(const std::string & page, int bleed, picture_size poster, int dpi)
 {
     page_plan plan{.width = poster.width * points_an_inch / dpi,
                    .height = poster.height * points_an_inch / dpi,
-                   .bleed = points(arguments.bleed.value_or(0))};
-    if (const std::optional<paper> named = arguments.page.empty() ? std::nullopt : paper_of(arguments.page)) {
+                   .bleed = points(bleed)};
+    if (const std::optional<paper> named = page.empty() ? std::nullopt : paper_of(page)) {
         plan.width = points(std::min(named->across, named->down));
         plan.height = points(std::max(named->across, named->down));
         if (lies_across(poster.width, poster.height))

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "batch/arguments.h"
 #include "support/MFreeImage.h"
 
 #include <string>
@@ -19,11 +18,14 @@ struct page_plan {
     bool operator==(const page_plan &) const = default;
 };
 
-/// Throws bad_arguments for a name that is no size of a page: "A5", "A4", "A3", "A2", "Letter", "Legal",
-/// "Tabloid", in either case of the letters, "30x45" in centimetres, "12x18in" in inches; from 5 cm to 500
-/// cm.
-void check_page_size(const std::string & name);
+/// True for the name of a page: "A5", "A4", "A3", "A2", "Letter", "Legal", "Tabloid", in either case of the
+/// letters, "30x45" in centimetres, "12x18in" in inches; from 5 cm to 500 cm.
+bool is_page_size(const std::string & name);
+
+/// Those that there are, in words.
+inline constexpr const char * page_sizes =
+    "A5, A4, A3, A2, Letter, Legal or Tabloid, or a size from 5 to 500 cm like 30x45, or 12x18in in inches";
 
 /// The poster, whole and as large as the page allows, in its middle. The page lies as the poster does; one
-/// without a name has the size of the poster at `dpi`.
-page_plan planned_page(const batch_arguments & arguments, picture_size poster, int dpi);
+/// without a name has the size of the poster at `dpi`. The bleed is in millimetres.
+page_plan planned_page(const std::string & page, int bleed, picture_size poster, int dpi);

@@ -10,8 +10,8 @@ namespace {
 
 std::string pdf_of(frmMain & main, const batch_arguments & arguments, const made_poster & poster)
 {
-    const page_plan plan =
-        planned_page(arguments, poster.size, asked_dpi(arguments).value_or(intended_dpi(poster.size)));
+    const page_plan plan = planned_page(arguments.page, arguments.bleed.value_or(0), poster.size,
+                                        asked_dpi(arguments).value_or(intended_dpi(poster.size)));
     const std::string jpeg = with_asked_dpi(poster.jpeg(), arguments);
     const page_picture picture{.jpeg = jpeg, .size = poster.size};
     if (!is_own_ground_wanted(arguments) || plan.is_covered())

@@ -16,11 +16,11 @@ namespace {
 constexpr std::uint32_t magenta = 0xFF00FF;
 
 using words = std::vector<std::string>;
-using change = void (*)(const std::string & photo);
+using photo_change = void (*)(const std::string & photo);
 
 struct named_change {
     const char * reason;  // as it is told; empty for a photo that can still be used
-    change make;
+    photo_change make;
 };
 
 const named_change changes[] = {

@@ -65,14 +65,17 @@ def all_vanish(p):
         p.widget('cmdFlurn')
 
 
-def new_ones_come(p, kept):
-    """The folder is there again, with two photos less and one more."""
+def new_ones_come(p, kept, cut):
+    """The folder is there again, with two photos less, the one that was cut short whole, and a new one."""
     shutil.move(p.photos + ' gone', p.photos)
+    shutil.copy(kept, cut)
     shutil.copy(kept, os.path.join(p.photos, 'zz new.jpg'))
     before = p.finished()
     p.click('cmdPhotos')
     p.window('frmSelectPhotos')
     p.click('cmdOk')
+    check(message(p) == cut + ' IS NEWER', message(p))
+    p.keys('Return')
     p.window('frmMain')
     screen.until(lambda: p.finished() not in ('', before), 'a preview of the photos that are there')
     check(os.path.exists(os.path.join(p.photos, 'sample_thumbs', 'zz new.jpg')), 'the new photo was not seen')
@@ -96,7 +99,7 @@ def play(p):
     screen.until(p.finished, 'the first preview')
     some_vanish(p, photos)
     all_vanish(p)
-    new_ones_come(p, kept)
+    new_ones_come(p, kept, os.path.join(p.photos, photos[2]))
     p.click('cmdCancel')
     quit_by_mouse(p)
 

@@ -121,7 +121,7 @@ TEST_F(thumbnails_test, a_photo_of_the_same_time_and_another_size_gets_one_of_it
 {
     const std::string path = photo("a.jpg", 400, 300);
     const std::string thumbnail = chk_sample_thumb(main, path);
-    photo("a.jpg", 300, 400);
+    save_jpeg(noise(300, 400), path);
     ASSERT_NE(read_file(path).size(), marked_bytes(read_file(thumbnail)));
     same_age(path, thumbnail);
     chk_sample_thumb(main, path);
