@@ -11,7 +11,7 @@ struct page_words {
     std::optional<int> bleed{};
 };
 
-std::string fault_of(const std::string & out, const page_words & words = {})
+std::string kind_fault(const std::string & out, const page_words & words = {})
 {
     batch_arguments arguments;
     arguments.out = out;
@@ -39,7 +39,7 @@ TEST(output_kind, is_what_the_ending_says)
     for (const char * name : {"a.pdf", "a.jpg.Pdf"})
         EXPECT_EQ(kind_of_output(name), output_kind::pdf) << name;
     for (const std::string name : {"a.bmp", "a", "a.jpg.part", "a.jpe", "pdf", "a.pdf/a"})
-        EXPECT_EQ(fault_of(name),
+        EXPECT_EQ(kind_fault(name),
                   "\"" + name +
                       "\" doesn't end in .jpg, .jpeg, .png, .tif, .tiff or .pdf, which tells the kind of "
                       "the file");
@@ -48,9 +48,9 @@ TEST(output_kind, is_what_the_ending_says)
 TEST(output_kind, a_page_belongs_to_a_pdf)
 {
     const std::string refused = "--page, --around and --bleed belong to a PDF, and \"a.png\" isn't one";
-    EXPECT_EQ(fault_of("a.png", {.page = "A4"}), refused);
-    EXPECT_EQ(fault_of("a.png", {.around = "white"}), refused);
-    EXPECT_EQ(fault_of("a.png", {.bleed = 3}), refused);
-    EXPECT_EQ(fault_of("a.pdf", {.page = "A4", .around = "ground", .bleed = 3}), "");
-    EXPECT_EQ(fault_of("a.png"), "");
+    EXPECT_EQ(kind_fault("a.png", {.page = "A4"}), refused);
+    EXPECT_EQ(kind_fault("a.png", {.around = "white"}), refused);
+    EXPECT_EQ(kind_fault("a.png", {.bleed = 3}), refused);
+    EXPECT_EQ(kind_fault("a.pdf", {.page = "A4", .around = "ground", .bleed = 3}), "");
+    EXPECT_EQ(kind_fault("a.png"), "");
 }

@@ -13,19 +13,19 @@
 
 namespace {
 
-constexpr picture_size upright{.width = 2000, .height = 3000}, lying{.width = 3000, .height = 2000},
-    square{.width = 2000, .height = 2000};
+constexpr picture_size upright_poster{.width = 2000, .height = 3000},
+    lying_poster{.width = 3000, .height = 2000}, square_poster{.width = 2000, .height = 2000};
 
 // In whole points.
-std::string points(const page_plan & plan)
+std::string page_points(const page_plan & plan)
 {
     const auto whole = [](double value) { return std::to_string(std::lround(value)); };
     return whole(plan.width) + "x" + whole(plan.height) + ": " + whole(plan.poster_width) + "x" +
            whole(plan.poster_height) + " at " + whole(plan.left) + "," + whole(plan.bottom);
 }
 
-batch_arguments asked(const std::string & page, const std::string & around = {},
-                      std::optional<int> bleed = std::nullopt)
+batch_arguments page_asked(const std::string & page, const std::string & around = {},
+                           std::optional<int> bleed = std::nullopt)
 {
     batch_arguments arguments;
     arguments.page = page;
@@ -34,12 +34,12 @@ batch_arguments asked(const std::string & page, const std::string & around = {},
     return arguments;
 }
 
-page_plan on(const std::string & page, picture_size poster, int bleed = 0)
+page_plan page_on(const std::string & page, picture_size poster, int bleed = 0)
 {
     return planned_page(page, bleed, poster, 100);
 }
 
-bool is_refused(const std::string & page)
+bool is_page_refused(const std::string & page)
 {
     try {
         parse_arguments({"--page", page});
@@ -53,31 +53,32 @@ bool is_refused(const std::string & page)
 
 TEST(page_plan, a_poster_lies_whole_in_the_middle_of_its_page)
 {
-    EXPECT_EQ(points(on("A4", upright)), "595x842: 561x842 at 17,0");
-    EXPECT_EQ(points(on("A4", lying)), "842x595: 842x561 at 0,17");
-    EXPECT_EQ(points(on("A4", square)), "595x842: 595x595 at 0,123");
-    EXPECT_EQ(points(on("a3", upright)), "842x1191: 794x1191 at 24,0");
-    EXPECT_EQ(points(on("Letter", upright)), "612x792: 528x792 at 42,0");
-    EXPECT_EQ(points(on("20x30", upright)), "567x850: 567x850 at 0,0");
-    EXPECT_EQ(points(on("30x20", upright)), "567x850: 567x850 at 0,0");
-    EXPECT_EQ(points(on("40x60cm", lying)), "1701x1134: 1701x1134 at 0,0");
-    EXPECT_EQ(points(on("50X75", upright)), "1417x2126: 1417x2126 at 0,0");
-    EXPECT_EQ(points(on("8x10in", upright)), "576x720: 480x720 at 48,0");
-    EXPECT_EQ(points(on("8.5x11in", upright)), points(on("Letter", upright)));
+    EXPECT_EQ(page_points(page_on("A4", upright_poster)), "595x842: 561x842 at 17,0");
+    EXPECT_EQ(page_points(page_on("A4", lying_poster)), "842x595: 842x561 at 0,17");
+    EXPECT_EQ(page_points(page_on("A4", square_poster)), "595x842: 595x595 at 0,123");
+    EXPECT_EQ(page_points(page_on("a3", upright_poster)), "842x1191: 794x1191 at 24,0");
+    EXPECT_EQ(page_points(page_on("Letter", upright_poster)), "612x792: 528x792 at 42,0");
+    EXPECT_EQ(page_points(page_on("20x30", upright_poster)), "567x850: 567x850 at 0,0");
+    EXPECT_EQ(page_points(page_on("30x20", upright_poster)), "567x850: 567x850 at 0,0");
+    EXPECT_EQ(page_points(page_on("40x60cm", lying_poster)), "1701x1134: 1701x1134 at 0,0");
+    EXPECT_EQ(page_points(page_on("50X75", upright_poster)), "1417x2126: 1417x2126 at 0,0");
+    EXPECT_EQ(page_points(page_on("8x10in", upright_poster)), "576x720: 480x720 at 48,0");
+    EXPECT_EQ(page_points(page_on("8.5x11in", upright_poster)),
+              page_points(page_on("Letter", upright_poster)));
 }
 
 TEST(page_plan, without_a_name_the_page_is_the_poster)
 {
-    EXPECT_EQ(points(on("", upright)), "1440x2160: 1440x2160 at 0,0");  // 20 by 30 inches
-    EXPECT_EQ(points(planned_page("", 0, lying, 300)), "720x480: 720x480 at 0,0");
-    EXPECT_TRUE(on("", upright).is_covered());
-    EXPECT_TRUE(on("20x30", upright).is_covered());
-    EXPECT_FALSE(on("A4", upright).is_covered());
+    EXPECT_EQ(page_points(page_on("", upright_poster)), "1440x2160: 1440x2160 at 0,0");  // 20 by 30 inches
+    EXPECT_EQ(page_points(planned_page("", 0, lying_poster, 300)), "720x480: 720x480 at 0,0");
+    EXPECT_TRUE(page_on("", upright_poster).is_covered());
+    EXPECT_TRUE(page_on("20x30", upright_poster).is_covered());
+    EXPECT_FALSE(page_on("A4", upright_poster).is_covered());
 }
 
 TEST(page_plan, a_bleed_grows_the_sheet_and_nothing_else)
 {
-    const page_plan plan = on("30x45", upright, 5), without = on("30x45", upright);
+    const page_plan plan = page_on("30x45", upright_poster, 5), without = page_on("30x45", upright_poster);
     const double five_millimetres = 5 * 72 / 25.4;
     EXPECT_DOUBLE_EQ(plan.whole_width(), without.width + 2 * five_millimetres);
     EXPECT_DOUBLE_EQ(plan.whole_height(), without.height + 2 * five_millimetres);
@@ -94,16 +95,16 @@ TEST(page_plan, a_name_that_is_no_size_is_refused_with_those_that_are)
         EXPECT_TRUE(is_page_size(name)) << name;
     for (const char * name : {"", "A", "A44", "20", "x", "20x", "x30", "20x30mm", "4x30", "20x501", "-20x30",
                               "20x30x40", "nanxnan", "1e1x20", "infxinf", "20 x 30", "1x8in"})
-        EXPECT_TRUE(is_refused(name)) << name;
+        EXPECT_TRUE(is_page_refused(name)) << name;
 }
 
 TEST(page_ground, goes_on_where_a_bleed_or_the_caller_asks_for_it)
 {
     EXPECT_FALSE(is_own_ground_wanted({}));
-    EXPECT_FALSE(is_own_ground_wanted(asked({}, {}, 0)));
-    EXPECT_TRUE(is_own_ground_wanted(asked({}, {}, 3)));
-    EXPECT_FALSE(is_own_ground_wanted(asked({}, "white", 3)));
-    EXPECT_TRUE(is_own_ground_wanted(asked({}, "ground")));
+    EXPECT_FALSE(is_own_ground_wanted(page_asked({}, {}, 0)));
+    EXPECT_TRUE(is_own_ground_wanted(page_asked({}, {}, 3)));
+    EXPECT_FALSE(is_own_ground_wanted(page_asked({}, "white", 3)));
+    EXPECT_TRUE(is_own_ground_wanted(page_asked({}, "ground")));
 }
 
 TEST(page_ground, is_mirrored_at_each_edge)
@@ -131,12 +132,12 @@ TEST(pdf_file, holds_the_bytes_of_the_jpeg_and_is_the_same_each_time)
 {
     const std::string jpeg = jpeg_bytes(noise(40, 60));
     const page_picture poster{.jpeg = jpeg, .size = {.width = 40, .height = 60}};
-    const std::string pdf = pdf_bytes(on("A4", upright, 3), poster, {});
+    const std::string pdf = pdf_bytes(page_on("A4", upright_poster, 3), poster, {});
     EXPECT_NE(pdf.find(jpeg), std::string::npos);
     EXPECT_TRUE(pdf.starts_with("%PDF-1.6"));
     EXPECT_EQ(pdf.find("CreationDate"), std::string::npos);
-    EXPECT_TRUE(pdf == pdf_bytes(on("A4", upright, 3), poster, {}));
-    EXPECT_TRUE(pdf != pdf_bytes(on("A4", upright, 3), poster, {.color = {1, 2, 3}}));
+    EXPECT_TRUE(pdf == pdf_bytes(page_on("A4", upright_poster, 3), poster, {}));
+    EXPECT_TRUE(pdf != pdf_bytes(page_on("A4", upright_poster, 3), poster, {.color = {1, 2, 3}}));
 }
 
 TEST(tiff_file, has_every_pixel_as_it_is)

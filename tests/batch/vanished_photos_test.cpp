@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::uint32_t magenta = 0xFF00FF;
 
-using words = std::vector<std::string>;
+using option_words = std::vector<std::string>;
 using photo_change = void (*)(const std::string & photo);
 
 struct named_change {
@@ -23,7 +23,7 @@ struct named_change {
     photo_change make;
 };
 
-const named_change changes[] = {
+const named_change photo_changes[] = {
     {"it isn't there any more", [](const std::string & photo) { fs::remove(photo); }},
     {"it isn't there any more", [](const std::string & photo) { fs::rename(photo, photo + ".old"); }},
     {"it can't be read as a JPEG photo", [](const std::string & photo) { write_file(photo, "a text"); }},
@@ -77,20 +77,20 @@ protected:
     }
 
     // A poster whose photos change once its preview is on show.
-    poster made(const words & look, const std::function<void()> & change) const
+    poster made(const option_words & look, const std::function<void()> & change) const
     {
         make_photos();
-        words all{"--photos",
-                  folder,
-                  "--preview",
-                  "--out",
-                  out(),
-                  "--random",
-                  "3",
-                  "--set",
-                  "optSolid=1",
-                  "--set",
-                  "picBGcolor=" + std::to_string(magenta)};
+        option_words all{"--photos",
+                         folder,
+                         "--preview",
+                         "--out",
+                         out(),
+                         "--random",
+                         "3",
+                         "--set",
+                         "optSolid=1",
+                         "--set",
+                         "picBGcolor=" + std::to_string(magenta)};
         all.insert(all.end(), look.begin(), look.end());
         const batch_arguments arguments = parse_arguments(all);
         testing::internal::CaptureStderr();
@@ -111,7 +111,7 @@ protected:
     }
 };
 
-const words looks[] = {
+const option_words styles[] = {
     {"--design", "Mosaic wall"},
     {"--design", "Mosaic wall", "--set", "chkMatch=0"},
     {"--design", "Mosaic wall", "--set", "chkCaption=1"},
@@ -123,7 +123,7 @@ const words looks[] = {
     {"--quick", "shapes", "--set", "cmbShapes=Stars"},
 };
 
-std::string told_of(const words & look)
+std::string told_of_look(const option_words & look)
 {
     std::string text;
     for (const std::string & word : look)
@@ -136,17 +136,17 @@ std::string told_of(const words & look)
 TEST_F(vanished_photos, leave_no_place_empty_and_are_named_once)
 {
     std::size_t next = 0;
-    for (const words & look : looks) {
+    for (const option_words & look : styles) {
         const poster sound = made(look, [] {});
-        EXPECT_EQ(times_told(sound, "left out"), 0) << told_of(look);
-        // Each look meets two of the changes, and each change several looks.
+        EXPECT_EQ(times_told(sound, "left out"), 0) << told_of_look(look);
+        // Each look meets two of the photo_changes, and each change several styles.
         for (int i = 0; i < 2; ++i, ++next) {
-            const named_change & change = changes[next % std::size(changes)];
+            const named_change & change = photo_changes[next % std::size(photo_changes)];
             const poster spoiled = made(look, [&] {
                 change.make(photo(1));
                 change.make(photo(4));
             });
-            const std::string where = told_of(look) + change.reason;
+            const std::string where = told_of_look(look) + change.reason;
             EXPECT_TRUE(spoiled.shown) << where;
             EXPECT_NEAR(spoiled.empty, sound.empty, 3) << where;
             const int named = change.reason[0] == '\0' ? 0 : 1;
@@ -159,10 +159,10 @@ TEST_F(vanished_photos, leave_no_place_empty_and_are_named_once)
 
 TEST_F(vanished_photos, with_their_folder_make_no_poster)
 {
-    for (const words & look : looks) {
+    for (const option_words & look : styles) {
         const poster gone = made(look, [&] { fs::remove_all(folder); });
-        EXPECT_FALSE(gone.shown) << told_of(look);
-        EXPECT_EQ(times_told(gone, "None of your photos can be used:"), 1) << told_of(look) << gone.told;
-        EXPECT_EQ(times_told(gone, photo(8) + ": it isn't there any more"), 1) << told_of(look);
+        EXPECT_FALSE(gone.shown) << told_of_look(look);
+        EXPECT_EQ(times_told(gone, "None of your photos can be used:"), 1) << told_of_look(look) << gone.told;
+        EXPECT_EQ(times_told(gone, photo(8) + ": it isn't there any more"), 1) << told_of_look(look);
     }
 }

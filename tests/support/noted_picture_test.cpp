@@ -11,7 +11,7 @@
 
 namespace {
 
-picture_notes notes(int dpi)
+picture_notes notes_at(int dpi)
 {
     return {.dpi = dpi, .color_profile = srgb_profile(), .made_with = "Tessaloom"};
 }
@@ -27,7 +27,7 @@ std::string from_tables(const std::string & jpeg)
 TEST(noted_picture, a_jpeg_has_the_pixels_that_it_has_without_notes)
 {
     for (const bitmap & image : {graded(203, 101), noise(64, 80), plain(5, 5, {1, 2, 3})}) {
-        const std::string noted = noted_picture(picture_format::jpeg, image, notes(100));
+        const std::string noted = noted_picture(picture_format::jpeg, image, notes_at(100));
         EXPECT_TRUE(from_tables(noted) == from_tables(jpeg_bytes(image)));
         EXPECT_EQ(density_of(noted), 100);
         EXPECT_NE(noted.find(srgb_profile()), std::string::npos);
@@ -40,7 +40,7 @@ TEST(noted_picture, a_png_has_every_pixel_as_it_is)
 {
     const temporary_folder place;
     const bitmap image = noise(203, 101);
-    const std::string bytes = noted_picture(picture_format::png, image, notes(300));
+    const std::string bytes = noted_picture(picture_format::png, image, notes_at(300));
     EXPECT_TRUE(same(load_picture(picture_format::png, place.write("a.png", bytes)), image));
     EXPECT_NE(bytes.find("iCCP"), std::string::npos);
     EXPECT_NE(bytes.find(std::string("Software\0", 9)), std::string::npos);
@@ -59,7 +59,7 @@ TEST(noted_picture, takes_nothing_over_from_where_the_picture_comes_from)
     ASSERT_TRUE(take_notes(image, place.write("camera.jpg", from)));
     ASSERT_NE(jpeg_bytes(image).find("Anna"), std::string::npos) << "as other pictures do";
     for (const picture_format format : {picture_format::jpeg, picture_format::png})
-        EXPECT_EQ(noted_picture(format, image, notes(100)).find("Anna"), std::string::npos);
+        EXPECT_EQ(noted_picture(format, image, notes_at(100)).find("Anna"), std::string::npos);
     EXPECT_NE(jpeg_bytes(image).find("Anna"), std::string::npos) << "the picture keeps its own";
 }
 
@@ -67,10 +67,10 @@ TEST(noted_picture, is_the_same_each_time)
 {
     const bitmap image = graded(60, 40);
     for (const picture_format format : {picture_format::jpeg, picture_format::png})
-        EXPECT_TRUE(noted_picture(format, image, notes(85)) == noted_picture(format, image, notes(85)));
+        EXPECT_TRUE(noted_picture(format, image, notes_at(85)) == noted_picture(format, image, notes_at(85)));
 }
 
 TEST(noted_picture, needs_a_picture)
 {
-    EXPECT_THROW(noted_picture(picture_format::jpeg, {}, notes(100)), platform_error);
+    EXPECT_THROW(noted_picture(picture_format::jpeg, {}, notes_at(100)), platform_error);
 }
