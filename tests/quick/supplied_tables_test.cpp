@@ -8,6 +8,7 @@
 #include "quick/scatter/scatter_plan.h"
 #include "support/files/text_file.h"
 #include "tests/quick/posters.h"
+#include "tests/sweep_stride.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -40,7 +41,7 @@ sections sections_of(const char * name)
 std::set<std::pair<int, int>> block_pairs(poster_shape poster)
 {
     std::set<std::pair<int, int>> pairs;
-    for (int portrait = 0; portrait < 100; ++portrait)
+    for (int portrait = 0; portrait < 100; portrait += sweep_stride)
         for (int landscape = 0; landscape < 100; ++landscape)
             if (portrait + landscape >= 3) {
                 const block_counts held = clamped_for_blocks({portrait, landscape}, poster);
@@ -52,7 +53,7 @@ std::set<std::pair<int, int>> block_pairs(poster_shape poster)
 std::set<std::pair<int, int>> scatter_pairs()
 {
     std::set<std::pair<int, int>> pairs;
-    for (int along = 0; along < 100; ++along)
+    for (int along = 0; along < 100; along += sweep_stride)
         for (int cross = 0; cross < 100; ++cross)
             if (along + cross >= 3) {
                 const slot_counts held = clamped_for_scatter({along, cross}, 64).slots;

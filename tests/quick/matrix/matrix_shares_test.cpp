@@ -3,6 +3,7 @@
 #include "quick/matrix/matrix_grid.h"
 #include "quick/matrix/matrix_plan.h"
 #include "support/files/text_file.h"
+#include "tests/sweep_stride.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -65,7 +66,7 @@ struct mix {
 std::vector<mix> all_mixes()
 {
     std::vector<mix> mixes;
-    for (int photos = 3; photos < 500; ++photos)
+    for (int photos = 3; photos < 500; photos += sweep_stride)
         for (int eighths = 0; eighths <= 8; ++eighths)
             mixes.push_back({.portrait = photos - photos * eighths / 8, .landscape = photos * eighths / 8});
     return mixes;

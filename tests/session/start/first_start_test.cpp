@@ -4,6 +4,7 @@
 #include "support/platform_error.h"
 #include "tests/designs/crash_scene.h"
 #include "tests/session/fresh_program.h"
+#include "tests/sweep_stride.h"
 
 #include <chrono>
 #include <future>
@@ -61,7 +62,7 @@ TEST(first_start, that_a_power_cut_broke_off_at_any_step_is_made_whole_by_the_ne
     whole.desk.next_message();
     const folder_image made = whole_files(whole.data);
     int step = 0;
-    for (int ended = broken_off; ended != went_through && step < 500; ++step) {
+    for (int ended = broken_off; ended != went_through && step < 500; step += sweep_stride) {
         SCOPED_TRACE(step);
         fresh_program program;
         program.desk.keeps_messages = true;

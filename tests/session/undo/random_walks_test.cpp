@@ -1,5 +1,6 @@
 #include "support/files/text_file.h"
 #include "tests/session/undo/undo_session.h"
+#include "tests/sweep_stride.h"
 
 #include <random>
 
@@ -221,4 +222,4 @@ TEST_P(random_walks, go_on_from_where_they_lead_back_to_as_if_nothing_had_come_a
     EXPECT_EQ(back.trail, fresh.trail);
 }
 
-INSTANTIATE_TEST_SUITE_P(seeds, random_walks, testing::Range(0, 10));
+INSTANTIATE_TEST_SUITE_P(seeds, random_walks, testing::Range(0, 10, sweep_stride));
