@@ -55,7 +55,7 @@ def play(p):
     check(title, 'the portal has no title')
     check(wanted.get('directory') is True and not wanted.get('multiple'), 'no folder is asked for: %s' % wanted)
     p.window('frmSelectPhotos')
-    check(p.find('cmdCards')['enabled'], 'after a chooser that was given up nothing can be chosen')
+    p.widget('cmdCards')  # can be used again
     p.answered(lambda: p.click('cmdCards'), 0, p.photos)
     p.window('frmMain')
     p.widget('cmdFlurn')
@@ -65,7 +65,8 @@ def play(p):
     parent, title, wanted = p.answered(lambda: p.click('cmdBGimage'), 0, photo)
     check(not wanted.get('directory') and not wanted.get('multiple'), 'no single file is asked for: %s' % wanted)
     check('*.jpg' in json.dumps(wanted['filters']), 'the kind of file is not told: %s' % wanted)
-    until(lambda: p.find('txtBGimage')['text'] == photo, 'the photo behind the collage')
+    p.window('frmMain')
+    until(lambda: p.widget('txtBGimage')['text'] == photo, 'the photo behind the collage')
     p.shortcut('cmdCancel')
     quit_by_keys(p)
 
