@@ -13,7 +13,7 @@ from screen import until
 BUTTONS, BOXES = {'push button'}, {'text'}
 ROLES = {'cmd': BUTTONS, 'OKB': BUTTONS, 'Can': BUTTONS, 'chk': {'check box'}, 'opt': {'radio button'}, 'cmb': {'combo box'},
          'txt': {'text', 'label'}, 'lbl': {'text', 'label'}, 'lst': {'list'}, 'Scr': {'slider'},
-         'pic': {'push button', 'image', 'icon'}}
+         'pic': {'push button', 'graphic', 'panel'}}
 
 
 def heard_by_place(window):

