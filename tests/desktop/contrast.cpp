@@ -150,7 +150,8 @@ std::vector<std::string> faint_texts(QWidget & window)
             const double least = spot.enabled ? usual_least : disabled_least;
             const double found = contrast_in(whole.copy(dense & whole.rect()));
             if (found < least)
-                faults.push_back(named_with_window(*each) + " " + spot.name + " has " + std::to_string(found));
+                faults.push_back(named_with_window(*each) + " " + spot.name + " has " +
+                                 std::to_string(found));
         }
     return faults;
 }

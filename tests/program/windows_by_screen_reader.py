@@ -13,7 +13,7 @@ from screen import until
 BUTTONS, BOXES = {'push button'}, {'text'}
 ROLES = {'cmd': BUTTONS, 'OKB': BUTTONS, 'Can': BUTTONS, 'chk': {'check box'}, 'opt': {'radio button'}, 'cmb': {'combo box'},
          'txt': {'text', 'label'}, 'lbl': {'text', 'label'}, 'lst': {'list'}, 'Scr': {'slider'},
-         'pic': {'push button', 'graphic', 'panel'}}
+         'pic': {'push button', 'graphic', 'panel', 'filler'}}
 
 
 def heard_by_place(window):
@@ -61,7 +61,7 @@ def looked_at(program, reader, name):
         places, faults, count = heard_by_place(window), [], 0
         for seen in program.look()['widgets']:
             roles = ROLES.get(seen['name'][:3])
-            if not roles or 'focus' not in seen or seen['window'] != name:
+            if not roles or 'focus' not in seen or seen['window'] != name or seen['name'].endswith('_area'):
                 continue
             at = (seen['x'], seen['y'], seen['width'], seen['height'])
             there = [one for one in places.get(at, []) if one.role in roles]
