@@ -310,12 +310,12 @@ def argyle(size):
                                                 stroke_opacity="0.35", stroke_dasharray="14 10")] + above)
 
 
-SHARED = {"oak": oak(SQUARE), "oak_tall": oak(TALL), "walnut": walnut(SQUARE), "walnut_tall": walnut(TALL),
-          "driftwood_wide": driftwood(WIDE), "linen": linen(SQUARE), "slate": slate(SQUARE), "slate_wide": slate(WIDE), "slate_tall": slate(TALL),
-          "denim": denim(SQUARE), "sage": sage(SQUARE), "sage_tall": sage(TALL), "blush": blush(SQUARE),
-          "gingham": gingham(SQUARE), "cork_tall": cork(TALL), "felt_tall": felt(TALL), "felt_wide": felt(WIDE),
-          "kraft": kraft(SQUARE), "kraft_tall": kraft(TALL), "lawn": lawn(SQUARE), "stone_wall": stone_wall(SQUARE),
-          "stone_wall_tall": stone_wall(TALL), "blue_wall": blue_wall(SQUARE), "blue_wall_wide": blue_wall(WIDE),
-          "green_wall": green_wall(SQUARE), "green_wall_tall": green_wall(TALL), "wallpaper": wallpaper(TALL),
-          "stock_page": stock_page(SQUARE), "argyle": argyle(TALL), "charcoal": charcoal(SQUARE), "ink": ink(SQUARE), "wine": wine(SQUARE), "forest": forest(SQUARE),
-          "sand": sand(SQUARE)}
+# A square page is for designs that turn; one that stays has its ground in its own shape.
+TURNING = (oak, walnut, linen, slate, denim, sage, blush, gingham, kraft, lawn, stone_wall, green_wall, stock_page, charcoal,
+           sand)
+STANDING = (oak, walnut, slate, sage, cork, felt, kraft, blush, stone_wall, blue_wall, green_wall, charcoal, ink, wine, forest)
+LYING = (driftwood, slate, felt, blush, blue_wall, charcoal, ink, wine, forest, sage, sand)
+ALONE = {"wallpaper": wallpaper(TALL), "argyle": argyle(TALL)}
+SHARED = {**ALONE, **{ground.__name__: ground(SQUARE) for ground in TURNING},
+          **{f"{ground.__name__}_tall": ground(TALL) for ground in STANDING},
+          **{f"{ground.__name__}_wide": ground(WIDE) for ground in LYING}}

@@ -35,7 +35,7 @@ BLOCKS = [
            {**TURNS, **on("blush")}),
     design(128, "Wall of fame", "Block", "Portrait", "Nine portraits in three rows",
            "Nine portraits in three rows of three, with room above for the name of a team or a family.",
-           blocks.wall_of_fame, {**ANY_SHAPE, "Turn BG": "Yes", **on("blue_wall"), "BG Color": "White"}),
+           blocks.wall_of_fame, {**ANY_SHAPE, "Turn BG": "No", **on("blue_wall_tall"), "BG Color": "White"}),
     design(129, "Album page", "Block", "Landscape", "A tall photo and seven small ones",
            "Like an open album of black paper: a tall photo on the left, seven small ones on the right.", blocks.album_page,
            {**STAYS, **on("open_album"), "Borders": "No"}),

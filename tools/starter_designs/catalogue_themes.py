@@ -74,7 +74,7 @@ THEMES = [one for pair_of in OCCASIONS for one in pair_of]
 FRAMES = [
     framed_by_set(401, "Framed portraits", "Portrait", "Nine frames in three rows, tall and wide in turn", framed.frames_tall_nine,
                   "hall_tall"),
-    framed_by_set(402, "Framed landscapes", "Portrait", "Ten frames in rows of two and three", framed.frames_wide_eight),
+    framed_by_set(402, "Framed landscapes", "Portrait", "Ten frames in rows of two and three", framed.frames_wide_eight, "green_wall_tall"),
     framed_by_set(403, "Framed family", "Portrait", "Two frames above, five below", framed.frames_family,
                   "green_wall_tall"),
     framed_by_set(404, "Framed staircase", "Portrait", "Wide frames in three steps, tall ones beside them", framed.frames_staircase,
@@ -83,7 +83,8 @@ FRAMES = [
                   "shelves"),
     framed_by_set(406, "Framed duet", "Landscape", "Three frames above three, tall and wide in turn", framed.frames_duet,
                   "hall_wide"),
-    framed_by_set(407, "Framed wall", "Landscape", "Eight frames in two rows, wide and tall in turn", framed.frames_wide_nine),
+    framed_by_set(407, "Framed wall", "Landscape", "Eight frames in two rows, wide and tall in turn", framed.frames_wide_nine,
+                  "hall_wide"),
     framed_by_set(408, "Framed gallery", "Landscape", "Five tall frames above three wide ones", framed.frames_tall_eight,
                   "blue_wall_wide"),
     framed_by_set(409, "Framed medley", "Landscape", "Twelve small frames in three rows", framed.frames_medley,

@@ -60,6 +60,10 @@ def sixteen_squares():
     return squares((150, 560, 1850, 2600), 4, 4, 30)
 
 
+def ten_squares():
+    return squares((140, 430, 2860, 1730), 5, 2, 40)
+
+
 def long_weekend():
     """Rows of three in which the portrait changes sides."""
     return standing("LLP", "PLL", "LPL", "LLP", "PLL")
@@ -70,7 +74,7 @@ def twelve_months():
 
 
 def twelve_months_wide():
-    return squares((140, 290, 2860, 1730), 6, 2, 36)
+    return [box(150 + 456 * x, 340 + 690 * y, 420, 640) for y in (0, 1) for x in range(6)]
 
 
 def first_year():
@@ -113,7 +117,7 @@ def panoramas_wide():
 
 def before_and_after():
     """Three pairs of squares, a pair closer together than the pairs are."""
-    return [box(left, 330 + 800 * line, 740, 740) for line in range(3) for left in (250, 1010)]
+    return [box(left, 320 + 810 * line, 850, 750) for line in range(3) for left in (140, 1010)]
 
 
 def mats_on_charcoal():

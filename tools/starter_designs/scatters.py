@@ -138,15 +138,14 @@ def loose_portraits():
 
 
 def spiral():
-    """Eighteen photos as seeds stand in a flower, small in the middle, where they lie on top."""
+    """Eighteen photos in two rings about a square one, each ring leaning the other way."""
     places = []
-    for at in reversed(range(18)):
-        turn, reach = math.radians(137.5 * at), math.sqrt((at + 0.3) / 18)
-        size = 370 + 9 * at
-        sides = (size, size * 0.75) if at % 2 else (size * 0.75, size)
-        places.append(centred(1000 + 690 * reach * math.cos(turn), 1500 + 1180 * reach * math.sin(turn), *sides,
-                              five(20 * math.sin(turn * 2))))
-    return places
+    for count, across, down, first, lean, (long_side, short_side) in ((11, 720, 1090, 8, -10, (400, 290)), (6, 370, 560, 30, 10, (370, 270))):
+        for at in range(count):
+            angle = math.radians(first + 360 * at / count)
+            sides = (long_side, short_side) if at % 2 else (short_side, long_side)
+            places.append(centred(1000 + across * math.sin(angle), 1500 - down * math.cos(angle), *sides, lean))
+    return places + [centred(1000, 1500, 480, 480, -5)]
 
 
 def bouquet():
