@@ -14,9 +14,9 @@ std::ptrdiff_t rank_of(const std::string & name)
 
 const std::vector<std::string> & display_faces()
 {
-    static const std::vector<std::string> names{"League Spartan",  "EB Garamond",   "Linux Libertine Display O",
-                                                "Yanone Kaffeesatz", "Quicksand",     "Lobster Two",
-                                                "Dancing Script",  "Playfair Display", "Josefin Sans"};
+    static const std::vector<std::string> names{
+        "League Spartan", "EB Garamond",    "Linux Libertine Display O", "Yanone Kaffeesatz", "Quicksand",
+        "Lobster Two",    "Dancing Script", "Playfair Display",          "Josefin Sans"};
     return names;
 }
 
