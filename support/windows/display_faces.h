@@ -2,7 +2,8 @@
 #include <string>
 #include <vector>
 
-/// Fonts that are drawn for titles, in the order in which they are offered: names of families as the packages have them.
+/// Fonts that are drawn for titles, in the order in which they are offered: names of families, as their
+/// packages have them.
 const std::vector<std::string> & display_faces();
 
 /// The first of them that is among these; empty when none is.

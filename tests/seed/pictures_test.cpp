@@ -106,7 +106,8 @@ TEST(seed_pictures, every_background_of_a_design_fills_its_poster_and_has_its_pr
     EXPECT_GE(found, 70);
 }
 
-// A caption begins at the top and white. The red that a catalogue can ask for is no better on any ground that isn't black.
+// A caption begins at the top and white. The red that a catalogue can ask for is no better on any ground but
+// black.
 TEST(seed_pictures, a_caption_is_read_in_white_on_every_background)
 {
     constexpr double white = 1, least = 4.5;
