@@ -226,6 +226,10 @@ class CheckDesigns(unittest.TestCase):
         self.change("designs.ini", "File=tilted", "File=plain")
         self.assert_found("Tilted: File stands twice: plain")
 
+    def test_a_number_that_stands_twice(self):
+        self.change("designs.ini", "[Design103]", "[Design102]")
+        self.assert_found("Rows: Design102 stands twice")
+
     def test_a_key_in_the_wrong_case_or_with_blanks(self):
         self.change("designs.ini", "Count=12", "count=12")
         self.assert_found("Rows: no such key: count=12")

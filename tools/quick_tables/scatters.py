@@ -264,6 +264,10 @@ class Throw:
             above |= self.spans[index]
         return worst
 
+    def furthest_turned(self):
+        """How far a photo leaves the poster when it is turned, in pixels."""
+        return max(overhang(photo.turned().corners(), self.height) for photo in self.photos) + HANG
+
     def turnings(self, order):
         """The sets of photos that are turned for other counts than those it is drawn for."""
         tall = [index for index in order if self.photos[index].height > self.photos[index].width]
@@ -355,13 +359,20 @@ class Scatter:
     bare_corner: float
     bare_turned: float
     middle_hidden: float
+    beyond_turned: float
 
     def tall(self):
         return sum(place.height > place.width for place in self.places)
 
     def flaws(self):
         return 10 * max(0, 0.61 - self.least_shown) + 2 * max(0, self.middle_hidden - 0.05) + 3 * self.bare + 25 * max(0, self.bare - 0.035) + \
-            2.5 * self.bare_corner ** 2 + 8 * max(0, self.bare_turned - 0.06)
+            2.5 * self.bare_corner ** 2 + 8 * max(0, self.bare_turned - 0.06) + self.breaches()
+
+    def breaches(self):
+        """What a poster must not have: a bare corner, a hidden middle, a photo that is off it when it is turned."""
+        few, many = len(self.places) <= 4, len(self.places) >= 12
+        return 20 * (max(0, self.bare_corner - (0.65 if few else 0.5)) + max(0, self.middle_hidden - 0.28)
+                     + max(0, self.bare - (0.1 if len(self.places) == 3 else 0.05))) + max(0, self.beyond_turned - (320 if many else 530)) / 20
 
     def entry(self):
         return f"{len(self.places):02}:{self.tall():02}:{len(self.places) - self.tall():02}:{self.name}"
@@ -383,7 +394,7 @@ def thrown(total, height, name):
             throw.settle(throw.in_order()[0], 900 + 30 * total if total <= 24 else 200 + (14 if total <= 40 else 9) * total)
         order, share = throw.in_order()
         found.append(Scatter(name, height, [throw.photos[index].place() for index in order], share, *throw.bare_share(),
-                             throw.most_bare_when_turned(order), throw.most_middle_hidden(order)))
+                             throw.most_bare_when_turned(order), throw.most_middle_hidden(order), throw.furthest_turned()))
         if found[-1].flaws() < (0.08 if total <= 24 else 0.11):
             break
     return min(found, key=Scatter.flaws)

@@ -3,6 +3,7 @@
 from starter_designs import framed, themes
 from starter_designs.catalogue import ANY_SHAPE, Design, FITTING, design, on
 
+SISTER, OLD_SISTER = 50, 78  # from the number of an upright page to that of its wide one: 351 on, and 191 on
 PRINTS = {"Frames": "14", "Shadows": "14"}  # a fixed shadow takes the size of the frame
 
 
@@ -12,7 +13,7 @@ def pair(number, name, file, tip, description, keys=None):
     for wide, places in enumerate(themes.PAGES[file]):
         ending = "_wide" if wide else ""
         page = {**FITTING, **on(file + ending), "Turn BG": "No", "Flip": "No", "Borders": "No", **(keys or {})}
-        found.append(Design(number + 50 * wide, name + (", wide" if wide else ""), file + ending, "Place", "Theme",
+        found.append(Design(number + (SISTER if number > 300 else OLD_SISTER) * wide, name + (", wide" if wide else ""), file + ending, "Place", "Theme",
                             "Landscape" if wide else "Portrait", tip, description, places, page))
     return found
 

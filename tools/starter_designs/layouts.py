@@ -17,7 +17,7 @@ def panorama():
     cells = [box(750, 500, 1500, 1000)] + [box(750 * x, y, 750, 500) for x in (1, 2) for y in (0, 1500)]
     for left, order in ((0, "LPPL"), (2250, "PLLP")):
         for at, letter in enumerate(order):
-            cells += [box(left, 500 * at, 750, 500)] if letter == "L" else [box(left + x, 500 * at, 375, 500) for x in (0, 375)]
+            cells += [box(left, 500 * at, 750, 500)] if letter == "L" else [box(left, 500 * at, 400, 500), box(left + 400, 500 * at, 350, 500)]
     return cells
 
 
