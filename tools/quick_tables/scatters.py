@@ -17,6 +17,7 @@ HANG_TURNED = 140   # the same, beyond the former, for a large photo that has be
 ROOM = 85           # how far a turned photo may reach before the program takes a broader border
 MOST_PRODUCT = 32767  # of a side and the tilt
 HEAPS = (1.36, 1.28, 1.44, 1.22)  # areas of all photos to that of the poster: those that are tried in turn
+FEW_HEAPS = (1.5, 1.42, 1.58, 1.34)  # the same for three or four photos, which leave corners bare before they hide much
 MIDDLE_COUNTS = 5     # how much a hidden middle weighs
 TURNED_COUNTS = 0.3   # the same for what is hidden when photos are turned
 MOST_TURNED = 24      # photos up to which the search looks at what turned photos leave bare; with more it hardly shows
@@ -388,7 +389,7 @@ def thrown(total, height, name):
     found = []
     for attempt in range(60 if total <= 7 else 24 if total <= 16 else 16 if total <= 24 else 4):
         chance = random.Random(f"{name} {attempt}")
-        throw = Throw(total, height, HEAPS[attempt % 4], chance)
+        throw = Throw(total, height, (FEW_HEAPS if total <= 4 else HEAPS)[attempt % 4], chance)
         throw.improve(100 + 5 * total)
         for _ in range(3 if total <= 24 else 2):
             throw.settle(throw.in_order()[0], 900 + 30 * total if total <= 24 else 200 + (14 if total <= 40 else 9) * total)
