@@ -17,7 +17,8 @@ HANG_TURNED = 140   # the same, beyond the former, for a large photo that has be
 ROOM = 85           # how far a turned photo may reach before the program takes a broader border
 MOST_PRODUCT = 32767  # of a side and the tilt
 HEAPS = (1.36, 1.28, 1.44, 1.22)  # areas of all photos to that of the poster: those that are tried in turn
-FEW_HEAPS = (1.5, 1.42, 1.58, 1.34)  # the same for three or four photos, which leave corners bare before they hide much
+FEW = 4               # photos up to which bare corners are worse than hidden middles
+FEW_HEAPS = (1.5, 1.42, 1.58, 1.34)  # the same for so few
 MIDDLE_COUNTS = 5     # how much a hidden middle weighs
 TURNED_COUNTS = 0.3   # the same for what is hidden when photos are turned
 MOST_TURNED = 24      # photos up to which the search looks at what turned photos leave bare; with more it hardly shows
@@ -127,7 +128,7 @@ def overhang(corners, height):
     return max(0, max(-min(xs), -min(ys), max(xs) - WIDTH, max(ys) - height) - HANG)
 
 
-def hiding(order, spans, middles):
+def hiding(order, spans, middles, middle_counts):
     """What is covered, and how bad it is that photos are hidden when they are drawn in this order."""
     above = hidden = 0
     for index in reversed(order):
@@ -136,7 +137,7 @@ def hiding(order, spans, middles):
         lacking = 0.66 - (span & ~above).bit_count() / max(1, points)
         if lacking > 0:
             hidden += points * (12 * lacking) ** 2
-        hidden += points * (MIDDLE_COUNTS * (middle & above).bit_count() / max(1, middle.bit_count())) ** 2
+        hidden += points * (middle_counts * (middle & above).bit_count() / max(1, middle.bit_count())) ** 2
         above |= span
     return above, hidden
 
@@ -144,6 +145,7 @@ def hiding(order, spans, middles):
 class Throw:
     def __init__(self, total, height, heap, chance):
         self.total, self.height, self.chance = total, height, chance
+        self.middle_counts, self.turned_counts = (1, 0) if total <= FEW else (MIDDLE_COUNTS, TURNED_COUNTS)
         area, self.worth_of_corner = WIDTH * height, 28 if total <= 16 else 14
         longest = WIDTH * (0.78 if total > 4 else 0.96 if height > WIDTH else 0.86)
         self.long_side = max(12, math.floor(min(math.sqrt(1.5 * heap * area / total), longest) / 12) * 12)
@@ -291,15 +293,16 @@ class Throw:
         costs = []
         for turned in self.turnings(order):
             covered, hidden = hiding(order, [self.turned_spans[index] if index in turned else span
-                                             for index, span in enumerate(self.spans)], self.middles)
+                                             for index, span in enumerate(self.spans)], self.middles,
+                                     self.middle_counts)
             bare = self.raster.all & ~covered
             costs.append(6 * bare.bit_count() + self.worth_of_corner / 2 * (bare & self.raster.corners).bit_count()
-                         + TURNED_COUNTS * hidden)
+                         + self.turned_counts * hidden)
         return sum(costs) / len(costs) + max(costs)
 
     def badness(self, order):
         """What is wrong with the whole throw, drawn in this order: bare points, hidden photos."""
-        above, hidden = hiding(order, self.spans, self.middles)
+        above, hidden = hiding(order, self.spans, self.middles, self.middle_counts)
         bare = self.raster.all & ~above
         return 6 * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() + hidden + \
             self.cost_of_turns(order)
@@ -371,7 +374,7 @@ class Scatter:
 
     def breaches(self):
         """What a poster must not have: a bare corner, a hidden middle, a photo that is off it when it is turned."""
-        few, many = len(self.places) <= 4, len(self.places) >= 12
+        few, many = len(self.places) <= FEW, len(self.places) >= 12
         return 20 * (max(0, self.bare_corner - (0.65 if few else 0.5)) + max(0, self.middle_hidden - 0.28)
                      + max(0, self.bare - (0.1 if len(self.places) == 3 else 0.05))) + max(0, self.beyond_turned - (320 if many else 530)) / 20
 
@@ -389,7 +392,7 @@ def thrown(total, height, name):
     found = []
     for attempt in range(60 if total <= 7 else 24 if total <= 16 else 16 if total <= 24 else 4):
         chance = random.Random(f"{name} {attempt}")
-        throw = Throw(total, height, (FEW_HEAPS if total <= 4 else HEAPS)[attempt % 4], chance)
+        throw = Throw(total, height, (FEW_HEAPS if total <= FEW else HEAPS)[attempt % 4], chance)
         throw.improve(100 + 5 * total)
         for _ in range(3 if total <= 24 else 2):
             throw.settle(throw.in_order()[0], 900 + 30 * total if total <= 24 else 200 + (14 if total <= 40 else 9) * total)
