@@ -1,7 +1,9 @@
 #include "engine/background.h"
 
+#include "engine/photo/canvas_steps.h"
 #include "engine/photo/fixed_picture.h"
 #include "engine/pixels/background_fit.h"
+#include "engine/pixels/rectangles.h"
 #include "session/window_state.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
@@ -77,5 +79,6 @@ void lay_background(frmMain & main, run_size size)
         return;
     const bitmap image = size == run_size::preview ? small_background(main) : full_background(main);
     const int margin = main.run.collage_margin * main.run.drawn_at.canvas();
-    paste(main.run.canvas, image, margin, margin, alpha);
+    work_on_canvas(
+        main, [&](bitmap & canvas) { paste_weighed(canvas, image, {.left = margin, .top = margin}, alpha); });
 }

@@ -1,6 +1,7 @@
 #include "engine/canvas.h"
 
 #include "engine/layout/surroundings.h"
+#include "engine/photo/canvas_steps.h"
 
 #include <utility>
 
@@ -31,6 +32,13 @@ void size_full(frmMain & main)
     main.run.collage_margin = narrow(main.run.collage_margin + full_bleed);
 }
 
+rgb_triple color_of_ground(const frmMain & main)
+{
+    if (main.optBGimage.selected() && number_in(main.cmbBlend) >= 100)
+        return {};  // black, for the picture to cover
+    return get_rgb_triple(main.optSolid.selected() ? main.picBGcolor.back_color() : main.bg_color);
+}
+
 }  // namespace
 
 void allocate_canvas(frmMain & main, run_size size)
@@ -42,9 +50,11 @@ void allocate_canvas(frmMain & main, run_size size)
         size_full(main);
     const int bleed = 2 * main.run.collage_margin;
     const int scale = main.run.drawn_at.canvas();
-    main.run.canvas = bitmap((main.collage_width + bleed) * scale, (main.collage_height + bleed) * scale);
-    if (main.optBGimage.selected() && number_in(main.cmbBlend) >= 100)
-        return;  // black, for the picture to cover
-    fill(main.run.canvas,
-         get_rgb_triple(main.optSolid.selected() ? main.picBGcolor.back_color() : main.bg_color));
+    main.run.canvas = {};
+    const picture_size canvas{.width = (main.collage_width + bleed) * scale,
+                              .height = (main.collage_height + bleed) * scale};
+    draw_on_canvas(main, canvas, [canvas, color = color_of_ground(main)](bitmap & made) {
+        made = bitmap(canvas.width, canvas.height);
+        fill(made, color);
+    });
 }
