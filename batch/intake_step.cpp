@@ -36,7 +36,7 @@ std::vector<std::string> prepared_for_collage(frmMain & main, const batch_argume
     std::vector<intake_photo> seen = gathered(arguments.photos, walk::one_folder);
     check_is_none_of(paths_of(seen), arguments.out);
     prepared_shelf & shelf = copies_of_session(main);
-    preparing work(std::move(seen), shelf, decoder_in(main.install_folder));
+    preparing work(std::move(seen), shelf, decoder_in(main.install_folder), main.workers);
     while (!work.is_over_within(std::chrono::seconds(1))) {}
     shelf.clear_to(usual_room);
     if (work.ran_without_sandbox())

@@ -1,8 +1,10 @@
 #include "engine/background.h"
 
 #include "engine/canvas.h"
+#include "engine/photo/canvas_steps.h"
 #include "engine/photo/fixed_picture.h"
 #include "engine/pixels/background_fit.h"
+#include "engine/pixels/rectangles.h"
 #include "session/window_state.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
@@ -87,7 +89,8 @@ void lay_background(frmMain & main, run_size size)
                              : full_background(main, {.width = main.collage_width * scale,
                                                       .height = main.collage_height * scale});
     const int margin = main.run.collage_margin * scale;
-    paste(main.run.canvas, image, margin, margin, alpha);
+    work_on_canvas(
+        main, [&](bitmap & canvas) { paste_weighed(canvas, image, {.left = margin, .top = margin}, alpha); });
 }
 
 bitmap ground_picture(frmMain & main, picture_size size)

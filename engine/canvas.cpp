@@ -1,6 +1,7 @@
 #include "engine/canvas.h"
 
 #include "engine/layout/surroundings.h"
+#include "engine/photo/canvas_steps.h"
 
 #include <utility>
 
@@ -49,8 +50,11 @@ void allocate_canvas(frmMain & main, run_size size)
         size_full(main);
     const int bleed = 2 * main.run.collage_margin;
     const int scale = main.run.drawn_at.canvas();
-    main.run.canvas = bitmap((main.collage_width + bleed) * scale, (main.collage_height + bleed) * scale);
-    // A new canvas is black.
-    if (const rgb_triple color = ground_color(main); color != rgb_triple{})
-        fill(main.run.canvas, color);
+    main.run.canvas = {};
+    const picture_size canvas{.width = (main.collage_width + bleed) * scale,
+                              .height = (main.collage_height + bleed) * scale};
+    draw_on_canvas(main, canvas, [canvas, color = ground_color(main)](bitmap & made) {
+        made = bitmap(canvas.width, canvas.height);
+        fill(made, color);
+    });
 }

@@ -3,6 +3,7 @@
 #include "designs/catalogue/last_flurn.h"
 #include "engine/image_number.h"
 #include "engine/output/flurn_file.h"
+#include "engine/photo/canvas_steps.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/pixels/brought_down.h"
 #include "engine/run_steps.h"
@@ -88,11 +89,11 @@ void keep_collage(frmMain & main)
 {
     run_state & run = main.run;
     const int margin = run.collage_margin;
-    run.canvas = brought_down(
-        run.canvas,
+    const rectangle poster =
         enlarged({.left = margin, .top = margin, .width = main.collage_width, .height = main.collage_height},
-                 run.drawn_at.canvas()),
-        run.drawn_at.samples);
+                 run.drawn_at.canvas());
+    work_on_canvas(main,
+                   [&](bitmap & canvas) { canvas = brought_down(canvas, poster, run.drawn_at.samples); });
     const picture_notes notes = notes_of_flurn({.width = run.canvas.width(), .height = run.canvas.height()});
     save_photo(main, run.canvas, notes, finished_path(main));
     hide_image_number(main);

@@ -2,6 +2,7 @@
 
 #include "engine/photo/look_at_files.h"
 #include "engine/photo/mask_path.h"
+#include "engine/pixels/rectangles.h"
 #include "support/files/paths.h"
 
 #include <algorithm>
@@ -112,16 +113,6 @@ void take_state(frmMain & main, const loop_state & state)
 bitmap copy_of(const bitmap & image)
 {
     return copied(image, 0, 0, image.width(), image.height());
-}
-
-bool are_same(const bitmap & left, const bitmap & right)
-{
-    if (left.width() != right.width() || left.height() != right.height())
-        return false;
-    for (int y = 0; y < left.height(); ++y)
-        if (!std::ranges::equal(channels(left.row(y)), channels(right.row(y))))
-            return false;
-    return true;
 }
 
 std::map<std::string, known_file> files_looked_at(const frmMain & main)

@@ -75,7 +75,8 @@ int prepare(const intake_arguments & arguments)
     for (const auto & [path, first] : taken_out_doubles(result.photos))
         result.doubles.emplace_back(path, first);
     prepared_shelf shelf(data_folder_of(arguments));
-    preparing work(std::move(result.photos), shelf, decoder_in(program_folder()));
+    worker_pool workers;
+    preparing work(std::move(result.photos), shelf, decoder_in(program_folder()), workers);
     wait_for(work);
     warn_of(work);
     if (interrupted != 0)

@@ -2,11 +2,11 @@
 
 #include "intake/jpeg_header.h"
 #include "intake/look.h"
-#include "support/cores.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
 
 #include <algorithm>
+#include <thread>
 
 namespace {
 
@@ -35,28 +35,40 @@ picture_size size_in(const std::string & jpeg)
 
 }  // namespace
 
-preparing::preparing(std::vector<intake_photo> wanted, prepared_shelf & copies, decoder program)
-    : all(std::move(wanted)), shelf(copies), used(std::move(program))
+preparing::preparing(std::vector<intake_photo> wanted, prepared_shelf & copies, decoder program,
+                     worker_pool & workers)
+    : all(std::move(wanted)), shelf(copies), used(std::move(program)), pool(workers)
 {
     for (std::size_t i = 0; i < all.size(); ++i)
         if (all[i].need == photo_need::copy || all[i].need == photo_need::decoding)
             todo.push_back(i);
-    const std::size_t count = std::min(todo.size(), static_cast<std::size_t>(usable_cores()));
-    for (std::size_t i = 0; i < count; ++i)
-        workers.push_back(std::async(std::launch::async, [this] { work(); }));
+    engage();
 }
 
 preparing::~preparing()
 {
     stop();
-    for (std::future<void> & worker : workers)
+    for (std::future<void> & worker : engaged)
         worker.wait();
+}
+
+// Where the pool is full of other work the rest is asked for later.
+void preparing::engage()
+{
+    const std::size_t most = std::min(todo.size(), static_cast<std::size_t>(std::max(pool.count(), 1)));
+    while (engaged.size() < most && pool.has_room())
+        engaged.push_back(pool.begin([this] { work(); }));
 }
 
 bool preparing::is_over_within(std::chrono::milliseconds longest)
 {
+    engage();
     const auto latest = std::chrono::steady_clock::now() + longest;
-    return std::ranges::all_of(workers, [&](std::future<void> & worker) {
+    if (engaged.empty() && !todo.empty()) {
+        std::this_thread::sleep_until(latest);
+        return false;
+    }
+    return std::ranges::all_of(engaged, [&](std::future<void> & worker) {
         return worker.wait_until(latest) == std::future_status::ready;
     });
 }

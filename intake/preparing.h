@@ -3,15 +3,19 @@
 #include "intake/decoder_process.h"
 #include "intake/intake_photo.h"
 #include "intake/prepared_shelf.h"
+#include "support/workers.h"
 
+#include <atomic>
 #include <future>
 #include <vector>
 
-/// Prepares photos on all cores, each from its file to a copy that a collage takes; originals are only read.
+/// Prepares photos on all workers, each from its file to a copy that a collage takes; originals are only
+/// read.
 class preparing {
 public:
-    /// Begins. The shelf has to last.
-    preparing(std::vector<intake_photo> wanted, prepared_shelf & copies, decoder program);
+    /// Begins. Workers and shelf have to last.
+    preparing(std::vector<intake_photo> wanted, prepared_shelf & copies, decoder program,
+              worker_pool & workers);
     preparing(const preparing &) = delete;
     preparing & operator=(const preparing &) = delete;
     /// Stops what isn't done yet, leaving nothing half made.
@@ -29,6 +33,7 @@ public:
     bool ran_without_sandbox() const { return without_sandbox; }
 
 private:
+    void engage();
     void work();
     void prepare(intake_photo & photo);
     std::optional<std::string> copy_of(intake_photo & photo);
@@ -40,5 +45,6 @@ private:
     decoder used;
     std::atomic<std::size_t> next = 0, done_count = 0, made_count = 0;
     std::atomic<bool> stopping = false, without_sandbox = false;
-    std::vector<std::future<void>> workers;
+    worker_pool & pool;
+    std::vector<std::future<void>> engaged;
 };

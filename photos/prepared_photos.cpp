@@ -82,7 +82,7 @@ std::vector<std::string> files_of(const std::vector<intake_photo> & photos)
 std::optional<std::vector<std::string>> prepared(frmMain & main, std::vector<intake_photo> seen)
 {
     prepared_shelf & shelf = copies_of_session(main);
-    preparing work(std::move(seen), shelf, decoder_in(main.install_folder));
+    preparing work(std::move(seen), shelf, decoder_in(main.install_folder), main.workers);
     if (!is_done_with_progress(main, work))
         return std::nullopt;
     shelf.clear_to(usual_room);

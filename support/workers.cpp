@@ -41,17 +41,32 @@ void worker_pool::hand_on(std::function<void()> task, turn when)
         task();
         return;
     }
-    if (!running)
-        running = std::make_unique<threads>(wanted);
+    threads & those = started();
     if (when == turn::at_once) {
-        asio::post(running->errands, std::move(task));
+        asio::post(those.errands, std::move(task));
         return;
     }
     assert(has_room());
-    ++running->unfinished;
-    asio::post(running->workers, [&left = running->unfinished, task = std::move(task)]() mutable {
+    ++those.unfinished;
+    asio::post(those.workers, [&left = those.unfinished, task = std::move(task)]() mutable {
         task();
         task = nullptr;
         --left;
     });
+}
+
+worker_pool::threads & worker_pool::started()
+{
+    if (!running)
+        running = std::make_unique<threads>(wanted);
+    return *running;
+}
+
+idle_workers worker_pool::idle()
+{
+    if (wanted == 0)
+        return {};
+    return {wanted, [&those = started().workers](std::function<void()> errand) {
+                asio::post(those, std::move(errand));
+            }};
 }

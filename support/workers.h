@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/cores.h"
+#include "support/idle_workers.h"
 
 #include <functional>
 #include <future>
@@ -44,6 +45,10 @@ public:
         return handed_on(std::move(step), turn::at_once);
     }
 
+    /// Those that lend a step a hand behind what is queued. To be asked for by the session's thread, and used
+    /// in a step, which the pool outlives.
+    idle_workers idle();
+
 private:
     enum class turn { in_order, at_once };
     struct threads;
@@ -58,6 +63,7 @@ private:
         return given;
     }
     void hand_on(std::function<void()> task, turn when);
+    threads & started();
 
     int wanted;
     std::unique_ptr<threads> running;

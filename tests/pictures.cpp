@@ -1,5 +1,7 @@
 #include "tests/pictures.h"
 
+#include "engine/pixels/rectangles.h"
+
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -40,10 +42,5 @@ rgb_triple seen(const bitmap & image, int x, int y)
 
 bool same(const bitmap & left, const bitmap & right)
 {
-    if (left.width() != right.width() || left.height() != right.height())
-        return false;
-    for (int y = 0; y < left.height(); ++y)
-        if (!std::ranges::equal(channels(left.row(y)), channels(right.row(y))))
-            return false;
-    return true;
+    return are_same(left, right);
 }

@@ -79,11 +79,11 @@ QImage read_beside(Reader read)
     return image;
 }
 
-QImage small_picture_of_any_size(const std::string & path, const QSize & size)
+// A small file is read at once.
+template <typename Reader>
+QImage picture_read(const std::string & path, Reader read)
 {
-    if (!is_large(path))
-        return small_picture(path, size);
-    return read_beside([&] { return small_picture(path, size); });
+    return is_large(path) ? read_beside(read) : read();
 }
 
 std::optional<picture_key> direction_of(int pressed)
@@ -147,11 +147,13 @@ void picture_view::set_scaled(bool fits)
 
 void picture_view::show_file(const std::string & path)
 {
+    const double density = devicePixelRatioF();
     if (path.empty())
         picture = {};
+    else if (fills_view)
+        picture = picture_read(path, [&path, size = size() * density] { return small_picture(path, size); });
     else
-        picture = fills_view ? small_picture_of_any_size(path, size() * devicePixelRatioF())
-                             : picture_of(path, devicePixelRatioF());
+        picture = picture_read(path, [&path, density] { return picture_of(path, density); });
     updateGeometry();
     update();
 }

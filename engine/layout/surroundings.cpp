@@ -3,6 +3,7 @@
 #include "engine/layout/border.h"
 #include "engine/layout/caption_room.h"
 #include "engine/layout/run_layout.h"
+#include "engine/photo/canvas_steps.h"
 #include "engine/pixels/caption_scan.h"
 #include "support/files/paths.h"
 
@@ -144,6 +145,10 @@ int caption_column(const frmMain & main, picture_size canvas, picture_size capti
     return main.in_preview ? column + 10 : column;
 }
 
+struct caption_spot {
+    int left = 0, low = 0;
+};
+
 // The margins that are left out of a caption grow with it: what they have more goes off before.
 bitmap without_larger_margins(const bitmap & caption, int scale)
 {
@@ -151,17 +156,16 @@ bitmap without_larger_margins(const bitmap & caption, int scale)
     return copied(caption, 0, more, caption.width() - more, caption.height());
 }
 
+// Of a caption of that size, where it begins on the canvas: column and row, the latter from the bottom.
 // Larger letters are not exactly as much larger: they stand about the middle of those of the layout.
-void print_caption(frmMain & main, const bitmap & caption, int scale)
+caption_spot spot_of_caption(const frmMain & main, picture_size drawn)
 {
-    const picture_size drawn{.width = caption.width(), .height = caption.height()};
+    const int scale = main.run.drawn_at.canvas();
     const picture_size own = scale == 1 ? drawn : main.desk.text_size(caption_request(main, 1));
     const picture_size canvas{.width = main.run.canvas.width() / scale,
                               .height = main.run.canvas.height() / scale};
-    print_text(main.run.canvas, without_larger_margins(caption, scale),
-               get_rgb_triple(main.txtCaption.fore_color()),
-               scale * caption_column(main, canvas, own) + (scale * own.width - drawn.width) / 2,
-               scale * caption_row(main, canvas, own) + (scale * own.height - drawn.height) / 2);
+    return {.left = scale * caption_column(main, canvas, own) + (scale * own.width - drawn.width) / 2,
+            .low = scale * caption_row(main, canvas, own) + (scale * own.height - drawn.height) / 2};
 }
 
 }  // namespace
@@ -197,9 +201,12 @@ void add_caption(frmMain & main)
     // Without its work folder a collage goes without its caption.
     if (!drawn || !folder_exists(folder))
         return;
-    const std::string path = joined(folder, "caption.bmp");
-    save_bmp(drawn, path);
-    const bitmap caption = load_picture(picture_format::bmp, path);
-    if (caption)
-        print_caption(main, caption, scale);
+    const picture_size size{.width = drawn.width(), .height = drawn.height()};
+    draw_on_canvas(main, size,
+                   [&drawn, path = joined(folder, "caption.bmp"), at = spot_of_caption(main, size),
+                    color = get_rgb_triple(main.txtCaption.fore_color()), scale](bitmap & canvas) {
+                       save_bmp(drawn, path);
+                       if (const bitmap caption = load_picture(picture_format::bmp, path))
+                           print_text(canvas, without_larger_margins(caption, scale), color, at.left, at.low);
+                   });
 }

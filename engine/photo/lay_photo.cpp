@@ -1,5 +1,6 @@
 #include "engine/photo/lay_photo.h"
 
+#include "engine/photo/canvas_steps.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/photo/rotation_table.h"
 #include "engine/photo/shape_mask.h"
@@ -34,16 +35,22 @@ int shape_column(const frmMain & main, const rectangle & place)
     return upright || main.lblDesign.caption() == "Lettering" ? place.left : place.left - place.width;
 }
 
+picture_size drawn_size(const rectangle & place, const photo_place & at)
+{
+    return {.width = place.width * at.worn.scale, .height = place.height * at.worn.scale};
+}
+
 void lay_shape(frmMain & main, run_photo photo, const photo_place & at, const rectangle & place)
 {
     const bool painted = at.shape_color != 0;
     bitmap fitted = painted ? bitmap() : fit_photo(main, std::move(photo), place.width, place.height);
     const bool outlined = main.chkOutline.visible() && main.chkOutline.ticked();
-    draw_shape(main.run.canvas, std::move(fitted), place, at.worn,
-               {.mask = shape_mask(main, at.mask, place.width * at.worn.scale),
-                .fill = painted ? std::optional(shape_fill(at.shape_color)) : std::nullopt,
-                .border = outlined ? shape_border::outlined : shape_border::lightened,
-                .column = shape_column(main, place)});
+    const shape_paint shape{.mask = shape_mask(main, at.mask, place.width * at.worn.scale),
+                            .fill = painted ? std::optional(shape_fill(at.shape_color)) : std::nullopt,
+                            .border = outlined ? shape_border::outlined : shape_border::lightened,
+                            .column = shape_column(main, place)};
+    draw_on_canvas(main, drawn_size(place, at),
+                   [&](bitmap & canvas) { draw_shape(canvas, std::move(fitted), place, at.worn, shape); });
 }
 
 void lay_upright(frmMain & main, run_photo photo, const photo_place & at)
@@ -52,11 +59,13 @@ void lay_upright(frmMain & main, run_photo photo, const photo_place & at)
     // A wide gap can leave nothing of a cell: a frame without a photo would stand there as two stray lines.
     if (place.width < 1 || place.height < 1)
         return;
-    if (is_shape(at.area))
+    if (is_shape(at.area)) {
         lay_shape(main, std::move(photo), at, place);
-    else
-        draw_photo(main.run.canvas, fit_photo(main, std::move(photo), place.width, place.height), place,
-                   at.worn);
+        return;
+    }
+    bitmap fitted = fit_photo(main, std::move(photo), place.width, place.height);
+    draw_on_canvas(main, drawn_size(place, at),
+                   [&](bitmap & canvas) { draw_photo(canvas, std::move(fitted), place, at.worn); });
 }
 
 rectangle tilted_area(const frmMain & main, picture_size photo, const rectangle & area)
@@ -72,13 +81,13 @@ void tilt_onto_canvas(frmMain & main, bitmap fitted, const photo_place & at, con
     const int rotation = rounded_rotation(at.rotation);
     bitmap pixels;
     const mask_sheet sheet = rotation_sheet(main, pixels);
-    draw_rotated_photo(
-        main.run.canvas, std::move(fitted),
-        {.place = area,
-         .rotation = rotation,
-         .worn = at.worn,
-         .numbers = numbers_of_section(main, rotation_section(area.width, area.height, rotation))},
-        sheet);
+    const tilt how{.place = area,
+                   .rotation = rotation,
+                   .worn = at.worn,
+                   .numbers = numbers_of_section(main, rotation_section(area.width, area.height, rotation))};
+    draw_on_canvas(main, drawn_size(area, at), [&, others = main.workers.idle()](bitmap & canvas) {
+        draw_rotated_photo(canvas, std::move(fitted), how, sheet, others);
+    });
 }
 
 void lay_tilted(frmMain & main, run_photo photo, const photo_place & at)
@@ -90,8 +99,9 @@ void lay_tilted(frmMain & main, run_photo photo, const photo_place & at)
         return;
     // The photo goes before the turn begins, which takes as much memory again.
     bitmap fitted = fit_photo(main, std::move(photo), area.width, area.height);
-    const int scale = at.worn.scale;
-    fitted = copied(fitted, 0, 0, area.width * scale, area.height * scale);
+    const picture_size size = drawn_size(area, at);
+    if (fitted.width() != size.width || fitted.height() != size.height)
+        fitted = copied(fitted, 0, 0, size.width, size.height);
     tilt_onto_canvas(main, std::move(fitted), at, area);
 }
 
@@ -109,12 +119,15 @@ void lay_card(frmMain & main, run_photo photo, const photo_place & at)
 {
     const rectangle & area = at.area;
     const rectangle place = photo_on_card(area.width, area.height);
-    bitmap card = captioned_card({.width = area.width, .height = area.height},
-                                 fit_photo(main, std::move(photo), place.width, place.height),
-                                 at.worn.frame_color, at.worn.scale);
-    if (at.rotation == 0) {
-        paste(main.run.canvas, card, area.left * at.worn.scale, area.top * at.worn.scale, plain_copy);
-    } else if (card) {
+    const bitmap fitted = fit_photo(main, std::move(photo), place.width, place.height);
+    bitmap card;
+    draw_on_canvas(main, drawn_size(area, at), [&](bitmap & canvas) {
+        card = captioned_card({.width = area.width, .height = area.height}, fitted, at.worn.frame_color,
+                              at.worn.scale);
+        if (at.rotation == 0)
+            paste(canvas, card, area.left * at.worn.scale, area.top * at.worn.scale, plain_copy);
+    });
+    if (at.rotation != 0 && card) {
         const rectangle tilted = tilted_area(main, {.width = area.width, .height = area.height}, area);
         tilt_onto_canvas(main, std::move(card), at, tilted);
     }

@@ -1,5 +1,6 @@
 #include "engine/photo/rotation_table.h"
 
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/numbers.h"
 
@@ -47,7 +48,7 @@ mask_sheet rotation_sheet(frmMain & main, bitmap & pixels)
     const std::string path = joined(main.install_folder, "images/white.jpg");
     const std::optional<file_stamp> stamp = stamp_of(path);
     if (!kept.sheet || kept.sheet_path != path || kept.sheet_stamp != stamp) {
-        kept.sheet = loaded_sheet(path);
+        kept.sheet = beside(main.desk, main.workers, [&path] { return loaded_sheet(path); });
         kept.sheet_path = path;
         kept.sheet_stamp = stamp;
     }

@@ -3,6 +3,7 @@
 #include "engine/pixels/draw_frame.h"
 #include "engine/pixels/draw_shadow.h"
 #include "engine/pixels/paste_turned.h"
+#include "engine/pixels/rectangles.h"
 #include "engine/pixels/soft_edge_paste.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ void frame_early(tilted_photo & work)
     const rectangle inner = work.how.place;
     work.how.place = grown(inner, width);
     bitmap framed(work.how.place.width * scale, work.how.place.height * scale);
-    paste(framed, work.photo, width * scale, width * scale, opaque);
+    paste_weighed(framed, work.photo, {.left = width * scale, .top = width * scale}, opaque);
     draw_frame(framed, {.left = width, .top = width, .width = inner.width, .height = inner.height},
                work.how.worn, work.how.rotation);
     work.photo = std::move(framed);
@@ -122,7 +123,7 @@ void draw_upright(bitmap & ground, const bitmap & photo, const rectangle & place
         soft_edge_paste(ground, photo, place, scale);
         return;
     }
-    paste(ground, photo, place.left * scale, place.top * scale, opaque);
+    paste_weighed(ground, photo, {.left = place.left * scale, .top = place.top * scale}, opaque);
     draw_frame(ground, place, how.worn, how.rotation);
     draw_shadow(ground, place, how.worn);
     // From ten degrees on a frame reaches one pixel under its shadow. The library's turn blurs that; a larger
@@ -227,6 +228,13 @@ bool is_seen_through(const ornaments & worn)
     return worn.shadow > 0 || worn.edges == photo_edges::soft;
 }
 
+bitmap colors_of(const tilted_photo & work, const rectangle & place, picture_size sheet)
+{
+    bitmap colors(sheet.width, sheet.height);
+    draw_upright(colors, work.photo, place, work.how);
+    return colors;
+}
+
 /// How far each pixel of the sheet is covered: what covers is drawn in white.
 bitmap cover_of(const tilted_photo & work, const rectangle & place, picture_size sheet)
 {
@@ -241,23 +249,26 @@ bitmap cover_of(const tilted_photo & work, const rectangle & place, picture_size
 }
 
 /// Photo, frame and shadow, upright, on a sheet of their own with the photo at `place`.
-covered_picture drawn_sheet(const tilted_photo & work, const rectangle & place)
+covered_picture drawn_sheet(const tilted_photo & work, const rectangle & place, const idle_workers & others)
 {
     const ornaments & worn = work.how.worn;
     const int scale = worn.scale, behind = place.left + std::max(worn.shadow, 0);
     const picture_size size{.width = (place.right() + behind) * scale,
                             .height = (place.bottom() + behind) * scale};
-    covered_picture sheet{.colors = bitmap(size.width, size.height), .cover = {}, .filled = {}};
-    draw_upright(sheet.colors, work.photo, place, work.how);
-    if (is_seen_through(worn))
-        sheet.cover = cover_of(work, place, size);
-    else
-        sheet.filled = enlarged(grown(place, framed_by(work)), scale);
+    covered_picture sheet{
+        .colors = {}, .cover = {}, .filled = enlarged(grown(place, framed_by(work)), scale)};
+    others.share(is_seen_through(worn) ? 2 : 1, [&](int part) {
+        if (part == 0)
+            sheet.colors = colors_of(work, place, size);
+        else
+            sheet.cover = cover_of(work, place, size);
+    });
     return sheet;
 }
 
 /// A larger photo is turned exactly, about the point to which the tables bring its middle.
-void draw_larger(bitmap & canvas, const tilted_photo & work, const mask_sheet & white)
+void draw_larger(bitmap & canvas, const tilted_photo & work, const mask_sheet & white,
+                 const idle_workers & others)
 {
     if (!can_be_drawn(work, sheet_window(work), white.size))
         return;
@@ -268,10 +279,11 @@ void draw_larger(bitmap & canvas, const tilted_photo & work, const mask_sheet & 
                   {.x = how.numbers.put_left + width / 2, .y = how.numbers.put_top + height / 2});
     const int room = std::max(how.worn.frame, 0) + 2;
     const rectangle place{.left = room, .top = room, .width = how.place.width, .height = how.place.height};
-    paste_turned(canvas, drawn_sheet(work, place),
+    paste_turned(canvas, drawn_sheet(work, place, others),
                  {.from = {.x = scale * (room + width / 2), .y = scale * (room + height / 2)},
                   .to = {.x = scale * (how.place.left + middle.x), .y = scale * (how.place.top + middle.y)},
-                  .degrees = how.rotation});
+                  .degrees = how.rotation},
+                 others);
 }
 
 void take_numbers(tilted_photo & work, const rotation_numbers & of_section, int divisor)
@@ -283,7 +295,8 @@ void take_numbers(tilted_photo & work, const rotation_numbers & of_section, int 
 
 }  // namespace
 
-void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet)
+void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet,
+                        const idle_workers & others)
 {
     tilted_photo work{.photo = std::move(photo), .how = how};
     work.ring = frame_in_rotation(work.how.worn.frame, work.how.rotation);
@@ -298,5 +311,5 @@ void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const m
     if (work.how.worn.scale == 1)
         draw_tilted(canvas, work, sheet);
     else
-        draw_larger(canvas, work, sheet);
+        draw_larger(canvas, work, sheet, others);
 }

@@ -2,6 +2,7 @@
 
 #include "engine/pixels/ornaments.h"
 #include "engine/pixels/rotation_numbers.h"
+#include "support/idle_workers.h"
 
 /// The sheet whose turned outline is the mask of a tilted photo.
 struct mask_sheet {
@@ -19,5 +20,7 @@ struct tilt {
 
 /// Puts one photo, fitted to the place, on the canvas turned about its own upper left corner, which stays
 /// where it is. Only the photo's own pixels are disturbed. The place and the numbers are in pixels of the
-/// layout; canvas and photo have the scale of what is worn.
-void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet);
+/// layout; canvas and photo have the scale of what is worn. Workers that are free lend a hand at a larger
+/// scale.
+void draw_rotated_photo(bitmap & canvas, bitmap photo, const tilt & how, const mask_sheet & sheet,
+                        const idle_workers & others = {});

@@ -2,6 +2,7 @@
 
 #include "engine/pixels/row_spans.h"
 #include "support/MFreeImage.h"
+#include "support/idle_workers.h"
 #include "support/rectangle.h"
 
 /// A picture on nothing, for pasting: pixels that are covered in part hold that part of their colour. The
@@ -20,5 +21,6 @@ struct turned_spot {
 };
 
 /// Pastes the picture turned, each pixel of the canvas weighed of the four around its place in the picture.
-/// What lies outside the canvas is ignored.
-void paste_turned(bitmap & canvas, const covered_picture & picture, const turned_spot & at);
+/// What lies outside the canvas is ignored. Workers that are free take rows of it.
+void paste_turned(bitmap & canvas, const covered_picture & picture, const turned_spot & at,
+                  const idle_workers & others = {});

@@ -5,12 +5,6 @@
 
 namespace {
 
-/// The library's own arithmetic of a paste.
-std::uint8_t blended(int below, int above, int alpha)
-{
-    return static_cast<std::uint8_t>(((above - below) * alpha + below * 256) >> 8);
-}
-
 /// The pixels of a part of a row, which counts from the top.
 std::span<pixel> part_of_row(bitmap & image, const rectangle & part, int y)
 {
@@ -24,12 +18,6 @@ std::span<const pixel> part_of_row(const bitmap & image, const rectangle & part,
         .subspan(static_cast<std::size_t>(part.left), static_cast<std::size_t>(part.width));
 }
 
-bool holds(const bitmap & image, const rectangle & area)
-{
-    return area.width > 0 && area.height > 0 && area.left >= 0 && area.top >= 0 &&
-           area.right() <= image.width() && area.bottom() <= image.height();
-}
-
 /// The same rectangle with its sides in order.
 rectangle ordered(const rectangle & area)
 {
@@ -38,6 +26,22 @@ rectangle ordered(const rectangle & area)
 }
 
 }  // namespace
+
+bool are_same(const bitmap & one, const bitmap & other)
+{
+    if (one.width() != other.width() || one.height() != other.height())
+        return false;
+    for (int y = 0; y < one.height(); ++y)
+        if (!std::ranges::equal(channels(one.row(y)), channels(other.row(y))))
+            return false;
+    return true;
+}
+
+bool holds(const bitmap & image, const rectangle & area)
+{
+    return area.width > 0 && area.height > 0 && area.left >= 0 && area.top >= 0 &&
+           area.right() <= image.width() && area.bottom() <= image.height();
+}
 
 void fill_bounds(bitmap & target, const pixel_bounds & bounds, rgb_triple color)
 {
@@ -77,4 +81,10 @@ void paste_rectangle(bitmap & target, const bitmap & source, rectangle part, pos
                 below, above, below.begin(),
                 [alpha](std::uint8_t lower, std::uint8_t upper) { return blended(lower, upper, alpha); });
     }
+}
+
+void paste_weighed(bitmap & target, const bitmap & source, position at, int alpha)
+{
+    paste_rectangle(target, source, {.left = 0, .top = 0, .width = source.width(), .height = source.height()},
+                    at, alpha);
 }

@@ -31,7 +31,11 @@ void show_progress(frmMain & main, int done, int files)
 void fill_by(frmMain & main, int files, const std::function<void(std::atomic<int> & done)> & step)
 {
     std::atomic<int> done = 0;
-    std::future<void> work = std::async(std::launch::async, [&] { step(done); });
+    std::future<void> work = main.workers.begin_at_once([&] { step(done); });
+    const afterwards ended([&] {
+        if (work.valid())
+            work.wait();
+    });
     const auto begin = std::chrono::steady_clock::now();
     while (work.wait_for(longest_standstill) != std::future_status::ready) {
         if (main.all != nullptr && std::chrono::steady_clock::now() - begin > unnoticed)

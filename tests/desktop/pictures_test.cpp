@@ -6,6 +6,7 @@
 #include "desktop/file_filter.h"
 
 #include <QFile>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -62,6 +63,36 @@ TEST(picture_view, fitted_shows_a_larger_picture_whole_and_leaves_a_smaller_one_
     EXPECT_EQ(seen_view(view).pixelColor(20, 10), black);
     EXPECT_EQ(seen_view(view).pixelColor(39, 29), red);
     EXPECT_EQ(seen_view(view).pixelColor(40, 30), beside);
+}
+
+// Noise doesn't become smaller in any file.
+std::string large_file(const temporary_folder & folder)
+{
+    QImage image(800, 600, QImage::Format_RGB32);
+    quint32 state = 1;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, state = state * 1664525 + 1013904223);
+    const QString path = QString::fromStdString(folder.at("noise.png"));
+    image.save(path);
+    EXPECT_GT(QFile(path).size(), 1'000'000);
+    return path.toStdString();
+}
+
+TEST(picture_view, lets_the_windows_be_drawn_while_a_large_file_is_read)
+{
+    const temporary_folder folder;
+    const std::string path = large_file(folder);
+    for (const bool filled : {false, true}) {
+        picture_view view;
+        view.set_filled(filled);
+        view.resize(80, 60);
+        bool seen = false;
+        QTimer::singleShot(0, &view, [&] { seen = true; });
+        view.show_file(path);
+        EXPECT_TRUE(seen) << filled;
+        EXPECT_EQ(view.image().width(), filled ? 80 * view.devicePixelRatioF() : 800);
+    }
 }
 
 TEST(picture_view, reads_a_file_again_that_has_changed_under_its_name)

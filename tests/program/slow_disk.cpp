@@ -35,9 +35,33 @@ void wait_for_photos(const char * path)
         wait_as_told("TESSALOOM_SLOW_PHOTOS");
 }
 
-mode_t mode_of(int flags, std::va_list more)
+using opener = int (*)(const char * path, int flags, mode_t mode);
+using stream_opener = FILE * (*)(const char * path, const char * way);
+using teller = int (*)(const char * path, struct stat * told);
+
+int opened(opener open_really, const char * path, int flags, std::va_list more)
 {
-    return (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(more, mode_t) : 0;
+    wait_for_photos(path);
+    return open_really(path, flags, mode);
+}
+
+FILE * opened(stream_opener open_really, const char * path, const char * way)
+{
+    wait_for_photos(path);
+    return open_really(path, way);
+}
+
+int asked(teller tell_really, const char * path, struct stat * told)
+{
+    wait_for_photos(path);
+    return tell_really(path, told);
+}
+
+int flushed(int (*flush_really)(int), int descriptor)
+{
+    wait_as_told("TESSALOOM_SLOW_DISK");
+    return flush_really(descriptor);
 }
 
 }  // namespace
@@ -46,66 +70,58 @@ extern "C" {
 
 int fsync(int descriptor)
 {
-    static const auto flush = really<int (*)(int)>("fsync");
-    wait_as_told("TESSALOOM_SLOW_DISK");
-    return flush(descriptor);
+    static const auto really_so = really<int (*)(int)>("fsync");
+    return flushed(really_so, descriptor);
 }
 
 int syncfs(int descriptor) noexcept
 {
-    static const auto flush = really<int (*)(int)>("syncfs");
-    wait_as_told("TESSALOOM_SLOW_DISK");
-    return flush(descriptor);
+    static const auto really_so = really<int (*)(int)>("syncfs");
+    return flushed(really_so, descriptor);
 }
 
 int open(const char * path, int flags, ...)
 {
-    static const auto open_really = really<int (*)(const char *, int, mode_t)>("open");
+    static const auto really_so = really<opener>("open");
     std::va_list more;
     va_start(more, flags);
-    const mode_t mode = mode_of(flags, more);
+    const int descriptor = opened(really_so, path, flags, more);
     va_end(more);
-    wait_for_photos(path);
-    return open_really(path, flags, mode);
+    return descriptor;
 }
 
 int open64(const char * path, int flags, ...)
 {
-    static const auto open_really = really<int (*)(const char *, int, mode_t)>("open64");
+    static const auto really_so = really<opener>("open64");
     std::va_list more;
     va_start(more, flags);
-    const mode_t mode = mode_of(flags, more);
+    const int descriptor = opened(really_so, path, flags, more);
     va_end(more);
-    wait_for_photos(path);
-    return open_really(path, flags, mode);
+    return descriptor;
 }
 
 FILE * fopen(const char * path, const char * way)
 {
-    static const auto open_really = really<FILE * (*)(const char *, const char *)>("fopen");
-    wait_for_photos(path);
-    return open_really(path, way);
+    static const auto really_so = really<stream_opener>("fopen");
+    return opened(really_so, path, way);
 }
 
 FILE * fopen64(const char * path, const char * way)
 {
-    static const auto open_really = really<FILE * (*)(const char *, const char *)>("fopen64");
-    wait_for_photos(path);
-    return open_really(path, way);
+    static const auto really_so = really<stream_opener>("fopen64");
+    return opened(really_so, path, way);
 }
 
 int stat(const char * path, struct stat * told) noexcept
 {
-    static const auto stat_really = really<int (*)(const char *, struct stat *)>("stat");
-    wait_for_photos(path);
-    return stat_really(path, told);
+    static const auto really_so = really<teller>("stat");
+    return asked(really_so, path, told);
 }
 
 int lstat(const char * path, struct stat * told) noexcept
 {
-    static const auto stat_really = really<int (*)(const char *, struct stat *)>("lstat");
-    wait_for_photos(path);
-    return stat_really(path, told);
+    static const auto really_so = really<teller>("lstat");
+    return asked(really_so, path, told);
 }
 
 int faccessat(int folder, const char * path, int wanted, int flags) noexcept

@@ -1,7 +1,10 @@
 #include "support/workers.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <gtest/gtest.h>
+#include <mutex>
 #include <set>
 #include <thread>
 
@@ -90,6 +93,66 @@ TEST(worker_pool, waits_for_what_has_begun_when_it_goes)
         begun.get_future().wait();
     }
     EXPECT_TRUE(ended);
+}
+
+TEST(idle_workers, do_each_part_once_and_lend_a_hand)
+{
+    worker_pool workers(3);
+    const idle_workers idle = workers.idle();
+    std::array<std::atomic<int>, 100> done{};
+    std::atomic<int> waiting = 0;
+    std::mutex guard;
+    std::set<std::thread::id> threads;
+    idle.share(100, [&](int part) {
+        ++done[static_cast<std::size_t>(part)];
+        ++waiting;
+        while (waiting < 4)  // as long as all four are in it
+            std::this_thread::yield();
+        const std::scoped_lock alone(guard);
+        threads.insert(std::this_thread::get_id());
+    });
+    EXPECT_TRUE(std::ranges::all_of(done, [](int count) { return count == 1; }));
+    EXPECT_EQ(threads.size(), 4U);
+    EXPECT_TRUE(threads.contains(std::this_thread::get_id()));
+}
+
+TEST(idle_workers, who_finds_them_busy_does_everything_alone)
+{
+    gate hold;
+    worker_pool workers(1);
+    workers.begin(hold.step());
+    int parts = 0;
+    workers.begin_at_once([&, idle = workers.idle()] { idle.share(5, [&](int) { ++parts; }); }).get();
+    EXPECT_EQ(parts, 5);
+    hold.open();
+}
+
+TEST(idle_workers, without_any_all_is_done_by_who_asks)
+{
+    for (const int count : {0, 1, 7}) {
+        std::set<std::thread::id> threads;
+        int parts = 0;
+        worker_pool(0).idle().share(count, [&](int) {
+            ++parts;
+            threads.insert(std::this_thread::get_id());
+        });
+        EXPECT_EQ(parts, count);
+        EXPECT_TRUE(count == 0 || threads == std::set{std::this_thread::get_id()});
+    }
+}
+
+TEST(idle_workers, an_error_comes_when_the_other_parts_are_done)
+{
+    worker_pool workers(2);
+    std::atomic<int> done = 0;
+    EXPECT_THROW(workers.idle().share(20,
+                                      [&](int part) {
+                                          if (part == 3)
+                                              throw std::runtime_error("no");
+                                          ++done;
+                                      }),
+                 std::runtime_error);
+    EXPECT_EQ(done, 19);
 }
 
 TEST(worker_pool, counts_within_its_limits)

@@ -1,5 +1,6 @@
 #include "engine/pixels/paste_turned.h"
 
+#include "support/workers.h"
 #include "tests/pictures.h"
 
 #include <cmath>
@@ -101,6 +102,27 @@ TEST(paste_turned, what_is_covered_in_part_lets_the_canvas_through)
     paste_turned(canvas, picture, {.from = {6, 6}, .to = {15, 15}, .degrees = 30});
     EXPECT_EQ(seen(canvas, 15, 15), (rgb_triple{200, 50, 0}));
     EXPECT_EQ(seen(canvas, 2, 2), (rgb_triple{200, 100, 0}));
+}
+
+TEST(paste_turned, any_number_of_workers_gives_the_same_pixels)
+{
+    covered_picture seen_through{.colors = bitmap(302, 202), .cover = bitmap(302, 202), .filled = {}};
+    paste(seen_through.colors, noise(300, 200), 1, 1, plain_copy);
+    paste(seen_through.cover, graded(300, 200), 1, 1, plain_copy);
+    covered_picture solid = framed_by_nothing(noise(300, 200));
+    for (const covered_picture * picture : {&seen_through, &solid})
+        for (const int degrees : {-75, 0, 20, 90}) {
+            const turned_spot at{.from = {151, 101}, .to = {250.3, 260.8}, .degrees = degrees};
+            bitmap alone = graded(500, 520);
+            paste_turned(alone, *picture, at);
+            EXPECT_FALSE(same(alone, graded(500, 520)));
+            for (const int count : {1, 2, 3, 8}) {
+                worker_pool workers(count);
+                bitmap canvas = graded(500, 520);
+                paste_turned(canvas, *picture, at, workers.idle());
+                EXPECT_TRUE(same(canvas, alone)) << degrees << ", " << count << " workers";
+            }
+        }
 }
 
 TEST(paste_turned, what_leaves_the_canvas_is_ignored)
