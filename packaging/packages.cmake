@@ -57,8 +57,8 @@ set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "qt6-wayland, qt6-xdgdesktopport
 set(CPACK_COMPONENT_APPLICATION_DESCRIPTION "Tessaloom makes large posters of photos: pick a design or a quick style,
 adjust it under a live preview, save and print the poster.
 .
-This package holds the window, the program for scripts and the one that makes
-packages of designs.")
+This package holds the window, the program for scripts, the one that makes
+photos of any kind ready and the one that makes packages of designs.")
 
 set(CPACK_DEBIAN_SHARED_PACKAGE_NAME tessaloom-data)
 set(CPACK_DEBIAN_SHARED_PACKAGE_SECTION graphics)
