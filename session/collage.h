@@ -25,6 +25,8 @@ struct collage {
     /// How the preview drawn last turned the order of its locations, of which there were so many.
     std::vector<order_turn> turns_shown;
     int16 locations_shown = 0;
+    /// The numbers by which chance made the holes of the quick template that the preview drawn last shows.
+    std::vector<double> holes_shown;
 
     bool borders_free = true;  ///< false while a scatter needs a border
 
