@@ -225,8 +225,9 @@ std::string noted_picture(picture_format format, const bitmap & image, const pic
                                    static_cast<long>(notes.color_profile.size()));
         name_program(view, format, notes.made_with);
     }
+    // A PNG packed harder takes five times as long and comes out a seventh smaller.
     return encoded(view, static_cast<FREE_IMAGE_FORMAT>(format),
-                   format == picture_format::jpeg ? superb_quality : 0);
+                   format == picture_format::jpeg ? superb_quality : PNG_Z_BEST_SPEED);
 }
 
 void save_jpeg(const bitmap & image, const std::string & path)
