@@ -113,7 +113,8 @@ void turn_the_order(frmMain & main, run_size size)
     location_table & table = main.design_locations;
     if (!of.random_design || !of.design_rotated || layout_of(main) == layout::grids)
         return;
-    if (size == run_size::preview || of.turns_shown.empty() || of.locations_shown != table.count) {
+    const bool anew = size == run_size::preview && !of.keeps_turns;
+    if (anew || of.turns_shown.empty() || of.locations_shown != table.count) {
         of.locations_shown = table.count;
         of.turns_shown = turned_by_chance(main);
     } else {
