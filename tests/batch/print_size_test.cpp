@@ -24,7 +24,7 @@ std::vector<std::string> wall(const std::vector<std::string> & more)
     return words;
 }
 
-std::string fault_of(const std::vector<std::string> & more)
+std::string fault_with(const std::vector<std::string> & more)
 {
     try {
         parse_arguments(wall(more));
@@ -52,19 +52,19 @@ TEST(print_size, is_asked_for_by_three_options)
 TEST(print_size, refuses_in_words_what_it_cannot_draw)
 {
     for (const std::string value : {"5", "0", "-1", "two", "2.5", "", "2x"})
-        EXPECT_EQ(fault_of({"--scale", value}),
+        EXPECT_EQ(fault_with({"--scale", value}),
                   "--scale takes a whole number from 1 to 4, not \"" + value + "\"");
     for (const std::string value : {"0", "2401", "fine", "-300"})
-        EXPECT_EQ(fault_of({"--dpi", value}),
+        EXPECT_EQ(fault_with({"--dpi", value}),
                   "--dpi takes a whole number from 1 to 2400, not \"" + value + "\"");
-    EXPECT_EQ(fault_of({"--smooth=1"}), "--smooth takes no value");
+    EXPECT_EQ(fault_with({"--smooth=1"}), "--smooth takes no value");
     for (const std::vector<std::string> & beside : {std::vector<std::string>{"--scale", "2"}, {"--smooth"}}) {
         std::vector<std::string> words = beside;
         words.push_back("--preview");
-        EXPECT_EQ(fault_of(words),
+        EXPECT_EQ(fault_with(words),
                   "--scale and --smooth belong to the full size, not to the small picture of --preview");
     }
-    EXPECT_EQ(fault_of({"--preview", "--dpi", "300"}), "");
+    EXPECT_EQ(fault_with({"--preview", "--dpi", "300"}), "");
 }
 
 TEST(print_size, tells_what_takes_less_where_memory_is_short)

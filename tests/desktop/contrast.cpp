@@ -73,7 +73,7 @@ double contrast_in(const QImage & pixels)
     return most;
 }
 
-std::string named(const QWidget & widget)
+std::string named_with_window(const QWidget & widget)
 {
     return widget.objectName().toStdString() + " of " + widget.window()->objectName().toStdString();
 }
@@ -99,7 +99,7 @@ std::vector<std::string> faint_texts(QWidget & window)
         const double least = each->isEnabled() ? usual_least : disabled_least;
         const double found = contrast_in(whole.copy(dense & whole.rect()));
         if (found < least)
-            faults.push_back(named(*each) + " has " + std::to_string(found));
+            faults.push_back(named_with_window(*each) + " has " + std::to_string(found));
     }
     return faults;
 }
@@ -119,7 +119,7 @@ std::vector<std::string> unseen_focus(QWidget & window)
         QApplication::processEvents();
         const QImage with = window.grab().toImage();
         if (!each->hasFocus() || with == without)
-            faults.push_back(named(*each));
+            faults.push_back(named_with_window(*each));
     }
     return faults;
 }

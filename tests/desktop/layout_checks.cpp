@@ -17,8 +17,6 @@
 #include <algorithm>
 #include <map>
 
-namespace {
-
 std::string named(const QWidget & widget)
 {
     return widget.objectName().toStdString();
@@ -29,11 +27,12 @@ QRect place_in(const QWidget & window, const QWidget & widget)
     return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
 }
 
-// True where one lies inside the other.
 bool related(const QWidget & one, const QWidget & other)
 {
     return one.isAncestorOf(&other) || other.isAncestorOf(&one);
 }
+
+namespace {
 
 bool is_scrolled(const QWidget & widget)
 {

@@ -10,6 +10,14 @@
 /// What is wrong with the looks of a window that is shown: a line for each fault, by the names of the
 /// widgets.
 
+std::string named(const QWidget & widget);
+
+/// In pixels of the window.
+QRect place_in(const QWidget & window, const QWidget & widget);
+
+/// True where one lies inside the other.
+bool related(const QWidget & one, const QWidget & other);
+
 /// The widgets of all controls that can be seen, in any depth.
 std::vector<QWidget *> seen_widgets(const form & shown, const QWidget & window);
 

@@ -4,6 +4,7 @@
 #include "desktop/looks/elided_option.h"
 #include "support/MFreeImage.h"
 #include "tests/designs/opened_browser.h"
+#include "tests/desktop/layout_checks.h"
 #include "tests/pictures.h"
 
 #include <QApplication>
@@ -62,17 +63,7 @@ struct themes_test : testing::Test {
     std::unique_ptr<QWidget> window = make_window("frmThemes");
 };
 
-QRect place_in(const QWidget & window, const QWidget & widget)
-{
-    return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
-}
-
-bool related(const QWidget & one, const QWidget & other)
-{
-    return one.isAncestorOf(&other) || other.isAncestorOf(&one);
-}
-
-QSize needed(const QWidget & widget)
+QSize room_needed(const QWidget & widget)
 {
     if (qobject_cast<const elided_option *>(&widget))
         return {0, widget.minimumSizeHint().height()};
@@ -100,8 +91,8 @@ TEST_F(themes_test, nothing_overlaps_and_nothing_is_cut_in_either_orientation)
             const std::string name = orientation + (" " + one->objectName().toStdString());
             EXPECT_TRUE(window->rect().contains(place_in(*window, *one))) << name;
             EXPECT_TRUE(one->parentWidget()->rect().contains(one->geometry())) << name;
-            EXPECT_LE(needed(*one).width(), one->width()) << name;
-            EXPECT_LE(needed(*one).height(), one->height()) << name;
+            EXPECT_LE(room_needed(*one).width(), one->width()) << name;
+            EXPECT_LE(room_needed(*one).height(), one->height()) << name;
             for (const QWidget * other : seen)
                 if (one < other && !related(*one, *other)) {
                     EXPECT_FALSE(place_in(*window, *one).intersects(place_in(*window, *other)))

@@ -45,7 +45,7 @@ struct bad_table {
 };
 
 const std::string no_block = "Shouldn't happen";
-const std::string sorry = "Can't find a collage template to match these photos.  Sorry4.";
+const std::string sorry_4 = "Can't find a collage template to match these photos.  Sorry4.";
 
 // Comes to the style with good tables, and spoils one of them before the next preview or the style's click.
 void spoil(const quick_session & session, const bad_table & bad)
@@ -81,7 +81,7 @@ TEST(bad_tables, the_scatters_and_grids_are_told_and_leave_the_window_open)
     const std::string notice = "Perfect scatter match not found.";
     const bad_table rows[] = {
         {"quick_scatter.ini", "optScatter", std::nullopt, {"53 quick_scatter.ini"}},
-        {"quick_scatter.ini", "optScatter", "", {sorry}},
+        {"quick_scatter.ini", "optScatter", "", {sorry_4}},
         {"quick_scatter.ini", "optScatter", "04:02\r\n", {"9 quick_scatter.ini"}},
         {"scatter_templates", "optScatter", std::nullopt, {"53 scatter_templates"}},
         {"scatter_templates", "optScatter", "", {no_block}},

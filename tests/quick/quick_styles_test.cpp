@@ -7,7 +7,7 @@
 
 namespace {
 
-std::string sorry(int number)
+std::string sorry_number(int number)
 {
     return "Can't find a collage template to match these photos.  Sorry" + std::to_string(number) + ".";
 }
@@ -70,7 +70,7 @@ TEST(optBlock, without_a_block_it_says_so_and_closes_the_window)
     session.folder.write("install/quick_block.ini", "#PORT\r\n09X09:none:0:0\r\n");
     EXPECT_EQ(session.previews_of([&] { session.main.optBlock.select(); }), 0);
     EXPECT_EQ(session.desk.next_message(), "should not happen 88");
-    EXPECT_EQ(session.desk.next_message(), sorry(1));
+    EXPECT_EQ(session.desk.next_message(), sorry_number(1));
     EXPECT_FALSE(session.main.loaded());
     EXPECT_TRUE(session.main.trace.ends_with("(no match)"));
     expect_states(session.main, "chkCaption-");
@@ -83,7 +83,7 @@ TEST(optScatter, without_a_scatter_it_says_so_and_the_template_stays)
     const auto before = session.written();
     session.folder.write("install/quick_scatter.ini", "03:02:01:three\r\n");
     EXPECT_EQ(session.previews_of([&] { session.main.optScatter.select(); }), 0);
-    EXPECT_EQ(session.desk.next_message(), sorry(4));
+    EXPECT_EQ(session.desk.next_message(), sorry_number(4));
     EXPECT_EQ(session.written(), before);
     EXPECT_EQ(session.main.lblDesign.caption(), "Quick Scatter");
     expect_states(session.main, "chkCaption+ chkMatch1 chkRounded-");
@@ -133,7 +133,7 @@ TEST(orientation, without_a_template_each_says_so_by_its_number_and_the_picture_
         const auto before = session.written();
         session.folder.write("install/quick_scatter.ini", "03:02:01:three\r\nSQUARES\r\n03:02:01:three\r\n");
         EXPECT_EQ(session.previews_of([&] { target.select(); }), 0);
-        EXPECT_EQ(session.desk.next_message(), sorry(numbers[to]));
+        EXPECT_EQ(session.desk.next_message(), sorry_number(numbers[to]));
         EXPECT_EQ(session.written(), before);
         expect_states(main, "picSample^ optPreview1");
     }

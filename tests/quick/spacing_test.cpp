@@ -5,6 +5,7 @@
 #include "quick/block/block_plan.h"
 #include "quick/shapes/shapes_plan.h"
 #include "support/files/text_file.h"
+#include "tests/quick/posters.h"
 #include "tests/quick/quick_session.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@
 
 namespace {
 
-constexpr poster_shape posters[] = {poster_shape::portrait, poster_shape::landscape, poster_shape::square};
 constexpr int widest = 140;
 
 std::string supplied(const char * name)
@@ -36,7 +36,7 @@ std::map<std::string, std::vector<std::string>> supplied_blocks()
 }
 
 // The counts that 3 to 499 photos come to in blocks, whether none, a part or all of them are portraits.
-std::set<std::pair<int, int>> block_pairs(poster_shape poster)
+std::set<std::pair<int, int>> pairs_of_counts(poster_shape poster)
 {
     std::set<std::pair<int, int>> pairs;
     for (int photos = 3; photos < 500; ++photos)
@@ -90,7 +90,7 @@ TEST(spacing, hides_no_photo_of_a_block)
     const auto blocks = supplied_blocks();
     const std::string table = supplied("quick_block.ini");
     for (const poster_shape poster : posters)
-        for (const auto & [portrait, landscape] : block_pairs(poster)) {
+        for (const auto & [portrait, landscape] : pairs_of_counts(poster)) {
             line_source lines = line_source::of_text(table);
             block_match match;
             ASSERT_EQ(find_block(lines, poster, {portrait, landscape}, match), block_search::found);

@@ -7,6 +7,7 @@
 #include "quick/scatter/scatter_match.h"
 #include "quick/scatter/scatter_plan.h"
 #include "support/files/text_file.h"
+#include "tests/quick/posters.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -34,8 +35,6 @@ sections sections_of(const char * name)
     }
     return all;
 }
-
-constexpr poster_shape posters[] = {poster_shape::portrait, poster_shape::landscape, poster_shape::square};
 
 // The counts that are left when any two up to 99 are clamped.
 std::set<std::pair<int, int>> block_pairs(poster_shape poster)

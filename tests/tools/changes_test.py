@@ -50,6 +50,13 @@ class landed_commit(unittest.TestCase):
         (changes.ROOT / "new.cpp").write_text("")
         self.assertEqual(changes.changed_files(self.first), {"mine.cpp", "new.cpp"})
 
+    def test_is_what_was_looked_at_as_a_whole_where_nothing_else_tells_it(self):
+        (changes.ROOT / "tools").mkdir()
+        (changes.ROOT / "tools" / "all_looked_at").write_text(f"{self.first}\n")
+        self.commit("second")
+        self.git("update-ref", "refs/remotes/origin/main", self.commit("third"))
+        self.assertEqual(changes.landed(), self.first)
+
     def test_is_what_the_environment_names(self):
         second = self.commit("second")
         self.commit("third")

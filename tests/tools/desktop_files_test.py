@@ -55,6 +55,18 @@ class desktop_files(unittest.TestCase):
         self.environment = {"PATH": f"{APP}:{os.environ['PATH']}", "HOME": str(self.home), "LANG": "C.UTF-8"}
         self.data = self.home / ".local" / "share" / "tessaloom4"
 
+    def need(self, tool):
+        if not shutil.which(tool):
+            self.skipTest(f"no {tool}")
+
+    def need_zsh_in_a_terminal(self):
+        self.need("zsh")
+        try:
+            for end in os.openpty():
+                os.close(end)
+        except OSError:
+            self.skipTest("no terminal can be opened here")
+
     def keep_a_design(self):
         output_of("tessaloom-batch", "--list", env=self.environment)
         with open(self.data / "designs.ini", "ab") as catalogue:
@@ -66,8 +78,7 @@ class desktop_files(unittest.TestCase):
             self.assertEqual(options_of_page(program), options_of_help(program))
 
     def test_man_pages_are_clean(self):
-        if not shutil.which("groff"):
-            self.skipTest("no groff")
+        self.need("groff")
         for page in sorted(FILES.glob("man/*.1")):
             told = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", "-rCHECKSTYLE=3", str(page)], capture_output=True, text=True)
             self.assertEqual((told.returncode, told.stderr), (0, ""), page.name)
@@ -134,8 +145,7 @@ class desktop_files(unittest.TestCase):
         self.assertFalse((self.home / "ran").exists())
 
     def test_fish_offers_what_can_follow(self):
-        if not shutil.which("fish"):
-            self.skipTest("no fish")
+        self.need("fish")
         self.assertEqual(self.fish("tessaloom-batch --orientation l"), ["landscape"])
         self.assertEqual(self.fish("tessaloom-batch --set cmbFr"), ["cmbFrame="])
         self.assertEqual(self.fish("tessaloom-batch --design Mosaic"), ["Mosaic wall"])
@@ -154,25 +164,13 @@ zpty -r play told '*READY*READY*'; zpty -n -w play {shlex.quote(typed)}$'\\t'; z
         return re.findall(r"LINE<(.*?)>", output_of("zsh", "-f", "-c", script, env=dict(self.environment, TERM="dumb"), cwd=self.home))[-1]
 
     def test_zsh_completes_designs_and_controls(self):
-        if not shutil.which("zsh"):
-            self.skipTest("no zsh")
-        try:
-            for end in os.openpty():
-                os.close(end)
-        except OSError:
-            self.skipTest("no terminal can be opened here")
+        self.need_zsh_in_a_terminal()
         self.assertEqual(self.zsh("tessaloom-batch --orientation l"), "tessaloom-batch --orientation landscape ")
         self.assertEqual(self.zsh("tessaloom-batch --set cmbFr"), "tessaloom-batch --set cmbFrame=")
         self.assertEqual(self.zsh("tessaloom-batch --design Mosaic"), "tessaloom-batch --design Mosaic\\ wall ")
 
     def test_zsh_reads_its_completion(self):
-        if not shutil.which("zsh"):
-            self.skipTest("no zsh")
-        try:
-            for end in os.openpty():
-                os.close(end)
-        except OSError:
-            self.skipTest("no terminal can be opened here")
+        self.need_zsh_in_a_terminal()
         script = f"""autoload -Uz compinit; fpath=({FILES} $fpath); compinit -u -d {self.home}/dump
 whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pack] $_comps[tessaloom-intake]; zsh -n {FILES}/_tessaloom"""
         self.assertEqual(output_of("zsh", "-f", "-c", script, env=self.environment).split(),

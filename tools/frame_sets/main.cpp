@@ -1,10 +1,11 @@
 // Makes the frame sets that are supplied with the program, by its own editor, which nobody sees.
 //
-//     frame_sets DEFINITIONS ICONS WORK OUT.zip
+//     frame_sets DEFINITIONS ICONS WORK FONTS OUT.zip
 //
 // DEFINITIONS holds a folder for each set, with its settings (`design.ini`) and captions (`captions`). ICONS
-// is the folder of the icons, with their list. WORK takes what is made on the way. The archive is the same,
-// byte for byte, whenever it is made with the same fonts.
+// is the folder of the icons, with their list. WORK takes what is made on the way. FONTS is a file for
+// fontconfig that names the fonts to draw with; others of the machine aren't seen, so the archive is the
+// same, byte for byte, wherever it is made.
 #include "batch/batch_desktop.h"
 #include "frames/sets/frame_sets.h"
 #include "session/connect_all.h"
@@ -28,6 +29,15 @@ std::vector<std::string> sorted(std::vector<std::string> names)
 {
     std::ranges::sort(names);
     return names;
+}
+
+// A build has no screen, and neither its fonts nor how they are drawn are the machine's.
+void leave_machine_out(const char * fonts)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("FONTCONFIG_FILE", fonts);
+    for (const char * setting : {"FONTCONFIG_SYSROOT", "FREETYPE_PROPERTIES", "QT_QPA_PLATFORMTHEME"})
+        qunsetenv(setting);
 }
 
 // ---- the frames
@@ -82,19 +92,19 @@ void pack(const std::string & frames, const std::string & target)
 
 int main(int count, char ** words)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");  // a build has no screen
-    QGuiApplication application(count, words);
-    if (count != 5) {
-        std::fprintf(stderr, "usage: frame_sets DEFINITIONS ICONS WORK OUT.zip\n");
+    if (count != 6) {
+        std::fprintf(stderr, "usage: frame_sets DEFINITIONS ICONS WORK FONTS OUT.zip\n");
         return 1;
     }
+    leave_machine_out(words[4]);
+    QGuiApplication application(count, words);
     try {
         const std::string work = words[3];
         lay_out(words[1], words[2], work);
         render_sets(work);
-        pack(joined(work, "frames"), words[4]);
+        pack(joined(work, "frames"), words[5]);
     } catch (const std::exception & failure) {
-        std::fprintf(stderr, "%s: %s\n", words[4], failure.what());
+        std::fprintf(stderr, "%s: %s\n", words[5], failure.what());
         return 1;
     }
     return 0;

@@ -1,6 +1,7 @@
 #include "engine/layout/caption_room.h"
 
 #include "support/platform_error.h"
+#include "tests/engine/layout/measures.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +11,6 @@ location roomy(const room_setting & setting, run_size size)
 {
     return bent({.top = 1000, .left = 1000, .height = 1000, .width = 1000}, location_role::place,
                 caption_room_bend(setting, size));
-}
-
-location measures(int16 top, int16 left, int16 height, int16 width)
-{
-    return {.top = top, .left = left, .height = height, .width = width};
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "engine/layout/location_bends.h"
 
+#include "tests/engine/layout/measures.h"
+
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -7,11 +9,6 @@ namespace {
 constexpr auto place_role = location_role::place;
 constexpr auto start_role = location_role::grid_start;
 constexpr auto cells_role = location_role::grid_cells;
-
-location measures(int16 top, int16 left, int16 height, int16 width)
-{
-    return {.top = top, .left = left, .height = height, .width = width};
-}
 }  // namespace
 
 TEST(location_bends, rows_of_a_grid_come_in_pairs)

@@ -2,6 +2,7 @@
 
 #include "support/files/paths.h"
 #include "tests/engine/collage_fixture.h"
+#include "tests/engine/layout/measures.h"
 #include "tests/pictures.h"
 
 #include <filesystem>
@@ -11,11 +12,6 @@ namespace {
 
 constexpr rgb_triple ink{.red = 255};
 constexpr std::uint32_t ink_in_control = 0x0000FF;
-
-location measures(int16 top, int16 left, int16 height, int16 width)
-{
-    return {.top = top, .left = left, .height = height, .width = width};
-}
 
 struct one_location : collage_fixture {
     one_location() { add_location(measures(1000, 1000, 1000, 1000)); }

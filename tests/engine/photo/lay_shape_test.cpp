@@ -9,14 +9,14 @@
 
 namespace {
 
-constexpr rgb_triple canvas_color{9, 9, 9}, photo_color{100, 230, 50};
+constexpr rgb_triple paper_color{9, 9, 9}, shape_color{100, 230, 50};
 
 struct lay_shape_test : testing::Test {
     lay_shape_test()
     {
         main.install_folder = folder.at("program");
         main.data_folder = folder.at("data");
-        main.run.canvas = plain(12, 14, canvas_color);
+        main.run.canvas = plain(12, 14, paper_color);
         folder.write("program/images/shape.gif", mask());
     }
 
@@ -37,8 +37,8 @@ struct lay_shape_test : testing::Test {
                    .mask = shape,
                    .shape_color = color});
         return drawn(main.run.canvas, [](rgb_triple seen_there) {
-            return seen_there == canvas_color                ? '.'
-                   : seen_there == photo_color               ? '#'
+            return seen_there == paper_color                 ? '.'
+                   : seen_there == shape_color               ? '#'
                    : seen_there == rgb_triple{133, 254, 83}  ? '+'
                    : seen_there == rgb_triple{255, 255, 255} ? 'w'
                    : seen_there == rgb_triple{}              ? 'b'
@@ -67,7 +67,7 @@ std::string rows(int count)
 
 TEST_F(lay_shape_test, a_photo_shows_inside_and_lightens_along_the_border)
 {
-    EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2), rows(2) +
+    EXPECT_EQ(painted(0, plain(4, 4, shape_color), 3, 2), rows(2) +
                                                               "....#w......\n"
                                                               "....#+......\n"
                                                               "....#b......\n"
@@ -93,14 +93,14 @@ TEST_F(lay_shape_test, code_5_is_white)
 TEST_F(lay_shape_test, an_outline_makes_the_border_black)
 {
     main.chkOutline.tick(true);
-    EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2).substr(blank_row.size() * 3, 12), "....#b......");
+    EXPECT_EQ(painted(0, plain(4, 4, shape_color), 3, 2).substr(blank_row.size() * 3, 12), "....#b......");
     main.chkOutline.show(false);
-    EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2).substr(blank_row.size() * 3, 12), "....#+......");
+    EXPECT_EQ(painted(0, plain(4, 4, shape_color), 3, 2).substr(blank_row.size() * 3, 12), "....#+......");
 }
 
 TEST_F(lay_shape_test, lands_one_width_further_left_on_a_landscape_canvas)
 {
-    main.run.canvas = plain(14, 6, canvas_color);
+    main.run.canvas = plain(14, 6, paper_color);
     EXPECT_EQ(painted(7, {}, 8, 1),
               "..............\n"
               ".....7w.......\n"
@@ -112,7 +112,7 @@ TEST_F(lay_shape_test, lands_one_width_further_left_on_a_landscape_canvas)
 
 TEST_F(lay_shape_test, lands_one_width_further_left_on_a_square_canvas)
 {
-    main.run.canvas = plain(6, 6, canvas_color);
+    main.run.canvas = plain(6, 6, paper_color);
     EXPECT_EQ(painted(7, {}, 4, 1),
               "......\n"
               ".7w...\n"
@@ -124,7 +124,7 @@ TEST_F(lay_shape_test, lands_one_width_further_left_on_a_square_canvas)
 
 TEST_F(lay_shape_test, letters_stay_where_they_are_on_a_landscape_canvas)
 {
-    main.run.canvas = plain(14, 6, canvas_color);
+    main.run.canvas = plain(14, 6, paper_color);
     main.lblDesign.set_caption("Lettering");
     EXPECT_EQ(painted(7, {}, 8, 1).substr(15, 14), ".........7w...");
 }
@@ -142,7 +142,7 @@ TEST_F(lay_shape_test, a_mask_that_is_missing_or_damaged_paints_nothing)
         folder.write("program/images/broken.gif", "GIF89a");
         shape = name;
         EXPECT_EQ(painted(7, {}, 3, 2), rows(14)) << name;
-        EXPECT_EQ(painted(0, plain(4, 4, photo_color), 3, 2), rows(14)) << name;
+        EXPECT_EQ(painted(0, plain(4, 4, shape_color), 3, 2), rows(14)) << name;
     }
 }
 
@@ -157,7 +157,7 @@ TEST_F(lay_shape_test, masks_lie_in_three_places)
     folder.write("data/alpha/char_a.gif", mask());
     for (const std::string name : {"custom_shape.gif", "alpha/char_a.gif", "/alpha/char_a.gif"}) {
         shape = name;
-        main.run.canvas = plain(12, 14, canvas_color);
+        main.run.canvas = plain(12, 14, paper_color);
         EXPECT_EQ(painted(7, {}, 3, 2).substr(blank_row.size() * 2, 12), "....7w......") << name;
     }
 }
@@ -170,7 +170,7 @@ TEST_F(lay_shape_test, a_name_ending_in_g_is_a_jpeg)
     for (const std::string name : {"half.jpg", "half.JPG"}) {
         save_jpeg(half, folder.at("program/images/" + name));
         shape = name;
-        main.run.canvas = plain(12, 14, canvas_color);
+        main.run.canvas = plain(12, 14, paper_color);
         EXPECT_EQ(painted(7, {}, 3, 2).substr(blank_row.size() * 2, 12), ".....77.....") << name;
     }
 }
@@ -188,13 +188,13 @@ TEST_F(lay_shape_test, the_mask_is_scaled_to_the_size)
 TEST_F(lay_shape_test, a_mask_that_was_used_before_paints_the_same_and_a_changed_one_anew)
 {
     const std::string first = painted(7, {}, 3, 2);
-    main.run.canvas = plain(12, 14, canvas_color);
+    main.run.canvas = plain(12, 14, paper_color);
     EXPECT_EQ(painted(7, {}, 3, 2), first);
     folder.write("program/images/shape.gif",
                  gif_of({"..", ".#"}, {{'.', {255, 255, 255}}, {'#', {0, 0, 0}}}));
-    main.run.canvas = plain(12, 14, canvas_color);
+    main.run.canvas = plain(12, 14, paper_color);
     EXPECT_NE(painted(7, {}, 3, 2), first);
     delete_file(folder.at("program/images/shape.gif"));
-    main.run.canvas = plain(12, 14, canvas_color);
+    main.run.canvas = plain(12, 14, paper_color);
     EXPECT_EQ(painted(7, {}, 3, 2), rows(14));
 }

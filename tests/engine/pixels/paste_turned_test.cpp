@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr rgb_triple ground{40, 50, 60}, white{255, 255, 255};
+constexpr rgb_triple backdrop{40, 50, 60}, pure_white{255, 255, 255};
 
 /// The picture with an empty pixel on each side.
 covered_picture framed_by_nothing(const bitmap & image)
@@ -41,7 +41,7 @@ covered_sum white_on_black(const bitmap & canvas)
 TEST(paste_turned, without_a_turn_is_a_paste)
 {
     const bitmap image = graded(20, 12);
-    bitmap canvas = plain(40, 30, ground), expected = plain(40, 30, ground);
+    bitmap canvas = plain(40, 30, backdrop), expected = plain(40, 30, backdrop);
     paste(expected, image, 7, 9, plain_copy);
     paste_turned(canvas, framed_by_nothing(image), {.from = {1, 1}, .to = {7, 9}, .degrees = 0});
     EXPECT_TRUE(same(canvas, expected));
@@ -50,11 +50,11 @@ TEST(paste_turned, without_a_turn_is_a_paste)
 TEST(paste_turned, a_quarter_is_clockwise_and_moves_whole_pixels)
 {
     const bitmap image = graded(20, 12);
-    bitmap canvas = plain(40, 30, ground);
+    bitmap canvas = plain(40, 30, backdrop);
     paste_turned(canvas, framed_by_nothing(image), {.from = {1, 1}, .to = {25, 5}, .degrees = 90});
     const bitmap expected = colored(40, 30, [&](int x, int y) {
         const int column = y - 5, row = 24 - x;
-        return column >= 0 && column < 20 && row >= 0 && row < 12 ? seen(image, column, row) : ground;
+        return column >= 0 && column < 20 && row >= 0 && row < 12 ? seen(image, column, row) : backdrop;
     });
     EXPECT_TRUE(same(canvas, expected));
 }
@@ -63,7 +63,7 @@ TEST(paste_turned, keeps_area_and_middle_at_every_angle)
 {
     for (int degrees = -85; degrees <= 90; degrees += 5) {
         bitmap canvas(160, 160);
-        paste_turned(canvas, framed_by_nothing(plain(80, 50, white)),
+        paste_turned(canvas, framed_by_nothing(plain(80, 50, pure_white)),
                      {.from = {41, 26}, .to = {80.25, 79.5}, .degrees = degrees});
         const covered_sum found = white_on_black(canvas);
         EXPECT_NEAR(found.mass, 80 * 50, 40) << degrees;
@@ -77,7 +77,7 @@ TEST(paste_turned, the_upper_left_corner_lies_where_the_turn_brings_it)
     bitmap image = plain(60, 40, {});
     for (int y = 0; y < 10; ++y)
         for (int x = 0; x < 10; ++x)
-            set_pixel(image, x, 39 - y, white);
+            set_pixel(image, x, 39 - y, pure_white);
     for (const int degrees : {-60, -20, 15, 75}) {
         bitmap canvas(160, 160);
         paste_turned(canvas, framed_by_nothing(image), {.from = {1, 1}, .to = {80, 80}, .degrees = degrees});
@@ -105,7 +105,7 @@ TEST(paste_turned, what_is_covered_in_part_lets_the_canvas_through)
 TEST(paste_turned, what_leaves_the_canvas_is_ignored)
 {
     for (const picture_point to : {picture_point{-30, 10}, {0, 0}, {39, 29}, {500, 500}, {20, -8}}) {
-        bitmap canvas = plain(40, 30, ground), large = plain(2040, 2030, ground);
+        bitmap canvas = plain(40, 30, backdrop), large = plain(2040, 2030, backdrop);
         const covered_picture picture = framed_by_nothing(graded(20, 12));
         paste_turned(canvas, picture, {.from = {11, 7}, .to = to, .degrees = 35});
         paste_turned(large, picture, {.from = {11, 7}, .to = {to.x + 1000, to.y + 1000}, .degrees = 35});

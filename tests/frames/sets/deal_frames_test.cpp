@@ -4,7 +4,7 @@
 
 namespace {
 
-const std::string place = "10:20:300:200:0:0:0:0:";
+const std::string place_fields = "10:20:300:200:0:0:0:0:";
 
 // A set with that many captions, in both orientations, beside its frame 00.
 frame_deal set_of(int captions, std::string order = {})
@@ -20,13 +20,13 @@ std::string dealt(const std::vector<std::string> & letters, const frame_deal & d
 {
     std::vector<std::string> source;
     for (const std::string & letter : letters)
-        source.push_back(place + "@\\" + letter + "frame.jpg");
+        source.push_back(place_fields + "@\\" + letter + "frame.jpg");
     const dealt_frames result = deal_frames(source, deal);
     std::string text;
     for (const std::string & line : result.lines) {
-        EXPECT_TRUE(line.starts_with(place + "frames\\club\\")) << line;
+        EXPECT_TRUE(line.starts_with(place_fields + "frames\\club\\")) << line;
         EXPECT_TRUE(line.ends_with(".jpg")) << line;
-        text += line.substr(place.size() + 12, 1) + line.substr(line.size() - 6, 2) + " ";
+        text += line.substr(place_fields.size() + 12, 1) + line.substr(line.size() - 6, 2) + " ";
     }
     return text + (result.missing ? std::string(1, *result.missing) + "?" : "");
 }
@@ -57,7 +57,7 @@ TEST(deal_frames, a_line_without_the_sign_or_with_it_in_front_stays)
 
 TEST(deal_frames, lines_behind_the_next_header_stay_as_they_are)
 {
-    const std::vector<std::string> lines{"[next]", place + "@\\pframe.jpg"};
+    const std::vector<std::string> lines{"[next]", place_fields + "@\\pframe.jpg"};
     EXPECT_EQ(deal_frames(lines, set_of(3, "l")).lines, lines);
 }
 
@@ -85,7 +85,7 @@ TEST(deal_frames, a_photo_beyond_the_captions_has_the_default_one)
 
 TEST(deal_frames, a_place_without_a_letter_asks_for_none)
 {
-    const dealt_frames result = deal_frames({place + "@"}, set_of(1, "lp"));
+    const dealt_frames result = deal_frames({place_fields + "@"}, set_of(1, "lp"));
     EXPECT_TRUE(result.missing);
     EXPECT_TRUE(result.lines.empty());
 }

@@ -13,7 +13,7 @@ lines planned(const lines & block, const block_request & request)
     return template_lines(block_plan(block, request, listed({})), block_digits);
 }
 
-constexpr poster_shape landscape = poster_shape::landscape, square = poster_shape::square;
+using enum poster_shape;
 
 }  // namespace
 
@@ -46,7 +46,7 @@ TEST(block_plan, small_numbers_have_two_digits)
 
 TEST(block_plan, the_first_rectangles_are_doubled_in_height_on_every_poster)
 {
-    for (const poster_shape poster : {poster_shape::portrait, landscape, square})
+    for (const poster_shape poster : {portrait, landscape, square})
         EXPECT_EQ(planned({"0:0:100:80", "200:0:100:80"}, {.poster = poster, .gap = 10, .doubled = 1}),
                   (lines{"10:10:180:60:0:-1:-1:0:", "210:10:80:60:0:-1:-1:0:"}));
 }

@@ -25,7 +25,7 @@ std::vector<std::string> lines_of(const std::string & text)
 }
 
 template <typename Step>
-std::string raised_by(Step step)
+std::string told_by(Step step)
 {
     try {
         step();
@@ -57,20 +57,20 @@ TEST(line_source, keeps_every_byte_of_a_line)
 
 TEST(line_source, raises_past_its_end)
 {
-    EXPECT_EQ(raised_by([] { line_source().read_line(); }), "62 ");
+    EXPECT_EQ(told_by([] { line_source().read_line(); }), "62 ");
     line_source source = line_source::of_text("a");
     source.read_line();
-    EXPECT_EQ(raised_by([&] { source.read_line(); }), "62 ");
+    EXPECT_EQ(told_by([&] { source.read_line(); }), "62 ");
 }
 
 TEST(line_source, tells_why_a_file_can_not_be_read)
 {
     const temporary_folder folder;
-    EXPECT_EQ(raised_by([&] { line_source{folder.at("none")}; }), "53 none");
-    EXPECT_EQ(raised_by([&] { line_source{folder.path()}; }).substr(0, 2), "75");
+    EXPECT_EQ(told_by([&] { line_source{folder.at("none")}; }), "53 none");
+    EXPECT_EQ(told_by([&] { line_source{folder.path()}; }).substr(0, 2), "75");
     ::chmod(folder.write("closed", "x").c_str(), 0);
     const as_ordinary_user user;
-    EXPECT_EQ(raised_by([&] { line_source{folder.at("closed")}; }), "70 closed");
+    EXPECT_EQ(told_by([&] { line_source{folder.at("closed")}; }), "70 closed");
 }
 
 TEST(line_source, reads_more_than_one_chunk)
@@ -119,18 +119,18 @@ TEST(line_writer, tells_why_a_file_can_not_be_written)
 {
     const temporary_folder folder;
     const auto open = [](const std::string & path) { line_writer(path, line_writer::mode::append); };
-    EXPECT_EQ(raised_by([&] { open(joined(folder.path(), "none/a")); }), "76 a");
-    EXPECT_EQ(raised_by([&] { open(folder.path()); }).substr(0, 2), "75");
+    EXPECT_EQ(told_by([&] { open(joined(folder.path(), "none/a")); }), "76 a");
+    EXPECT_EQ(told_by([&] { open(folder.path()); }).substr(0, 2), "75");
     ::chmod(folder.write("closed", "x").c_str(), 0444);
     const as_ordinary_user user;
-    EXPECT_EQ(raised_by([&] { open(folder.at("closed")); }), "70 closed");
+    EXPECT_EQ(told_by([&] { open(folder.at("closed")); }), "70 closed");
 }
 
 TEST(line_writer, tells_that_the_disk_is_full)
 {
     const temporary_folder folder;
     const std::string path = folder.at("a");
-    EXPECT_EQ(raised_by([&] {
+    EXPECT_EQ(told_by([&] {
                   const full_disk full(1000);
                   line_writer lines(path, line_writer::mode::fresh);
                   for (int i = 0; i < 100; ++i)
@@ -156,7 +156,7 @@ TEST(replace_file, keeps_the_old_file_on_a_full_disk)
     const temporary_folder folder;
     const std::string path = folder.write("a", "old");
     for (const auto write : {replace_file, write_file}) {
-        EXPECT_EQ(raised_by([&] {
+        EXPECT_EQ(told_by([&] {
                       const full_disk full(1000);
                       write(path, std::string(2000, 'x'));
                   }),
@@ -186,17 +186,17 @@ TEST(replace_file, refuses_a_closed_folder_and_a_protected_file)
     ::chmod(closed.c_str(), 0666);
     ::chmod(protected_file.c_str(), 0444);
     const as_ordinary_user user;
-    EXPECT_EQ(raised_by([&] { replace_file(closed, "new"); }), "70 a");
-    EXPECT_EQ(raised_by([&] { replace_file(protected_file, "new"); }), "70 b");
+    EXPECT_EQ(told_by([&] { replace_file(closed, "new"); }), "70 a");
+    EXPECT_EQ(told_by([&] { replace_file(protected_file, "new"); }), "70 b");
     EXPECT_EQ(read_file(closed) + read_file(protected_file), "oldold");
 }
 
 TEST(replace_file, tells_of_a_missing_folder_and_of_a_folder_in_its_place)
 {
     const temporary_folder folder;
-    EXPECT_EQ(raised_by([&] { replace_file(joined(folder.path(), "none/a"), "x"); }), "76 a");
+    EXPECT_EQ(told_by([&] { replace_file(joined(folder.path(), "none/a"), "x"); }), "76 a");
     folder.write("inner/b", "");
-    EXPECT_EQ(raised_by([&] { replace_file(folder.at("inner"), "x"); }), "75 inner");
+    EXPECT_EQ(told_by([&] { replace_file(folder.at("inner"), "x"); }), "75 inner");
     EXPECT_EQ(files_in(folder.path()), texts{});
 }
 
@@ -218,8 +218,8 @@ TEST(split, gives_at_most_the_limit_and_the_last_field_keeps_further_signs)
 TEST(field_at, raises_a_subscript_error_for_a_missing_field)
 {
     EXPECT_EQ(field_at({"a", "b"}, 1), "b");
-    EXPECT_EQ(raised_by([] { field_at({"a", "b"}, 2); }), "9 ");
-    EXPECT_EQ(raised_by([] { field_at({}, 0); }), "9 ");
+    EXPECT_EQ(told_by([] { field_at({"a", "b"}, 2); }), "9 ");
+    EXPECT_EQ(told_by([] { field_at({}, 0); }), "9 ");
 }
 
 TEST(abandoned_parts, go_when_they_are_old_and_nobody_writes_them)
