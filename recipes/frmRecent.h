@@ -13,8 +13,7 @@ struct windows;
 struct frmRecent : form {
     frmRecent() : form("frmRecent") { set_caption("R e c e n t   F l u r n s"); }
     list_box lstFlurns{*this, "lstFlurns"};
-    label lblEmpty{*this, "lblEmpty",
-                   "There is no flurn here yet. Each one that you make is listed here, to be opened again."};
+    label lblEmpty{*this, "lblEmpty", "No flurn yet: each one that you make is listed here."};
     button cmdHelp{*this, "cmdHelp", "Help"};
     button cmdFile{*this, "cmdFile", "Open file..."};  ///< one that was kept beside its picture
     button cmdRemove{*this, "cmdRemove", "Remove from list"};

@@ -314,6 +314,27 @@ void check_pictures(const recipe & wanted)
     }
 }
 
+bool are_shapes(const std::string & text)
+{
+    bool is_letter = true;
+    for (const char sign : text) {
+        if (is_letter ? sign != 'p' && sign != 'l' : sign != ':')
+            return false;
+        is_letter = !is_letter;
+    }
+    return is_letter;
+}
+
+// Who lays out by the photos' shapes looks for one of the two until it finds it.
+void check_shapes(const recipe & wanted)
+{
+    for (const char * name : {"photos.shapes", "quick.photo_shapes"}) {
+        const std::string * const text = setting_in(wanted, name);
+        if (text != nullptr && !are_shapes(*text))
+            refuse(name);
+    }
+}
+
 // ---- what was forced
 
 std::string name_of(const control * held)
@@ -350,6 +371,7 @@ void check_settings_of(frmMain & main, const recipe & wanted)
 {
     visit_fields(main, field_reader{.wanted = wanted, .how = taking::checked});
     check_pictures(wanted);
+    check_shapes(wanted);
 }
 
 std::vector<recipe_force> forces_of(const frmMain & main)

@@ -77,7 +77,7 @@ def expect_same(program, preview, poster, pixels, shot):
 def play(program):
     collage.welcomed(program)
     open_recent(program)
-    check('no flurn here yet' in program.find('lblEmpty')['text'], 'the empty list says nothing')
+    check('No flurn yet' in program.find('lblEmpty')['text'], 'the empty list says nothing')
     keep(program, 'recent_empty.png')
     program.click('cmdCancel')
     program.window('frmMain')

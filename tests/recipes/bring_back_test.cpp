@@ -249,6 +249,8 @@ TEST(bring_back, refuses_numbers_that_no_control_takes)
                                                            {"quick.shape_file", "../x"},
                                                            {"in_preview", "2"},
                                                            {"bg_color", "-1"},
+                                                           {"photos.shapes", "x:"},
+                                                           {"quick.photo_shapes", "p:l"},
                                                            {"collage_width", "30000"},
                                                            {"photos.landscape", "1002"}};
     for (const auto & [name, value] : settings)
