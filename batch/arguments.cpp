@@ -1,5 +1,6 @@
 #include "batch/arguments.h"
 
+#include "batch/page_plan.h"
 #include "support/workers.h"
 
 #include <algorithm>
@@ -15,6 +16,7 @@ constexpr int smallest_size = 16;
 constexpr int largest_size = 12000;  // four times the full size
 constexpr int largest_scale = 4;
 constexpr int largest_dpi = 2400;
+constexpr int largest_bleed = 50;  // millimetres
 
 using words = std::span<const std::string>;
 using value_reader =
@@ -135,6 +137,18 @@ void read_dpi(batch_arguments & read, const std::string & name, const std::strin
     read.dpi = whole_number(name, value, 1, largest_dpi);
 }
 
+void read_page(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    if (!is_page_size(value))
+        throw bad_arguments{name + " is " + page_sizes + ", not \"" + value + "\""};
+    read.page = value;
+}
+
+void read_bleed(batch_arguments & read, const std::string & name, const std::string & value)
+{
+    read.bleed = whole_number(name, value, 0, largest_bleed);
+}
+
 void read_seed(batch_arguments & read, const std::string & name, const std::string & value)
 {
     read.seed = whole_number(name, value, 0ULL, ~0ULL);
@@ -173,6 +187,9 @@ const std::map<std::string, option> & options()
         {"--size", valued(read_size)},
         {"--scale", valued(read_scale)},
         {"--dpi", valued(read_dpi)},
+        {"--page", valued(read_page)},
+        {"--around", choice_into(&batch_arguments::around, {"white", "ground"})},
+        {"--bleed", valued(read_bleed)},
         {"--random", valued(read_seed)},
         {"--answer", valued(read_answer)},
         {"--out", text_into(&batch_arguments::out)},

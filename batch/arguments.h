@@ -27,10 +27,13 @@ struct batch_arguments {
     bool preview = false;
     bool intake = false;  ///< photos that need it are prepared first
     bool answers_yes = false;
-    std::string out;     ///< "-": standard output
-    std::string keep;    ///< folder that the work files are left in; empty: none
-    std::string jobs;    ///< job list, "-": standard input
-    bool again = false;  ///< makes the jobs too whose collage is there
+    std::string out;           ///< "-": standard output
+    std::string page;          ///< paper of a PDF; empty: as large as the poster
+    std::string around;        ///< of a PDF: "white" or "ground"; empty: the ground where there is a bleed
+    std::optional<int> bleed;  ///< millimetres around the page of a PDF
+    std::string keep;          ///< folder that the work files are left in; empty: none
+    std::string jobs;          ///< job list, "-": standard input
+    bool again = false;        ///< makes the jobs too whose collage is there
 };
 
 /// A command line that can't be followed; `what` says why, in one line.

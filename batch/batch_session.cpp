@@ -6,10 +6,11 @@
 #include "batch/kept_files.h"
 #include "batch/missing_pictures.h"
 #include "batch/output_file.h"
+#include "batch/output_kind.h"
+#include "batch/poster_file.h"
 #include "batch/print_size.h"
 #include "batch/recipe_step.h"
 #include "batch/settings.h"
-#include "engine/output/flurn_file.h"
 #include "engine/preview.h"
 #include "engine/run_steps.h"
 #include "photos/left_out.h"
@@ -114,6 +115,8 @@ bool went_well(const std::function<void()> & step)
     }
 }
 
+constexpr const char * none_usable = "None of the photos could be used.";
+
 // Whether the last run has laid what was asked for. Its messages have told what went wrong, but a template
 // without places and a picture of the design that is gone are passed over without a word.
 bool is_whole(const open_session & running)
@@ -123,7 +126,7 @@ bool is_whole(const open_session & running)
         return false;
     const std::string missing = missing_picture(main);
     if (!has_usable_photo(main))
-        std::fprintf(stderr, "None of the photos could be used.\n");
+        std::fprintf(stderr, "%s\n", none_usable);
     else if (main.run.image_number <= 1)
         std::fprintf(stderr,
                      "None of the photos found a place: the template of this design is missing or empty.\n");
@@ -134,12 +137,10 @@ bool is_whole(const open_session & running)
     return false;
 }
 
-using encoder = std::function<std::string()>;
-
-bool goes_out(const open_session & running, const batch_arguments & arguments, const encoder & jpeg)
+bool goes_out(open_session & running, const batch_arguments & arguments, const made_poster & poster)
 {
     return is_whole(running) &&
-           went_well([&] { write_output(arguments.out, with_asked_dpi(jpeg(), arguments)); });
+           went_well([&] { write_output(arguments.out, poster_file(running.all.main, arguments, poster)); });
 }
 
 // `went_out` is nothing where the run drew no picture at all: there are settings that keep it from drawing
@@ -147,14 +148,28 @@ bool goes_out(const open_session & running, const batch_arguments & arguments, c
 exit_status outcome_of(const open_session & running, const std::optional<bool> & went_out)
 {
     if (!went_out && !running.desk.told_of_an_error())
-        std::fprintf(stderr, "These settings make no picture.\n");
+        std::fprintf(stderr, "%s\n",
+                     has_usable_photo(running.all.main) ? "These settings make no picture." : none_usable);
     return went_out.value_or(false) ? exit_status::made : exit_status::not_made;
 }
 
-// The run has encoded its poster already.
-std::string bytes_of_poster(const frmMain & main, std::optional<int> size)
+picture_size size_wanted(picture_size own, std::optional<int> size)
 {
-    return size ? flurn_bytes(main.run.canvas, *size) : read_file(finished_path(main));
+    return size ? saved_size(own, *size) : own;
+}
+
+std::string encoded(const bitmap & image, std::optional<int> size, const picture_encoder & encode)
+{
+    return size ? encoded_in_size(image, *size, encode) : encode(image);
+}
+
+// The run has encoded its poster already.
+made_poster poster_of_run(const frmMain & main, std::optional<int> size)
+{
+    const bitmap & image = main.run.canvas;
+    return {.size = size_wanted({.width = image.width(), .height = image.height()}, size),
+            .jpeg = [&, size] { return size ? flurn_bytes(image, *size) : read_file(finished_path(main)); },
+            .encoded = [&, size](const picture_encoder & encode) { return encoded(image, size, encode); }};
 }
 
 exit_status make_full_size(open_session & running, const batch_arguments & arguments)
@@ -162,8 +177,7 @@ exit_status make_full_size(open_session & running, const batch_arguments & argum
     std::optional<bool> went_out;
     running.desk.on_modal = [&](form & window) {
         if (&window == &running.all.image)
-            went_out = goes_out(running, arguments,
-                                [&] { return bytes_of_poster(running.all.main, arguments.size); });
+            went_out = goes_out(running, arguments, poster_of_run(running.all.main, arguments.size));
     };
     running.all.main.run.drawn_at = drawn_scale(arguments);
     check_memory(running.all.main.run.drawn_at, free_memory());
@@ -177,12 +191,14 @@ exit_status make_full_size(open_session & running, const batch_arguments & argum
 }
 
 // The preview's own bytes, unless it has to be scaled.
-std::string bytes_of_preview(const std::string & picture, std::optional<int> size)
+made_poster poster_of_preview(const std::string & picture, std::optional<int> size)
 {
     const picture_size own = jpeg_size(picture).value_or(picture_size{});
-    if (!size || *size == std::max(own.width, own.height))
-        return read_file(picture);
-    return flurn_bytes(load_picture(picture_format::jpeg, picture), *size);
+    const picture_size wanted = size_wanted(own, size);
+    const auto image = [picture] { return load_picture(picture_format::jpeg, picture); };
+    return {.size = wanted,
+            .jpeg = [=] { return wanted == own ? read_file(picture) : flurn_bytes(image(), *size); },
+            .encoded = [=](const picture_encoder & encode) { return encoded(image(), size, encode); }};
 }
 
 exit_status make_small(open_session & running, const batch_arguments & arguments)
@@ -197,7 +213,7 @@ exit_status make_small(open_session & running, const batch_arguments & arguments
         gen_sample(main);
     std::optional<bool> went_out;
     if (file_exists(picture))
-        went_out = goes_out(running, arguments, [&] { return bytes_of_preview(picture, arguments.size); });
+        went_out = goes_out(running, arguments, poster_of_preview(picture, arguments.size));
     return outcome_of(running, went_out);
 }
 
@@ -253,8 +269,10 @@ exit_status make_collage(open_session & running, const batch_arguments & argumen
 exit_status run_batch(const batch_arguments & arguments, const batch_folders & folders)
 {
     // What can't be written is told before the work, not after it.
-    if (!arguments.out.empty())
+    if (!arguments.out.empty()) {
+        check_output_kind(arguments);
         checked_output(arguments.out);
+    }
     if (!arguments.keep.empty())
         make_folders(arguments.keep);
     open_session running(arguments, folders);

@@ -1,6 +1,6 @@
 #include "batch/job_list.h"
 
-#include "batch/output_file.h"
+#include "batch/output_kind.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 
@@ -93,7 +93,7 @@ batch_arguments arguments_of(const batch_arguments & common, const table_line & 
     check_complete(read);
     if (read.out == standard_stream)
         throw bad_arguments{"--out has to name a file"};
-    check_output_name(read.out);
+    check_output_kind(read);
     return read;
 }
 

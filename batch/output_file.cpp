@@ -1,6 +1,7 @@
 #include "batch/output_file.h"
 
 #include "batch/arguments.h"
+#include "batch/output_kind.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -100,16 +101,9 @@ void write_to_standard_output(std::string_view bytes)
 
 }  // namespace
 
-void check_output_name(const std::string & out)
-{
-    const std::string name = lower_case(name_of(out));
-    if (out != standard_stream && !name.ends_with(".jpg") && !name.ends_with(".jpeg"))
-        throw bad_arguments{"\"" + out + "\" doesn't end in .jpg or .jpeg: a collage is a JPEG file"};
-}
-
 std::string checked_output(const std::string & out)
 {
-    check_output_name(out);
+    kind_of_output(out);
     if (out == standard_stream)
         return {};
     return with_platform_errors([&] {
@@ -123,11 +117,11 @@ std::string checked_output(const std::string & out)
     });
 }
 
-void write_output(const std::string & out, std::string_view jpeg)
+void write_output(const std::string & out, std::string_view picture)
 {
     const std::string target = checked_output(out);
     if (target.empty())
-        write_to_standard_output(jpeg);
+        write_to_standard_output(picture);
     else
-        replace_file(target, jpeg);
+        replace_file(target, picture);
 }

@@ -57,9 +57,13 @@ void check_memory(const render_scale & scale, std::uint64_t available)
                              gigabytes(available) + ". " + less);
 }
 
+std::optional<int> asked_dpi(const batch_arguments & arguments)
+{
+    return arguments.dpi || !arguments.scale ? arguments.dpi : printers_dpi;
+}
+
 std::string with_asked_dpi(std::string jpeg, const batch_arguments & arguments)
 {
-    if (!arguments.dpi && !arguments.scale)
-        return jpeg;
-    return with_density(std::move(jpeg), arguments.dpi.value_or(printers_dpi));
+    const std::optional<int> dpi = asked_dpi(arguments);
+    return dpi ? with_density(std::move(jpeg), *dpi) : jpeg;
 }

@@ -19,6 +19,9 @@ std::uint64_t memory_for(const render_scale & scale);
 /// `available` bytes.
 void check_memory(const render_scale & scale, std::uint64_t available);
 
-/// The file with the pixels an inch that it is to tell: those asked for, 300 for a scale without them. A file
-/// for which nothing was asked stays as it is.
+/// The pixels an inch that are asked for: 300 for a scale without them.
+std::optional<int> asked_dpi(const batch_arguments & arguments);
+
+/// The file with the pixels an inch that are asked for; one for which nothing was asked stays as
+/// it is.
 std::string with_asked_dpi(std::string jpeg, const batch_arguments & arguments);

@@ -1,5 +1,6 @@
 #include "engine/background.h"
 
+#include "engine/canvas.h"
 #include "engine/photo/fixed_picture.h"
 #include "engine/pixels/background_fit.h"
 #include "session/window_state.h"
@@ -54,12 +55,10 @@ bitmap small_background(frmMain & main)
                      main.collage_height);
 }
 
-bitmap full_background(frmMain & main)
+bitmap full_background(frmMain & main, picture_size size)
 {
     const std::string path = full_size_picture(main.txtBGimage.text());
     const bool is_square = main.optSquare.selected();
-    const int scale = main.run.drawn_at.canvas();
-    const picture_size size{.width = main.collage_width * scale, .height = main.collage_height * scale};
     return beside(main.desk, main.workers, [=] {
         bitmap image = loaded(path);
         if (is_square)
@@ -68,14 +67,37 @@ bitmap full_background(frmMain & main)
     });
 }
 
+// How much the picture behind the photos weighs; 0 where there is none.
+int weight_of_picture(const frmMain & main)
+{
+    const bool has_one = main.optBGimage.selected() || main.collage.bg_from_design;
+    return has_one ? blend_alpha(number_in(main.cmbBlend)) : 0;
+}
+
 }  // namespace
 
 void lay_background(frmMain & main, run_size size)
 {
-    const int alpha = blend_alpha(number_in(main.cmbBlend));
-    if (alpha == 0 || !(main.optBGimage.selected() || main.collage.bg_from_design))
+    const int alpha = weight_of_picture(main);
+    if (alpha == 0)
         return;
-    const bitmap image = size == run_size::preview ? small_background(main) : full_background(main);
-    const int margin = main.run.collage_margin * main.run.drawn_at.canvas();
+    const int scale = main.run.drawn_at.canvas();
+    const bitmap image = size == run_size::preview
+                             ? small_background(main)
+                             : full_background(main, {.width = main.collage_width * scale,
+                                                      .height = main.collage_height * scale});
+    const int margin = main.run.collage_margin * scale;
     paste(main.run.canvas, image, margin, margin, alpha);
+}
+
+bitmap ground_picture(frmMain & main, picture_size size)
+{
+    const int alpha = weight_of_picture(main);
+    const bitmap image = alpha == 0 ? bitmap{} : full_background(main, size);
+    if (!image)
+        return {};
+    bitmap ground(size.width, size.height);
+    fill(ground, ground_color(main));
+    paste(ground, image, 0, 0, alpha);
+    return ground;
 }

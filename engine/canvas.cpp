@@ -33,6 +33,13 @@ void size_full(frmMain & main)
 
 }  // namespace
 
+rgb_triple ground_color(const frmMain & main)
+{
+    if (main.optBGimage.selected() && number_in(main.cmbBlend) >= 100)
+        return {};  // black, for the picture to cover
+    return get_rgb_triple(main.optSolid.selected() ? main.picBGcolor.back_color() : main.bg_color);
+}
+
 void allocate_canvas(frmMain & main, run_size size)
 {
     prepare_caption(main);
@@ -43,8 +50,7 @@ void allocate_canvas(frmMain & main, run_size size)
     const int bleed = 2 * main.run.collage_margin;
     const int scale = main.run.drawn_at.canvas();
     main.run.canvas = bitmap((main.collage_width + bleed) * scale, (main.collage_height + bleed) * scale);
-    if (main.optBGimage.selected() && number_in(main.cmbBlend) >= 100)
-        return;  // black, for the picture to cover
-    fill(main.run.canvas,
-         get_rgb_triple(main.optSolid.selected() ? main.picBGcolor.back_color() : main.bg_color));
+    // A new canvas is black.
+    if (const rgb_triple color = ground_color(main); color != rgb_triple{})
+        fill(main.run.canvas, color);
 }

@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/last_flurn.h"
 #include "engine/image_number.h"
+#include "engine/output/flurn_file.h"
 #include "engine/photo/photo_steps.h"
 #include "engine/pixels/brought_down.h"
 #include "engine/run_steps.h"
@@ -92,9 +93,25 @@ void keep_collage(frmMain & main)
         enlarged({.left = margin, .top = margin, .width = main.collage_width, .height = main.collage_height},
                  run.drawn_at.canvas()),
         run.drawn_at.samples);
-    save_photo(main, run.canvas, finished_path(main));
+    const picture_notes notes = notes_of_flurn({.width = run.canvas.width(), .height = run.canvas.height()});
+    save_photo(main, run.canvas, notes, finished_path(main));
     hide_image_number(main);
     main.trace += "FFF  ";
+}
+
+// Not a single photo could be laid, or none was left to go on with: what is there is no collage.
+bool is_bare(const frmMain & main)
+{
+    return main.table.last_photo >= 0 && !has_usable_photo(main);
+}
+
+void give_up(frmMain & main)
+{
+    main.run.run_active = false;
+    main.run.photos_shown.clear();
+    hide_image_number(main);
+    tell_none_usable(main);
+    set_enable(main, true);
 }
 
 void make_collage(frmMain & main, const std::function<void()> & when_made, borrowed_settings & before)
@@ -110,6 +127,10 @@ void make_collage(frmMain & main, const std::function<void()> & when_made, borro
     }
     if (place_photos(main, run_size::full) == run_end::cancelled) {
         report_cancel(main);
+        return;
+    }
+    if (is_bare(main)) {
+        give_up(main);
         return;
     }
     finish_canvas(main);

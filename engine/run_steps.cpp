@@ -184,6 +184,7 @@ void begin_run(frmMain & main)
     main.run.began = std::chrono::steady_clock::now();
     main.trace = "MMM  ";
     main.left_out.in_this_run.clear();
+    main.left_out.told_in_this_run = false;
     main.run.photos_shown.clear();
     main.run.match_active = match_is_active(main);
     reset_matching(main);

@@ -212,9 +212,10 @@ void take_former_selection(windows & all)
 void cmdOk_click(windows & all)
 {
     frmSelectPhotos & window = all.select_photos;
-    if (window.optFolder.selected())
+    if (window.optFolder.selected()) {
+        look_again_at_folder(all.main, window.txtCards.text());
         take_folder(all);
-    else if (window.optList.selected())
+    } else if (window.optList.selected())
         close_with(all, photo_source::list, "Photo List:", window.txtCards.text());
     else
         take_former_selection(all);

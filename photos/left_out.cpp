@@ -4,6 +4,7 @@
 #include "support/MFreeImage.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
+#include "support/jpeg_end.h"
 #include "support/platform_error.h"
 
 #include <algorithm>
@@ -18,6 +19,8 @@ std::string reason(photo_fault fault)
     switch (fault) {
         case photo_fault::gone:
             return "it isn't there any more";
+        case photo_fault::cut_short:
+            return "it was cut short";
         case photo_fault::too_large:
             return "it has more than 32767 pixels in one direction";
         case photo_fault::too_long:
@@ -38,6 +41,8 @@ std::string remedy(std::span<const left_out_photo> photos)
         text += "\r\nPut what is missing back in its place.";
     if (any(photo_fault::unreadable))
         text += "\r\nSave what can't be read as a JPEG again.";
+    if (any(photo_fault::cut_short))
+        text += "\r\nCopy what was cut short to its place again.";
     if (any(photo_fault::too_large))
         text += "\r\nMake what has too many pixels smaller.";
     if (any(photo_fault::too_long))
@@ -62,6 +67,12 @@ std::string box_text(const frmMain & main, std::span<const left_out_photo> photo
     return text + "\r\n" + remedy(photos);
 }
 
+void note_told(left_out_photos & left_out)
+{
+    left_out.told = left_out.photos.size();
+    left_out.told_in_this_run = true;
+}
+
 }  // namespace
 
 photo_fault fault_of(const std::string & photo)
@@ -69,8 +80,7 @@ photo_fault fault_of(const std::string & photo)
     if (!file_exists(photo))
         return photo_fault::gone;
     try {
-        jpeg_size(photo);
-        return photo_fault::unreadable;
+        return jpeg_size(photo) && is_cut_short(photo) ? photo_fault::cut_short : photo_fault::unreadable;
     } catch (const platform_error &) {
         return photo_fault::too_large;
     }
@@ -78,7 +88,11 @@ photo_fault fault_of(const std::string & photo)
 
 void forget_left_out(frmMain & main)
 {
-    main.left_out = {.told_by = main.left_out.told_by, .photos = {}, .told = 0, .in_this_run = {}};
+    main.left_out = {.told_by = main.left_out.told_by,
+                     .photos = {},
+                     .told = 0,
+                     .in_this_run = {},
+                     .told_in_this_run = false};
 }
 
 void leave_out(frmMain & main, const std::string & path)
@@ -115,8 +129,17 @@ void tell_left_out(frmMain & main)
     if (left_out.told_by == left_out_photos::teller::caller || left_out.told == left_out.photos.size())
         return;
     const std::string text = box_text(main, std::span(left_out.photos).subspan(left_out.told));
-    left_out.told = left_out.photos.size();
+    note_told(left_out);
     main.desk.message(text);
+}
+
+void tell_none_usable(frmMain & main)
+{
+    left_out_photos & left_out = main.left_out;
+    if (left_out.told_by == left_out_photos::teller::caller || left_out.told_in_this_run)
+        return;
+    note_told(left_out);
+    main.desk.message(box_text(main, left_out.photos));
 }
 
 void tell_no_match(frmMain & main, const std::string & text)
@@ -127,7 +150,7 @@ void tell_no_match(frmMain & main, const std::string & text)
         return main.desk.message(text);
     if (main.in_preview && left_out.told == left_out.photos.size())
         return;
-    left_out.told = left_out.photos.size();
+    note_told(left_out);
     main.desk.message(text + "\r\n\r\n" + box_text(main, left_out.photos));
 }
 

@@ -23,6 +23,10 @@ bool has_usable_photo(const frmMain & main);
 /// Names those left out that haven't been named yet, in one box with the remedy; nothing when there are none.
 void tell_left_out(frmMain & main);
 
+/// Names all of them, whether they were named before or not: none is left for this run. Says nothing that the
+/// run has said already.
+void tell_none_usable(frmMain & main);
+
 /// Tells, in these words, that no photo fits the design; where none can be used at all, the same box names
 /// them with the reason. A preview doesn't repeat what the user knows.
 void tell_no_match(frmMain & main, const std::string & text);

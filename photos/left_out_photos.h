@@ -10,6 +10,7 @@
 enum class photo_fault : std::uint8_t {
     gone,        ///< there is no such file any more
     unreadable,  ///< no JPEG, damaged or closed
+    cut_short,   ///< since it was chosen: its data end in the middle
     too_large,   ///< of 32,768 pixels or more on a side
     too_long     ///< so long and narrow that, fitted into its place, it would have 32,768 pixels or more
 };
@@ -29,4 +30,5 @@ struct left_out_photos {
     std::vector<left_out_photo> photos;  ///< in the order in which they were met, each once; never thumbnails
     std::size_t told = 0;                ///< how many of them the user has been told of
     std::set<std::string> in_this_run;   ///< not tried again before the next run begins
+    bool told_in_this_run = false;       ///< a box has named them since it began
 };

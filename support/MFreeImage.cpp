@@ -57,6 +57,60 @@ std::string encoded(const bitmap & image, FREE_IMAGE_FORMAT format, int flags)
     return {reinterpret_cast<const char *>(data), size};
 }
 
+// The same pixels, with notes of their own: none yet.
+bitmap without_notes(const bitmap & image)
+{
+    bitmap view(image ? FreeImage_CreateView(image.get(), 0, 0, static_cast<unsigned>(image.width()),
+                                             static_cast<unsigned>(image.height()))
+                      : nullptr);
+    for (int model = FIMD_COMMENTS; view && model <= FIMD_EXIF_RAW; ++model)
+        FreeImage_SetMetadata(static_cast<FREE_IMAGE_MDMODEL>(model), view.get(), nullptr, nullptr);
+    return view;
+}
+
+constexpr WORD software_tag = 0x0131;  // of TIFF, and so of Exif
+constexpr int inches_of_a_hundred_meters = 3937;
+
+// What a JPEG tells of itself is a TIFF without a picture, low bytes first: one directory with one text.
+std::string exif_block(std::string_view software)
+{
+    constexpr DWORD directory_at = 8, text_at = 26;
+    std::string block{"Exif\0\0II*\0", 10};
+    const auto put = [&block](DWORD number, int bytes) {
+        for (; bytes > 0; --bytes, number >>= 8)
+            block += static_cast<char>(number & 0xFF);
+    };
+    put(directory_at, 4);
+    put(1, 2);  // entries
+    put(software_tag, 2);
+    put(FIDT_ASCII, 2);
+    put(static_cast<DWORD>(software.size()) + 1, 4);
+    put(text_at, 4);
+    put(0, 4);  // no other directory
+    return block + std::string(software) + '\0';
+}
+
+void attach(const bitmap & image, FREE_IMAGE_MDMODEL model, const char * key, const std::string & value)
+{
+    const std::unique_ptr<FITAG, void (*)(FITAG *)> tag(FreeImage_CreateTag(),
+                                                        [](FITAG * made) { FreeImage_DeleteTag(made); });
+    const auto size = static_cast<DWORD>(value.size());
+    FreeImage_SetTagKey(tag.get(), key);
+    FreeImage_SetTagType(tag.get(), model == FIMD_EXIF_RAW ? FIDT_BYTE : FIDT_ASCII);
+    FreeImage_SetTagCount(tag.get(), size);
+    FreeImage_SetTagLength(tag.get(), size);
+    FreeImage_SetTagValue(tag.get(), value.data());
+    FreeImage_SetMetadata(model, image.get(), key, tag.get());
+}
+
+void name_program(const bitmap & image, picture_format format, std::string_view name)
+{
+    if (format == picture_format::jpeg)
+        attach(image, FIMD_EXIF_RAW, "ExifRaw", exif_block(name));
+    else
+        attach(image, FIMD_COMMENTS, "Software", std::string(name) + '\0');
+}
+
 bool inside(const bitmap & image, int x, int y)
 {
     return image && x >= 0 && y >= 0 && x < image.width() && y < image.height();
@@ -158,6 +212,21 @@ bool take_notes(bitmap & image, const std::string & path)
 std::string jpeg_bytes(const bitmap & image)
 {
     return encoded(image, FIF_JPEG, superb_quality);
+}
+
+std::string noted_picture(picture_format format, const bitmap & image, const picture_notes & notes)
+{
+    const bitmap view = without_notes(image);
+    if (view) {
+        const auto a_meter = static_cast<unsigned>((notes.dpi * inches_of_a_hundred_meters + 50) / 100);
+        FreeImage_SetDotsPerMeterX(view.get(), a_meter);
+        FreeImage_SetDotsPerMeterY(view.get(), a_meter);
+        FreeImage_CreateICCProfile(view.get(), const_cast<char *>(notes.color_profile.data()),
+                                   static_cast<long>(notes.color_profile.size()));
+        name_program(view, format, notes.made_with);
+    }
+    return encoded(view, static_cast<FREE_IMAGE_FORMAT>(format),
+                   format == picture_format::jpeg ? superb_quality : 0);
 }
 
 void save_jpeg(const bitmap & image, const std::string & path)

@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 struct FIBITMAP;
 
@@ -94,6 +95,17 @@ bool take_notes(bitmap & image, const std::string & path);
 
 /// The bitmap as JPEG of the highest quality, as bytes. Raises 5 for an empty bitmap.
 std::string jpeg_bytes(const bitmap & image);
+
+/// What the file of a picture tells beside the pixels.
+struct picture_notes {
+    int dpi = 0;                     ///< pixels an inch
+    std::string_view color_profile;  ///< the bytes of an ICC profile
+    std::string_view made_with;      ///< the program's name
+};
+
+/// The bitmap as JPEG of the highest quality or as PNG, as bytes, with these notes and none that it brings
+/// along. The pixels of a JPEG are those of `jpeg_bytes`. Raises 5 for an empty bitmap.
+std::string noted_picture(picture_format format, const bitmap & image, const picture_notes & notes);
 
 /// Writes the bitmap as JPEG of the highest quality, whole or not at all. Raises 61, 70, 75, 76.
 void save_jpeg(const bitmap & image, const std::string & path);

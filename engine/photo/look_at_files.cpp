@@ -1,9 +1,9 @@
 #include "engine/photo/look_at_files.h"
 
 #include "engine/photo/awaited_in_run.h"
+#include "support/jpeg_end.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -11,7 +11,12 @@ namespace {
 constexpr std::size_t looked_at_together = 32;
 constexpr std::size_t most_known = 4000;  // what other collages asked for doesn't stay for ever
 
-using path_and_file = std::pair<std::string, known_file>;
+// A file on its way to be looked at and back.
+struct asked_file {
+    std::string path;
+    known_file file;                    // what was known of it before
+    std::optional<file_stamp> counted;  // what it was when the photos were counted
+};
 
 bool is_known(const known_files & known, const std::string & path)
 {
@@ -19,33 +24,47 @@ bool is_known(const known_files & known, const std::string & path)
     return found != known.files.end() && found->second.round == known.round;
 }
 
-// The file and what was known of it before.
-path_and_file asked(const known_files & known, const std::string & path)
+asked_file asked(const frmMain & main, const std::string & path)
 {
-    const auto found = known.files.find(path);
-    return {path, found == known.files.end() ? known_file{} : found->second};
+    asked_file file{.path = path, .file = {}, .counted = {}};
+    const auto & known = main.run.known.files;
+    const counted_files & counted = main.thumbnails.counted;
+    if (const auto found = known.find(path); found != known.end())
+        file.file = found->second;
+    if (const auto found = counted.find(path); found != counted.end())
+        file.counted = found->second;
+    return file;
 }
 
-std::vector<path_and_file> asked_together(const frmMain & main, const std::string & path)
+std::vector<asked_file> asked_together(const frmMain & main, const std::string & path)
 {
-    std::vector<path_and_file> files{asked(main.run.known, path)};
+    std::vector<asked_file> files{asked(main, path)};
     const auto end = main.table.photos.begin() + std::max(main.table.last_photo + 1, 0);
     auto photo = std::find(main.table.photos.begin(), end, path);
     for (; photo != end && files.size() < looked_at_together; ++photo)
         if (*photo != path && !is_known(main.run.known, *photo))
-            files.push_back(asked(main.run.known, *photo));
+            files.push_back(asked(main, *photo));
     return files;
 }
 
-// What is left when a stop is asked for will not be used.
-std::vector<path_and_file> looked_at(std::vector<path_and_file> files, const std::stop_token & stop)
+// A photo that was cut short since it was counted would fill its place with grey; one that always was so is
+// taken as it is.
+std::optional<picture_size> usable_size(const asked_file & asked, const file_stamp & stamp)
 {
-    for (auto & [path, file] : files) {
+    const bool has_changed = asked.counted && asked.counted != stamp;
+    return has_changed && is_cut_short(asked.path) ? std::nullopt : usable_jpeg_size(asked.path);
+}
+
+// What is left when a stop is asked for will not be used.
+std::vector<asked_file> looked_at(std::vector<asked_file> files, const std::stop_token & stop)
+{
+    for (asked_file & asked : files) {
         if (stop.stop_requested())
             break;
-        const std::optional<file_stamp> stamp = stamp_of(path);
+        known_file & file = asked.file;
+        const std::optional<file_stamp> stamp = stamp_of(asked.path);
         if (stamp != file.stamp || !stamp)
-            file.size = stamp ? usable_jpeg_size(path) : std::nullopt;
+            file.size = stamp ? usable_size(asked, *stamp) : std::nullopt;
         file.stamp = stamp;
     }
     return files;
@@ -69,9 +88,9 @@ const known_file & file_of(frmMain & main, const std::string & path)
     std::stop_source stop;
     auto looking = main.workers.begin_at_once(
         [files = asked_together(main, path), token = stop.get_token()] { return looked_at(files, token); });
-    for (auto & [looked, file] : awaited_in_run(main, std::move(looking), std::move(stop))) {
-        file.round = known.round;
-        known.files[looked] = file;
+    for (asked_file & looked : awaited_in_run(main, std::move(looking), std::move(stop))) {
+        looked.file.round = known.round;
+        known.files[looked.path] = looked.file;
     }
     return known.files.at(path);
 }

@@ -7,6 +7,7 @@
 #include "session/frmMain.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
+#include "support/files/text_file.h"
 
 #include <algorithm>
 #include <utility>
@@ -276,10 +277,11 @@ bitmap fit_photo(frmMain & main, run_photo photo, int width, int height)
     }));
 }
 
-void save_photo(frmMain & main, const bitmap & image, const std::string & path)
+void save_photo(frmMain & main, const bitmap & image, const picture_notes & notes, const std::string & path)
 {
+    const auto save = [&] { write_file(path, noted_picture(picture_format::jpeg, image, notes)); };
     if (is_small(size_of(image)))
-        save_jpeg(image, path);
+        save();
     else
-        beside(main.desk, main.workers, [&] { save_jpeg(image, path); });
+        beside(main.desk, main.workers, save);
 }

@@ -41,5 +41,5 @@ void forget_ahead(frmMain & main);
 /// photo_too_long, run_cancelled.
 bitmap fit_photo(frmMain & main, run_photo photo, int width, int height);
 
-/// Writes a JPEG. Raises what `save_jpeg` raises.
-void save_photo(frmMain & main, const bitmap & image, const std::string & path);
+/// Writes a JPEG with these notes. Raises what `save_jpeg` raises.
+void save_photo(frmMain & main, const bitmap & image, const picture_notes & notes, const std::string & path);

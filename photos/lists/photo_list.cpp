@@ -73,6 +73,14 @@ void take_folder_of(frmMain & main, std::vector<std::string> photos)
     main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
 }
 
+std::vector<std::string> photos_of_table(const frmMain & main)
+{
+    std::vector<std::string> photos;
+    for (int i = 0; i <= main.table.last_photo; ++i)
+        photos.push_back(photo_path(main.table[i]));
+    return photos;
+}
+
 bool wants_reshuffle(frmMain & main)
 {
     const question asked{.title = "S h u f f l e   t h e   P h o t o s",
@@ -130,6 +138,25 @@ std::string get_photo_folder(frmMain & main)
     else if (!folder->empty())
         take_folder_of(main, photos_of_chosen_folder(main, *folder));
     return folder.value_or("");
+}
+
+void look_again_at_folder(frmMain & main, const std::string & folder)
+{
+    if (!folder_exists(folder))
+        return;
+    const std::vector<std::string> before = photos_of_table(main);
+    const bool has_copies = std::ranges::any_of(
+        before, [&](const std::string & photo) { return !photo.starts_with(folder + path_separator); });
+    std::optional<std::vector<std::string>> now;
+    if (has_copies)
+        now = photos_with_copies(
+            main, alone_beside(main.desk, main.workers, [&folder] { return looked_at_folder(folder); }),
+            copies_wanted::anyway);
+    if (!now)
+        now = alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); });
+    now->resize(std::min(now->size(), folder_limit));
+    if (!std::ranges::is_permutation(before, *now))
+        take_folder_of(main, std::move(*now));
 }
 
 std::vector<std::string> choose_photos(frmMain & main)

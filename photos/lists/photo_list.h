@@ -30,6 +30,11 @@ void photos_of_folder(frmMain & main, const std::string & folder);
 /// user wants them. A cancel leaves `last_photo` at `folder_cancelled`. Gives the folder.
 std::string get_photo_folder(frmMain & main);
 
+/// Looks at the folder of the photos in use again, without a question: photos that came are in the table,
+/// those that went are not, copies that were wanted are wanted for new photos too. A table that has the same
+/// photos keeps their order; a folder that is gone leaves all to the counting.
+void look_again_at_folder(frmMain & main, const std::string & folder);
+
 /// Lets the user choose image files, where the last ones came from, and gives them, or copies of those that
 /// need one where the user wants them; none after a cancel.
 std::vector<std::string> choose_photos(frmMain & main);

@@ -1,12 +1,14 @@
 #include "photos/thumbnails/thumbnails.h"
 
 #include "photos/scaled_jpeg.h"
+#include "photos/thumbnails/thumbnail_mark.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
 
 #include <algorithm>
+#include <fstream>
 #include <set>
 #include <vector>
 
@@ -38,33 +40,72 @@ bool has_place(const std::string & thumbnail)
     return folder_exists(folder) && folder_writable(folder);
 }
 
+// A thumbnail has the time of its photo.
+void write_thumbnail(const bitmap & small, const std::string & thumbnail, const file_stamp & photo)
+{
+    write_file(thumbnail, marked_thumbnail(jpeg_bytes(small), photo.bytes));
+    set_changed(thumbnail, photo.changed);
+}
+
 // The thumbnail, or the photo where it can't be written.
-std::string made_thumbnail(const std::string & photo, const std::string & thumbnail)
+std::string made_thumbnail(const std::string & photo, const std::string & thumbnail, const file_stamp & stamp)
 {
     const bitmap small = small_picture(photo);
-    if (small && tried([&] { save_jpeg(small, thumbnail); }))
+    if (small && tried([&] { write_thumbnail(small, thumbnail, stamp); }))
         return thumbnail;
     tried([&] { delete_file(thumbnail); });  // an older one would show another picture
     return small ? photo : thumbnail;
 }
 
-small_photo at(const std::string & path)
+std::string beginning_of(const std::string & path)
 {
-    return {.path = path, .size = usable_jpeg_size(path)};
+    std::string bytes(room_of_mark, '\0');
+    std::ifstream file(path, std::ios::binary);
+    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    return bytes;
+}
+
+// How a thumbnail that is there stands to its photo. One without a mark may be older than these marks, and is
+// then as likely the photo's own as that of another photo which was there before it: it is made anew where
+// that can be done.
+enum class standing { missing, own, doubtful, of_another, older };
+
+standing standing_of(const std::string & thumbnail, const file_stamp & photo)
+{
+    const std::optional<file_stamp> stamp = stamp_of(thumbnail);
+    if (!stamp)
+        return standing::missing;
+    if (photo.changed > stamp->changed)
+        return standing::older;
+    const std::optional<std::uint64_t> bytes = marked_bytes(beginning_of(thumbnail));
+    const bool is_same = photo.changed == stamp->changed && bytes.value_or(photo.bytes) == photo.bytes;
+    if (is_same)
+        return standing::own;
+    return bytes ? standing::of_another : standing::doubtful;
+}
+
+// What stands in for the photo where its thumbnail is to be made.
+std::string replaced_thumbnail(const std::string & photo, const std::string & thumbnail,
+                               const file_stamp & stamp, standing found)
+{
+    if (has_place(thumbnail))
+        return made_thumbnail(photo, thumbnail, stamp);
+    return found == standing::doubtful ? thumbnail : photo;
 }
 
 // What a worker does.
 small_photo found_or_made(const std::string & photo)
 {
-    if (!file_exists(photo))
+    const std::optional<file_stamp> stamp = stamp_of(photo);
+    if (!stamp)
         return {};
     const std::string thumbnail = thumbnail_path(photo);
-    const bool was_there = file_exists(thumbnail);
-    if (was_there && !is_newer(photo, thumbnail))
-        return at(thumbnail);
-    small_photo made = at(has_place(thumbnail) ? made_thumbnail(photo, thumbnail) : photo);
-    made.was_older = was_there;
-    return made;
+    const standing found = standing_of(thumbnail, *stamp);
+    const std::string path =
+        found == standing::own ? thumbnail : replaced_thumbnail(photo, thumbnail, *stamp, found);
+    return {
+        .path = path, .size = usable_jpeg_size(path), .photo = stamp, .was_older = found == standing::older};
 }
 
 void swap_for_thumbnail(std::string & entry)
@@ -117,6 +158,8 @@ small_photo small_photo_of(frmMain & main, const std::string & photo)
         found = beside(main.desk, main.workers, [&] { return found_or_made(photo); });
     if (found->was_older)
         main.desk.message(photo + " IS NEWER");
+    if (found->photo)
+        main.thumbnails.counted[photo] = *found->photo;
     return std::move(*found);
 }
 

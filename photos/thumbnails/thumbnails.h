@@ -7,9 +7,10 @@
 
 /// The small pictures that stand in for the photos in previews.
 
-/// Path of the photo's thumbnail, which is made, or made anew with a word to the user when the photo is
-/// newer. A photo that can't be read as a JPEG gets none; the path is given all the same. Empty when the
-/// photo doesn't exist. Where that place can't be written it is the photo itself.
+/// Path of the photo's thumbnail, which is made, or made anew when the photo was replaced: with a word to the
+/// user when it is newer, without one when it is older or, at the same time, of another size. A photo that
+/// can't be read as a JPEG gets none; the path is given all the same. Empty when the photo doesn't exist.
+/// Where that place can't be written it is the photo itself.
 std::string chk_sample_thumb(frmMain & main, const std::string & photo);
 
 /// The same with its size.

@@ -4,6 +4,7 @@
 #include "support/platform_error.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -14,6 +15,8 @@ namespace fs = std::filesystem;
 const char path_separator = static_cast<char>(fs::path::preferred_separator);
 
 namespace {
+
+constexpr std::int64_t nanoseconds = 1'000'000'000;
 
 bool is_separator(char sign)
 {
@@ -198,9 +201,16 @@ bool folder_writable(const std::string & folder)
     return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
+void set_changed(const std::string & path, std::int64_t changed)
+{
+    const timespec times[] = {{.tv_sec = 0, .tv_nsec = UTIME_OMIT},
+                              {.tv_sec = changed / nanoseconds, .tv_nsec = changed % nanoseconds}};
+    if (::utimensat(AT_FDCWD, path.c_str(), times, 0) != 0)
+        throw from_system(errno, path);
+}
+
 std::optional<file_stamp> stamp_of(const std::string & path)
 {
-    constexpr std::int64_t nanoseconds = 1'000'000'000;
     struct stat file {};
     if (::stat(path.c_str(), &file) != 0 || !S_ISREG(file.st_mode))
         return std::nullopt;

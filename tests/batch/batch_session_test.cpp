@@ -200,8 +200,10 @@ TEST_F(batch_program, an_output_that_can_t_be_used_is_told_before_anything_is_be
         all.push_back(target);
         return all;
     };
-    EXPECT_EQ(refusal(with("picture.png")),
-              "\"picture.png\" doesn't end in .jpg or .jpeg: a collage is a JPEG file");
+    EXPECT_EQ(
+        refusal(with("picture.bmp")),
+        "\"picture.bmp\" doesn't end in .jpg, .jpeg, .png, .tif, .tiff or .pdf, which tells the kind of "
+        "the file");
     make_folder(out());
     EXPECT_EQ(refusal(with(out())), "\"" + out() + "\" is a folder; a collage goes to a file");
     EXPECT_THROW(run(with(place.path() + "/nowhere/out.jpg")), platform_error);

@@ -75,7 +75,7 @@ def needs_no_display(place):
 
 
 def ends_with_the_status_that_is_told(place):
-    refused = [['--photos', 'photos', '--out', 'x.jpg'], [*WALL, '--out', 'x.png'], [*WALL, '--out', '/dev/null'],
+    refused = [['--photos', 'photos', '--out', 'x.jpg'], [*WALL, '--out', 'x.bmp'], [*WALL, '--out', 'x.png', '--page', 'A4'], [*WALL, '--out', 'x.pdf', '--page', 'A9'], [*WALL, '--out', '/dev/null'],
                [*WALL, '--out', 'photos'], [*WALL, '--out', 'x.jpg', '--set', 'cmbShapes=Hearts'],
                [*WALL, '--out', 'x.jpg', '--design', 'Puzzle'], ['--rubbish']]
     failed = [[*WALL, '--out', 'nowhere/x.jpg'], ['--photos', 'nowhere', *WALL[2:], '--out', 'x.jpg'],

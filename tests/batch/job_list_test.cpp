@@ -98,8 +98,8 @@ TEST(job_list, a_fault_is_told_with_its_line)
 {
     const std::string header = "out\tdesign\tphotos\tsize\n";
     const std::string columns =
-        "answer, caption, design, dpi, frames, orientation, out, photos, quick, random, recipe, scale, set, "
-        "size";
+        "answer, around, bleed, caption, design, dpi, frames, orientation, out, page, photos, quick, random, "
+        "recipe, scale, set, size";
     struct row {
         std::string text, fault;
     };
@@ -118,8 +118,11 @@ TEST(job_list, a_fault_is_told_with_its_line)
          "line 2 of the job list: --design, --quick or --recipe is missing; --list shows the designs"},
         {header + "\tW\tp\n", "line 2 of the job list: --out is missing"},
         {header + "-\tW\tp\n", "line 2 of the job list: --out has to name a file"},
-        {header + "a.png\tW\tp\n",
-         "line 2 of the job list: \"a.png\" doesn't end in .jpg or .jpeg: a collage is a JPEG file"},
+        {header + "a.bmp\tW\tp\n",
+         "line 2 of the job list: \"a.bmp\" doesn't end in .jpg, .jpeg, .png, .tif, "
+         ".tiff or .pdf, which tells the kind of the file"},
+        {"out\tdesign\tphotos\tpage\na.pdf\tW\tp\tA4\nb.png\tW\tp\tA4\n",
+         "line 3 of the job list: --page, --around and --bleed belong to a PDF, and \"b.png\" isn't one"},
         {header + "a.jpg\tW\tp\t20\tmore\n",
          "line 2 of the job list: it has more cells than the list has columns"},
         {header + "x/a.jpg\tW\tp\nb.jpg\tW\tp\nx/./a.jpg\tW\tp\n",

@@ -54,13 +54,15 @@ error_number error_of(const std::string & out)
 
 }  // namespace
 
-TEST_F(output_file, a_collage_has_the_name_of_a_jpeg)
+TEST_F(output_file, a_collage_has_the_name_of_a_picture_or_a_page)
 {
-    for (const char * name : {"a.jpg", "a.JPG", "a.jpeg", "a.b.Jpeg", ".jpg"})
+    for (const char * name :
+         {"a.jpg", "a.JPG", "a.jpeg", "a.b.Jpeg", ".jpg", "a.png", "a.tif", "a.TIFF", "a.pdf"})
         EXPECT_EQ(checked_output(folder.at(name)), folder.at(name));
-    for (const char * name : {"a.png", "a", "a.jpg.part", "a.jpe", "jpg"})
-        EXPECT_EQ(fault_of(folder.at(name)),
-                  "\"" + folder.at(name) + "\" doesn't end in .jpg or .jpeg: a collage is a JPEG file");
+    for (const char * name : {"a.bmp", "a", "a.jpg.part", "a.jpe", "jpg"})
+        EXPECT_EQ(fault_of(folder.at(name)), "\"" + folder.at(name) +
+                                                 "\" doesn't end in .jpg, .jpeg, .png, .tif, .tiff or .pdf, "
+                                                 "which tells the kind of the file");
     EXPECT_EQ(checked_output("-"), "");
 }
 

@@ -99,7 +99,7 @@ TEST_F(batch_program, tells_its_dpi_where_it_is_asked_to_and_changes_nothing_els
         return read_file(out());
     };
     const std::string plain = made({}), scaled = made({"--scale", "1"}), told = made({"--dpi", "85"});
-    EXPECT_EQ(density_of(plain), 72);  // the image library's own word for none
+    EXPECT_EQ(density_of(plain), 100);  // of 20 by 30 inches
     EXPECT_EQ(density_of(scaled), 300);
     EXPECT_EQ(density_of(told), 85);
     EXPECT_TRUE(without_density(scaled) == without_density(plain));

@@ -1,7 +1,11 @@
+#include "engine/flurn_driver.h"
 #include "engine/preview.h"
 #include "photos/thumbnails/thumbnails.h"
+#include "quick/quick_template.h"
 #include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
+#include "tests/pictures.h"
 #include "tests/small_files.h"
 
 #include <algorithm>
@@ -26,6 +30,8 @@ struct spoiled_run : collage_fixture {
         main.design_record.style = "Fill";
         use_template({"0:0:2:2:0:-1:-1:0:", "0:0:1500:1000:0:0:0:0:"});
     }
+    // The window of the finished collage would not be expected.
+    void run_without_poster() { make_flurn(main, make_quick_template); }
     std::string seen_run() { return sampled(full_run(), 500, 1000); }
     void expect_too_long(const std::string & photo)
     {
@@ -132,7 +138,9 @@ TEST(left_out_photos, without_a_photo_that_can_be_used_every_style_comes_to_its_
                     run.home.write("photos/huge.jpg", flat_jpeg(32768, 8, {90}, adobe_mark::absent)));
                 run.add_path(run.home.at("photos/gone.jpg"));
                 run.main.table.reshuffle_choice = photo_table::reshuffle::yes;
-                EXPECT_EQ(run.seen_run(), "..\n..\n..\n");
+                const std::string before = run.home.write("data/tmp/finished.jpg", "of an earlier preview");
+                run.run_without_poster();
+                EXPECT_EQ(read_file(before), "of an earlier preview");
                 run.desk.keeps_messages = true;
                 const std::string & told = run.desk.messages.back();
                 EXPECT_NE(told.find("None of your photos can be used:\r\n"), std::string::npos) << told;
@@ -163,7 +171,7 @@ TEST(left_out_photos, a_design_without_a_photo_for_it_says_why_in_the_same_box)
     EXPECT_EQ(run.desk.next_message(), box);
     gen_sample(run.main);
     EXPECT_TRUE(run.desk.messages.empty()) << "a preview repeats nothing";
-    run.full_run();
+    run.run_without_poster();
     EXPECT_EQ(run.desk.next_message(), box);
 }
 
@@ -196,4 +204,72 @@ TEST(left_out_photos, one_that_can_be_read_again_takes_part_in_the_next_run)
     EXPECT_TRUE(run.desk.next_message().starts_with("This photo was left out:\r\n"));
     run.picture("photos/b.jpg", blue, 20, 30);
     EXPECT_EQ(run.seen_run(), "rb\nrb\nrb\n");
+}
+
+TEST(left_out_photos, without_any_left_each_run_says_so_and_makes_no_poster)
+{
+    for (const bool matched : {false, true}) {
+        spoiled_run run;
+        run.main.chkMatch.tick(matched);
+        run.main.collage.design_matches = matched;
+        run.add_photo(red);
+        const std::string photo = run.main.table[0];
+        run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+        EXPECT_TRUE(run.full_run());
+        std::filesystem::remove(photo);
+        for (int i = 0; i < 2; ++i) {
+            run.run_without_poster();
+            const std::string told = run.desk.next_message();
+            EXPECT_NE(told.find("None of your photos can be used:\r\n" + photo), std::string::npos) << told;
+            EXPECT_TRUE(run.desk.messages.empty()) << "one cause, one box";
+            expect_usable(run.main);
+        }
+    }
+}
+
+TEST(left_out_photos, a_run_whose_last_photo_vanishes_makes_no_poster)
+{
+    spoiled_run run;
+    run.add_photo(red);
+    const std::string photo = run.main.table[0];
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    run.desk.on_pump(4, [&] { std::filesystem::remove(photo); });
+    run.run_without_poster();
+    EXPECT_EQ(run.desk.next_message().substr(0, 33), "None of your photos can be used:\r");
+}
+
+TEST(left_out_photos, one_that_was_cut_short_since_it_was_counted_is_named)
+{
+    for (const bool grid : {false, true})
+        for (const bool matched : {false, true}) {
+            spoiled_run run;
+            if (grid)
+                run.use_grid();
+            run.main.chkMatch.tick(matched);
+            run.main.collage.design_matches = matched;
+            for (const rgb_triple color : {red, green, blue})
+                run.add_photo(color, 20, 30);
+            const std::string cut = run.home.write("photos/cut.jpg", jpeg_bytes(noise(200, 300)));
+            run.add_path(cut);
+            run.use_thumbnails();
+            const std::string whole = read_file(cut);
+            write_file(cut, whole.substr(0, whole.size() / 2));
+            run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+            EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nbr\n");
+            EXPECT_EQ(run.desk.next_message(),
+                      "This photo was left out:\r\n" + cut +
+                          ": it was cut short\r\n\r\nCopy what was cut short to its place again.\r\nThen "
+                          "choose your photos again.");
+        }
+}
+
+TEST(left_out_photos, one_that_was_cut_short_when_it_was_counted_is_taken_as_it_is)
+{
+    spoiled_run run;
+    const std::string whole = jpeg_bytes(noise(200, 300));
+    run.add_path(run.home.write("photos/cut.jpg", whole.substr(0, whole.size() / 2)));
+    run.use_thumbnails();
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    EXPECT_TRUE(run.full_run());
+    EXPECT_TRUE(run.desk.messages.empty());
 }

@@ -124,6 +124,31 @@ TEST(frmSelectPhotos, ok_with_a_selection_that_has_gone_is_no_choice)
     EXPECT_TRUE(session.main.photo_choice_cancelled);
 }
 
+TEST(frmSelectPhotos, ok_sees_what_came_and_went_in_the_folder_in_use)
+{
+    photo_choice session;
+    const std::string album = joined(session.folder.path(), "album");
+    photos_of_folder(session.main, album);
+    session.have_chosen(photo_source::folder, album, album);
+    ASSERT_EQ(session.main.table.last_photo, 1);
+    std::swap(session.main.table[0], session.main.table[1]);
+    const auto photos_after_ok = [&] {
+        session.open([&](frmSelectPhotos & dialog) { dialog.cmdOk.click(); });
+        std::string names;
+        for (int i = 0; i <= session.main.table.last_photo; ++i)
+            names += name_of(session.main.table[i]) + " ";
+        return names;
+    };
+    EXPECT_EQ(photos_after_ok(), "b.Jpg A.JPG ") << "the same photos keep their order";
+    session.folder.write("album/ab.jpg", "new");
+    EXPECT_EQ(photos_after_ok(), "A.JPG ab.jpg b.Jpg ");
+    std::filesystem::remove(session.folder.at("album/A.JPG"));
+    EXPECT_EQ(photos_after_ok(), "ab.jpg b.Jpg ");
+    // With the folder gone the counting names them.
+    std::filesystem::remove_all(album);
+    EXPECT_EQ(photos_after_ok(), "ab.jpg b.Jpg ");
+}
+
 TEST(frmSelectPhotos, browse_takes_the_jpg_files_of_a_folder_and_closes)
 {
     photo_choice session;

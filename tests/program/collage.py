@@ -2,6 +2,7 @@
 import glob
 import os
 import shutil
+import subprocess
 import sys
 
 import screen
@@ -25,6 +26,15 @@ def check(is_so, told):
 def check_saved(program, path, size):
     screen.until(lambda: os.path.exists(path) and os.path.getsize(path) > 0, path)
     check(program.picture_of(path) == size, '%s is %s, not %s' % (path, program.picture_of(path), size))
+
+
+def check_told(path, dpi):
+    """A saved poster tells its size on paper, sRGB and the program, and nothing else."""
+    told = subprocess.run(['identify', '-units', 'PixelsPerInch', '-format', '%x %y %[icc:description]', path],
+                          check=True, capture_output=True, text=True).stdout
+    check(told.replace(' PixelsPerInch', '').split(' ', 2) == [str(dpi), str(dpi), 'sRGB built-in'], '%s tells %s' % (path, told))
+    notes = subprocess.run(['exiv2', '-PEIXkt', 'pr', path], capture_output=True, text=True).stdout.split()
+    check(notes == ['Exif.Image.Software', 'Tessaloom'], '%s tells %s' % (path, notes))
 
 
 def changed(program, act, told):
@@ -107,10 +117,13 @@ def save_each_way(program, way):
                                  for name in ('full', 'web', 'custom', 'second'))
     way.save(program, 'optFull', full)
     check_saved(program, full, (2000, 3000))
+    check_told(full, 100)
     way.save(program, 'optWeb', web)
     check_saved(program, web, (500, 750))
+    check_told(web, 25)
     way.save(program, 'optCustom', custom, '1200')
     check_saved(program, custom, (800, 1200))
+    check_told(custom, 40)
     before = os.stat(full).st_mtime_ns
     way.save(program, 'optFull', full)
     way.answer(program, 'Cancel')

@@ -1,6 +1,7 @@
 #include "engine/output/flurn_file.h"
 
 #include "support/files/text_file.h"
+#include "support/jpeg_density.h"
 #include "tests/pictures.h"
 #include "tests/temporary_folder.h"
 
@@ -46,4 +47,22 @@ TEST(save_flurn, writes_a_jpeg_of_that_size)
     ASSERT_TRUE(size);
     EXPECT_EQ(size->width, 30);
     EXPECT_EQ(size->height, 45);
+}
+
+TEST(save_flurn, tells_the_size_on_paper_that_the_poster_is_meant_for)
+{
+    // 20 by 30 inches, a square 20 by 20.
+    EXPECT_EQ(intended_dpi({2000, 3000}), 100);
+    EXPECT_EQ(intended_dpi({3000, 2000}), 100);
+    EXPECT_EQ(intended_dpi({2000, 2000}), 100);
+    EXPECT_EQ(intended_dpi({500, 750}), 25);
+    EXPECT_EQ(intended_dpi({750, 750}), 38);
+    EXPECT_EQ(intended_dpi({6000, 9000}), 300);
+    EXPECT_EQ(intended_dpi({2, 3}), 1);
+    const temporary_folder place;
+    const std::string path = place.at("flurn.jpg");
+    save_flurn(plain(600, 900, {10, 200, 30}), 900, path);
+    EXPECT_EQ(density_of(read_file(path)), 30);
+    save_flurn(plain(600, 900, {10, 200, 30}), 450, path);
+    EXPECT_EQ(density_of(read_file(path)), 15);
 }

@@ -65,7 +65,8 @@ TEST_F(thumbnails_ahead_test, begins_a_few_for_each_worker_and_leaves_those_that
 {
     fill(many(12, "some/"));
     fs::create_directories(folder.at("some/sample_thumbs"));
-    folder.write("some/sample_thumbs/0.jpg", "mine");
+    const std::string mine = folder.write("some/sample_thumbs/0.jpg", "mine");
+    fs::last_write_time(mine, fs::last_write_time(folder.at("some/0.jpg")));
     main.workers.set_count(2);
     begin_thumbnails(main, 0);
     EXPECT_EQ(main.thumbnails.begun.size(), 4U);

@@ -1,5 +1,6 @@
 #include "photos/thumbnails/thumbnails.h"
 
+#include "photos/thumbnails/thumbnail_mark.h"
 #include "support/files/file_steps.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
@@ -74,10 +75,84 @@ TEST_F(thumbnails_test, a_photo_that_is_gone_has_none)
 TEST_F(thumbnails_test, one_that_is_there_stays_as_it_is)
 {
     const std::string path = photo("a.jpg", 400, 300);
-    const std::string thumbnail = folder.write("sample_thumbs/a.jpg", "mine");
     age(path, 10);
+    const std::string thumbnail = chk_sample_thumb(main, path);
+    EXPECT_EQ(stamp_of(thumbnail)->changed, stamp_of(path)->changed);
+    const auto before = stamp_of(thumbnail);
     EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
-    EXPECT_EQ(read_file(thumbnail), "mine");
+    EXPECT_EQ(stamp_of(thumbnail), before);
+}
+
+// Those of earlier versions have the time at which they were made, and no mark.
+TEST_F(thumbnails_test, one_without_a_mark_that_is_younger_is_made_anew_once_and_without_a_word)
+{
+    const std::string path = photo("a.jpg", 400, 300);
+    age(path, 10);
+    const std::string thumbnail = folder.write("sample_thumbs/a.jpg", "mine");
+    EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
+    EXPECT_EQ(size_of(thumbnail), "200x150");
+    const auto made = stamp_of(thumbnail);
+    EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
+    EXPECT_EQ(stamp_of(thumbnail), made);
+}
+
+TEST_F(thumbnails_test, one_without_a_mark_is_used_where_no_other_can_be_made)
+{
+    const std::string path = photo("a.jpg", 400, 300);
+    age(path, 10);
+    const std::string thumbnail = folder.write("sample_thumbs/a.jpg", "mine");
+    ::chmod(folder.at("sample_thumbs").c_str(), 0555);
+    const as_ordinary_user user;
+    EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
+}
+
+TEST_F(thumbnails_test, an_older_photo_in_the_place_of_another_gets_one_of_its_own)
+{
+    const std::string path = photo("a.jpg", 400, 300);
+    const std::string thumbnail = chk_sample_thumb(main, path);
+    photo("a.jpg", 300, 400);
+    age(path, 1000);
+    EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
+    EXPECT_EQ(size_of(thumbnail), "150x200");
+    EXPECT_TRUE(desk.messages.empty());
+}
+
+TEST_F(thumbnails_test, a_photo_of_the_same_time_and_another_size_gets_one_of_its_own)
+{
+    const std::string path = photo("a.jpg", 400, 300);
+    const std::string thumbnail = chk_sample_thumb(main, path);
+    save_jpeg(noise(300, 400), path);
+    ASSERT_NE(read_file(path).size(), marked_bytes(read_file(thumbnail)));
+    same_age(path, thumbnail);
+    chk_sample_thumb(main, path);
+    EXPECT_EQ(size_of(thumbnail), "150x200");
+    EXPECT_TRUE(desk.messages.empty());
+}
+
+TEST_F(thumbnails_test, its_mark_changes_no_pixel)
+{
+    const std::string path = photo("a.jpg", 400, 300);
+    save_jpeg(noise(400, 300), path);
+    const std::string bytes = read_file(chk_sample_thumb(main, path));
+    EXPECT_EQ(marked_bytes(bytes), read_file(path).size());
+    const std::string plain = jpeg_bytes(rescaled(load_picture(picture_format::jpeg, path), 200, 150));
+    EXPECT_EQ(bytes, marked_thumbnail(plain, read_file(path).size()));
+    EXPECT_TRUE(same(load_picture(picture_format::jpeg, thumbnail_path(path)),
+                     load_picture(picture_format::jpeg, folder.write("plain.jpg", plain))));
+}
+
+TEST(thumbnail_mark, is_read_back_from_the_beginning)
+{
+    const std::string jpeg = jpeg_bytes(plain(20, 10, red));
+    for (const std::uint64_t size : {0ULL, 1ULL, 4'294'967'296ULL, ~0ULL}) {
+        const std::string marked = marked_thumbnail(jpeg, size);
+        EXPECT_EQ(marked_bytes(marked), size);
+        EXPECT_EQ(marked_bytes(marked.substr(0, room_of_mark)), size);
+        for (std::size_t length = 0; length < 50; ++length)
+            EXPECT_FALSE(marked_bytes(marked.substr(0, length)).has_value()) << length;
+    }
+    EXPECT_FALSE(marked_bytes(jpeg).has_value());
+    EXPECT_EQ(marked_thumbnail("no picture", 7), "no picture");
 }
 
 TEST_F(thumbnails_test, one_of_the_same_age_is_not_outdated)

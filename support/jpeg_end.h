@@ -1,0 +1,7 @@
+#pragma once
+
+#include <string>
+
+/// True for a JPEG whose data end before its last pixel, as a copy that broke off does. A file without the
+/// mark of its end, but with every pixel, is whole.
+bool is_cut_short(const std::string & path);
