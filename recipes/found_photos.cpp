@@ -28,7 +28,7 @@ found_photos looked_at(const std::vector<recipe_photo> & photos)
     // The same photo may be in use more than once.
     for (auto * paths : {&found.gone, &found.changed}) {
         std::ranges::sort(*paths);
-        paths->erase(std::ranges::unique(*paths).begin(), paths->end());
+        paths->erase(std::unique(paths->begin(), paths->end()), paths->end());
     }
     return found;
 }

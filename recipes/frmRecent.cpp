@@ -6,6 +6,8 @@
 #include "support/files/paths.h"
 #include "support/platform_error.h"
 
+#include <algorithm>
+
 // The flurns that were made last.
 
 namespace {
@@ -27,6 +29,14 @@ void offer_what_can_be_done(frmRecent & window)
     window.lblEmpty.show(window.flurns.empty());
 }
 
+// One is always chosen, so that a key is enough.
+void select_near(frmRecent & window, int index)
+{
+    const int last = static_cast<int>(window.flurns.size()) - 1;
+    window.lstFlurns.select(std::min(index, last));
+    offer_what_can_be_done(window);
+}
+
 void show_flurns(windows & all)
 {
     frmRecent & window = all.recent;
@@ -38,7 +48,7 @@ void show_flurns(windows & all)
     }
     window.lstFlurns.set_items(lines);
     window.lstFlurns.set_pictures(pictures);
-    offer_what_can_be_done(window);
+    select_near(window, 0);
 }
 
 const kept_recipe * selected(const frmRecent & window)
@@ -71,7 +81,7 @@ void cmdRemove_click(windows & all)
     }
     window.flurns.erase(window.flurns.begin() + index);
     window.lstFlurns.remove_item(index);
-    offer_what_can_be_done(window);
+    select_near(window, index);
 }
 
 void cmdFile_click(windows & all)

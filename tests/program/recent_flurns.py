@@ -101,9 +101,7 @@ def play(program):
     started_again(program)
     open_recent(program)
     keep(program, 'recent_list.png')
-    program.keys('Down')
-    screen.until(lambda: program.find('cmdOk').get('enabled'), 'the choice by a key')
-    program.click('cmdOk')
+    program.keys('Return')
     program.window('frmMain')
     expect_same(program, preview, poster, pixels, 'recent_opened.png')
 
@@ -143,7 +141,6 @@ def play(program):
 
     shutil.rmtree(moved)
     open_recent(program)
-    program.keys('Down')
     program.click('cmdOk')
     program.window('QMessageBox')
     program.click('No')
@@ -153,7 +150,6 @@ def play(program):
     program.window('frmMain')
     open_recent(program)
     entries = len(os.listdir(os.path.join(program.data, 'recipes')))
-    program.keys('Down')
     program.click('cmdRemove')
     screen.until(lambda: len(os.listdir(os.path.join(program.data, 'recipes'))) == entries - 2, 'the removal')
     keep(program, 'recent_removed.png')
