@@ -53,9 +53,7 @@ bool is_possible(double millimetres)
 std::optional<paper> measured(std::string_view name)
 {
     const bool in_inches = name.ends_with("in");
-    if (in_inches)
-        name.remove_suffix(2);
-    else if (name.ends_with("cm"))
+    if (in_inches || name.ends_with("cm"))
         name.remove_suffix(2);
     const std::size_t sign = name.find('x');
     if (sign == std::string_view::npos)

@@ -1,4 +1,5 @@
-# What goes into the packages of the kind at hand; read by CPack for each kind.
+# What goes into the packages of the kind at hand; read by CPack for each kind, which dates what it writes itself by this.
+set(ENV{SOURCE_DATE_EPOCH} ${CPACK_SOURCE_DATE})
 if(CPACK_GENERATOR STREQUAL "DEB")
     set(CPACK_DEB_COMPONENT_INSTALL ON)
     set(CPACK_COMPONENTS_ALL programs desktop links shared)

@@ -2,6 +2,7 @@
 #include "desktop/guarded.h"
 #include "desktop/looks/looks.h"
 #include "desktop/open_window.h"
+#include "desktop/portal.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_desktop.h"
 #include "recipes/open_flurn.h"
@@ -92,7 +93,10 @@ int main(int count, char ** words)
     const std::string flurn = count > 1 ? words[1] : "";
     int only_the_name = 1;
     expect_display();
+    const bool by_portal = take_choosers_of_desktop();
     QApplication application(only_the_name, words);
+    if (by_portal)
+        forget_choosers_of_desktop();
     display_found();
     QApplication::setApplicationName(QStringLiteral("tessaloom"));
     QApplication::setQuitOnLastWindowClosed(false);

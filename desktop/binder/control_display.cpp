@@ -6,8 +6,12 @@
 
 #include <QAccessible>
 #include <QGroupBox>
+#include <QIcon>
+#include <QImage>
 #include <QLayout>
 #include <QMenu>
+#include <QPainter>
+#include <QPixmap>
 
 #include <algorithm>
 

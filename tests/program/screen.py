@@ -66,7 +66,7 @@ class Program:
         try:
             self.display = beside.display if beside else Display()
             self.environment = dict(those_of_no_desktop(os.environ), DISPLAY=self.display.name, HOME=self.folder,
-                                    XDG_RUNTIME_DIR=self.folder, TMPDIR=self.folder)
+                                    XDG_RUNTIME_DIR=self.folder, TMPDIR=self.folder, QT_QPA_PLATFORMTHEME='')
             self.start_program(plugins)
         except BaseException:
             self.close()

@@ -94,7 +94,8 @@ class installing(unittest.TestCase):
         self.all_is_quiet(self.run_it())
 
     def test_names_only_packages_that_are_no_others_name(self):
-        for listing in ("packages.txt", "packages_desktop.txt", "packages_test.txt", "packages_check.txt"):
+        for listing in ("packages.txt", "packages_desktop.txt", "packages_test.txt", "packages_check.txt",
+                        "packages_llvm.txt"):
             self.assertNotIn("libqt6svg6-dev", names_of(listing))
 
     def test_installs_what_is_missing_of_the_lists_asked_for(self):

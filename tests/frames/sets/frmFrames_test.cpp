@@ -133,8 +133,9 @@ TEST(frmFrames, a_number_of_captions_that_can_t_be_is_brought_near)
     editor_session session;
     for (const auto & [text, count] : {std::pair{"-3", 0}, {"many", 0}, {"1e9", 32767}}) {
         session.write_set("odd", std::string("Number of Captions=") + text + "\r\n");
-        session.edit("odd",
-                     [count = count](const frmFrames & editor) { EXPECT_EQ(editor.caption_count, count); });
+        session.edit("odd", [expected = count](const frmFrames & editor) {
+            EXPECT_EQ(editor.caption_count, expected);
+        });
     }
 }
 

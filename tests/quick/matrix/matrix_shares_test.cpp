@@ -15,7 +15,9 @@ std::string shapes_of(int portrait, int landscape)
 {
     std::string signs = std::string(static_cast<std::size_t>(portrait), 'p') +
                         std::string(static_cast<std::size_t>(landscape), 'l');
-    std::shuffle(signs.begin(), signs.end(), std::mt19937(11));
+    std::mt19937 chance(11);  // std::shuffle mixes in another way in another library
+    for (std::size_t left = signs.size(); left > 1; --left)
+        std::swap(signs[left - 1], signs[chance() % left]);
     std::string shapes;
     for (const char sign : signs)
         shapes += {sign, ':'};

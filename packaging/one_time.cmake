@@ -1,3 +1,0 @@
-# Gives all that is packed one time, that of the sources, so that the same sources give the same packages. Run by CPack.
-execute_process(COMMAND find ${CPACK_TEMPORARY_DIRECTORY} -exec touch --no-dereference --date=@${CPACK_SOURCE_DATE} {} +
-                COMMAND_ERROR_IS_FATAL ANY)
