@@ -58,12 +58,13 @@ struct quick_stage {
     windows all{desk, seeded_random(7)};
 };
 
-void time_generator(benchmark::State & state, option_button frmMain::*style, void (*generator)(frmMain &))
+void time_generator(benchmark::State & state, option_button frmMain::*style,
+                    void (*generator)(frmMain &, const random_source &))
 {
     quick_stage stage;
     (stage.all.main.*style).select();
     for (auto _ : state)
-        generator(stage.all.main);
+        generator(stage.all.main, stage.all.main.random);
 }
 
 void quick_block_alone(benchmark::State & state)
@@ -74,9 +75,9 @@ BENCHMARK(quick_block_alone)->Unit(benchmark::kMillisecond);
 
 void quick_scatter_alone(benchmark::State & state)
 {
-    time_generator(state, &frmMain::optScatter, [](frmMain & main) {
+    time_generator(state, &frmMain::optScatter, [](frmMain & main, const random_source & chance) {
         find_scatter_match(main);
-        write_quick_scatter(main);
+        write_quick_scatter(main, chance);
     });
 }
 BENCHMARK(quick_scatter_alone)->Unit(benchmark::kMillisecond);
@@ -89,7 +90,8 @@ BENCHMARK(quick_matrix_alone)->Unit(benchmark::kMillisecond);
 
 void quick_shapes_alone(benchmark::State & state)
 {
-    time_generator(state, &frmMain::optShapes, write_quick_shapes);
+    time_generator(state, &frmMain::optShapes,
+                   [](frmMain & main, const random_source &) { write_quick_shapes(main); });
 }
 BENCHMARK(quick_shapes_alone)->Unit(benchmark::kMillisecond);
 

@@ -25,7 +25,7 @@ constexpr int fewest = 3;
 struct swept_style {
     const char * name;
     option_button frmMain::*option;
-    void (*write)(frmMain &);
+    void (*write)(frmMain &, const random_source &);
 };
 constexpr swept_style styles[] = {{"block", &frmMain::optBlock, write_quick_block},
                                   {"scatter", &frmMain::optScatter, write_quick_scatter}};
@@ -83,7 +83,7 @@ bool found_and_written(frmMain & main, const swept_style & style)
     const bool found = match_quick_style(main);
     main.updating_controls = true;
     if (found)
-        style.write(main);
+        style.write(main, main.random);
     return found;
 }
 

@@ -16,10 +16,12 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QUrl>
 
@@ -58,6 +60,13 @@ void prepare_box(QMessageBox & box, const std::string & title, const std::string
     box.setTextFormat(Qt::PlainText);
     box.setText(shown(text).remove(QLatin1Char('\r')));
     keep_lines(box);
+}
+
+// As the buttons of the program's windows are spelt.
+void spell_ok(const QDialogButtonBox * buttons)
+{
+    if (QPushButton * const ok = buttons ? buttons->button(QDialogButtonBox::Ok) : nullptr)
+        ok->setText(QStringLiteral("&Ok"));
 }
 
 // What a window's frame takes of the screen, before it is known.
@@ -107,6 +116,7 @@ void qt_desktop::message(const std::string & text, const std::string & title)
     QMessageBox box(owner());
     prepare_box(box, title, text);
     box.setStandardButtons(QMessageBox::Ok);
+    spell_ok(box.findChild<QDialogButtonBox *>());
     box.exec();
 }
 
@@ -306,8 +316,11 @@ std::optional<std::string> qt_desktop::choose_save(const file_request & asked)
 
 std::optional<std::uint32_t> qt_desktop::choose_color(std::uint32_t initial)
 {
-    const QColor color = QColorDialog::getColor(shown_color(initial), owner());
-    return color.isValid() ? std::optional(control_color(color)) : std::nullopt;
+    QColorDialog chooser(shown_color(initial), owner());
+    spell_ok(chooser.findChild<QDialogButtonBox *>());
+    if (chooser.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return control_color(chooser.selectedColor());
 }
 
 bool qt_desktop::open_document(const std::string & target)

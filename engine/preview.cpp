@@ -78,7 +78,7 @@ void save_sample(frmMain & main)
     main.trace += "FFF  ";
 }
 
-void make_sample(frmMain & main)
+run_end make_sample(frmMain & main)
 {
     const busy pointer(main.desk);
     set_sample_size(main);
@@ -87,17 +87,14 @@ void make_sample(frmMain & main)
     bend_template(main, run_size::preview);
     begin_run(main);
     lay_ground(main, run_size::preview);
-    if (main.run.cancel_requested) {
+    if (main.run.cancel_requested || place_photos(main, run_size::preview) == run_end::cancelled) {
         report_cancel(main);
-        return;
-    }
-    if (place_photos(main, run_size::preview) == run_end::cancelled) {
-        report_cancel(main);
-        return;
+        return run_end::cancelled;
     }
     finish_canvas(main);
     save_sample(main);
     main.trace += " (end sample)";
+    return run_end::complete;
 }
 
 std::string block_key(const frmMain & main)
@@ -134,21 +131,28 @@ void show_picture(frmMain & main, const std::string & path)
     main.picSample.show(true);
 }
 
+// The poster is drawn by the chance of the preview on show, which one that didn't come to its end is not.
 void make_new_sample(frmMain & main, const template_maker & make_template)
 {
     set_enable(main, false);
     set_sample_size(main);
+    const std::vector<double> holes = main.collage.holes_shown;
+    const int16 mix_step = main.mix_step;
     make_template(main, run_size::preview);
-    gen_sample(main);
+    if (gen_sample(main))
+        return;
+    main.collage.holes_shown = holes;
+    main.mix_step = mix_step;
 }
 
 }  // namespace
 
-void gen_sample(frmMain & main)
+bool gen_sample(frmMain & main)
 {
     main.in_preview = true;
+    run_end end = run_end::cancelled;
     try {
-        if (!went_through(main, [&] { make_sample(main); }))
+        if (!went_through(main, [&] { end = make_sample(main); }))
             main.in_preview = false;
     } catch (...) {
         end_run(main);
@@ -156,6 +160,7 @@ void gen_sample(frmMain & main)
     }
     end_run(main);
     tell_left_out(main);
+    return end == run_end::complete;
 }
 
 void make_preview(frmMain & main, const template_maker & make_template)

@@ -36,6 +36,13 @@ bool matrix_is_mixed(const frmMain & main)
            (main.chkRotate.ticked() || main.chkResize.ticked() || main.chkShuffle.ticked());
 }
 
+// A poster is mixed as the preview on show.
+mixing mixing_in(const frmMain & main, run_size size)
+{
+    const bool anew = size == run_size::preview && !main.collage.keeps_turns;
+    return anew ? mixing::forced : mixing::as_before;
+}
+
 bool border_is_wanted(const frmMain & main)
 {
     return !main.optNone.selected();
@@ -163,12 +170,12 @@ void read_new_template(frmMain & main, run_size size)
 void bend_template(frmMain & main, run_size size)
 {
     if (shapes_are_mixed(main))
-        mix_locations(main, mixing::forced);
+        mix_locations(main, mixing_in(main, size));
     main.run.first_cell_height = main.design_locations[0].height;
     main.run.first_cell_width = main.design_locations[0].width;
     make_caption_room(main);
     if (matrix_is_mixed(main))
-        mix_locations(main, mixing::forced);
+        mix_locations(main, mixing_in(main, size));
     if (border_is_wanted(main))
         apply_border(main, size);
 }

@@ -145,13 +145,16 @@ void tell_none_usable(frmMain & main)
 void tell_no_match(frmMain & main, const std::string & text)
 {
     left_out_photos & left_out = main.left_out;
+    const bool all_told = left_out.told == left_out.photos.size();
     const bool why_is_told_elsewhere = left_out.told_by == left_out_photos::teller::caller;
-    if (has_usable_photo(main) || why_is_told_elsewhere)
+    if (why_is_told_elsewhere || (has_usable_photo(main) && all_told))
         return main.desk.message(text);
-    if (main.in_preview && left_out.told == left_out.photos.size())
+    if (main.in_preview && all_told)
         return;
+    // Photos that were left out are why no other one matches: one cause, one box.
+    const std::size_t first = has_usable_photo(main) ? left_out.told : 0;
     note_told(left_out);
-    main.desk.message(text + "\r\n\r\n" + box_text(main, left_out.photos));
+    main.desk.message(text + "\r\n\r\n" + box_text(main, std::span(left_out.photos).subspan(first)));
 }
 
 std::string line_of(const left_out_photo & photo)

@@ -27,8 +27,8 @@ void tell_left_out(frmMain & main);
 /// run has said already.
 void tell_none_usable(frmMain & main);
 
-/// Tells, in these words, that no photo fits the design; where none can be used at all, the same box names
-/// them with the reason. A preview doesn't repeat what the user knows.
+/// Tells, in these words, that no photo fits the design; the same box names those left out that haven't been
+/// named yet, and where none can be used at all, every one. A preview doesn't repeat what the user knows.
 void tell_no_match(frmMain & main, const std::string & text);
 
 /// Why that photo, which can't be used, can't be.

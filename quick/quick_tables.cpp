@@ -29,11 +29,11 @@ void write_quick_template(const frmMain & main, const std::vector<std::string> &
     write_file(work_path(main, "designs/__quick"), text_of(lines));
 }
 
-blank_run start_blanks(frmMain & main)
+blank_run start_blanks(const frmMain & main, const random_source & chance)
 {
     const int length = nearest(std::clamp<double>(number_in(main.cmbBlanks), 0, longest_run));
-    main.random.reseed();
-    return start_blanks(length, main.random);
+    chance.reseed();
+    return start_blanks(length, chance);
 }
 
 int pixels_in(const combo_box & list)

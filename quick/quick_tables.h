@@ -18,7 +18,7 @@ void with_table(const frmMain & main, std::string_view name, const std::function
 void write_quick_template(const frmMain & main, const std::vector<std::string> & lines);
 
 /// The holes that `cmbBlanks` asks for, at most one in the longest template; chance starts anew.
-blank_run start_blanks(frmMain & main);
+blank_run start_blanks(const frmMain & main, const random_source & chance);
 
 /// The number in a list of the window in whole pixels. Raises overflow (6).
 int pixels_in(const combo_box & list);

@@ -2,6 +2,7 @@
 
 #include "designs/catalogue/catalogue.h"
 #include "quick/block/quick_block.h"
+#include "quick/hole_chance.h"
 #include "quick/matrix/quick_matrix.h"
 #include "quick/scatter/quick_scatter.h"
 #include "quick/shapes/quick_shapes.h"
@@ -29,13 +30,13 @@ void write_template(frmMain & main, run_size size)
     const bool preview = size == run_size::preview;
     main.quick.scatter_mode = scatter_mode::block;
     if (main.optBlock.selected()) {
-        write_quick_block(main);
+        write_quick_block(main, hole_chance(main, size));
     } else if (main.optShapes.selected()) {
         if (preview)
             write_quick_shapes(main);
     } else if (preview || main.optScatter.selected()) {
         main.quick.scatter_mode = scatter_mode::scatter;
-        write_quick_scatter(main);
+        write_quick_scatter(main, hole_chance(main, size));
     }
 }
 
@@ -46,7 +47,7 @@ void make_quick_template(frmMain & main, run_size size)
     if (!main.collage.quick_active)
         return;
     if (main.optMatrix.selected()) {
-        write_quick_matrix(main);
+        write_quick_matrix(main, hole_chance(main, size));
         read_record(main, "Quick matrix", no_matrix_message(size));
     } else {
         read_record(main, "Match", "should not happen 2 ?");

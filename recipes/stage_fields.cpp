@@ -16,6 +16,8 @@ static_assert(std::tuple_size_v<held_values> == 29);
 
 constexpr int most_photos = photo_table::capacity, most_turns = 100;
 constexpr int longest_text = 20'000;
+constexpr std::size_t most_holes = 4000;  // numbers that chance gave for the holes of a template
+constexpr double below_one = 1 - 1e-16;
 
 struct range {
     int least, most;
@@ -40,6 +42,7 @@ void visit_collage(collage & of, const Visit & visit)
     visit("collage.bg_from_design", of.bg_from_design);
     visit("collage.turns_shown", of.turns_shown);
     visit("collage.locations_shown", of.locations_shown, range{0, location_table::capacity});
+    visit("collage.holes_shown", of.holes_shown);
     visit("collage.borders_free", of.borders_free);
     visit("collage.matrix_both", of.matrix_both);
     visit("collage.matrix_rotate", of.matrix_rotate);
@@ -173,6 +176,14 @@ std::string turns_text(const std::vector<order_turn> & turns)
     return text;
 }
 
+std::string holes_text(const std::vector<double> & holes)
+{
+    std::string text;
+    for (const double hole : holes)
+        text += (text.empty() ? "" : " ") + real_text(hole);
+    return text;
+}
+
 struct writer {
     std::vector<recipe_setting> & settings;
 
@@ -188,6 +199,10 @@ struct writer {
     void operator()(const char * name, const std::vector<order_turn> & value) const
     {
         note(name, turns_text(value));
+    }
+    void operator()(const char * name, const std::vector<double> & value) const
+    {
+        note(name, holes_text(value));
     }
     // Nothing has no row, so that it can be told from an empty text.
     void operator()(const char * name, const std::optional<std::string> & value) const
@@ -233,6 +248,15 @@ struct field_reader {
         return read;
     }
 
+    static double real_in(const char * name, const std::string & text, double least, double most)
+    {
+        const real_read read = real_at_start(text);
+        const bool is_whole = read.fault == std::errc{} && read.length == text.size();
+        if (!is_whole || !(read.value >= least && read.value <= most))
+            refuse(name);
+        return read.value;
+    }
+
     void operator()(const char * name, bool & field) const
     {
         if (const std::string * const text = setting_in(wanted, name))
@@ -251,14 +275,20 @@ struct field_reader {
 
     void operator()(const char * name, double & field) const
     {
+        if (const std::string * const text = setting_in(wanted, name))
+            take(field, real_in(name, *text, -most_photos, most_photos));
+    }
+
+    void operator()(const char * name, std::vector<double> & field) const
+    {
         const std::string * const text = setting_in(wanted, name);
         if (text == nullptr)
             return;
-        const real_read read = real_at_start(*text);
-        const bool is_whole = read.fault == std::errc{} && read.length == text->size();
-        if (!is_whole || !(read.value >= -most_photos && read.value <= most_photos))
-            refuse(name);
-        take(field, read.value);
+        std::vector<double> numbers;
+        if (!text->empty())
+            for (const std::string & each : split(*text, ' ', most_holes))
+                numbers.push_back(real_in(name, each, 0, below_one));
+        take(field, std::move(numbers));
     }
 
     void operator()(const char * name, std::uint32_t & field) const

@@ -3,12 +3,14 @@
 #include "photos/dropped_photos.h"
 #include "photos/editor/photo_cells.h"
 #include "photos/editor/photo_grid.h"
+#include "photos/lists/working_list.h"
 #include "quick/start_quick.h"
 #include "recipes/open_flurn.h"
 #include "recipes/recipe.h"
 #include "session/main_window/photos.h"
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -98,6 +100,29 @@ drop_target target_of_choice(windows & all)
                 }};
 }
 
+drop_offer offer_of_gathering(const frmMain & main)
+{
+    return has_room_in_working_list(main)
+               ? taken("Drop here to add these photos to the selection.")
+               : refused("There is no room for more photos. Clear the list first.");
+}
+
+// The list knows its own limit.
+void take_in_gathering(windows & all, const dragged_files & dropped)
+{
+    constexpr auto all_of_them = std::numeric_limits<std::size_t>::max();
+    add_to_working_list(all.main, told_photos_of_drop(all.main, dropped, all_of_them).photos);
+    show_selected_count(all);
+}
+
+drop_target target_of_gathering(windows & all)
+{
+    return {
+        .offer =
+            [&all](const dragged_files & dragged) { return if_local(dragged, offer_of_gathering(all.main)); },
+        .take = [&all](const dragged_files & dropped, int, int) { take_in_gathering(all, dropped); }};
+}
+
 int free_cells(const frmPictures & window)
 {
     return static_cast<int>(
@@ -139,5 +164,6 @@ drop_targets connect_drops(windows & all, const drop_surroundings & around)
 {
     return {{&all.main, target_of_main(all, around)},
             {&all.select_photos, target_of_choice(all)},
+            {&all.photo_list, target_of_gathering(all)},
             {&all.pictures, target_of_editor(all)}};
 }

@@ -15,6 +15,6 @@ struct drop_surroundings {
 };
 
 /// The choosing stage begins a quick collage, or opens the recipe of a flurn, the finishing stage takes the
-/// photos instead of its own, "Select Photos" makes them the source, and the editor of a list takes them
-/// where they fall.
+/// photos instead of its own, "Select Photos" makes them the source, "Selected photos" adds them to the
+/// selection, and the editor of a list takes them where they fall.
 drop_targets connect_drops(windows & all, const drop_surroundings & around);

@@ -39,6 +39,15 @@ void focus_keeper::after_return()
     waiting.clear();
 }
 
+// A key that was given back while the box is disabled once more would go up to the group around it, which
+// takes every blank for a press of its own.
+bool focus_keeper::waits_for_text(const QObject * watched) const
+{
+    if (!takes_text(lost_focus) || lost_focus->isEnabled())
+        return false;
+    return watched == lost_focus || (watched == &window && !window.focusWidget());
+}
+
 bool focus_keeper::eventFilter(QObject * watched, QEvent * event)
 {
     // A window that comes to the front gives its focus to the first widget that can take it.
@@ -46,8 +55,7 @@ bool focus_keeper::eventFilter(QObject * watched, QEvent * event)
         static_cast<QFocusEvent *>(event)->reason() == Qt::ActiveWindowFocusReason)
         stand_in = qobject_cast<QWidget *>(watched);
     const bool is_key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if (!is_key || watched != &window || window.focusWidget() || !takes_text(lost_focus) ||
-        lost_focus->isEnabled())
+    if (!is_key || !waits_for_text(watched))
         return QObject::eventFilter(watched, event);
     waiting.emplace_back(event->clone());
     return true;

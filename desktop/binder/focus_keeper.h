@@ -26,6 +26,8 @@ public:
     bool eventFilter(QObject * watched, QEvent * event) override;
 
 private:
+    bool waits_for_text(const QObject * watched) const;
+
     QWidget & window;
     QPointer<QWidget> lost_focus;
     QPointer<QWidget> stand_in;  // given the focus by the toolkit meanwhile, by nobody's wish

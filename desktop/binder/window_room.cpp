@@ -2,6 +2,7 @@
 
 #include "desktop/binder/growing_room.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLayout>
 #include <QMainWindow>
@@ -119,11 +120,23 @@ void window_room::take_content()
     view->viewport()->setAutoFillBackground(false);
     content->show();
     view->show();
+    follow_focus();
     content->installEventFilter(this);
     if (QWidget * const folded = growing_widget(window))
         folded->installEventFilter(this);
     if (focus)
         focus->setFocus(Qt::OtherFocusReason);
+}
+
+// The toolkit scrolls for the Tab key alone. What is seen in part stays: it may be about to be clicked.
+void window_room::follow_focus()
+{
+    const auto show = [this](QWidget * now) {
+        if (now && view && content->isAncestorOf(now) && now->isVisible() && now->visibleRegion().isEmpty())
+            view->ensureWidgetVisible(now);
+    };
+    QObject::connect(qApp, &QApplication::focusChanged, this,
+                     [show](QWidget *, QWidget * now) { show(now); });
 }
 
 void window_room::fold(int most)

@@ -25,6 +25,7 @@ public:
 private:
     bool has_room(QSize wanted) const;
     void take_content();
+    void follow_focus();
     void fit();
     void fold(int most);
     void scroll();

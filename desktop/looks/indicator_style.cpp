@@ -1,5 +1,6 @@
 #include "desktop/looks/indicator_style.h"
 
+#include <QDialogButtonBox>
 #include <QMenuBar>
 #include <QPainter>
 #include <QStyleOption>
@@ -87,6 +88,9 @@ int indicator_style::styleHint(StyleHint hint, const QStyleOption * option, cons
 {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
+    // Boxes of the toolkit have their buttons in the order of the program's windows, on every desktop.
+    if (hint == SH_DialogButtonLayout)
+        return QDialogButtonBox::GnomeLayout;
     return QProxyStyle::styleHint(hint, option, widget, result);
 }
 

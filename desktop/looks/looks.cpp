@@ -49,7 +49,7 @@ QPalette dark_palette()
 }
 
 // Only what the style can't say by colours: the panels, their titles, which interrupt the line around them,
-// the bar of the menus and the button that makes the collage.
+// the bar of the menus and the button that Enter presses.
 QString sheet()
 {
     return QStringLiteral(R"(
@@ -63,12 +63,12 @@ QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; 
 QMenuBar::item:selected { background: %1; color: #1a1c1f; }
 QMenuBar::item:disabled { color: #959ba2; }
 QMenuBar QToolButton { color: #1a1c1f; background: %1; border-radius: 4px; }
-QPushButton[primary="true"] { background: %1; color: #1a1c1f; border: 1px solid #b98636; border-radius: 4px;
-    padding: 4px 18px; font-weight: bold; }
-QPushButton[primary="true"]:hover { background: #f7c272; }
-QPushButton[primary="true"]:pressed { background: #d2963b; }
-QPushButton[primary="true"]:focus { border: 2px solid #ffffff; }
-QPushButton[primary="true"]:disabled { background: #2f3236; color: #959ba2; border-color: #43484e; }
+QPushButton:default { background: %1; color: #1a1c1f; border: 1px solid #b98636; border-radius: 4px;
+    padding: 4px 18px; }
+QPushButton:default:hover { background: #f7c272; }
+QPushButton:default:pressed { background: #d2963b; }
+QPushButton:default:focus { border: 2px solid #ffffff; padding: 3px 17px; }
+QPushButton:default:disabled { background: #2f3236; color: #959ba2; border-color: #43484e; }
 QPlainTextEdit, QListWidget { border: 1px solid #3f444a; }
 QPlainTextEdit:focus, QListWidget:focus { border-color: %1; }
 QListWidget::item { padding: 3px 4px; }

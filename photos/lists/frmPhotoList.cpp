@@ -8,37 +8,28 @@
 
 namespace {
 
-void display_count(windows & all)
-{
-    const int selected = all.main.selected_count;
-    const bool editable = selected > 0 && selected <= editable_photos;
-    all.photo_list.lblCount.set_caption("Number of photos selected:   " + std::to_string(selected));
-    all.photo_list.cmdEdit.show(editable);
-    all.photo_list.txtEdit.show(editable);
-}
-
 void load_photo_list(windows & all)
 {
-    display_count(all);
+    show_selected_count(all);
     all.photo_list.txtCounting.show(false);
 }
 
 void cmdPhotos_click(windows & all)
 {
     get_selected_photos(all.main);
-    display_count(all);
+    show_selected_count(all);
 }
 
 void cmdFolder_click(windows & all)
 {
     folder_of_photos(all.main);
-    display_count(all);
+    show_selected_count(all);
 }
 
 void cmdClear_click(windows & all)
 {
     clear_working_list(all.main);
-    display_count(all);
+    show_selected_count(all);
 }
 
 void cmdEdit_click(windows & all)
@@ -49,7 +40,7 @@ void cmdEdit_click(windows & all)
     all.photo_list.txtCounting.show(true);
     all.main.desk.show_modal(all.pictures);
     all.photo_list.txtCounting.show(false);
-    display_count(all);
+    show_selected_count(all);
 }
 
 void cmdDone_click(windows & all)
@@ -63,6 +54,15 @@ void cmdDone_click(windows & all)
 }
 
 }  // namespace
+
+void show_selected_count(windows & all)
+{
+    const int selected = all.main.selected_count;
+    const bool editable = selected > 0 && selected <= editable_photos;
+    all.photo_list.lblCount.set_caption("Number of photos selected:   " + std::to_string(selected));
+    all.photo_list.cmdEdit.show(editable);
+    all.photo_list.txtEdit.show(editable);
+}
 
 void connect_frmPhotoList(windows & all)
 {

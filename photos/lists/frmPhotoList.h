@@ -33,3 +33,6 @@ struct frmPhotoList : form {
 
 /// Hooks its handlers.
 void connect_frmPhotoList(windows & all);
+
+/// Shows how many photos are selected, and offers the editor where it takes as many.
+void show_selected_count(windows & all);

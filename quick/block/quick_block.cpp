@@ -6,9 +6,9 @@
 #include "quick/template_text.h"
 #include "session/window_state.h"
 
-void write_quick_block(frmMain & main)
+void write_quick_block(frmMain & main, const random_source & chance)
 {
-    const blank_run blanks = start_blanks(main);
+    const blank_run blanks = start_blanks(main, chance);
     find_block_match(main);
     notice_reduced(main);
     const block_request request{.poster = selected_shape(main),
@@ -20,7 +20,7 @@ void write_quick_block(frmMain & main)
     with_table(main, "block_templates", [&](line_source & blocks) {
         const auto block = section_of(blocks, main.quick.block_name);
         if (block)
-            places = block_plan(*block, request, main.random);
+            places = block_plan(*block, request, chance);
         else
             main.desk.message("Shouldn't happen");
     });

@@ -89,11 +89,11 @@ std::string find_matrix_line(frmMain & main, int wanted)
     return line;
 }
 
-void write_quick_matrix(frmMain & main)
+void write_quick_matrix(frmMain & main, const random_source & chance)
 {
     if (!main.optMatrix.selected())
         main.desk.message("write_design not for quick matrix");
-    const blank_run blanks = start_blanks(main);
+    const blank_run blanks = start_blanks(main, chance);
     matrix_request request = request_for(main, grid_for_photos(main));
     request.rotate = main.chkRotate.ticked();
     request.resize = main.chkResize.ticked();
@@ -102,7 +102,7 @@ void write_quick_matrix(frmMain & main)
     request.blanks = blanks;
     main.quick.preview_inset = nearest16(matrix_inset_down(request.inset) / 8.0);
     request.offset = chosen_offset(main);
-    write_quick_template(main, template_lines(matrix_plan(request, main.random), matrix_digits));
+    write_quick_template(main, template_lines(matrix_plan(request, chance), matrix_digits));
 }
 
 void offer_fewer_photos(frmMain & main)

@@ -9,9 +9,10 @@
 /// 53, 70, and 9 and 6 for faults of the table.
 std::string find_matrix_line(frmMain & main, int wanted);
 
-/// Writes the matrix for the photos at hand as the quick template. Without portraits a grid of odd rows makes
-/// room for a smaller one, which is told once. Raises as find_matrix_line and write_quick_template do.
-void write_quick_matrix(frmMain & main);
+/// Writes the matrix for the photos at hand as the quick template, with the holes that `chance` makes.
+/// Without portraits a grid of odd rows makes room for a smaller one, which is told once. Raises as
+/// find_matrix_line and write_quick_template do.
+void write_quick_matrix(frmMain & main, const random_source & chance);
 
 /// Enables `cmdMore`, and says on it what its click would do, as the grid for the photos at hand has it.
 void offer_fewer_photos(frmMain & main);

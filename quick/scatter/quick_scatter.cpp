@@ -33,9 +33,9 @@ void fit_borders(frmMain & main, least_border least)
 
 }  // namespace
 
-void write_quick_scatter(frmMain & main)
+void write_quick_scatter(frmMain & main, const random_source & chance)
 {
-    const blank_run blanks = start_blanks(main);
+    const blank_run blanks = start_blanks(main, chance);
     main.collage.borders_free = true;
     const scatter_entry entry = scatter_entry_of(main.quick.scatter_line);
     const scatter_request request{
@@ -46,7 +46,7 @@ void write_quick_scatter(frmMain & main)
     with_table(main, "scatter_templates", [&](line_source & scatters) {
         const auto scatter = section_of(scatters, "[" + entry.name + "]");
         if (scatter)
-            layout = scatter_plan(*scatter, request, main.random);
+            layout = scatter_plan(*scatter, request, chance);
         else
             main.desk.message("Shouldn't happen");
     });

@@ -32,7 +32,7 @@ void write_quick_shapes(frmMain & main)
                                               .shadow = pixels_in(main.cmbShadow),
                                               .align = selected_align(main),
                                               .mix = main.chkMix.ticked(),
-                                              .blanks = start_blanks(main)},
+                                              .blanks = start_blanks(main, main.random)},
                                              main.random);
     main.shape_rows = layout.rows;
     main.shape_columns = layout.columns;

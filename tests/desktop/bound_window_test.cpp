@@ -124,6 +124,28 @@ TEST(binder, the_focus_comes_back_after_a_run_and_what_was_typed_meanwhile_follo
     EXPECT_EQ(shown.held.txtName.text(), "abc");
 }
 
+// Each key begins a run of its own, which pumps what was typed before it is over: a key comes to a box that
+// is disabled once more. The group around it would take every blank for a press of its own.
+TEST(binder, what_is_typed_faster_than_runs_are_made_keeps_its_blanks)
+{
+    bound_form shown;
+    shown.all->resize(150, 100);
+    shown.name->setParent(shown.all);
+    shown.name->show();
+    shown.name->setFocus();
+    bool typed = false;
+    shown.held.txtName.on_change = [&] {
+        shown.held.txtName.enable(false);
+        if (!std::exchange(typed, true))
+            QTest::keyClicks(&shown.window, " b  c d");
+        QApplication::processEvents();
+        shown.held.txtName.enable(true);
+    };
+    QTest::keyClicks(shown.name, "a");
+    QApplication::processEvents();
+    EXPECT_EQ(shown.held.txtName.text(), "a b  c d");
+}
+
 TEST(binder, keys_for_a_box_that_stays_away_are_dropped)
 {
     bound_form shown;

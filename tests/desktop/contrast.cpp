@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 
 #include <algorithm>
@@ -57,6 +59,51 @@ QRect text_place(const QWidget & widget)
     return widget.rect().adjusted(left, 2, -right, -2);
 }
 
+struct text_spot {
+    std::string name;
+    QRect place;  // in its widget
+    bool enabled = true;
+};
+
+// Entries have a colour each.
+template <typename Bar>
+std::vector<text_spot> entry_spots(const Bar & bar)
+{
+    std::vector<text_spot> spots;
+    for (const QAction * entry : bar.actions())
+        if (entry->isVisible() && !entry->text().trimmed().isEmpty())
+            spots.push_back({.name = entry->text().toStdString(),
+                             .place = bar.actionGeometry(const_cast<QAction *>(entry)).adjusted(4, 2, -4, -2),
+                             .enabled = entry->isEnabled()});
+    return spots;
+}
+
+std::vector<text_spot> row_spots(const QListWidget & list)
+{
+    std::vector<text_spot> spots;
+    for (int i = 0; i < list.count(); ++i) {
+        const QRect place =
+            list.visualItemRect(list.item(i)).translated(list.viewport()->pos()) & list.rect();
+        if (!place.isEmpty())
+            spots.push_back(
+                {.name = list.item(i)->text().toStdString(), .place = place, .enabled = list.isEnabled()});
+    }
+    return spots;
+}
+
+std::vector<text_spot> text_spots(const QWidget & widget)
+{
+    if (const auto * const menu = qobject_cast<const QMenu *>(&widget))
+        return entry_spots(*menu);
+    if (const auto * const bar = qobject_cast<const QMenuBar *>(&widget))
+        return entry_spots(*bar);
+    if (const auto * const list = qobject_cast<const QListWidget *>(&widget))
+        return row_spots(*list);
+    if (!has_text(widget))
+        return {};
+    return {{.name = {}, .place = text_place(widget), .enabled = widget.isEnabled()}};
+}
+
 // The colour of most pixels, and the one that stands out most from it.
 double contrast_in(const QImage & pixels)
 {
@@ -91,16 +138,21 @@ std::vector<std::string> faint_texts(QWidget & window)
     std::vector<std::string> faults;
     const QImage whole = window.grab().toImage();
     const double density = whole.devicePixelRatio();
-    for (const QWidget * each : window.findChildren<QWidget *>()) {
-        if (!each->isVisible() || !has_text(*each) || each->visibleRegion().isEmpty())
-            continue;
-        const QRect place(each->mapTo(&window, text_place(*each).topLeft()), text_place(*each).size());
-        const QRect dense(place.topLeft() * density, place.size() * density);
-        const double least = each->isEnabled() ? usual_least : disabled_least;
-        const double found = contrast_in(whole.copy(dense & whole.rect()));
-        if (found < least)
-            faults.push_back(named_with_window(*each) + " has " + std::to_string(found));
-    }
+    QList<QWidget *> widgets = window.findChildren<QWidget *>();
+    widgets.prepend(&window);
+    for (const QWidget * each : widgets)
+        for (const text_spot & spot : text_spots(*each)) {
+            if (!each->isVisible() || each->visibleRegion().isEmpty() ||
+                (each != &window && each->isWindow()))
+                continue;
+            const QRect place(each->mapTo(&window, spot.place.topLeft()), spot.place.size());
+            const QRect dense(place.topLeft() * density, place.size() * density);
+            const double least = spot.enabled ? usual_least : disabled_least;
+            const double found = contrast_in(whole.copy(dense & whole.rect()));
+            if (found < least)
+                faults.push_back(named_with_window(*each) + " " + spot.name + " has " +
+                                 std::to_string(found));
+        }
     return faults;
 }
 

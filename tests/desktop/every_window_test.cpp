@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPushButton>
+#include <QTest>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -136,6 +137,24 @@ TEST_P(every_window, takes_enter_for_its_ok)
                 EXPECT_TRUE(window.findChild<QPushButton *>(QLatin1String(name))->isDefault());
             }
     });
+}
+
+// A desktop's users press these anywhere.
+TEST(keys, escape_closes_every_window_that_asks_and_those_of_the_main_window_close_none)
+{
+    filled_session session;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        QWidget * const focus = shown.window().focusWidget();
+        QWidget & aim = focus ? *focus : shown.window();
+        QTest::keyClick(&aim, Qt::Key_F10);
+        QTest::keyClick(&aim, Qt::Key_Q, Qt::ControlModifier);
+        EXPECT_TRUE(view.window->loaded());
+        QTest::keyClick(&aim, Qt::Key_Escape);
+        // A window that only tells how far the work is goes with it.
+        EXPECT_EQ(view.window->loaded(), shown.window().findChildren<QPushButton *>().isEmpty());
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(letters, every_window_in_usual_letters,

@@ -102,7 +102,7 @@ TEST_F(frame_dialogs, the_buttons_of_the_boxes_go_and_come_with_the_keyboard)
         found<QPushButton>(captions, "cmdRemove")->setFocus();
         EXPECT_EQ(label_of(captions, "lblCaptions_0"), "1");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(QApplication::focusWidget(), found<QPushButton>(captions, "cmdDone"));
+        EXPECT_EQ(QApplication::focusWidget(), found<QPushButton>(captions, "cmdCancel"));
         EXPECT_FALSE(insert->isEnabled());
         QTest::mouseClick(found<QLineEdit>(captions, "txtCaptions_2"), Qt::LeftButton);
         EXPECT_TRUE(insert->isEnabled());

@@ -1,12 +1,17 @@
 #include "../scripted_desktop.h"
 #include "desktop/binder/binder.h"
+#include "desktop/binder/captions.h"
 #include "desktop/binder/windows_made.h"
 #include "session/windows.h"
 #include "tests/desktop/bound_form.h"
+#include "tests/desktop/stages.h"
+#include "tests/desktop/told_widgets.h"
+#include "tests/desktop/window_views.h"
 
 #include <QAccessible>
 #include <QApplication>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -49,6 +54,58 @@ TEST(screen_readers, are_told_every_option_as_one_of_its_group)
         }
     }
     EXPECT_GE(options, 68);
+}
+
+TEST(screen_readers, are_told_every_widget_of_every_window_as_it_is)
+{
+    filled_session session;
+    int widgets = 0;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        EXPECT_EQ(told_otherwise(*view.window, shown.window()), std::vector<std::string>());
+        EXPECT_EQ(told(shown.window()).text(QAccessible::Name), unspaced(shown.window().windowTitle()));
+        widgets += told_widgets(*view.window, shown.window());
+    }
+    EXPECT_GT(widgets, 500);
+}
+
+TEST(screen_readers, are_told_every_widget_of_the_main_window_as_it_is)
+{
+    scripted_desktop desk;
+    frmMain main(desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {});
+    main.load();
+    window->show();
+    for (const look stage : all_looks)
+        for (const shape poster : all_shapes) {
+            SCOPED_TRACE(name_of(stage, poster));
+            bring_to(main, stage, poster);
+            QApplication::processEvents();
+            EXPECT_EQ(told_otherwise(main, *window), std::vector<std::string>());
+        }
+}
+
+TEST(screen_readers, would_be_told_of_another_value_another_state_and_a_name_that_is_spelt)
+{
+    bound_form shown;
+    const auto before = told_otherwise(shown.held, shown.window);
+    const QSignalBlocker box_is_quiet(shown.name), scale_is_quiet(shown.scale);
+    shown.keep->setChecked(true);
+    shown.name->setText(QStringLiteral("Summer"));
+    shown.right->setAccessibleName(QStringLiteral("R i g h t"));
+    shown.scale->setValue(7);
+    shown.go->setText(QStringLiteral("Stay"));
+    shown.names->addItem(QStringLiteral("Sea"));
+    std::string all;
+    for (const std::string & fault : told_otherwise(shown.held, shown.window))
+        if (std::ranges::find(before, fault) == before.end())
+            all += fault.substr(fault.find(' ') + 1) + '\n';
+    EXPECT_EQ(
+        all,
+        "txtName: value, called \"\"\ncmdGo: name, called \"Stay\"\nchkKeep: value, called \"Keep\"\n"
+        "optRight: spelt, called \"R i g h t\"\nlstNames: value, called \"\"\nScrSize: value, called \"\"\n");
 }
 
 TEST(screen_readers, are_told_the_group_by_its_name)

@@ -1,8 +1,11 @@
 // Draws every window into a folder, in the states that are worth looking at: tessaloom-screens FOLDER
-// [LETTERS]. LETTERS: pixels, the size of the system's font. Set QT_SCALE_FACTOR=2 for screens of double
-// density. tessaloom-screens --redraw DRAWN SHOWN copies those of DRAWN to SHOWN that look different there.
+// [LETTERS]. LETTERS: pixels, the size of the system's font; they and the windows are as large as the screen
+// has room for. Set QT_SCALE_FACTOR=2 for screens of double density. tessaloom-screens --redraw DRAWN SHOWN
+// copies those of DRAWN to SHOWN that look different there.
 
 #include "designs/catalogue/catalogue.h"
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
 #include "desktop/looks/letters.h"
 #include "desktop/looks/looks.h"
 #include "engine/run_steps.h"
@@ -10,10 +13,12 @@
 #include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "tests/desktop/screen_changes.h"
+#include "tests/desktop/stages.h"
 #include "tests/desktop/window_views.h"
 
 #include <QApplication>
 #include <QImage>
+#include <QScreen>
 
 #include <cstdio>
 
@@ -70,12 +75,51 @@ void draw_designed_collages(filled_session & session, const QString & folder)
     draw_designed(session, main.mnuPuzzle, folder + QStringLiteral("/flurn_puzzle.png"));
 }
 
+// Inside the frame of a window.
+QSize room_on_screen()
+{
+    constexpr QSize frame(8, 36);
+    return QGuiApplication::primaryScreen()->availableSize() - frame;
+}
+
 void draw_views(filled_session & session, const QString & folder)
 {
+    const QSize room = room_on_screen();
+    session.desk.room = {.width = room.width() * 9 / 10, .height = room.height() * 9 / 10};
     for (const window_view & view : session.views()) {
-        const shown_view shown(view);
+        const shown_view shown(view, room);
         save(shown.window(), folder, view.name);
     }
+}
+
+// The collage as small as a preview that fills its picture.
+std::string preview_of(const filled_session & session, shape poster)
+{
+    const QSize size =
+        poster == shape::landscape ? QSize(457, 308) : QSize(308, poster == shape::square ? 308 : 457);
+    const std::string path = session.folder.at("tmp/" + name_of(look::designed, poster) + ".jpg");
+    QImage(QString::fromStdString(session.collage))
+        .scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation)
+        .save(QString::fromStdString(path));
+    return path;
+}
+
+// The main window in all its looks, without a session behind it.
+void draw_main(filled_session & session, const QString & folder)
+{
+    frmMain main(session.desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {.report = {}, .unloaded = {}, .room = room_on_screen});
+    main.load();
+    main.picSplash.load(session.folder.at("images/splash.png"));
+    window->show();
+    for (const look stage : all_looks)
+        for (const shape poster : all_shapes) {
+            main.picSample.load(preview_of(session, poster));
+            bring_to(main, stage, poster);
+            QApplication::processEvents();
+            save(*window, folder, "frmMain_" + name_of(stage, poster));
+        }
 }
 
 }  // namespace
@@ -95,10 +139,12 @@ int main(int count, char ** words)
         return 1;
     }
     if (arguments.size() == 3)
-        set_letters(arguments[2].toInt());
+        set_letters(
+            letters_for(arguments[2].toInt(), QGuiApplication::primaryScreen()->availableSize().height()));
     filled_session session;
     make_collage(session);
     draw_views(session, arguments[1]);
+    draw_main(session, arguments[1]);
     filled_session fresh;
     draw_designed_collages(fresh, arguments[1]);
     return 0;

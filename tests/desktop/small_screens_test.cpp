@@ -71,6 +71,33 @@ TEST_P(small_screens, have_room_for_the_main_window_in_all_its_stages)
         }
 }
 
+// By whatever means it came there, from the form's own wish to a reader of the screen.
+TEST_P(small_screens, show_what_has_the_keyboard)
+{
+    const auto [room, pixels] = GetParam();
+    set_letters(pixels);
+    scripted_desktop desk;
+    frmMain main(desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {.report = {}, .unloaded = {}, .room = [size = room] { return size; }});
+    main.load();
+    bring_to(main, look::quick_squares, shape::portrait);
+    window->show();
+    window->activateWindow();
+    QApplication::processEvents();
+    faults unseen;
+    for (control * each :
+         {static_cast<control *>(&main.cmdFlurn), static_cast<control *>(&main.cmdPhotos),
+          static_cast<control *>(&main.optPreview), static_cast<control *>(&main.txtCaption)}) {
+        fire(each->on_take_focus);
+        QApplication::processEvents();
+        QWidget * const focus = window->focusWidget();
+        if (!focus || focus->objectName().toStdString() != each->name() || focus->visibleRegion().isEmpty())
+            unseen.push_back(each->name());
+    }
+    EXPECT_EQ(unseen, faults());
+}
+
 // Without the frame of a window and the bar of the desktop: 1280 by 720 pixels, 1366 by 768, and 1280 by 720
 // at two and at three times the usual density.
 INSTANTIATE_TEST_SUITE_P(sizes, small_screens,

@@ -51,6 +51,18 @@ def wheel_leaves_lists_alone(p):
         check(place_of_keyboard(p) == keyboard, 'the wheel took the keyboard')
 
 
+def caption_takes_what_is_typed(p):
+    """Faster than previews are made."""
+    text = 'by the sea a b c d e f and all the way back'
+    p.type_into('txtCaption', text)
+    until(lambda: p.find('txtCaption')['text'] == text or len(p.find('txtCaption')['text']) >= len(text), 'the caption')
+    until(lambda: p.find('cmdFlurn').get('enabled'), 'the preview')
+    check(p.find('txtCaption')['text'] == text, 'the caption is %r' % p.find('txtCaption')['text'])
+    p.type_into('txtCaption', ' ')
+    p.keys('BackSpace')
+    until(lambda: p.find('txtCaption')['text'] == '' and p.find('cmdFlurn').get('enabled'), 'the caption to go')
+
+
 def preview_goes_on(p):
     for option in ('optLandscape', 'optSquare', 'optPortrait'):
         changed_preview(p, lambda: p.click(option), option)
@@ -104,6 +116,7 @@ def play(p):
     begin_quick(p)
     lists_take_what_is_typed(p)
     wheel_leaves_lists_alone(p)
+    caption_takes_what_is_typed(p)
     preview_goes_on(p)
     background_goes(p)
     keys_of_a_desktop(p)

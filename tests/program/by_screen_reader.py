@@ -83,7 +83,7 @@ def choose_design(reader):
 def play(program):
     reader = Reader()
     checked(reader.window('Tessaloom Configuration'))
-    reader.press(reader.window('Tessaloom Configuration'), 'push button', 'OK')
+    reader.press(reader.window('Tessaloom Configuration'), 'push button', 'Ok')
     main = reader.window('Flurns')
     checked(main)
     reader.press(main, 'menu item', ' Designed flurn')

@@ -43,7 +43,7 @@ def set_room(p):
         shows(p, name, '150')
     drawn(p, lambda: p.type_into('cmbHGap', '2000'), 'a gap')
     p.click('cmdOk')
-    told(p, 'There is no room for the photos.', lambda: p.click('OK'))
+    told(p, 'There is no room for the photos.', lambda: p.click('Ok'))
     p.window('frmMatrix')
     drawn(p, lambda: choose(p, 'cmbHGap', '40'), 'a gap from its list')
 
@@ -105,7 +105,7 @@ def make_lettering(p):
     is_enabled(p, 'cmdOk', False)
     p.type_into('txtLettering', '?!')
     p.click('cmdOk')
-    told(p, 'There are no letters or digits in that text.', lambda: p.click('OK'))
+    told(p, 'There are no letters or digits in that text.', lambda: p.click('Ok'))
     p.window('frmLettering')
     tall = p.find('txtLettering')
     p.type_into('txtLettering', 'Summer 2026')

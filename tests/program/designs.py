@@ -1,5 +1,6 @@
 """What the ways through the special designers and the frame sets share."""
 import os
+import struct
 
 from collage import check
 from screen import until
@@ -123,3 +124,19 @@ def kept(p, name):
     keep = os.environ.get('TESSALOOM_SCREENS')
     if keep:
         p.keep(p.look()['widgets'][0], os.path.join(keep, name + '.png'))
+
+
+def bitmap(p, name, width, height):
+    """A disc on white, in a file of 24 bits."""
+    path = os.path.join(p.folder, name)
+    rows = bytearray()
+    for y in range(height):
+        row = bytearray()
+        for x in range(width):
+            inside = (x - width / 2) ** 2 + (y - height / 2) ** 2 < (height / 2.5) ** 2
+            row += b'\x20\x80\xf0' if inside else b'\xff\xff\xff'
+        rows += row + bytes(-len(row) % 4)
+    with open(path, 'wb') as file:
+        file.write(b'BM' + struct.pack('<IHHI', 54 + len(rows), 0, 0, 54) +
+                   struct.pack('<IiiHHIIiiII', 40, width, height, 1, 24, 0, len(rows), 2835, 2835, 0, 0) + rows)
+    return path

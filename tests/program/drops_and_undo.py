@@ -1,4 +1,5 @@
-"""Photos dragged from another program into the built one, and the way back by keys, with real mouse and key events."""
+"""Photos dragged from another program into each window of the built one that takes them, and the way back by keys, with real mouse
+and key events."""
 import glob
 import os
 import shutil
@@ -28,6 +29,43 @@ def hovered(program, dragged, sentence, shot):
     keep(program, shot)
 
 
+def gathered(program, source, files, one_more):
+    """A selection, and the editor of its list."""
+    program.click('mnuPictures')
+    program.window('QMenu')
+    program.click('mnuNewList')
+    program.window('frmPictureName')
+    program.type('Sea')
+    program.keys('Return')
+    program.window('frmPhotoList')
+    together = Dragged(program, source, *files)
+    hovered(program, together, 'to the selection', 'drop_gathered.png')
+    together.let_go('copied', lambda: program.find('lblCount')['text'].endswith(' %d' % len(files)))
+    program.click('cmdEdit')
+    program.window('frmPictures')
+    program.widget('cmdAdd')
+    added = Dragged(program, source, one_more)
+    hovered(program, added, 'at this place', 'drop_edited.png')
+    added.let_go('copied', lambda: program.find('cmdSave') and program.find('cmdSave')['enabled'])
+    program.click('cmdSave')
+    program.window('frmPhotoList')
+    screen.until(lambda: program.find('lblCount')['text'].endswith(' %d' % (len(files) + 1)), 'one photo more in the list')
+    program.click('cmdDone')
+    program.window('frmMain')
+
+
+def chosen(program, source, few):
+    program.click('mnuQuick')
+    program.window('frmSelectPhotos')
+    those = Dragged(program, source, few)
+    hovered(program, those, 'use these photos', 'drop_chosen.png')
+    those.let_go('copied', program.finished)
+    program.window('frmMain')
+    program.widget('cmdFlurn')
+    program.click('cmdCancel')
+    program.widget('mnuQuick')
+
+
 def play(program, source):
     collage.welcomed(program)
     files = sorted(glob.glob(os.path.join(program.photos, '*.jpg')))
@@ -48,6 +86,9 @@ def play(program, source):
     screen.until(gone, 'the sentence to go with the drag')
     away.let_go('refused', lambda: not offer(program))
     check(program.find('mnuQuick'), 'a drag that leaves begins nothing')
+
+    gathered(program, source, files, os.path.join(few, os.path.basename(files[0])))
+    chosen(program, source, few)
 
     begun = Dragged(program, source, *files)
     hovered(program, begun, 'quick collage', 'drop_quick.png')

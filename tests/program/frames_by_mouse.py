@@ -2,10 +2,10 @@
 """The life of a frame set in the built program by mouse: an icon, a list, colours, font and captions, the set in a frame
 design and in a matrix, changed, deleted."""
 import os
-import struct
 
 from collage import check, quit_by_mouse, run, welcomed
-from designs import (choose, entry, in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands, told)
+from designs import (bitmap, choose, entry, in_finishing_stage, is_enabled, kept, lines_of, made_flurn, same, shows, stands,
+                     told)
 from screen import until
 
 
@@ -38,22 +38,6 @@ def make_list(p):
     return lines_of(p, 'piclists', 'holiday.pls')
 
 
-def bitmap(p, name, width, height):
-    """A disc on white, in a file of 24 bits."""
-    path = os.path.join(p.folder, name)
-    rows = bytearray()
-    for y in range(height):
-        row = bytearray()
-        for x in range(width):
-            inside = (x - width / 2) ** 2 + (y - height / 2) ** 2 < (height / 2.5) ** 2
-            row += b'\x20\x80\xf0' if inside else b'\xff\xff\xff'
-        rows += row + bytes(-len(row) % 4)
-    with open(path, 'wb') as file:
-        file.write(b'BM' + struct.pack('<IHHI', 54 + len(rows), 0, 0, 54) +
-                   struct.pack('<IiiHHIIiiII', 40, width, height, 1, 24, 0, len(rows), 2835, 2835, 0, 0) + rows)
-    return path
-
-
 def import_icon(p, path):
     entry(p, 'mnuFrames', 'mnuIcon')
     p.window('QFileDialog')
@@ -63,7 +47,7 @@ def import_icon(p, path):
 
 def make_icons(p):
     import_icon(p, bitmap(p, 'wide.bmp', 101, 90))
-    told(p, 'The image needs to be 100 pixels wide by 90 pixels high or smaller.', lambda: p.click('OK'))
+    told(p, 'The image needs to be 100 pixels wide by 90 pixels high or smaller.', lambda: p.click('Ok'))
     glow = bitmap(p, 'glow.bmp', 100, 90)
     for name, file in (('glow', 'glow.bmp'), ('gleam', 'glow1.bmp')):
         import_icon(p, glow)
@@ -71,13 +55,13 @@ def make_icons(p):
         is_enabled(p, 'cmdOk', False)
         p.type('HEART')
         p.click('cmdOk')
-        told(p, "You already have an icon named 'HEART'", lambda: p.click('OK'))
+        told(p, "You already have an icon named 'HEART'", lambda: p.click('Ok'))
         p.window('frmIconName')
         p.type_into('txtName', name)
         kept(p, 'icon_name')
         p.click('cmdOk')
         if file != 'glow.bmp':
-            told(p, 'New icon file imported with the name:  ' + file, lambda: p.click('OK'))
+            told(p, 'New icon file imported with the name:  ' + file, lambda: p.click('Ok'))
         p.window('frmMain')
         same(lines_of(p, 'icons', 'icons')[-1], name + ' ' + file, 'the list of icons')
         check(os.path.exists(os.path.join(p.data, 'icons', file)), file + ' is missing')
@@ -129,7 +113,7 @@ def write_captions(p):
     p.type_into('txtCaptions_11', 'The last one')
     p.click('txtCaptions_1')
     p.click('cmdInsert')
-    told(p, 'Inserting will push the last caption out of the set.', lambda: p.click('OK'))
+    told(p, 'Inserting will push the last caption out of the set.', lambda: p.click('Ok'))
     p.window('frmCaptions')
     p.type_into('txtCaptions_11', ' ')
     p.keys('BackSpace')
@@ -161,7 +145,7 @@ def make_set(p):
     p.window('frmFrameName')
     p.type('soccer')
     p.click('cmdOk')
-    told(p, 'You already have a custom frame named:  soccer', lambda: p.click('OK'))
+    told(p, 'You already have a custom frame named:  soccer', lambda: p.click('Ok'))
     p.window('frmFrameName')
     p.type_into('txtName', 'Our summer')
     kept(p, 'frame_name')

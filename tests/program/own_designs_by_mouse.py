@@ -27,7 +27,7 @@ def keep(p):
     p.type_into('txtName', 'three BANDS')
     p.type_into('txtDescription', 'Twelve photos of the summer')
     p.click('OKButton')
-    told(p, 'There already is a design named:', lambda: p.click('OK'))
+    told(p, 'There already is a design named:', lambda: p.click('Ok'))
     p.window('frmNewDesign')
     p.type_into('txtName', 'My summer')
     kept(p, 'new_design')
@@ -79,7 +79,7 @@ def delete(p, before):
     for folder, name in (('designs', 'saved600'), ('samples', 'saved600.jpg'), ('descriptions', 'saved600')):
         check(not os.path.exists(os.path.join(p.data, folder, name)), name + ' is still there')
     entry(p, 'mnuDesign', 'mnuEditDesigns')
-    told(p, "    You don't have any designs to edit.    ", lambda: p.click('OK'))
+    told(p, "    You don't have any designs to edit.    ", lambda: p.click('Ok'))
     p.window('frmMain')
 
 
@@ -88,7 +88,7 @@ def take_in(p, package):
     p.window('QFileDialog')
     p.type_into('fileNameEdit', package)
     p.keys('Return')
-    told(p, '\nMy summer has been successfully imported.\n', lambda: p.click('OK'))
+    told(p, '\nMy summer has been successfully imported.\n', lambda: p.click('Ok'))
     p.window('frmMain')
     check(not os.path.exists(package), 'the package is still there')
 

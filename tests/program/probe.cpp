@@ -25,6 +25,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScreen>
 #include <QTimer>
@@ -50,6 +51,8 @@ QString text_of(const QWidget & widget)
         return label->text();
     if (const auto * const list = qobject_cast<const QComboBox *>(&widget))
         return list->currentText();
+    if (const auto * const text = qobject_cast<const QPlainTextEdit *>(&widget))
+        return text->toPlainText();
     return {};
 }
 

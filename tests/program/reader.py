@@ -86,6 +86,13 @@ class Heard:
         return [name for name, _, _ in self.ask(KIND + 'Action', 'GetActions')[0]] if 'Action' in self.kinds else []
 
     @property
+    def place(self):
+        """Left, top, width and height on the screen."""
+        if 'Component' not in self.kinds:
+            return None
+        return tuple(self.ask(KIND + 'Component', 'GetExtents', GLib.Variant('(u)', (0,)))[0])
+
+    @property
     def text(self):
         return self.ask(KIND + 'Text', 'GetText', GLib.Variant('(ii)', (0, -1)))[0]
 

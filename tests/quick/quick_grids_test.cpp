@@ -130,7 +130,7 @@ TEST(write_quick_matrix, says_when_it_is_run_for_another_style)
 {
     quick_session session;
     session.start();
-    write_quick_matrix(session.main);
+    write_quick_matrix(session.main, session.main.random);
     EXPECT_EQ(session.desk.next_message(), "write_design not for quick matrix");
     EXPECT_EQ(session.written().size(), 5U);
 }
@@ -149,7 +149,7 @@ TEST(write_quick_matrix, a_shaken_preview_is_laid_out_smaller_and_a_full_size_is
     EXPECT_EQ(main.quick.preview_inset, 0);
     main.optSample.select();
     main.chkResize.tick(true);
-    write_quick_matrix(main);
+    write_quick_matrix(main, main.random);
     EXPECT_EQ(main.quick.preview_inset, 0);
 }
 

@@ -154,6 +154,7 @@ TEST(bring_back, keeps_every_control_and_setting_by_value)
         take_state(*each, other);
     }
     session.main.collage.turns_shown = {{.step = 1, .first = 2}, {.step = 3, .first = 0}};
+    session.main.collage.holes_shown = {0.1, 0, 0.9999999999999999};
     session.main.drawn_background = "";
     session.main.shape_row_bias = 0.1;
     session.main.quick.scatter_line = "04:02:02:four";

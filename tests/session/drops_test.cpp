@@ -1,5 +1,6 @@
 #include "session/drops.h"
 
+#include "photos/lists/photo_list.h"
 #include "session/undo/keep_history.h"
 #include "tests/photos/photo_editor.h"
 #include "tests/quick/quick_session.h"
@@ -129,6 +130,42 @@ TEST(drops, on_the_choice_of_photos_become_the_source)
     session.main.mnuQuick.click();
     EXPECT_TRUE(session.main.collage.quick_active);
     EXPECT_EQ(photo_source_kind(session.main), photo_source::selection);
+}
+
+TEST(drops, on_the_gathering_of_a_selection_are_added_to_it)
+{
+    quick_drops session;
+    frmMain & main = session.main;
+    frmPhotoList & window = session.all.photo_list;
+    main.working_list_path = last_photos_path(main);
+    window.load();
+    EXPECT_EQ(session.offer(window).sentence, "Drop here to add these photos to the selection.");
+    session.drop(window, {session.photos[2], session.photos[0]});
+    EXPECT_EQ(read_file(main.working_list_path),
+              "L " + session.photos[2] + "\r\nL " + session.photos[0] + "\r\n");
+    EXPECT_EQ(window.lblCount.caption(), "Number of photos selected:   2");
+    EXPECT_TRUE(window.cmdEdit.visible());
+    session.drop(window, {folder_of(session.photos.front())});
+    EXPECT_EQ(main.selected_count, 6);
+    session.drop(window, {"/nowhere"});
+    EXPECT_TRUE(session.desk.next_message().starts_with("Nothing of what you dropped can be used:"));
+    EXPECT_EQ(main.selected_count, 6);
+}
+
+TEST(drops, on_a_selection_end_at_its_limit)
+{
+    quick_drops session;
+    frmMain & main = session.main;
+    main.working_list_path = last_photos_path(main);
+    main.selected_count = 997;
+    session.all.photo_list.load();
+    session.drop(session.all.photo_list, session.photos);
+    EXPECT_EQ(session.desk.next_message(), "Maximum number of photos reached");
+    EXPECT_TRUE(session.desk.messages.empty()) << "one cause, one box";
+    EXPECT_EQ(main.selected_count, 999);
+    EXPECT_FALSE(session.offer(session.all.photo_list).taken);
+    EXPECT_EQ(session.offer(session.all.photo_list).sentence,
+              "There is no room for more photos. Clear the list first.");
 }
 
 TEST(drops, on_the_editor_fall_into_their_cell)

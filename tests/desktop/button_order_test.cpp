@@ -1,0 +1,164 @@
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "desktop/qt_desktop.h"
+#include "tests/desktop/stages.h"
+#include "tests/desktop/window_views.h"
+#include "tests/desktop/windows_played.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+// One order of the buttons in all windows: help first, then what else the window does, then the way out, and
+// last, at the right edge, what Enter presses.
+
+namespace {
+
+std::string caption_of(const QAbstractButton & button)
+{
+    return button.text().remove(QLatin1Char('&')).toStdString();
+}
+
+bool stands_in_row_of(const QWidget & window, const QWidget & one, const QWidget & other)
+{
+    return one.isVisible() && std::abs(one.mapTo(&window, one.rect().center()).y() -
+                                       other.mapTo(&window, other.rect().center()).y()) < 8;
+}
+
+// Those in the row of the button that Enter presses, from the left.
+std::vector<QPushButton *> row_of_default(const QWidget & window)
+{
+    const auto buttons = window.findChildren<QPushButton *>();
+    const auto found = std::ranges::find_if(
+        buttons, [](const auto * each) { return each->isDefault() && each->isVisible(); });
+    if (found == buttons.end())
+        return {};
+    std::vector<QPushButton *> row;
+    for (QPushButton * each : buttons)
+        if (stands_in_row_of(window, *each, **found))
+            row.push_back(each);
+    std::ranges::sort(row, {}, [&](const QPushButton * each) { return each->mapTo(&window, QPoint()).x(); });
+    return row;
+}
+
+bool is_way_out(const std::string & caption)
+{
+    return caption == "Cancel" || caption == "No";
+}
+
+// A line for each button that stands elsewhere.
+std::vector<std::string> misplaced(const QWidget & window)
+{
+    std::vector<std::string> faults;
+    const auto row = row_of_default(window);
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const std::string caption = caption_of(*row[i]);
+        const bool is_default = row[i]->isDefault();
+        const bool wrong_end = is_default != (i + 1 == row.size());
+        const bool wrong_help = caption == "Help" && i > 0;
+        const bool wrong_way_out =
+            caption == "Cancel" && i + 2 < row.size() && !is_way_out(caption_of(*row[i + 1]));
+        if (wrong_end || wrong_help || wrong_way_out)
+            faults.push_back(caption + " as number " + std::to_string(i + 1) + " of " +
+                             std::to_string(row.size()));
+    }
+    return faults;
+}
+
+using faults = std::vector<std::string>;
+
+TEST(buttons, of_every_window_stand_in_one_order)
+{
+    filled_session session;
+    int rows = 0;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        EXPECT_EQ(misplaced(shown.window()), faults());
+        rows += row_of_default(shown.window()).size() > 1;
+    }
+    EXPECT_GE(rows, 20);
+}
+
+TEST(buttons, of_the_main_window_stand_in_that_order_too)
+{
+    scripted_desktop desk;
+    frmMain main(desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {});
+    main.load();
+    window->show();
+    for (const look stage : all_looks) {
+        SCOPED_TRACE(name_of(stage, shape::portrait));
+        bring_to(main, stage, shape::portrait);
+        QApplication::processEvents();
+        EXPECT_EQ(misplaced(*window), faults());
+        EXPECT_EQ(row_of_default(*window).size(), stage == look::choosing ? 0U : 3U);
+    }
+}
+
+TEST(buttons, that_enter_presses_look_alike_in_every_window_and_stand_out)
+{
+    filled_session session;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        const auto row = row_of_default(shown.window());
+        if (row.empty() || !row.back()->isEnabled())
+            continue;
+        const QPoint left(6, row.back()->height() / 2);
+        EXPECT_EQ(row.back()->grab().toImage().pixelColor(left * row.back()->devicePixelRatio()),
+                  QApplication::palette().color(QPalette::Highlight));
+    }
+}
+
+TEST(buttons, of_questions_and_messages_stand_in_that_order_too)
+{
+    qt_desktop desk;
+    faults order;
+    const auto note = [&](QWidget & box) {
+        for (const QPushButton * each : row_of_default(box))
+            order.push_back(caption_of(*each));
+    };
+    when_asked<QMessageBox>([&](QMessageBox & box) {
+        note(box);
+        box.button(QMessageBox::Cancel)->click();
+    });
+    desk.ask({.title = "File", .text = "Replace it?", .offered = answers::yes_no_cancel});
+    EXPECT_EQ(order, (faults{"Cancel", "No", "Yes"}));
+    order.clear();
+    when_asked<QMessageBox>([&](QMessageBox & box) {
+        note(box);
+        box.button(QMessageBox::Ok)->click();
+    });
+    desk.message("Done.", {});
+    EXPECT_EQ(order, faults{"Ok"});
+    order.clear();
+    when_asked<QColorDialog>([&](QColorDialog & box) {
+        note(box);
+        box.reject();
+    });
+    EXPECT_EQ(desk.choose_color(0xFF), std::nullopt);
+    EXPECT_EQ(order, (faults{"Cancel", "Ok"}));
+}
+
+// Where the system's texts don't fix it.
+TEST(buttons, spell_ok_in_one_way)
+{
+    filled_session session;
+    for (const window_view & view : session.views()) {
+        const shown_view shown(view);
+        for (const QPushButton * each : shown.window().findChildren<QPushButton *>())
+            if (each->objectName() != QLatin1String("OKButton") &&
+                each->objectName() != QLatin1String("cmdOK")) {
+                EXPECT_NE(caption_of(*each), "OK") << view.name;
+            }
+    }
+}
+
+}  // namespace
