@@ -149,7 +149,7 @@ void display_content(const text_box & held, QPlainTextEdit & widget)
 }
 
 // All of them in the middle of the same room, so that the texts beside them begin in one line.
-QIcon picture_icon(const QString & path, QSize room)
+QPixmap picture_in_room(const QString & path, QSize room)
 {
     QPixmap sheet(room);
     sheet.fill(Qt::transparent);
@@ -160,6 +160,15 @@ QIcon picture_icon(const QString & path, QSize room)
     QPainter(&sheet).drawImage((room.width() - small.width()) / 2, (room.height() - small.height()) / 2,
                                small);
     return sheet;
+}
+
+// The entry that is selected keeps its colours.
+QIcon picture_icon(const QString & path, QSize room)
+{
+    QIcon icon;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+        icon.addPixmap(picture_in_room(path, room), mode);
+    return icon;
 }
 
 bool has_items(const QListWidget & widget, const QStringList & wanted)
