@@ -1,10 +1,10 @@
 #include "batch/page_plan.h"
 
 #include "support/files/paths.h"
+#include "support/real_text.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <optional>
 #include <string_view>
 
@@ -38,11 +38,11 @@ double points(double millimetres)
 
 std::optional<double> length(std::string_view text)
 {
-    double read = 0;
-    const auto [end, fault] =
-        std::from_chars(text.data(), text.data() + text.size(), read, std::chars_format::fixed);
-    const bool is_number = fault == std::errc{} && end == text.data() + text.size();
-    return is_number ? std::optional(read) : std::nullopt;
+    if (text.find_first_not_of("0123456789.") != std::string_view::npos)
+        return std::nullopt;
+    const real_read number = real_at_start(text);
+    const bool is_whole = number.fault == std::errc{} && number.length == text.size();
+    return is_whole ? std::optional(number.value) : std::nullopt;
 }
 
 bool is_possible(double millimetres)

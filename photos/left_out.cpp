@@ -136,7 +136,8 @@ void tell_left_out(frmMain & main)
 void tell_none_usable(frmMain & main)
 {
     left_out_photos & left_out = main.left_out;
-    if (left_out.told_by == left_out_photos::teller::caller || left_out.told_in_this_run)
+    const bool this_run_told_all = left_out.told_in_this_run && left_out.told == left_out.photos.size();
+    if (left_out.told_by == left_out_photos::teller::caller || this_run_told_all)
         return;
     note_told(left_out);
     main.desk.message(box_text(main, left_out.photos));

@@ -2,16 +2,17 @@
 
 #include "session/windows.h"
 #include "support/numbers.h"
+#include "support/windows/display_faces.h"
 
 namespace {
 
-// The first font of the screen is passed over.
+// The first font of the screen is passed over; of the others those for titles are what a caption wants.
 std::vector<std::string> offered_fonts(desktop & desk)
 {
     std::vector<std::string> names = desk.font_names();
     if (!names.empty())
         names.erase(names.begin());
-    return names;
+    return display_faces_first(std::move(names));
 }
 
 template <typename Change>

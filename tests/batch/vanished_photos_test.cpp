@@ -96,6 +96,40 @@ protected:
         testing::internal::CaptureStderr();
         open_session running(arguments, folders);
         EXPECT_EQ(make_collage(running, arguments), exit_status::made);
+        return flurned(running, change);
+    }
+
+    // The same from one of the designers.
+    poster designed(menu_entry frmMain::*entry, const std::function<void()> & change) const
+    {
+        make_photos();
+        testing::internal::CaptureStderr();
+        open_session running({}, folders);
+        running.desk.on_modal = [&](form & window) { design(running.all, window); };
+        (running.all.main.*entry).click();
+        EXPECT_EQ(running.all.main.table.last_photo, 8);
+        return flurned(running, change);
+    }
+
+private:
+    void design(windows & all, form & window) const
+    {
+        if (&window == &all.lettering) {
+            all.lettering.txtLettering.set_text("Our summer");
+            all.lettering.cmdOk.click();
+        } else if (&window == &all.puzzle) {
+            all.puzzle.cmdOk.click();
+        } else if (&window == &all.matrix) {
+            all.matrix.cmdOk.click();
+        } else if (&window == &all.select_photos) {
+            all.select_photos.txtCards.set_text(folder);
+            all.select_photos.cmdOk.enable(true);
+            all.select_photos.cmdOk.click();
+        }
+    }
+
+    static poster flurned(open_session & running, const std::function<void()> & change)
+    {
         change();
         testing::internal::GetCapturedStderr();
         testing::internal::CaptureStderr();
@@ -111,11 +145,14 @@ protected:
     }
 };
 
+using kind_of_poster = std::function<poster(const std::function<void()> &)>;
+
 const option_words styles[] = {
     {"--design", "Mosaic wall"},
     {"--design", "Mosaic wall", "--set", "chkMatch=0"},
     {"--design", "Mosaic wall", "--set", "chkCaption=1"},
     {"--design", "Waves", "--set", "chkSoftEdge=1"},
+    {"--design", "Framed family", "--frames", "soccer"},
     {"--quick", "block"},
     {"--quick", "scattered"},
     {"--quick", "matrix"},
@@ -131,22 +168,41 @@ std::string told_of_look(const option_words & look)
     return text;
 }
 
+// Of each style, then of each designer.
+class vanished_in_any_style : public vanished_photos {
+protected:
+    std::vector<std::pair<std::string, kind_of_poster>> kinds() const
+    {
+        std::vector<std::pair<std::string, kind_of_poster>> all;
+        for (const option_words & look : styles)
+            all.emplace_back(told_of_look(look), [this, &look](const std::function<void()> & change) {
+                return made(look, change);
+            });
+        for (const auto entry : {&frmMain::mnuMatrix, &frmMain::mnuLettering, &frmMain::mnuPuzzle})
+            all.emplace_back("designer", [this, entry](const std::function<void()> & change) {
+                return designed(entry, change);
+            });
+        return all;
+    }
+};
+
 }  // namespace
 
-TEST_F(vanished_photos, leave_no_place_empty_and_are_named_once)
+TEST_F(vanished_in_any_style, leave_no_place_empty_and_are_named_once)
 {
     std::size_t next = 0;
-    for (const option_words & look : styles) {
-        const poster sound = made(look, [] {});
-        EXPECT_EQ(times_told(sound, "left out"), 0) << told_of_look(look);
-        // Each look meets two of the photo_changes, and each change several styles.
+    for (const auto & [name, poster_after] : kinds()) {
+        const poster sound = poster_after([] {});
+        EXPECT_TRUE(sound.shown) << name;
+        EXPECT_EQ(times_told(sound, "left out"), 0) << name;
+        // Each kind meets two of the changes, and each change several kinds.
         for (int i = 0; i < 2; ++i, ++next) {
             const named_change & change = photo_changes[next % std::size(photo_changes)];
-            const poster spoiled = made(look, [&] {
+            const poster spoiled = poster_after([&] {
                 change.make(photo(1));
                 change.make(photo(4));
             });
-            const std::string where = told_of_look(look) + change.reason;
+            const std::string where = name + change.reason;
             EXPECT_TRUE(spoiled.shown) << where;
             EXPECT_NEAR(spoiled.empty, sound.empty, 3) << where;
             const int named = change.reason[0] == '\0' ? 0 : 1;
@@ -157,12 +213,12 @@ TEST_F(vanished_photos, leave_no_place_empty_and_are_named_once)
     }
 }
 
-TEST_F(vanished_photos, with_their_folder_make_no_poster)
+TEST_F(vanished_in_any_style, with_their_folder_make_no_poster)
 {
-    for (const option_words & look : styles) {
-        const poster gone = made(look, [&] { fs::remove_all(folder); });
-        EXPECT_FALSE(gone.shown) << told_of_look(look);
-        EXPECT_EQ(times_told(gone, "None of your photos can be used:"), 1) << told_of_look(look) << gone.told;
-        EXPECT_EQ(times_told(gone, photo(8) + ": it isn't there any more"), 1) << told_of_look(look);
+    for (const auto & [name, poster_after] : kinds()) {
+        const poster gone = poster_after([&] { fs::remove_all(folder); });
+        EXPECT_FALSE(gone.shown) << name;
+        EXPECT_EQ(times_told(gone, "None of your photos can be used:"), 1) << name << gone.told;
+        EXPECT_EQ(times_told(gone, photo(8) + ": it isn't there any more"), 1) << name;
     }
 }

@@ -84,3 +84,24 @@ TEST_F(left_out_test, a_caller_that_names_them_itself_gets_no_box)
     EXPECT_EQ(main.left_out.told_by, left_out_photos::teller::caller);
     EXPECT_TRUE(main.left_out.photos.empty());
 }
+
+TEST_F(left_out_test, that_none_is_left_is_said_unless_this_run_has_named_them_all)
+{
+    use({"a.jpg", "b.jpg"});
+    leave_out(main, "a.jpg", photo_fault::cut_short);
+    tell_left_out(main);
+    EXPECT_EQ(
+        desk.next_message(),
+        "This photo was left out:\r\na.jpg: it was cut short\r\n\r\nCopy what was cut short to its place "
+        "again.\r\nThen choose your photos again.");
+    leave_out(main, "b.jpg", photo_fault::too_long);
+    tell_none_usable(main);
+    const std::string all = desk.next_message();
+    EXPECT_TRUE(all.starts_with("None of your photos can be used:\r\na.jpg: it was cut short\r\nb.jpg: "))
+        << all;
+    tell_none_usable(main);
+    EXPECT_TRUE(desk.messages.empty());
+    main.left_out.told_in_this_run = false;
+    tell_none_usable(main);
+    EXPECT_EQ(desk.next_message(), all);
+}

@@ -106,18 +106,19 @@ TEST(seed_pictures, every_background_of_a_design_fills_its_poster_and_has_its_pr
     EXPECT_GE(found, 70);
 }
 
-// A caption begins at the top, white, or red where the catalogue asks for it.
-TEST(seed_pictures, a_caption_has_the_color_that_is_read_best_on_its_background)
+// A caption begins at the top and white. The red that a catalogue can ask for is no better on any ground but
+// black.
+TEST(seed_pictures, a_caption_is_read_in_white_on_every_background)
 {
-    constexpr double red = 0.2126, white = 1;
+    constexpr double white = 1, least = 4.5;
     int found = 0;
     for (const design & one : catalogue()) {
         const std::string name = value(one, "BG Image");
         if (!name.ends_with(".jpg"))
             continue;
         const double ground = brightness_behind_a_caption("images/preview/p_" + name);
-        const bool wants_red = contrast(red, ground) > contrast(white, ground);
-        EXPECT_EQ(!value(one, "Caption Color").empty(), wants_red) << name << ", " << ground;
+        EXPECT_GE(contrast(white, ground), least) << name << ", " << ground;
+        EXPECT_TRUE(value(one, "Caption Color").empty()) << name;
         ++found;
     }
     EXPECT_GE(found, 70);
@@ -150,8 +151,8 @@ TEST(seed_pictures, backgrounds_fill_the_poster_and_have_their_previews)
 {
     EXPECT_EQ(size_of("images/autumn.jpg"), "2000x3000");
     EXPECT_EQ(size_of("images/preview/p_autumn.jpg"), "300x450");
-    EXPECT_EQ(size_of("images/starry_night.jpg"), "3000x2000");
-    EXPECT_EQ(size_of("images/preview/p_starry_night.jpg"), "450x300");
+    EXPECT_EQ(size_of("images/starry_night_wide.jpg"), "3000x2000");
+    EXPECT_EQ(size_of("images/preview/p_starry_night_wide.jpg"), "450x300");
     EXPECT_EQ(size_of("samples/not_yet.jpg"), "300x450");
 }
 
@@ -181,7 +182,7 @@ TEST(seed_pictures, every_fixed_picture_and_mask_of_a_template_is_built)
         EXPECT_TRUE(std::filesystem::exists(built(fixed ? name : "images/" + name))) << name;
         ++found;
     }
-    EXPECT_GT(found, 50);
+    EXPECT_GT(found, 40);
 }
 
 TEST(seed_pictures, the_folders_that_the_program_expects_are_there)

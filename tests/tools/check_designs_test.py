@@ -4,6 +4,7 @@ import importlib.util
 import pathlib
 import re
 import shutil
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -32,6 +33,7 @@ System=Yes
 Count=3
 Sample=plain.jpg
 Description=plain
+Caption Clear=Yes
 Turn BG=Yes
 
 [Design102]
@@ -45,6 +47,7 @@ Count=3
 Sample=tilted.jpg
 Description=tilted
 BG Image=sky.jpg
+Match=No
 Turn BG=No
 
 [Design103]
@@ -57,6 +60,8 @@ System=Yes
 Count=12
 Sample=rows.jpg
 Description=rows
+Match=No
+Caption Clear=Yes
 Turn BG=No
 
 [Design104]
@@ -69,6 +74,7 @@ System=Yes
 Count=2
 Sample=framed.jpg
 Description=framed
+Match=No
 Turn BG=No
 """
 TEMPLATES = """[plain]
@@ -85,10 +91,10 @@ TEMPLATES = """[plain]
 100:100:4:3:0:0:0:0:
 40:40:500:500:0:-1:-1:0:
 [framed]
-100:100:900:600:0:0:0:0:@/pframe
-140:130:700:540:0:0:0:0:
-100:900:900:600:0:0:0:0:@/pframe
-140:930:700:540:0:0:0:0:
+300:100:690:460:0:0:0:0:@/pframe
+340:130:540:400:0:0:0:0:
+300:900:690:460:0:0:0:0:@/pframe
+340:930:540:400:0:0:0:0:
 """
 DESCRIPTIONS = "".join(f"[{name}]\nA description.\n" for name in ("plain", "tilted", "rows", "framed"))
 PICTURES = ("samples/plain.jpg", "samples/plain.jpg_", "samples/tilted.jpg", "samples/rows.jpg", "samples/framed.jpg",
@@ -105,6 +111,13 @@ class CheckDesigns(unittest.TestCase):
         for name in PICTURES:
             (self.seed / name).parent.mkdir(parents=True, exist_ok=True)
             (self.seed / name).touch()
+        self.paint_sky(60)
+
+    def paint_sky(self, level, band=None):
+        """A sky of one grey, and of another one in its upper part."""
+        rows = [bytes([band if band is not None and y < 20 else level] * 3 * 150) for y in range(100)]
+        subprocess.run(["cjpeg", "-quality", "95", "-outfile", str(self.seed / "images/sky.jpg")], check=True,
+                       input=b"P6 150 100 255\n" + b"".join(rows))
 
     def change(self, name, old, new):
         path = self.seed / name
@@ -180,14 +193,14 @@ class CheckDesigns(unittest.TestCase):
     def test_a_photo_hidden_by_a_fixed_picture(self):
         self.assert_one("design_list", "1000:1300:400:600:0:0", "980:290:440:640:0:0", "landscape: location 3 is hidden by 100%")
 
-    def test_a_photo_hidden_by_half_is_none(self):
-        self.change("design_list", "100:800:900:600", "100:400:900:600")
+    def test_a_photo_hidden_by_a_third_is_none(self):
+        self.change("design_list", "100:800:900:600", "100:510:900:600")
         self.assertEqual(self.problems(), [])
 
     def test_a_photo_whose_middle_is_hidden(self):
         self.change("design_list", "100:800:900:600", "400:100:300:600")
         self.assertEqual([problem for problem in self.problems() if problem.startswith("Plain: portrait")],
-                         ["Plain: portrait: the middle of location 1 is hidden by 86%"])
+                         ["Plain: portrait: the middle of location 1 is hidden by 100%"])
 
     def test_a_strip(self):
         self.change("design_list", "1100:100:600:900", "1100:100:450:900")
@@ -199,6 +212,7 @@ class CheckDesigns(unittest.TestCase):
             (self.seed / name).unlink()
             self.assert_found("missing: " + name + "$")
             (self.seed / name).touch()
+            self.paint_sky(60)
 
     def test_a_missing_description(self):
         self.assert_one("description_list", "[rows]", "[row]", "Rows: no description")
@@ -212,6 +226,10 @@ class CheckDesigns(unittest.TestCase):
         self.change("designs.ini", "File=tilted", "File=plain")
         self.assert_found("Tilted: File stands twice: plain")
 
+    def test_a_number_that_stands_twice(self):
+        self.change("designs.ini", "[Design103]", "[Design102]")
+        self.assert_found("Rows: Design102 stands twice")
+
     def test_a_key_in_the_wrong_case_or_with_blanks(self):
         self.change("designs.ini", "Count=12", "count=12")
         self.assert_found("Rows: no such key: count=12")
@@ -219,8 +237,7 @@ class CheckDesigns(unittest.TestCase):
         self.assert_found("Tilted: no such key: Design =Scatter")
 
     def test_a_grid_that_would_turn(self):
-        self.assert_one("designs.ini", "Sample=rows.jpg\nDescription=rows\nTurn BG=No",
-                        "Sample=rows.jpg\nDescription=rows\nTurn BG=Yes", "Rows: a grid can't turn")
+        self.assert_one("designs.ini", "Match=No\nCaption Clear=Yes\nTurn BG=No", "Match=No\nCaption Clear=Yes\nTurn BG=Yes", "Rows: a grid can't turn")
 
     def test_a_cell_of_a_grid_off_the_poster(self):
         self.assert_one("design_list", "100:100:4:3:", "100:100:4:5:", "Rows: portrait: location 5 leaves the poster")
@@ -239,6 +256,44 @@ class CheckDesigns(unittest.TestCase):
 
     def test_a_design_behind_those_of_custom_frames(self):
         self.assert_one("designs.ini", "Design=Scatter", "Design=Frame", "Rows: stands behind the designs of custom frames")
+
+    def test_a_design_for_one_kind_of_photos_that_asks_to_match(self):
+        self.change("designs.ini", "BG Image=sky.jpg\nMatch=No", "BG Image=sky.jpg\nMatch=Yes")
+        self.assert_found(r"Tilted: landscape: \d+ of 20 mixes of photos show one twice while another stays out")
+
+    def test_a_grid_that_parts_its_cells_takes_every_mix(self):
+        self.change("designs.ini", "Style=Fill", "Style=Matrix")
+        self.change("designs.ini", "Match=No\nCaption Clear", "Match=Yes\nCaption Clear")
+        self.assert_found("Rows: portrait: .* mixes")
+        self.change("design_list", "100:100:4:3:0:", "100:100:4:3:1:")
+        self.assertEqual(self.problems(), [])
+
+    def test_photos_in_the_place_of_the_caption(self):
+        self.change("designs.ini", "Caption Clear=Yes\nTurn BG=Yes", "Turn BG=Yes")
+        self.assert_found(r"Plain: portrait: photos take \d+% of the caption's place at the top")
+        self.assert_found(r"Plain: landscape: photos take \d+% of the caption's place at the top")
+
+    def test_a_page_of_an_occasion_keeps_the_place_without_clearing_it(self):
+        self.change("designs.ini", "Design=Block\nBackground=Portrait\nSystem=Yes\nCount=3", "Design=Theme\nBackground=Portrait\nSystem=Yes\nCount=3")
+        self.assert_found("Plain: portrait: photos take .* at the top")
+
+    def test_photos_that_stay_in_the_place_of_a_cleared_caption(self):
+        self.change("design_list", "1100:100:600:900", "2000:100:600:1300")
+        self.assertEqual([problem for problem in self.problems() if "caption" in problem], [])
+        self.change("design_list", "2000:100:600:1300", "2900:100:800:1200")
+        self.assert_found("Plain: portrait: photos take .* at the bottom")
+
+    def test_a_ground_too_light_for_the_caption(self):
+        self.paint_sky(60, 150)
+        found = [problem for problem in self.problems() if "contrast" in problem]
+        self.assertEqual(found, ["Tilted: landscape: a caption at the top has a contrast of 3.0 to sky.jpg"])
+
+    def test_a_ground_too_light_all_over(self):
+        self.paint_sky(200)
+        self.assert_found("a caption at the bottom has a contrast of 1.7 to sky.jpg")
+
+    def test_a_frame_that_would_be_enlarged(self):
+        self.assert_one("design_list", "300:100:690:460", "300:100:701:460", "Framed: location 1: a frame would be enlarged to 701 pixels")
 
     def test_too_few_or_too_many_lines(self):
         self.change("design_list", "1100:100:600:900:0:-1:-1:0:\n", "")

@@ -3,6 +3,7 @@
 A short hill climb over a coarse raster, whose points are the bits of whole numbers, from a fixed seed. All sizes in
 pixels of the upright poster; a photo turns about its own top-left corner.
 """
+import concurrent.futures
 import math
 import random
 from dataclasses import dataclass, replace
@@ -15,6 +16,11 @@ HANG = 130          # how far a corner may leave the poster
 HANG_TURNED = 140   # the same, beyond the former, for a large photo that has been turned
 ROOM = 85           # how far a turned photo may reach before the program takes a broader border
 MOST_PRODUCT = 32767  # of a side and the tilt
+HEAPS = (1.36, 1.28, 1.44, 1.22)  # areas of all photos to that of the poster: those that are tried in turn
+FEW = 4               # photos up to which bare corners are worse than hidden middles
+FEW_HEAPS = (1.5, 1.42, 1.58, 1.34)  # the same for so few
+MIDDLE_COUNTS = 5     # how much a hidden middle weighs
+TURNED_COUNTS = 0.3   # the same for what is hidden when photos are turned
 MOST_TURNED = 24      # photos up to which the search looks at what turned photos leave bare; with more it hardly shows
 
 # How far a turned photo reaches from its corner, in its longer side, by tilt from -35 in steps of 5 without 0: the
@@ -42,6 +48,10 @@ class Photo:
 
     def place(self):
         return centred(self.x, self.y, self.width, self.height, self.tilt)
+
+    def middle(self):
+        """Its middle third, where faces are."""
+        return replace(self, width=self.width / 3, height=self.height / 3)
 
     def corners(self):
         """The four corners as (x, y), clockwise."""
@@ -118,9 +128,24 @@ def overhang(corners, height):
     return max(0, max(-min(xs), -min(ys), max(xs) - WIDTH, max(ys) - height) - HANG)
 
 
+def hiding(order, spans, middles, middle_counts):
+    """What is covered, and how bad it is that photos are hidden when they are drawn in this order."""
+    above = hidden = 0
+    for index in reversed(order):
+        span, middle = spans[index], middles[index]
+        points = span.bit_count()
+        lacking = 0.66 - (span & ~above).bit_count() / max(1, points)
+        if lacking > 0:
+            hidden += points * (12 * lacking) ** 2
+        hidden += points * (middle_counts * (middle & above).bit_count() / max(1, middle.bit_count())) ** 2
+        above |= span
+    return above, hidden
+
+
 class Throw:
     def __init__(self, total, height, heap, chance):
         self.total, self.height, self.chance = total, height, chance
+        self.middle_counts, self.turned_counts = (1, 0) if total <= FEW else (MIDDLE_COUNTS, TURNED_COUNTS)
         area, self.worth_of_corner = WIDTH * height, 28 if total <= 16 else 14
         longest = WIDTH * (0.78 if total > 4 else 0.96 if height > WIDTH else 0.86)
         self.long_side = max(12, math.floor(min(math.sqrt(1.5 * heap * area / total), longest) / 12) * 12)
@@ -130,6 +155,7 @@ class Throw:
         self.spans = [self.span(photo) for photo in self.photos]
         self.strains = [self.strain(photo) for photo in self.photos]
         self.turned_spans = [self.turned_span(photo) for photo in self.photos]
+        self.middles = [self.raster.span(photo.middle().corners()) for photo in self.photos]
 
     def span(self, photo):
         return self.raster.span(photo.corners())
@@ -203,7 +229,7 @@ class Throw:
             span, strain = self.span(new), self.strain(new)
             if self.gain(strain, span, *rest) >= self.gain(self.strains[index], self.spans[index], *rest):
                 self.photos[index], self.spans[index], self.strains[index] = new, span, strain
-                self.turned_spans[index] = self.turned_span(new)
+                self.turned_spans[index], self.middles[index] = self.turned_span(new), self.raster.span(new.middle().corners())
 
     def shown(self, order):
         """How much of each photo shows when they are drawn in this order, as {photo: share}."""
@@ -234,6 +260,17 @@ class Throw:
                 best, best_share = order, share
         return best, best_share
 
+    def most_middle_hidden(self, order):
+        above = worst = 0
+        for index in reversed(order):
+            worst = max(worst, (self.middles[index] & above).bit_count() / max(1, self.middles[index].bit_count()))
+            above |= self.spans[index]
+        return worst
+
+    def furthest_turned(self):
+        """How far a photo leaves the poster when it is turned, in pixels."""
+        return max(overhang(photo.turned().corners(), self.height) for photo in self.photos) + HANG
+
     def turnings(self, order):
         """The sets of photos that are turned for other counts than those it is drawn for."""
         tall = [index for index in order if self.photos[index].height > self.photos[index].width]
@@ -253,20 +290,19 @@ class Throw:
     def cost_of_turns(self, order):
         if self.total > MOST_TURNED:
             return 0
-        costs = [6 * bare.bit_count() + self.worth_of_corner / 2 * (bare & self.raster.corners).bit_count()
-                 for bare in self.bare_when_turned(order)]
+        costs = []
+        for turned in self.turnings(order):
+            covered, hidden = hiding(order, [self.turned_spans[index] if index in turned else span
+                                             for index, span in enumerate(self.spans)], self.middles,
+                                     self.middle_counts)
+            bare = self.raster.all & ~covered
+            costs.append(6 * bare.bit_count() + self.worth_of_corner / 2 * (bare & self.raster.corners).bit_count()
+                         + self.turned_counts * hidden)
         return sum(costs) / len(costs) + max(costs)
 
     def badness(self, order):
         """What is wrong with the whole throw, drawn in this order: bare points, hidden photos."""
-        above = hidden = 0
-        for index in reversed(order):
-            span = self.spans[index]
-            points = span.bit_count()
-            lacking = 0.66 - (span & ~above).bit_count() / max(1, points)
-            if lacking > 0:
-                hidden += points * (12 * lacking) ** 2
-            above |= span
+        above, hidden = hiding(order, self.spans, self.middles, self.middle_counts)
         bare = self.raster.all & ~above
         return 6 * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() + hidden + \
             self.cost_of_turns(order)
@@ -283,13 +319,15 @@ class Throw:
                 new = replace(new, tilt=self.chance.choice(tilts))
             if self.leaves(new, old):
                 continue
-            old_turned = self.turned_spans[index]
+            old_turned, old_middle = self.turned_spans[index], self.middles[index]
             self.photos[index], self.spans[index], self.turned_spans[index] = new, self.span(new), self.turned_span(new)
+            self.middles[index] = self.raster.span(new.middle().corners())
             changed, strain = self.badness(order), self.strain(new)
             if changed + strain <= bad + self.strains[index]:
                 bad, self.strains[index] = changed, strain
             else:
                 self.photos[index], self.spans[index], self.turned_spans[index] = old, old_span, old_turned
+                self.middles[index] = old_middle
 
     def strain(self, photo):
         pixels = 0.25 * photo.lack_of_room(self.height)
@@ -324,13 +362,21 @@ class Scatter:
     bare: float
     bare_corner: float
     bare_turned: float
+    middle_hidden: float
+    beyond_turned: float
 
     def tall(self):
         return sum(place.height > place.width for place in self.places)
 
     def flaws(self):
-        return 10 * max(0, 0.54 - self.least_shown) + 3 * self.bare + 25 * max(0, self.bare - 0.035) + \
-            2.5 * self.bare_corner ** 2 + 8 * max(0, self.bare_turned - 0.06)
+        return 10 * max(0, 0.61 - self.least_shown) + 2 * max(0, self.middle_hidden - 0.05) + 3 * self.bare + 25 * max(0, self.bare - 0.035) + \
+            2.5 * self.bare_corner ** 2 + 8 * max(0, self.bare_turned - 0.06) + self.breaches()
+
+    def breaches(self):
+        """What a poster must not have: a bare corner, a hidden middle, a photo that is off it when it is turned."""
+        few, many = len(self.places) <= FEW, len(self.places) >= 12
+        return 20 * (max(0, self.bare_corner - (0.65 if few else 0.5)) + max(0, self.middle_hidden - 0.28)
+                     + max(0, self.bare - (0.1 if len(self.places) == 3 else 0.05))) + max(0, self.beyond_turned - (320 if many else 530)) / 20
 
     def entry(self):
         return f"{len(self.places):02}:{self.tall():02}:{len(self.places) - self.tall():02}:{self.name}"
@@ -344,24 +390,26 @@ class Scatter:
 def thrown(total, height, name):
     """The best of some throws; the first that is good enough ends the search."""
     found = []
-    for attempt in range(60 if total <= 7 else 20 if total <= 16 else 8 if total <= 24 else 4):
+    for attempt in range(60 if total <= 7 else 24 if total <= 16 else 16 if total <= 24 else 4):
         chance = random.Random(f"{name} {attempt}")
-        throw = Throw(total, height, (1.5, 1.42, 1.58, 1.34)[attempt % 4], chance)
+        throw = Throw(total, height, (FEW_HEAPS if total <= FEW else HEAPS)[attempt % 4], chance)
         throw.improve(100 + 5 * total)
         for _ in range(3 if total <= 24 else 2):
-            throw.settle(throw.in_order()[0], 200 + (14 if total <= 40 else 9) * total)
+            throw.settle(throw.in_order()[0], 900 + 30 * total if total <= 24 else 200 + (14 if total <= 40 else 9) * total)
         order, share = throw.in_order()
         found.append(Scatter(name, height, [throw.photos[index].place() for index in order], share, *throw.bare_share(),
-                             throw.most_bare_when_turned(order)))
+                             throw.most_bare_when_turned(order), throw.most_middle_hidden(order), throw.furthest_turned()))
         if found[-1].flaws() < (0.08 if total <= 24 else 0.11):
             break
     return min(found, key=Scatter.flaws)
 
 
 def all_scatters():
-    tall = [thrown(total, 3000, f"scatter{total:02}") for total in scatter_totals()]
-    square = [thrown(total, 2000, f"square{total:02}") for total in scatter_totals()]
-    return tall, square
+    totals = scatter_totals()
+    with concurrent.futures.ProcessPoolExecutor() as pool:
+        tall = pool.map(thrown, totals, [3000] * len(totals), [f"scatter{total:02}" for total in totals])
+        square = pool.map(thrown, totals, [2000] * len(totals), [f"square{total:02}" for total in totals])
+        return list(tall), list(square)
 
 
 def tables(tall, square):

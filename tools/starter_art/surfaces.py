@@ -59,12 +59,12 @@ def cloth(size, color, dark, light, seed, step=8.0):
 
 
 def gingham(size):
-    """A picnic blanket of red and white checks."""
+    """A picnic blanket of two reds."""
     chance = random.Random(7)
-    below, above = washed(size, "#fbf6ee", shine=0.15, shade=0.22)
+    below, above = washed(size, "#87403a", shine=0.1, shade=0.3)
     check = 120
-    bands = [rectangle(x, 0, check, size[1], fill="#c63a33", fill_opacity="0.55") for x in range(check // 2, size[0], 2 * check)]
-    bands += [rectangle(0, y, size[0], check, fill="#c63a33", fill_opacity="0.55") for y in range(check // 2, size[1], 2 * check)]
+    bands = [rectangle(x, 0, check, size[1], fill="#561b1b", fill_opacity="0.6") for x in range(check // 2, size[0], 2 * check)]
+    bands += [rectangle(0, y, size[0], check, fill="#561b1b", fill_opacity="0.6") for y in range(check // 2, size[1], 2 * check)]
     threads = [path(thread, stroke="#ffffff", stroke_opacity="0.12", stroke_width="3", fill="none")
                for upright in (False, True) for thread in lines_across(size, 9, 1, chance, upright)]
     return drawing(*size, below + bands + threads + above)
@@ -109,41 +109,41 @@ def grain(chance, wide, top, high, color, knot):
     return found
 
 
-OAK = ["#c99a63", "#c08f58", "#d2a56e", "#b98750", "#cba06c"]
+OAK = ["#7d5a35", "#74522e", "#86613a", "#6f4d2a", "#7f5c37"]
 WALNUT = ["#5d4030", "#664736", "#543a2b", "#6d4d3a", "#5a3d2e"]
-WHITEWASH = ["#d9d4ca", "#e2ded5", "#cfc9be", "#dcd8cf", "#d3cec4"]
+DRIFTWOOD = ["#5f5c56", "#66635c", "#58554f", "#636059", "#5c5953"]
 
 
 def oak(size):
-    return wood(size, size[1] // 270, OAK, "#6e4520", seed=3)
+    return wood(size, size[1] // 270, OAK, "#3a2410", seed=3)
 
 
 def walnut(size):
     return wood(size, size[1] // 270, WALNUT, "#2a1910", seed=5)
 
 
-def whitewash(size):
-    return wood(size, size[1] // 240, WHITEWASH, "#8e8677", seed=9)
+def driftwood(size):
+    return wood(size, size[1] // 240, DRIFTWOOD, "#2f2c28", seed=9)
 
 
 def linen(size):
-    return cloth(size, "#e6dccb", "#a8977a", "#ffffff", seed=2)
+    return cloth(size, "#5a5143", "#383127", "#b5a88f", seed=2)
 
 
 def slate(size):
-    return cloth(size, "#4d5a68", "#2a343f", "#8fa0b0", seed=4, step=10)
+    return cloth(size, "#45525f", "#262f39", "#8fa0b0", seed=4, step=10)
 
 
 def denim(size):
-    return cloth(size, "#3e5a86", "#20355c", "#9db4d8", seed=6, step=7)
+    return cloth(size, "#34496b", "#1b2b49", "#86a0c8", seed=6, step=7)
 
 
 def sage(size):
-    return cloth(size, "#b9c4ab", "#7f8d70", "#f2f6ea", seed=8, step=9)
+    return cloth(size, "#4c5a45", "#2f3a2b", "#93a287", seed=8, step=9)
 
 
 def blush(size):
-    return cloth(size, "#ecd3cd", "#b88f86", "#fff6f3", seed=12, step=9)
+    return cloth(size, "#6d4744", "#472c2a", "#b58a83", seed=12, step=9)
 
 
 def specks(chance, count, colors, large, stretch=1.0, opacity=(0.3, 0.9)):
@@ -171,8 +171,8 @@ def fibres(chance, count, colors, length, width, opacity):
 def cork(size, rim=44):
     """A board of cork in a wooden frame."""
     chance = random.Random(15)
-    below, above = washed(size, "#c89a66", shine=0.2, shade=0.22)
-    grains = tiles(size, "cork", specks(chance, 330, ["#a87643", "#8a5c30", "#deb988", "#b98650", "#e6c89c", "#6f4722"], 13, 1.5),
+    below, above = washed(size, "#7d5a36", shine=0.1, shade=0.24)
+    grains = tiles(size, "cork", specks(chance, 330, ["#664626", "#503418", "#93704a", "#70502c", "#9a7850", "#3f2812"], 13, 1.5, (0.25, 0.7)),
                    chance)
     edge = [rectangle(rim / 2, rim / 2, size[0] - rim, size[1] - rim, fill="none", stroke="#7c522c", stroke_width=number(rim)),
             rectangle(rim / 4, rim / 4, size[0] - rim / 2, size[1] - rim / 2, fill="none", stroke="#9a6c3f",
@@ -185,33 +185,33 @@ def cork(size, rim=44):
 def felt(size):
     """The green cloth of a card table, with its edge of wood."""
     chance = random.Random(21)
-    below, above = washed(size, "#1f7a54", light="#8fe0b4", shine=0.34, shade=0.42, at=(0.5, 0.45))
+    below, above = washed(size, "#195f43", light="#7ac79f", shine=0.28, shade=0.42, at=(0.5, 0.45))
     hairs = tiles(size, "felt", fibres(chance, 300, ["#0f5638", "#3b9a70", "#17694a"], 34, 2.5, "0.4"), chance)
     wide, high = size
     edge = [rectangle(24, 24, wide - 48, high - 48, fill="none", stroke="#4a2b18", stroke_width="48"),
             rectangle(14, 14, wide - 28, high - 28, fill="none", stroke="#6d4326", stroke_width="18"),
-            rectangle(92, 92, wide - 184, high - 184, fill="none", stroke="#d9c37a", stroke_width="5", stroke_opacity="0.55", rx="40")]
+            rectangle(92, 92, wide - 184, high - 184, fill="none", stroke="#d9c37a", stroke_width="5", stroke_opacity="0.25", rx="40")]
     return drawing(*size, below + hairs + above + edge)
 
 
 def kraft(size):
     """Brown wrapping paper."""
     chance = random.Random(27)
-    below, above = washed(size, "#c9a67c", shine=0.24, shade=0.24)
-    hairs = tiles(size, "kraft", fibres(chance, 170, ["#a07a4e", "#e2c7a2", "#8a6439"], 46, 2.2, "0.42")
-                  + specks(chance, 60, ["#7d5a33", "#efdcc0"], 3.5), chance)
+    below, above = washed(size, "#7d603c", shine=0.12, shade=0.24)
+    hairs = tiles(size, "kraft", fibres(chance, 170, ["#5f4525", "#9c7d55", "#4f381c"], 46, 2.2, "0.42")
+                  + specks(chance, 60, ["#4a341a", "#a88a62"], 3.5), chance)
     return drawing(*size, below + hairs + above)
 
 
 def lawn(size):
     """Grass seen from above, with clover in it."""
     chance = random.Random(33)
-    below, above = washed(size, "#2f6b33", light="#c9f29a", shine=0.26, shade=0.4)
-    blades = tiles(size, "lawn", fibres(chance, 420, ["#1f5226", "#3f8440", "#58a14f", "#2a6430", "#7ab860"], 62, 5, "0.55"), chance)
+    below, above = washed(size, "#1f4a29", light="#8fbf7a", shine=0.2, shade=0.4)
+    blades = tiles(size, "lawn", fibres(chance, 420, ["#143a1c", "#2b5f33", "#3c7343", "#1d4a26", "#4a824c"], 62, 5, "0.55"), chance)
     clover = []
     for _ in range(90):
         x, y, reach = chance.uniform(0, size[0]), chance.uniform(0, size[1]), chance.uniform(9, 16)
-        clover += [circle(x + reach * math.cos(turn), y + reach * math.sin(turn), reach * 0.72, fill="#8fcf73", fill_opacity="0.5")
+        clover += [circle(x + reach * math.cos(turn), y + reach * math.sin(turn), reach * 0.72, fill="#5f9a55", fill_opacity="0.4")
                    for turn in (0.5, 2.6, 4.7)]
     return drawing(*size, below + blades + clover + above)
 
@@ -219,56 +219,76 @@ def lawn(size):
 def plaster(size, color, light, seed):
     """A painted wall in the light of two lamps."""
     chance = random.Random(seed)
-    below, above = washed(size, color, light=light, shine=0.5, shade=0.26, at=(0.5, 0.28))
+    below, above = washed(size, color, light=light, shine=0.24, shade=0.34, at=(0.5, 0.42))
     strokes = tiles(size, "plaster", fibres(chance, 70, ["#ffffff", "#000000"], 150, 9, "0.035"), chance)
     return drawing(*size, below + strokes + above)
 
 
-def white_wall(size):
-    return plaster(size, "#d8d2c6", "#fffaf0", 41)
+def stone_wall(size):
+    return plaster(size, "#5d5b57", "#cfc9bd", 41)
 
 
 def blue_wall(size):
-    return plaster(size, "#42586b", "#a9c6dd", 43)
+    return plaster(size, "#3d5163", "#a9c6dd", 43)
 
 
 def green_wall(size):
-    return plaster(size, "#5f7565", "#cfe3cf", 45)
+    return plaster(size, "#4a5f50", "#cfe3cf", 45)
+
+
+def charcoal(size):
+    return plaster(size, "#2d2d2f", "#8f8f92", 46)
+
+
+def ink(size):
+    return plaster(size, "#1f2b3d", "#7f97b5", 47)
+
+
+def wine(size):
+    return plaster(size, "#43232b", "#b5808c", 48)
+
+
+def forest(size):
+    return plaster(size, "#22352b", "#86a892", 49)
+
+
+def sand(size):
+    return plaster(size, "#665844", "#d6c4a0", 50)
 
 
 def wallpaper(size):
     """Striped wallpaper with small sprigs, and a rail above the skirting board."""
     chance = random.Random(51)
-    below, above = washed(size, "#8fa9a6", light="#ffffff", shine=0.3, shade=0.32)
+    below, above = washed(size, "#3f5350", light="#a9c4bf", shine=0.2, shade=0.34)
     wide, high = size
-    stripes = [rectangle(x, 0, 100, high, fill="#a7bfba", fill_opacity="0.8") for x in range(0, wide, 200)]
-    sprig = [path("M0,46 C-6,16 6,-14 0,-44", fill="none", stroke="#e9e2c6", stroke_width="5")]
+    stripes = [rectangle(x, 0, 100, high, fill="#475d5a", fill_opacity="0.8") for x in range(0, wide, 200)]
+    sprig = [path("M0,46 C-6,16 6,-14 0,-44", fill="none", stroke="#7d928a", stroke_width="5")]
     for side in (-1, 1):
         for y, reach in ((26, 26), (2, 24), (-22, 20)):
             sprig.append(path(f"M0,{y} C{side * reach * 0.5:g},{y - 20} {side * reach:g},{y - 18} {side * reach:g},{y - 26} "
-                              f"C{side * reach * 0.6:g},{y - 4} {side * reach * 0.3:g},{y} 0,{y}Z", fill="#e9e2c6"))
-    sprig.append(circle(0, -52, 8, fill="#d98d7a"))
+                              f"C{side * reach * 0.6:g},{y - 4} {side * reach * 0.3:g},{y} 0,{y}Z", fill="#7d928a"))
+    sprig.append(circle(0, -52, 8, fill="#9a7a6a"))
     defined = ['<defs><g id="sprig">' + "".join(sprig) + "</g></defs>"]
     for column, x in enumerate(range(50, wide, 100)):
         for y in range(90 + (column % 2) * 120, high, 240):
             turn = chance.uniform(-4, 4)
-            defined.append(f'<use xlink:href="#sprig" opacity="0.75" transform="translate({x},{y}) rotate({number(turn)})"/>')
-    board = [rectangle(0, high - 96, wide, 96, fill="#f3efe6"), rectangle(0, high - 104, wide, 12, fill="#ffffff"),
+            defined.append(f'<use xlink:href="#sprig" opacity="0.6" transform="translate({x},{y}) rotate({number(turn)})"/>')
+    board = [rectangle(0, high - 96, wide, 96, fill="#3d4a48"), rectangle(0, high - 104, wide, 12, fill="#566663"),
              rectangle(0, high - 112, wide, 8, fill="#000000", fill_opacity="0.16"),
-             rectangle(0, high - 30, wide, 5, fill="#c9c2b2")]
+             rectangle(0, high - 30, wide, 5, fill="#2b3533")]
     return drawing(*size, below + stripes + defined + above + board)
 
 
 def stock_page(size):
-    """A page of a stamp album: fine squares inside a double line."""
-    below, above = washed(size, "#f3ead6", shine=0.3, shade=0.18)
+    """A dark page of a stamp album: fine squares inside a double line."""
+    below, above = washed(size, "#2f3a40", shine=0.1, shade=0.25)
     wide, high = size
     step = 40
     squares = "".join(f"M{x},90V{high - 90}" for x in range(100, wide - 80, step)) + "".join(
         f"M90,{y}H{wide - 90}" for y in range(100, high - 80, step))
-    edge = [rectangle(60, 60, wide - 120, high - 120, fill="none", stroke="#8a7752", stroke_width="5"),
-            rectangle(78, 78, wide - 156, high - 156, fill="none", stroke="#8a7752", stroke_width="2")]
-    return drawing(*size, below + [path(squares, fill="none", stroke="#b9a880", stroke_width="2", stroke_opacity="0.35")] + edge + above)
+    edge = [rectangle(60, 60, wide - 120, high - 120, fill="none", stroke="#86764f", stroke_width="5"),
+            rectangle(78, 78, wide - 156, high - 156, fill="none", stroke="#86764f", stroke_width="2")]
+    return drawing(*size, below + [path(squares, fill="none", stroke="#9fb0b8", stroke_width="2", stroke_opacity="0.14")] + edge + above)
 
 
 def argyle(size):
@@ -290,11 +310,12 @@ def argyle(size):
                                                 stroke_opacity="0.35", stroke_dasharray="14 10")] + above)
 
 
-SHARED = {"oak": oak(SQUARE), "oak_tall": oak(TALL), "walnut": walnut(SQUARE), "walnut_tall": walnut(TALL),
-          "whitewash_wide": whitewash(WIDE), "linen": linen(SQUARE), "slate": slate(SQUARE), "slate_wide": slate(WIDE),
-          "denim": denim(SQUARE), "sage": sage(SQUARE), "sage_tall": sage(TALL), "blush": blush(SQUARE),
-          "gingham": gingham(SQUARE), "cork_tall": cork(TALL), "felt_tall": felt(TALL), "felt_wide": felt(WIDE),
-          "kraft": kraft(SQUARE), "kraft_tall": kraft(TALL), "lawn": lawn(SQUARE), "white_wall": white_wall(SQUARE),
-          "white_wall_tall": white_wall(TALL), "blue_wall": blue_wall(SQUARE), "blue_wall_wide": blue_wall(WIDE),
-          "green_wall": green_wall(SQUARE), "green_wall_tall": green_wall(TALL), "wallpaper": wallpaper(TALL),
-          "stock_page": stock_page(SQUARE), "argyle": argyle(TALL)}
+# A square page is for designs that turn; one that stays has its ground in its own shape.
+TURNING = (oak, walnut, linen, slate, denim, sage, blush, gingham, kraft, lawn, stone_wall, green_wall, stock_page, charcoal,
+           sand)
+STANDING = (oak, walnut, slate, sage, cork, felt, kraft, blush, stone_wall, blue_wall, green_wall, charcoal, ink, wine, forest)
+LYING = (driftwood, slate, felt, blush, blue_wall, charcoal, ink, wine, forest, sage, sand)
+ALONE = {"wallpaper": wallpaper(TALL), "argyle": argyle(TALL)}
+SHARED = {**ALONE, **{ground.__name__: ground(SQUARE) for ground in TURNING},
+          **{f"{ground.__name__}_tall": ground(TALL) for ground in STANDING},
+          **{f"{ground.__name__}_wide": ground(WIDE) for ground in LYING}}

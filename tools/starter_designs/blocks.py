@@ -8,7 +8,8 @@ def three_of_us():
 
 
 def four_squared():
-    return rows(PORTRAIT, 100, 50, [(1375, [1, 1]), (1375, [1, 1])])
+    """Four squares in the middle of the page, which may stand or lie."""
+    return [box(120 + 900 * x, 620 + 900 * y, 860, 860) for y in (0, 1) for x in (0, 1)]
 
 
 def windmills():
@@ -28,11 +29,11 @@ def windmills():
 
 
 def brick_wall():
-    """Nine courses, every other one with half a brick at each end."""
+    """Nine courses, every other one with halves of bricks at its ends and in the middle."""
     places = []
     for course in range(9):
         top, bottom = round(course * 3000 / 9), round((course + 1) * 3000 / 9)
-        edges = [0, 500, 1000, 1500, 2000] if course % 2 == 0 else [0, 250, 750, 1250, 1750, 2000]
+        edges = [0, 500, 1000, 1500, 2000] if course % 2 == 0 else [0, 250, 750, 1000, 1250, 1750, 2000]
         places += [box(left, top, right - left, bottom - top) for left, right in zip(edges, edges[1:])]
     return places
 
@@ -57,35 +58,39 @@ def raster(size, margin, gap, columns, lines, cells):
 
 
 def centre_stage():
-    around = [(x, y, 1, 1) for y in range(5) for x in range(5) if not (x in (1, 2, 3) and y in (1, 2, 3))]
-    return raster(PORTRAIT, 50, 25, 5, 5, [(1, 1, 3, 3)] + around)
+    """A portrait of eight modules by twelve, upright photos at its sides, landscapes above and below."""
+    sides = [(x, y, 2, 3) for x in (0, 10) for y in (3, 6, 9, 12)]
+    ends = [(x, y, 4, 3) for y in (0, 15) for x in (0, 4, 8)]
+    return raster(PORTRAIT, 50, 25, 12, 18, [(2, 3, 8, 12)] + sides + ends)
 
 
 def checkers():
-    """Large landscapes and clusters of four small ones in turn, like the fields of a board."""
+    """Large landscapes and pairs of portraits in turn, like the fields of a board."""
     cells = []
     for y in range(4):
         for x in range(4):
             if (x + y) % 2 == 0:
-                cells.append((2 * x, 2 * y, 2, 2))
+                cells.append((2 * x, y, 2, 1))
             else:
-                cells += [(2 * x + dx, 2 * y + dy, 1, 1) for dy in (0, 1) for dx in (0, 1)]
-    return raster(LANDSCAPE, 30, 14, 8, 8, cells)
+                cells += [(2 * x + at, y, 1, 1) for at in (0, 1)]
+    return raster(LANDSCAPE, 40, 18, 8, 4, cells)
 
 
 def large_and_small():
-    small = [(x + dx, y + dy, 1, 1) for x, y in ((2, 0), (0, 2)) for dy in (0, 1) for dx in (0, 1)]
-    return raster(PORTRAIT, 60, 30, 4, 4, [(0, 0, 2, 2), (2, 2, 2, 2)] + small)
+    """Two large portraits that face each other across two pairs of landscapes."""
+    return [box(70, 70, 920, 1415), box(1010, 1515, 920, 1415)] + [
+        box(left, top, 920, 692) for left, first in ((1010, 70), (70, 1515)) for top in (first, first + 723)]
 
 
 def wall_of_fame():
-    return raster(PORTRAIT, 110, 60, 3, 3, [(x, y, 1, 1) for y in range(3) for x in range(3)])
+    """Nine portraits with room for the name of the team above."""
+    return [box(110 + 610 * x, 480 + 790 * y, 560, 740) for y in range(3) for x in range(3)]
 
 
 def album_page():
-    """A tall photo on the left page, six landscapes on the right one."""
-    right = [box(1420 + x * 735, 160 + y * 580, 675, 520) for y in range(3) for x in (0, 1)]
-    return [box(160, 160, 1130, 1680)] + right
+    """A tall photo on the left page; on the right one three portraits between two pairs of landscapes."""
+    pairs = [box(1450 + x * 735, y, 690, 460) for y in (280, 1310) for x in (0, 1)]
+    return [box(170, 280, 1110, 1490)] + pairs + [box(1450 + x * 490, 785, 445, 480) for x in range(3)]
 
 
 def headline():
@@ -93,9 +98,8 @@ def headline():
 
 
 def bookshelf():
-    """Books of different widths on four boards."""
-    return rows(PORTRAIT, 70, 20, [(700, [430, 520, 400, 450]), (700, [500, 400, 480, 420]), (700, [410, 470, 420, 500]),
-                                   (700, [480, 420, 490, 410])])
+    """Two books that stand and one that lies on each of four boards."""
+    return rows(PORTRAIT, 70, 20, [(700, [430, 470, 920]), (700, [930, 440, 450]), (700, [450, 920, 450]), (700, [470, 430, 920])])
 
 
 def zigzag():
@@ -158,16 +162,13 @@ def diamond():
 
 
 def soft_clouds():
-    """Six photos that melt into each other."""
-    cells = [(0, 0, 2000, 1060), (0, 980, 1060, 1100), (980, 980, 1020, 700), (980, 1600, 1020, 700), (0, 2000, 1060, 1000),
-             (980, 2220, 1020, 780)]
-    return [box(*cell) for cell in cells]
+    """Six photos with soft edges in three rows, each with air around it."""
+    return rows(PORTRAIT, 130, 90, [(800, [1030, 620]), (960, [640, 640]), (800, [620, 1030])])
 
 
 def soft_portraits():
-    cells = [(0, 0, 1060, 1060), (980, 0, 1060, 1060), (1960, 0, 1040, 1060), (0, 980, 740, 1020), (660, 980, 860, 1020),
-             (1440, 980, 860, 1020), (2220, 980, 780, 1020)]
-    return [box(*cell) for cell in cells]
+    """Seven photos with soft edges on a wide page: three above four."""
+    return rows(LANDSCAPE, 130, 90, [(900, [1, 2, 1]), (750, [620, 480, 480, 800])])
 
 
 def little_mosaic():
@@ -199,10 +200,9 @@ def ladder():
 
 
 def window_seat():
-    """Two large photos, the small ones in an L around each."""
-    cells = [(0, 0, 4, 4), (4, 0, 2, 2), (4, 2, 2, 2), (0, 4, 2, 2), (2, 4, 2, 2), (4, 4, 2, 2), (0, 6, 2, 2), (2, 6, 4, 4),
-             (0, 8, 2, 2)]
-    return raster(PORTRAIT, 70, 30, 6, 10, cells)
+    """A large landscape and a large portrait in opposite corners, small ones beside each."""
+    cells = [(0, 0, 8, 5), (8, 0, 4, 5), (0, 5, 4, 5), (0, 10, 4, 5), (4, 5, 8, 10), (0, 15, 4, 5), (4, 15, 8, 5)]
+    return raster(PORTRAIT, 70, 26, 12, 20, cells)
 
 
 def fortnight():
@@ -211,7 +211,8 @@ def fortnight():
 
 
 def three_weeks():
-    return raster(LANDSCAPE, 60, 24, 7, 3, [(x, y, 1, 1) for y in range(3) for x in range(7)])
+    """Seven squares a week, with room for the name of the month above."""
+    return [box(80 + 408 * x, 540 + 408 * y, 384, 384) for y in range(3) for x in range(7)]
 
 
 def quilt():
@@ -224,6 +225,9 @@ def class_photo():
 
 
 def big_window():
-    """A landscape of nine cells, the other twenty-seven around it."""
-    around = [(x, y, 1, 1) for y in range(6) for x in range(6) if not (x in (1, 2, 3) and y in (1, 2, 3))]
-    return raster(LANDSCAPE, 50, 22, 6, 6, [(1, 1, 3, 3)] + around)
+    """A landscape of nine cells; of the others every third is parted into two portraits."""
+    around = [(x, y) for y in range(6) for x in range(6) if not (x in (1, 2, 3) and y in (1, 2, 3))]
+    cells = [(2, 1, 6, 3)]
+    for at, (x, y) in enumerate(around):
+        cells += [(2 * x, y, 1, 1), (2 * x + 1, y, 1, 1)] if at % 3 == 1 else [(2 * x, y, 2, 1)]
+    return raster(LANDSCAPE, 50, 22, 12, 6, cells)

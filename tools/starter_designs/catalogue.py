@@ -38,23 +38,19 @@ def design(number, name, family, background, tip, description, layout, keys, sty
     return Design(number, name, layout.__name__, style, family, background, tip, description, layout(), keys)
 
 
-# Grounds on which a white caption, as the window begins with, would hardly be seen; the catalogue can ask for red only.
-LIGHT = frozenset("""sage sage_tall blush linen white_wall white_wall_tall whitewash_wide rose rose_tall brook sunflower windy_sky
-                  bouquet_paper open_album crossroads dance_floor stock_page spiral_sheet high_sea greeting autumn birthday
-                  wedding baby spring summer travel garden music pets family_tree valentine mountains""".split())
-
-
 def on(ground):
-    """A background of starter_art, which the window then doesn't offer to change."""
-    return {"BG Image": f"{ground}.jpg", **({"Caption Color": "Red"} if ground in LIGHT else {})}
+    """A background of starter_art, which the window then doesn't offer to change. All of them are dark enough for the white
+    that a caption begins with."""
+    return {"BG Image": f"{ground}.jpg"}
 
 
 PLAIN_GROUND = {"BG Image": "Either"}
-FITTING = {"Match": "Yes"}
-ANY_SHAPE = {"Match": "No"}
+CLEAR = {"Caption Clear": "Yes"}  # offers to move the photos away from the caption
+FITTING = {"Match": "Yes", **CLEAR}
+ANY_SHAPE = {"Match": "No", **CLEAR}
 FIXED = {"Turn BG": "No", "Flip": "No"}
 # A shape drawn with soft edges or as a card would lose its outline, so the whole group of the frames goes.
-SHAPES = {"Match": "No", "Frames": "None", "Shadows": "No", "Block": "No", "Soft Edge": "No", "Flip": "No"}
+SHAPES = {**ANY_SHAPE, "Frames": "None", "Shadows": "No", "Block": "No", "Soft Edge": "No", "Flip": "No"}
 
 RESERVED = [
     Design(1, "Match", "__match", "Place", "Block", "Portrait", keys={**FITTING, **PLAIN_GROUND}),
@@ -74,14 +70,13 @@ STARTERS = [
            " inside the photos, so that no picture covers its neighbour.",
            layouts.mosaic_wall(), {**FITTING, "Frames": "Adjust", "Turn BG": "Yes"}),
     Design(102, "Panorama", "panorama", "Place", "Block", "Landscape",
-           "One large photo and twelve around it",
-           "Your best photo takes the middle, twelve more make its frame. Drawn for a landscape poster; on a_\n"
-           " portrait poster all photos stand upright.",
+           "One large photo and sixteen around it",
+           "Your best photo takes the middle; sixteen more, half of them upright, make its frame.",
            layouts.panorama(), {**FITTING, "Turn BG": "Yes", "Borders": "No"}),
     Design(103, "Gallery wall", "gallery_wall", "Place", "Block", "Portrait",
            "Rows of different heights with air between the photos",
            "Four rows of photos with room around each, as in a gallery.",
-           layouts.gallery_wall(), {**FITTING, **on("white_wall"), "Turn BG": "Yes"}),
+           layouts.gallery_wall(), {**FITTING, **on("stone_wall"), "Turn BG": "Yes"}),
     Design(104, "Daydream", "daydream", "Place", "Block", "Portrait",
            "Soft photos that melt into each other",
            "Ten photos whose soft edges melt into each other, without frames and shadows.",
@@ -91,64 +86,45 @@ STARTERS = [
            "A box of photos, emptied on the table. They lie at every angle and cover the whole poster.\n"
            "Try it with a white frame and a little shadow.",
            layouts.thrown(), {**FITTING, **on("oak"), "Turn BG": "Yes"}),
-    Design(106, "Picnic", "picnic", "Place", "Scatter", "Landscape",
-           "Photos spread on a wide blanket",
-           "Photos spread out on a wide blanket of red and white checks. Drawn for a landscape poster; it turns for a portrait one.",
-           layouts.picnic(), {**FITTING, **on("gingham"), "Turn BG": "Yes", "Borders": "No"}),
+    Design(106, "Picnic", "picnic", "Place", "Scatter", "Portrait",
+           "Photos spread on a blanket",
+           "Photos spread out on a blanket of red checks.",
+           layouts.picnic(), {**FITTING, **on("gingham"), "Turn BG": "Yes"}),
     Design(107, "Snapshots", "snapshots", "Place", "Scatter", "Portrait",
            "Instant pictures with room to write on",
            "Square pictures on cards, with room below each to write on.\n"
            "The frame colour is the colour of the card.",
            layouts.polaroids(), {**ANY_SHAPE, **on("walnut_tall"), "Block": "Yes", "Turn BG": "No"}),
-    Design(108, "White mats", "white_mats", "Place", "Theme", "Portrait",
+    Design(108, "White mats", "white_mats", "Place", "Scatter", "Portrait",
            "Few photos in broad frames, some of them askew",
            "Nine photos in broad frames of a fixed size. Somebody should straighten a few of them.",
            layouts.white_mats(), {**FITTING, **on("green_wall"), "Frames": "45", "Turn BG": "Yes"}),
-    Design(109, "Contact sheet", "contact_sheet", "Fill", "Block", "Portrait",
-           "Landscape photos in eight rows of four",
-           "All photos in the same size, row by row, as they come from the camera.",
+    Design(109, "Contact sheet", "contact_sheet", "Matrix", "Block", "Portrait",
+           "All photos of a film in seven rows",
+           "All photos in the same height, row by row, as they come from the camera; a landscape takes two places.",
            layouts.contact_sheet(), {**FITTING, "Turn BG": "No"}),
-    Design(110, "Wide contact sheet", "contact_sheet_wide", "Fill", "Block", "Landscape",
-           "Landscape photos in six rows of six",
-           "All photos in the same size, row by row, for a landscape poster.",
+    Design(110, "Wide contact sheet", "contact_sheet_wide", "Matrix", "Block", "Landscape",
+           "All photos of a film in four long rows",
+           "All photos in the same height, row by row, for a landscape poster; a landscape takes two places.",
            layouts.contact_sheet_wide(), {**FITTING, "Turn BG": "No", "Borders": "No"}),
     Design(111, "Three bands", "three_bands", "Fill", "Block", "Portrait",
-           "Two large portraits between bands of small ones",
-           "Two large portraits in the middle, and above and below them a band of four small ones.",
-           layouts.three_bands(), {**FITTING, "Turn BG": "No"}),
-    Design(112, "Shaken wall", "shaken_wall", "Matrix", "Theme", "Portrait",
+           "Two large squares between bands of small ones",
+           "Two large squares in the middle, and above and below them a band of eight small ones. Photos of any shape will do.",
+           layouts.three_bands(), {**ANY_SHAPE, "Turn BG": "No"}),
+    Design(112, "Shaken wall", "shaken_wall", "Matrix", "Scatter", "Portrait",
            "A grid of portraits that has been shaken",
            "Twenty portraits that once hung in straight rows. Then somebody slammed the door.",
-           layouts.shaken_wall(), {**FITTING, **on("wallpaper"), "Turn BG": "No"}),
-    Design(113, "At the seaside", "seaside", "Place", "Theme", "Portrait",
-           "Holiday photos between the sea and the sand",
-           "Seven photos between the sea and the sand, and a postcard for those at home.",
-           layouts.seaside(), {**FITTING, "BG Image": "Solid", **FIXED, "Borders": "No"}),
-    Design(114, "Autumn walk", "autumn", "Place", "Theme", "Portrait",
-           "Photos among falling leaves",
-           "Seven photos on a page of falling leaves.",
-           layouts.autumn(), {**FITTING, **on("autumn"), **FIXED, "Borders": "No",
-                              "Shadow Color": "Black"}),
-    Design(115, "Starry night", "starry_night", "Place", "Theme", "Landscape",
-           "Photos under the stars, with yellow frames",
-           "Seven photos under the night sky. Their frames are as yellow as the moon.",
-           layouts.starry_night(), {**FITTING, **on("starry_night"), **FIXED, "Borders": "No",
-                                    "Frames": "Color", "Frame Color": "Yellow", "Shadows": "Color"}),
-    Design(116, "Best wishes", "best_wishes", "Place", "Theme", "Portrait",
-           "Photos with a greeting",
-           "Seven photos and a line of writing on a card of cream paper. Change the greeting in the caption box.",
-           layouts.best_wishes(), {**FITTING, **on("greeting"), "Caption": "Best wishes", "Caption Clear": "Yes",
-                                   "Turn BG": "No"}),
+           layouts.shaken_wall(), {**ANY_SHAPE, **on("wallpaper"), "Turn BG": "No"}),
     Design(117, "Sweethearts", "sweethearts", "Place", "Block", "Portrait",
-           "Hearts filled with photos, and small red and orange ones",
-           "Ten hearts, each filled with a photo, and seven small ones in red and orange.",
-           layouts.sweethearts(), {**SHAPES, **on("rose"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
+           "Ten hearts filled with photos",
+           "Ten hearts, each filled with a photo, close to each other.",
+           layouts.sweethearts(), {**SHAPES, **on("heart_paper"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
     Design(118, "Flower garden", "flower_garden", "Place", "Block", "Portrait",
-           "A photo in the heart of each flower",
-           "Ten flowers of all colours with a photo in the heart of each.",
+           "Photos in the shape of blossoms",
+           "Eight large blossoms, each of them a photo.",
            layouts.flower_garden(), {**SHAPES, **on("lawn"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
     Design(119, "Celebration", "celebration", "Place", "Block", "Portrait",
-           "Stars and circles among confetti",
-           "Four stars and three circles filled with photos, among coloured confetti.",
+           "Stars and disks filled with photos",
+           "Three large stars and four disks, filled with photos.",
            layouts.celebration(), {**SHAPES, **on("party"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
 ]

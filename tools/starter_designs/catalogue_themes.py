@@ -1,13 +1,21 @@
-"""The supplied designs with backgrounds of our own, from number 301 on, and those of custom frames, from 401 on."""
+"""The supplied designs with pages of our own, from number 301 on, their wide sisters from 351 on, and those of custom frames, from
+401 on."""
 from starter_designs import framed, themes
-from starter_designs.catalogue import FITTING, design, on
+from starter_designs.catalogue import ANY_SHAPE, Design, FITTING, design, on
 
+SISTER, OLD_SISTER = 50, 78  # from the number of an upright page to that of its wide one: 351 on, and 191 on
 PRINTS = {"Frames": "14", "Shadows": "14"}  # a fixed shadow takes the size of the frame
 
 
-def theme(number, name, background, tip, description, layout, keys=None):
-    page = {**FITTING, **on(layout.__name__), "Turn BG": "No", "Flip": "No", "Borders": "No"}
-    return design(number, name, "Theme", background, tip, description, layout, {**page, **(keys or {})})
+def pair(number, name, file, tip, description, keys=None):
+    """The same occasion for an upright poster and for a wide one, which neither layout nor page are turned for."""
+    found = []
+    for wide, places in enumerate(themes.PAGES[file]):
+        ending = "_wide" if wide else ""
+        page = {**FITTING, **on(file + ending), "Turn BG": "No", "Flip": "No", "Borders": "No", **(keys or {})}
+        found.append(Design(number + (SISTER if number > 300 else OLD_SISTER) * wide, name + (", wide" if wide else ""), file + ending, "Place", "Theme",
+                            "Landscape" if wide else "Portrait", tip, description, places, page))
+    return found
 
 
 def framed_by_set(number, name, background, tip, layout, ground=None):
@@ -18,66 +26,68 @@ def framed_by_set(number, name, background, tip, layout, ground=None):
     return design(number, name, "Frame", background, tip, description, layout, keys)
 
 
-THEMES = [
-    theme(301, "Birthday", "Portrait", "Bunting, balloons and eight photos",
-          "Bunting above, balloons below, and eight photos of the feast between them.", themes.birthday),
-    theme(302, "Wedding", "Portrait", "Roses, rings and five photos",
-          "Five photos within a golden line, with roses in two corners.", themes.wedding, PRINTS),
-    theme(303, "Baby", "Landscape", "Clouds, ducks and eight photos",
-          "Eight photos between hanging stars and two ducks.", themes.baby, {"Shadow Color": "Black"}),
-    theme(304, "Graduation", "Landscape", "Caps, diplomas and five photos",
-          "One large photo of the day and four more, among flying caps.", themes.graduation),
-    theme(305, "Spring", "Portrait", "Blossoms, tulips and seven photos",
-          "Seven photos between the blossoms and the tulips.", themes.spring),
-    theme(306, "Summer", "Landscape", "Sun, palms and nine photos",
-          "Nine photos in the sun, with ices and melons.", themes.summer, {"Frames": "Color", "Shadows": "Color"}),
-    theme(307, "Winter", "Portrait", "Snow, firs and seven photos",
-          "Seven photos in falling snow. The snowman looks at them all.", themes.winter),
-    theme(308, "Christmas", "Portrait", "A garland, parcels and seven photos",
-          "Seven photos between the garland and the parcels.", themes.christmas),
-    theme(309, "Round the world", "Landscape", "A map, a route and seven photos",
-          "Seven photos on a map of lands that nobody has seen, with the route that leads there.", themes.travel, PRINTS),
-    theme(310, "Garden", "Portrait", "A fence, sunflowers and seven photos",
-          "Seven photos above the garden fence. Mind the bees.", themes.garden),
-    theme(311, "Sports", "Landscape", "A pitch, balls, cups and seven photos",
-          "Seven photos on the pitch, the match of the season in the middle.", themes.sports),
-    theme(312, "Music", "Portrait", "Notes, keys and five photos",
-          "Five photos between two lines of music and a keyboard.", themes.music),
-    theme(313, "School", "Landscape", "A blackboard and eight photos",
-          "Eight photos on the blackboard. One and two is still three.", themes.school),
-    theme(314, "Cinema", "Portrait", "Two strips of film with twelve pictures",
-          "Two strips of film before a velvet curtain, six landscapes on each.", themes.cinema,
-          {"Frames": "No", "Shadows": "No", "Soft Edge": "No"}),
-    theme(315, "Space", "Portrait", "Planets, a rocket and six photos",
-          "Six photos on their way to the stars, with frames that glow green.", themes.space,
-          {"Frames": "Color", "Frame Color": "Green", "Shadows": "No"}),
-    theme(316, "Pets", "Portrait", "Paws, a dog, a cat and six photos",
-          "Five photos of what they did today, and one of what they really look like.", themes.pets),
-    theme(317, "Family tree", "Portrait", "A tree with eleven photos",
-          "Ten photos in the crown of a tree, and the whole family before its trunk.", themes.family_tree),
-    theme(318, "Valentine", "Landscape", "A large heart and nine portraits",
-          "One portrait before a large heart, four more on each side.", themes.valentine),
-    theme(319, "Mountains", "Landscape", "Peaks, firs, a trail and ten photos",
-          "Ten photos above the peaks. The tent is already up.", themes.mountains, PRINTS),
-    theme(320, "Pumpkin night", "Portrait", "A moon, bats, pumpkins and seven photos",
-          "Seven photos between the moon and the lanterns. Mind the bats.", themes.pumpkin_night),
+OCCASIONS = [
+    pair(113, "At the seaside", "seaside", "Photos where the sea meets the sand",
+         "Photos above the shore, where the last waves run out on the sand."),
+    pair(114, "Autumn walk", "autumn", "Photos among falling leaves", "Photos on dark earth, with the leaves of six trees around them.",
+         {"Shadow Color": "Black"}),
+    pair(115, "Starry night", "starry_night", "Photos under the stars", "Photos under a clear night sky, above woods and hills.",
+         {"Frames": "Color", "Shadows": "Color"}),
+    pair(116, "Best wishes", "best_wishes", "Photos with a greeting", "Photos and a line of writing on a card with a golden edge. Change the "
+         "greeting in the caption box.", {"Caption": "Best wishes"}),
+    pair(301, "Birthday", "birthday", "Lights, confetti and photos of the feast", "Photos of the feast among soft lights and falling confetti."),
+    pair(302, "Wedding", "wedding", "Roses, a golden line and few large photos", "Few large photos within a golden line, with roses in two corners.",
+         PRINTS),
+    pair(303, "Baby", "baby", "An evening sky with a moon", "Photos above the clouds of an evening sky, where the moon has just risen."),
+    pair(304, "Graduation", "graduation", "Laurel, gold and photos of the day", "Photos of the day on deep blue, with laurel in the corners."),
+    pair(305, "Spring", "spring", "Photos between boughs in blossom", "Photos between boughs in blossom, whose petals are in the air."),
+    pair(306, "Summer", "summer", "The sun above the sea", "Photos before a sun that sinks into the sea."),
+    pair(307, "Winter", "winter", "Falling snow and woods in the dusk", "Photos in falling snow, above woods that lie in the dusk."),
+    pair(308, "Christmas", "christmas", "Twigs of fir and candlelight", "Photos in candlelight, with twigs of fir in the corners."),
+    pair(309, "Round the world", "travel", "A map and a route", "Photos on a map of heights that nobody has climbed, with the route that leads there.",
+         PRINTS),
+    pair(310, "Garden", "garden", "Photos framed by leaves", "Photos in a clearing, with leaves growing in from all sides."),
+    pair(311, "Sports", "sports", "Photos on the pitch", "Photos on the pitch, the match of the season among them."),
+    pair(312, "Music", "music", "Two staves and photos of the concert", "Photos between two staves that swing across the page."),
+    pair(313, "School", "school", "Photos on a blackboard", "Photos on a blackboard that was wiped before the lesson."),
+    pair(314, "Cinema", "cinema", "Two strips of film before a curtain", "Two strips of film before a velvet curtain, landscapes in every frame.",
+         {**ANY_SHAPE, "Frames": "No", "Shadows": "No", "Soft Edge": "No"}),
+    pair(315, "Space", "space", "Stars, planets and few large photos", "Photos on their way to the stars.", {"Shadows": "No"}),
+    pair(316, "Pets", "pets", "Photos between two tracks of paws", "Photos between two tracks of paws: there and back again."),
+    pair(317, "Family tree", "family_tree", "Three generations and the lines between them",
+         "Four grandparents, two parents and the youngest, joined by fine lines.", ANY_SHAPE),
+    pair(318, "Valentine", "valentine", "Photos on deep red, with faint hearts", "Photos on deep red, with hearts that one hardly sees."),
+    pair(319, "Mountains", "mountains", "Ranges in the haze", "Photos before ranges that fade into the haze, one behind the other.", PRINTS),
+    pair(320, "Pumpkin night", "pumpkin_night", "A moon, bats and lanterns", "Photos between the moon and the lanterns. Mind the bats."),
+    pair(321, "Anniversary", "anniversary", "Gold, laurel and few large photos", "Few large photos of many years, within a golden line."),
+    pair(322, "Mother's Day", "mothers_day", "Roses in two corners", "Photos between two corners full of roses."),
+    pair(323, "Father's Day", "fathers_day", "Photos on a cloth of herringbone", "Photos on a cloth of herringbone, with a fine line around them.", PRINTS),
+    pair(324, "Easter", "easter", "Boughs in white blossom", "Photos between boughs in white blossom."),
+    pair(325, "New Year", "new_year", "Rockets at midnight", "Photos of the year that ends, and rockets for the one that begins."),
+    pair(326, "Milestone", "milestone", "Many photos for a round birthday", "Photos of ten years or of many more, with golden confetti at the sides."),
+    pair(327, "In memory", "memorial", "A quiet lake in the morning", "Few photos above a quiet lake in the morning."),
+    pair(328, "Road trip", "road_trip", "A straight road at dusk", "Photos of the way, and the road that leads on."),
+    pair(329, "City", "city", "Lit windows at dusk", "Photos of a city, above its roofs at dusk."),
+    pair(330, "Open sea", "open_sea", "The moon on the water", "Photos of a voyage, and the moon on the water."),
 ]
+THEMES = [one for pair_of in OCCASIONS for one in pair_of]
 
 FRAMES = [
-    framed_by_set(401, "Framed portraits", "Portrait", "Nine tall frames in three rows", framed.frames_tall_nine,
+    framed_by_set(401, "Framed portraits", "Portrait", "Nine frames in three rows, tall and wide in turn", framed.frames_tall_nine,
                   "hall_tall"),
-    framed_by_set(402, "Framed landscapes", "Portrait", "Eight wide frames in pairs", framed.frames_wide_eight),
-    framed_by_set(403, "Framed family", "Portrait", "A large frame above four others", framed.frames_family,
+    framed_by_set(402, "Framed landscapes", "Portrait", "Ten frames in rows of two and three", framed.frames_wide_eight, "green_wall_tall"),
+    framed_by_set(403, "Framed family", "Portrait", "Two frames above, five below", framed.frames_family,
                   "green_wall_tall"),
-    framed_by_set(404, "Framed staircase", "Portrait", "Tall and wide frames in turn", framed.frames_staircase,
-                  "white_wall_tall"),
+    framed_by_set(404, "Framed staircase", "Portrait", "Wide frames in three steps, tall ones beside them", framed.frames_staircase,
+                  "stone_wall_tall"),
     framed_by_set(405, "Framed shelf", "Landscape", "Three tall frames above three wide ones", framed.frames_shelf,
                   "shelves"),
-    framed_by_set(406, "Framed duet", "Landscape", "Two large frames and two small ones", framed.frames_duet,
+    framed_by_set(406, "Framed duet", "Landscape", "Three frames above three, tall and wide in turn", framed.frames_duet,
                   "hall_wide"),
-    framed_by_set(407, "Framed wall", "Landscape", "Nine wide frames in three rows", framed.frames_wide_nine),
-    framed_by_set(408, "Framed gallery", "Landscape", "Eight tall frames in two rows", framed.frames_tall_eight,
+    framed_by_set(407, "Framed wall", "Landscape", "Eight frames in two rows, wide and tall in turn", framed.frames_wide_nine,
+                  "hall_wide"),
+    framed_by_set(408, "Framed gallery", "Landscape", "Five tall frames above three wide ones", framed.frames_tall_eight,
                   "blue_wall_wide"),
-    framed_by_set(409, "Framed medley", "Landscape", "A large frame with seven tall ones round it", framed.frames_medley,
-                  "whitewash_wide"),
+    framed_by_set(409, "Framed medley", "Landscape", "Twelve small frames in three rows", framed.frames_medley,
+                  "driftwood_wide"),
 ]

@@ -72,13 +72,18 @@ class Scatter:
             total += -5 if others == 0 else others * others
         return total
 
+    def stays_mixed(self, item):
+        """Whether it may turn the other way: two fifths of each kind at least."""
+        alike = sum(other[2] == item[2] for other in self.items) - 1
+        return alike >= 0.4 * len(self.items)
+
     def improve(self, rounds):
         for step in range(rounds):
             reach = 320 * (1 - step / rounds) + 15
             index = self.chance.randrange(len(self.items))
             old = self.items[index]
             new = [old[0] + self.chance.uniform(-reach, reach), old[1] + self.chance.uniform(-reach, reach), *old[2:]]
-            if self.chance.random() < 0.1:
+            if self.chance.random() < 0.1 and self.stays_mixed(old):
                 new[2] = not new[2]
             self.add(self.spans[index], -1)
             span = self.span(new)
@@ -177,7 +182,7 @@ def burden(order, hiding):
     return total
 
 
-def scattered(size, photo, angles, seed, hang=110, rounds=6000):
+def scattered(size, photo, angles, seed, hang=60, rounds=20000):
     """`photo` is (long side, short side); `hang` is how far a corner may leave the page, in pixels."""
     scatter = Scatter(size, photo, angles, seed, hang)
     scatter.improve(rounds)

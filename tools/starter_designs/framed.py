@@ -1,13 +1,13 @@
 """Layouts of custom frames: a frame picture and the photo inside it, in turn.
 
-An "@" with a letter stands for a frame of that orientation. The photo leaves the same room in its frame as in a matrix
+A frame has 520 by 347 pixels, so none is drawn larger than 700. A photo leaves the same room in its frame as in a matrix
 of frames: for the caption below and, in wide frames, for the ribbon at the left.
 """
 from dataclasses import replace
 
 from starter_designs.place import box
 
-LONG, SHORT = 520, 347
+LONG, SHORT, LARGEST = 520, 347, 700
 
 
 def wide(left, top, width):
@@ -23,54 +23,72 @@ def tall(left, top, width):
 
 
 def pair(left, top, width, height, picture, shares):
+    assert max(width, height) <= LARGEST, (width, height)
     down, across, below, beside = shares
     frame = replace(box(left, top, width, height), frame=0, shadow=0, file=picture)
     photo = replace(box(left + beside * width, top + below * height, across * width, down * height), frame=0, shadow=0)
     return [frame, photo]
 
 
-def joined(*pairs):
-    return [place for places in pairs for place in places]
+def rows_of(size, gap, *rows):
+    """Rows of frames about the middle of the page: (T or W, width) each, standing on one line."""
+    heights = [max(round(width * (LONG / SHORT if kind == "T" else SHORT / LONG)) for kind, width in row) for row in rows]
+    top, found = round((size[1] - sum(heights) - gap * (len(rows) - 1)) / 2), []
+    for row, high in zip(rows, heights):
+        left = (size[0] - sum(width for _, width in row) - gap * (len(row) - 1)) / 2
+        for kind, width in row:
+            own = round(width * (LONG / SHORT if kind == "T" else SHORT / LONG))
+            found += (tall if kind == "T" else wide)(round(left), top + (high - own) // 2, width)
+            left += width + gap
+        top += high + gap
+    return found
+
+
+PORTRAIT, LANDSCAPE = (2000, 3000), (3000, 2000)
+T, W = ("T", 440), ("W", 660)
+SMALL_T, SMALL_W = ("T", 380), ("W", 570)
 
 
 def frames_tall_nine():
-    return joined(*(tall(100 + 625 * x, 148 + 940 * y, 550) for y in range(3) for x in range(3)))
+    """Portraits and landscapes in turn."""
+    return rows_of(PORTRAIT, 60, (T, W, T), (W, T, W), (T, W, T))
 
 
 def frames_wide_eight():
-    return joined(*(wide(90 + 930 * x, 170 + 685 * y, 890) for y in range(4) for x in range(2)))
+    return rows_of(PORTRAIT, 60, (W, W), (T, T, T), (W, W), (T, T, T))
 
 
 def frames_family():
-    """A wide one above, two tall ones, two wide ones below."""
-    return joined(wide(300, 180, 1400), tall(310, 1175, 660), tall(1030, 1175, 660), wide(100, 2225, 870), wide(1030, 2225, 870))
+    """The parents above, the children in pairs below them."""
+    return rows_of(PORTRAIT, 90, (("T", 460), ("T", 460)), (("W", 690), ("W", 690)), (T, T, T))
 
 
 def frames_staircase():
-    """Three tall frames and three wide ones in turn."""
-    return joined(wide(110, 160, 980), tall(1190, 120, 700), tall(110, 960, 700), wide(910, 1290, 980), wide(110, 2130, 980),
-                  tall(1190, 2030, 560))
+    """Frames that go down in three steps."""
+    return [place for step in range(3) for place in wide(130 + 480 * step, 330 + 720 * step, 640)] + [
+        place for step in range(3) for place in tall((1340, 130, 700)[step], (330, 1040, 1960)[step], (450, 420, 400)[step])]
 
 
 def frames_shelf():
-    """A landscape poster: three tall frames above three wide ones."""
-    return joined(*(tall(480 + 740 * at, 263, 560) for at in range(3)), *(wide(180 + 920 * at, 1202, 800) for at in range(3)))
+    """A landscape poster: three tall frames on a board above three wide ones."""
+    return [place for at in range(3) for place in tall(600 + 680 * at, 443, 440)] + [
+        place for at in range(3) for place in wide(330 + 840 * at, 1271, 700)]
 
 
 def frames_duet():
-    """A landscape poster: a pair of large frames, and two small ones between them."""
-    return joined(tall(120, 228, 1030), wide(1250, 165, 1630), wide(1250, 1315, 784), wide(2096, 1315, 784))
+    """A landscape poster: two pairs, a tall and a wide one each."""
+    return rows_of(LANDSCAPE, 120, (("T", 460), ("W", 700), ("T", 460)), (("W", 700), ("T", 460), ("W", 700)))
 
 
 def frames_wide_nine():
-    return joined(*(wide(100 + 950 * x, 80 + 620 * y, 900) for y in range(3) for x in range(3)))
+    return rows_of(LANDSCAPE, 60, (W, T, W, T), (T, W, T, W))
 
 
 def frames_tall_eight():
-    return joined(*(tall(180 + 680 * x, 75 + 950 * y, 600) for y in range(2) for x in range(4)))
+    return rows_of(LANDSCAPE, 60, (T, T, T, T, T), (W, W, W))
 
 
 def frames_medley():
-    """A landscape poster: a large wide frame in the middle, tall ones below it and at both sides."""
-    sides = [tall(left, top, 580) for left in (110, 2310) for top in (100, 1030)]
-    return joined(*sides, wide(770, 100, 1460), *(tall(770 + 495 * at, 1195, 470) for at in range(3)))
+    """A landscape poster: small frames in three rows."""
+    row, other = (SMALL_W, ("T", 330), SMALL_W, ("T", 330)), (("T", 330), SMALL_W, ("T", 330), SMALL_W)
+    return rows_of(LANDSCAPE, 50, row, other, row)

@@ -13,9 +13,12 @@ def mosaic_wall():
 
 
 def panorama():
-    """One large photo in the middle, twelve of the same shape around it."""
-    around = [(x, y) for y in range(4) for x in range(4) if not (x in (1, 2) and y in (1, 2))]
-    return [box(750, 500, 1500, 1000)] + [box(750 * x, 500 * y, 750, 500) for x, y in around]
+    """One large photo in the middle, landscapes and pairs of portraits around it, wall to wall."""
+    cells = [box(750, 500, 1500, 1000)] + [box(750 * x, y, 750, 500) for x in (1, 2) for y in (0, 1500)]
+    for left, order in ((0, "LPPL"), (2250, "PLLP")):
+        for at, letter in enumerate(order):
+            cells += [box(left, 500 * at, 750, 500)] if letter == "L" else [box(left, 500 * at, 400, 500), box(left + 400, 500 * at, 350, 500)]
+    return cells
 
 
 def gallery_wall():
@@ -23,11 +26,11 @@ def gallery_wall():
 
 
 def thrown():
-    return scattered(PORTRAIT, (630, 420), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=3, hang=80)
+    return scattered(PORTRAIT, (605, 405), ALL_TILTS + [-20, -15, -10, -5, 0, 5, 10, 15, 20, 0, -5, 5], seed=8, hang=60)
 
 
 def picnic():
-    return scattered(LANDSCAPE, (620, 415), ALL_TILTS + [-15, -10, -10, -5, -5, 0, 5, 5, 10, 10, 15, 0], seed=11)
+    return scattered(PORTRAIT, (620, 415), ALL_TILTS + [-15, -10, -10, -5, -5, 0, 5, 5, 10, 10, 15, 0], seed=12, hang=60)
 
 
 def polaroids():
@@ -39,86 +42,42 @@ def polaroids():
 
 
 def contact_sheet():
-    return grid(40, 40, 8, 4, 40, 40, 330, 450)
+    """Upright cells, of which a landscape takes two, so that all photos stand in their order."""
+    return grid(50, 50, 7, 6, 24, 24, 393, 296, both=1)
 
 
 def contact_sheet_wide():
-    return grid(45, 45, 6, 6, 42, 42, 284, 450)
+    return grid(50, 50, 4, 9, 24, 24, 457, 300, both=1)
 
 
 def three_bands():
-    """All cells stand upright: one layer of another kind would have to pass over photos that the next layer wants."""
-    band = dict(rows=1, columns=4, row_gap=40, column_gap=40, height=620, width=440)
-    return grid(60, 60, **band) + grid(740, 60, 1, 2, 40, 40, 1520, 920) + grid(2320, 60, **band)
+    """Squares: two large ones between bands of small ones."""
+    band = dict(rows=2, columns=4, row_gap=40, column_gap=40, height=440, width=440)
+    return grid(60, 60, **band) + grid(1020, 60, 1, 2, 40, 40, 960, 920) + grid(2020, 60, **band)
 
 
 def shaken_wall():
     return grid(90, 142, 5, 4, 25, 25, 525, 410, rotate=1, resize=1)
 
 
-def seaside():
-    page = [picture(0, 0, 2000, 1500, "images/sea_top.jpg"), picture(0, 1500, 2000, 1500, "images/sea_sand.jpg")]
-    photos = [centred(560, 720, 760, 507, -5), centred(1450, 800, 740, 493, 5), centred(430, 1330, 460, 690, 10),
-              centred(1010, 1330, 520, 780, -5), centred(1600, 1390, 460, 690, -10), centred(530, 2010, 780, 520, 5),
-              centred(1420, 2060, 800, 533, -5)]
-    return page + photos + [picture(1180, 2440, 600, 400, "images/postcard.jpg", -10)]
-
-
-def autumn():
-    return [centred(640, 640, 720, 480, -5), centred(1420, 720, 480, 720, 5), centred(500, 1290, 480, 720, 5),
-            centred(1180, 1420, 560, 840, -5), centred(620, 2040, 760, 507, -10), centred(1450, 2130, 680, 453, 10),
-            centred(1010, 2480, 640, 427, 0)]
-
-
-def starry_night():
-    """The shadows have the size that stands here, since the window doesn't offer one."""
-    photos = [box(180, 180, 780, 520), box(1110, 180, 780, 520), box(2040, 180, 780, 520),
-              box(400, 860, 440, 660), box(980, 860, 440, 660), box(1560, 860, 440, 660), box(2140, 860, 440, 660)]
-    return [replace(photo, shadow=20) for photo in photos]
-
-
 def sweethearts():
-    """Hearts in four rows, the small coloured ones between them."""
-    large = [(x, y) for row, y in enumerate((420, 1140, 1860, 2580))
-             for x in ((400, 1000, 1600) if row % 2 == 0 else (700, 1300))]
-    small = [(700, 780, 1), (1300, 780, 7), (1000, 1500, 1), (400, 1500, 7), (1600, 1500, 7), (700, 2220, 7), (1300, 2220, 1),
-             (200, 1140, 1), (1800, 1140, 1), (200, 2580, 7), (1800, 2580, 7)]
-    return [shape(x, y, 150, "heart.gif", color) for x, y, color in small] + [
-        shape(x, y, 560, "heart.gif") for x, y in large]
+    """Hearts in four rows, close to each other."""
+    return [shape(x, y, 600, "heart.gif") for row, y in enumerate((590, 1210, 1830, 2450))
+            for x in ((370, 1000, 1630) if row % 2 == 0 else (685, 1315))]
 
 
 # A mask is scaled once for each size, which takes longer than to draw a shape. So the sizes are few.
-LARGE, SMALL = 800, 600
-DISKS = {LARGE: (550, 450), SMALL: (450, 350)}  # the ring of a flower and the photo in it
-
-
 def flower_garden():
-    """A flower is petals of one colour, a ring and a photo in it; leaves fill the gaps."""
-    flowers = [(430, 460, LARGE, 1, 4), (1290, 370, SMALL, 4, 6), (1640, 1010, SMALL, 7, 4), (860, 1130, LARGE, 5, 4),
-               (330, 1640, SMALL, 2, 5), (1470, 1740, LARGE, 1, 4), (790, 2060, SMALL, 7, 4), (390, 2610, SMALL, 4, 6),
-               (1080, 2640, SMALL, 5, 7), (1690, 2470, SMALL, 2, 5)]
-    leaves = [(900, 660), (330, 1080), (1180, 1560), (560, 1380), (1830, 1390), (1120, 2210), (500, 2270), (160, 2150), (790, 2800),
-              (1820, 540), (1560, 2880), (810, 160), (1740, 150)]
-    places = [shape(x, y, 280, f"leaf_{(1, 5)[index % 2]}.gif", 3) for index, (x, y) in enumerate(leaves)]
-    for x, y, size, color, ring in flowers:
-        outer, inner = DISKS[size]
-        places += [shape(x, y, size, "flower.gif", color), shape(x, y, outer, "circle.gif", ring),
-                   shape(x, y, inner, "circle.gif")]
-    return places
+    """Eight large blossoms, each of them a photo."""
+    spots = [(520, 600), (1480, 470), (1000, 1150), (430, 1580), (1570, 1660), (1000, 2080), (520, 2560), (1490, 2500)]
+    return [shape(x, y, 760 if at in (2, 5) else 640, "flower.gif") for at, (x, y) in enumerate(spots)]
 
 
 def celebration():
-    """Stars and circles for photos, and small coloured ones like confetti."""
-    photos = [(480, 480, 900, "star.gif"), (1510, 480, 660, "circle.gif"), (1000, 1230, 900, "star.gif"),
-              (390, 1560, 660, "circle.gif"), (1610, 1640, 660, "circle.gif"), (560, 2380, 900, "star.gif"),
-              (1430, 2450, 900, "star.gif")]
-    colors = [1, 4, 7, 3, 5, 4]
-    confetti = [(990, 150), (1010, 560), (1880, 150), (110, 130), (130, 960), (470, 1080), (1560, 930), (1830, 1150),
-                (110, 2010), (760, 1740), (1210, 1760), (1870, 2080), (990, 2720), (130, 2860), (1890, 2860), (1000, 2060),
-                (640, 2880), (1150, 2900)]
-    dots = [shape(x, y, 160, "star.gif" if index % 2 else "circle.gif", colors[index % 6])
-            for index, (x, y) in enumerate(confetti)]
-    return dots + [shape(x, y, size, mask) for x, y, size, mask in photos]
+    """Four large stars and three disks, all of them photos."""
+    return [shape(x, y, size, mask) for x, y, size, mask in (
+        (560, 640, 900, "star.gif"), (1460, 600, 640, "circle.gif"), (1360, 1270, 900, "star.gif"), (500, 1400, 640, "circle.gif"),
+        (1520, 1990, 640, "circle.gif"), (620, 2080, 900, "star.gif"), (1260, 2560, 640, "circle.gif"))]
 
 
 def white_mats():
@@ -128,14 +87,5 @@ def white_mats():
 
 
 def daydream():
-    """Each photo reaches 80 pixels under its neighbours, where the soft edges melt."""
-    cells = [(0, 0, 1240, 860), (1160, 0, 840, 860), (0, 780, 700, 1000), (620, 780, 760, 1000), (1300, 780, 700, 1000),
-             (0, 1700, 1000, 700), (920, 1700, 1080, 700), (0, 2320, 680, 680), (600, 2320, 760, 680),
-             (1280, 2320, 720, 680)]
-    return [box(*cell) for cell in cells]
-
-
-def best_wishes():
-    """Room for one line of writing above and below."""
-    return [box(120, 300, 860, 610), box(1020, 300, 860, 610), box(120, 950, 560, 860), box(720, 950, 560, 860),
-            box(1320, 950, 560, 860), box(120, 1850, 1160, 850), box(1320, 1850, 560, 850)]
+    """Soft edges want a ground to fade into: a hand's breadth between the photos."""
+    return rows(PORTRAIT, 130, 90, [(1080, [1]), (560, [1, 1]), (920, [1, 1, 1])])

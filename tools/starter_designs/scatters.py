@@ -2,7 +2,8 @@
 import math
 
 from starter_designs.cover import scattered
-from starter_designs.place import LANDSCAPE, PORTRAIT, centred
+from starter_designs.justified import askew, lying, standing
+from starter_designs.place import PORTRAIT, centred
 
 TILTS = [tilt for tilt in range(-35, 40, 5) if tilt]
 GENTLE = [-10, -5, 5, 10, -5, 5]
@@ -14,32 +15,33 @@ def five(angle):
 
 
 def fan():
-    """Seven upright photos like a hand of cards, on a wide page."""
+    """Seven cards in a hand, on a wide page."""
     places = []
     for tilt in range(-30, 35, 10):
         angle = math.radians(tilt)
-        places.append(centred(1500 + 1950 * math.sin(angle), 2790 - 1950 * math.cos(angle), 520, 780, tilt))
+        places.append(centred(1500 + 2150 * math.sin(angle), 3120 - 2150 * math.cos(angle), 560, 720, tilt))
     return places
 
 
 def two_fans():
     """A hand of five above, one of five below that points down, and the card that was played."""
     places = []
-    for middle, sign in ((2390, 1), (610, -1)):
+    for middle, sign in ((2500, 1), (500, -1)):
         for tilt in range(-20, 25, 10):
             angle = math.radians(tilt)
-            places.append(centred(1000 + 1700 * math.sin(angle), middle - sign * 1700 * math.cos(angle), 490, 735, tilt * sign))
-    return places + [centred(1000, 1500, 640, 427, -5)]
+            places.append(centred(1000 + 1800 * math.sin(angle), middle - sign * 1700 * math.cos(angle), 490, 640, tilt * sign))
+    return places + [centred(1000, 1500, 560, 560, -5)]
 
 
 def waves():
-    """Four waves of six photos, each tilted as the wave runs."""
+    """Four waves of five photos, wide and tall in turn, each tilted as the wave runs."""
     places = []
-    for line, middle in enumerate((430, 1140, 1850, 2560)):
-        for at in range(6):
-            x = 240 + at * 304
+    for line, middle in enumerate((520, 1175, 1830, 2480)):
+        for at in range(5):
+            x = 260 + at * 370
             phase = 2 * math.pi * (x / 1540) + line * 1.2
-            places.append(centred(x, middle + 150 * math.sin(phase), 490, 367, five(28 * math.cos(phase))))
+            size = (480, 350) if (at + line) % 2 == 0 else (340, 460)
+            places.append(centred(x, middle + 110 * math.sin(phase), *size, five(18 * math.cos(phase))))
     return places
 
 
@@ -65,19 +67,20 @@ def heart_ring():
     def apart(x, y):
         """The two next to the tip would lie on each other."""
         return x if abs(x) < 20 or y < 800 else math.copysign(max(abs(x), 205), x)
-    places = [centred(1000 + apart(x, y), 1340 + y, 390, 292, tilt)
+    places = [centred(1000 + apart(x, y), 1440 + y, 320, 320, tilt)
               for (x, y), tilt in zip(heart_line(19, 470), tilts + [0] + [-tilt for tilt in reversed(tilts)])]
     from_tip = sorted(places, key=lambda place: -place.top)
-    return from_tip + [centred(1000, 1340, 780, 585, -5)]
+    return from_tip + [centred(1000, 1400, 760, 760, -5)]
 
 
 def ring():
-    """Twelve photos round a large one."""
+    """Twelve photos round a large one, wide and tall in turn."""
     places = []
     for at in range(12):
         angle = math.radians(30 * at)
-        places.append(centred(1000 + 690 * math.sin(angle), 1500 - 1160 * math.cos(angle), 470, 352, five(24 * math.sin(2 * angle))))
-    return places + [centred(1000, 1500, 860, 1060, 5)]
+        size = (430, 310) if at % 2 == 0 else (310, 430)
+        places.append(centred(1000 + 730 * math.sin(angle), 1500 - 1040 * math.cos(angle), *size, five(16 * math.sin(2 * angle))))
+    return places + [centred(1000, 1500, 780, 1080, 5)]
 
 
 def pile():
@@ -96,72 +99,63 @@ def card_table():
 
 
 def big_five():
-    spots = [(640, 520, 1080, 720, -5), (1330, 1080, 1080, 720, 5), (560, 1620, 720, 1000, -10), (1420, 1870, 760, 1040, 5),
-             (760, 2540, 1080, 720, -5)]
+    """Five very large photos, hardly askew, that lap over a hand's breadth."""
+    spots = [(690, 640, 1080, 720, -5), (1480, 1180, 760, 1040, 5), (560, 1420, 760, 1040, 5), (1380, 1960, 1060, 707, -5),
+             (660, 2330, 1020, 680, 5)]
     return [centred(*spot) for spot in spots]
 
 
 def four_friends():
-    return [centred(*spot) for spot in ((590, 760, 760, 1080, -10), (1440, 720, 740, 1060, 10), (570, 2200, 760, 1100, 5),
-                                        (1430, 2240, 760, 1080, -5))]
-
-
-def cascade():
-    """Eight photos that tumble to and fro on their way down."""
-    places = []
-    for at in range(8):
-        y = 360 + 325 * at
-        places.append(centred(1000 + 400 * math.sin(y / 330 - 1.7), y, 760, 507, five(-20 * math.cos(y / 330 - 1.7))))
-    return places
+    """Two portraits and two landscapes about the middle, like the sails of a mill."""
+    return [centred(*spot) for spot in ((570, 900, 780, 1080, -5), (1430, 720, 840, 600, 5), (1430, 2010, 780, 1080, 5),
+                                        (570, 2210, 840, 600, -5))]
 
 
 def confetti():
-    return scattered(PORTRAIT, (410, 275), TILTS * 4 + [0, -5, 5, 10], seed=49, hang=70, rounds=9000)
+    return scattered(PORTRAIT, (385, 260), TILTS * 4 + [0, -5, 5, 10], seed=49, hang=50)
 
 
 def forty():
-    return scattered(LANDSCAPE, (505, 338), (TILTS * 3)[:36] + [0, 0, -5, 5], seed=21, hang=60, rounds=9000)
+    return scattered(PORTRAIT, (485, 325), (TILTS * 3)[:36] + [0, 0, -5, 5], seed=24, hang=50)
 
 
 def thirty():
-    return scattered(PORTRAIT, (560, 385), (GENTLE * 5), seed=30, hang=100, rounds=8000)
+    return scattered(PORTRAIT, (550, 375), (GENTLE * 5), seed=33, hang=60)
 
 
 def twenty_wide():
-    return scattered(LANDSCAPE, (700, 475), ([-15, 15, -20, 20] + GENTLE * 3)[:20], seed=12, hang=110, rounds=6000)
+    return scattered(PORTRAIT, (700, 475), ([-15, 15, -20, 20] + GENTLE * 3)[:20], seed=13, hang=60)
 
 
 def loose_rows():
-    """Twelve landscapes in rows, each a little askew, with air between them."""
-    tilts = [-5, 5, 5, -5, -5, 5, 5, -5, 5, -5, -5, 5]
-    return [centred(520 + 960 * (at % 2) + (14, -10, 6)[at % 3], 300 + 480 * (at // 2) + (-10, 12)[at % 2], 690, 420, tilts[at])
-            for at in range(12)]
+    """Three rows of portraits and landscapes, each a little askew."""
+    return askew(standing("PP", "LPL", "PLP"), (-5, 5, 5, -5, -5))
 
 
 def loose_portraits():
-    """Ten portraits in two rows."""
-    tilts = [-5, 5, -5, 5, -5, 5, -5, 5, -5, 5]
-    return [centred(330 + 585 * (at % 5) + (10, -8, 12)[at % 3], 520 + 960 * (at // 5) + (-16, 14)[at % 2], 460, 740, tilts[at])
-            for at in range(10)]
+    """Two rows of portraits and landscapes, none of them quite straight."""
+    return askew(lying("PLP", "PLPLP"), (-5, 5))
 
 
 def spiral():
-    """Eighteen photos as seeds stand in a flower, small in the middle, where they lie on top."""
+    """Eighteen photos in two rings about a square one, each ring leaning the other way."""
     places = []
-    for at in reversed(range(18)):
-        turn, reach = math.radians(137.5 * at), math.sqrt((at + 0.3) / 18)
-        size = 400 + 14 * at
-        places.append(centred(1000 + 640 * reach * math.cos(turn), 1500 + 1220 * reach * math.sin(turn), size, size * 0.75,
-                              five(25 * math.sin(turn * 2))))
-    return places
+    for count, across, down, first, lean, (long_side, short_side) in ((11, 720, 1090, 8, -10, (400, 290)), (6, 370, 560, 30, 10, (370, 270))):
+        for at in range(count):
+            angle = math.radians(first + 360 * at / count)
+            sides = (long_side, short_side) if at % 2 else (short_side, long_side)
+            places.append(centred(1000 + across * math.sin(angle), 1500 - down * math.cos(angle), *sides, lean))
+    return places + [centred(1000, 1500, 480, 480, -5)]
 
 
 def bouquet():
-    """Petals of portraits around one large photo, with two leaves below."""
+    """Petals of portraits above one large photo, leaves of landscapes below."""
     places = []
-    for tilt, x, y in ((-30, 430, 1120), (30, 1570, 1120), (-15, 690, 640), (15, 1310, 640), (-35, 480, 1900), (35, 1520, 1900)):
-        places.append(centred(x, y, 490, 735, tilt))
-    return places + [centred(660, 2500, 720, 500, 15), centred(1340, 2500, 720, 500, -15), centred(1000, 1400, 760, 1080, 0)]
+    for tilt, x, y in ((-25, 420, 1170), (25, 1580, 1170), (-10, 660, 700), (10, 1340, 700)):
+        places.append(centred(x, y, 490, 700, tilt))
+    for tilt, x, y in ((15, 480, 1800), (-15, 1520, 1800), (20, 660, 2370), (-20, 1340, 2370)):
+        places.append(centred(x, y, 720, 490, tilt))
+    return places + [centred(1000, 1440, 740, 1040, 0)]
 
 
 def pinboard():
@@ -170,18 +164,19 @@ def pinboard():
     places = []
     for at in range(15):
         column, line = at % 3, at // 3
-        size = (360, 500) if (column + line) % 2 == 0 else (530, 380)
-        places.append(centred(355 + 645 * column, 330 + 585 * line, *size, tilts[at]))
+        size = (350, 460) if (column + line) % 2 == 0 else (510, 360)
+        places.append(centred(355 + 645 * column, 500 + 500 * line, *size, tilts[at]))
     return places
 
 
 def garlands():
     """Four strings of photos that sag from edge to edge."""
     places = []
-    for line, middle in enumerate((360, 1080, 1800, 2520)):
+    for line, middle in enumerate((460, 1120, 1780, 2440)):
         for at in range(4):
             off = at - 1.5
-            places.append(centred(1000 + 470 * off, middle + 150 - 62 * off * off, 390, 520, five(-12 * off)))
+            size, lower = ((370, 480), 0) if (at + line) % 2 else ((420, 310), -85)
+            places.append(centred(1000 + 470 * off, middle + 135 + lower - 62 * off * off, *size, five(-12 * off)))
     return places
 
 
@@ -190,18 +185,10 @@ def windy_day():
     places = []
     for at in range(18):
         column, line = at % 3, at // 3
-        tilt = five(-5 - 5 * column - 2 * line)
-        places.append(centred(360 + 640 * column, 300 + 480 * line + 30 * (1 - column), 560, 400, tilt))
+        tilt = five(-5 - 2.5 * column - line)
+        size = (540, 380) if (column + line) % 2 == 0 else (380, 480)
+        places.append(centred(360 + 640 * column, 340 + 465 * line + 30 * (1 - column), *size, tilt))
     return places
-
-
-def crossing():
-    """Two rows of photos that cross in the middle."""
-    places = []
-    for at in (-3, 3, -2, 2, -1, 1):
-        places.append(centred(1000 + 225 * at, 1500 + 375 * at, 520, 390, -20))
-        places.append(centred(1000 - 225 * at, 1500 + 375 * at, 520, 390, 20))
-    return places + [centred(1000, 1500, 900, 675, 0)]
 
 
 def six_cards():
@@ -210,12 +197,13 @@ def six_cards():
 
 
 def carousel():
-    """A wide ring of nine photos."""
+    """A wide ring of ten photos round a large one."""
     places = []
     for at in range(10):
         angle = math.radians(36 * at - 90)
-        places.append(centred(1500 + 1130 * math.cos(angle), 1000 + 660 * math.sin(angle), 560, 420, five(-20 * math.sin(2 * angle))))
-    return places + [centred(1500, 1000, 1080, 760, -5)]
+        size = (500, 360) if at % 2 else (350, 480)
+        places.append(centred(1500 + 1090 * math.cos(angle), 1000 + 580 * math.sin(angle), *size, five(-12 * math.sin(2 * angle))))
+    return places + [centred(1500, 1000, 1040, 720, -5)]
 
 
 def round_table():
@@ -239,8 +227,8 @@ def on_the_line():
 
 
 def travel_desk():
-    return scattered(LANDSCAPE, (800, 535), (GENTLE + [-15, 15] + GENTLE)[:14], seed=14, hang=90, rounds=6000)
+    return scattered(PORTRAIT, (800, 535), (GENTLE + [-15, 15] + GENTLE)[:14], seed=14, hang=60)
 
 
 def half_a_hundred():
-    return scattered(PORTRAIT, (450, 302), (TILTS * 4)[:44] + [0, -5, 5, 0, 10, -10], seed=50, hang=70, rounds=9000)
+    return scattered(PORTRAIT, (415, 280), (TILTS * 4)[:44] + [0, -5, 5, 0, 10, -10], seed=50, hang=50)

@@ -1,104 +1,65 @@
-"""Layouts for the backgrounds of starter_art: each leaves free what is drawn at the rim."""
-from starter_designs.place import box, centred, shape
+"""Layouts for the pages of the occasions: one for an upright poster and one for a wide one, neither the other's turn.
+Each leaves the caption its place above and below."""
+from starter_designs.justified import askew, justified, lying, standing
+from starter_designs.place import box, shape
 
-def tilted(*spots):
-    """Photos given as (middle x, middle y, width, height, tilt)."""
-    return [centred(*spot) for spot in spots]
 
-def birthday():
-    return tilted((545, 720, 780, 520, -5), (1455, 740, 780, 520, 5), (390, 1390, 500, 750, 5), (1000, 1390, 520, 780, -5),
-                  (1610, 1390, 500, 750, 5), (700, 2100, 740, 493, -5), (1350, 2130, 680, 453, 5), (1000, 2630, 760, 507, 0))
+def within(inset, *rows, wide=False, gap=40):
+    """Rows that leave more of the page at their sides, for what is drawn there."""
+    left, top, right, bottom = (inset, 270, 3000 - inset, 1730) if wide else (inset, 290, 2000 - inset, 2700)
+    return justified((left, top, right, bottom), gap, rows)
 
-def wedding():
-    return [box(700, 230, 1080, 720), box(220, 1020, 745, 930), box(1035, 1020, 745, 930), box(220, 2020, 745, 450),
-            box(1035, 2020, 745, 450)]
 
-def baby():
-    return tilted((680, 660, 760, 507, -5), (1500, 610, 760, 507, 5), (2320, 660, 760, 507, -5), (470, 1310, 420, 630, 5),
-                  (985, 1320, 420, 630, -5), (1500, 1300, 420, 630, 5), (2015, 1320, 420, 630, -5), (2530, 1310, 420, 630, 5))
+PAGES = {
+    "birthday": (askew(standing("L", "PPP", "LLP")), askew(lying("PLP", "LLPL"), (5, -5, 5, -5))),
+    "wedding": (within(250, "L", "LP", "PL"), within(400, "LL", "PLP", wide=True)),
+    "baby": (standing("L", "LL", "PLP"), lying("LL", "PLPLP")),
+    "graduation": (within(210, "PP", "LP", "LL"), within(320, "LL", "PPLP", wide=True)),
+    "spring": (askew(within(170, "PP", "LL", "PLP")), askew(within(260, "PLP", "LPLP", wide=True))),
+    "summer": (standing("PP", "LL", "LPL"), lying("LPL", "PPLP")),
+    "winter": (askew(standing("PP", "LPL", "PLP")), askew(lying("PLP", "PLPLP"), (5, -5))),
+    "christmas": (askew(within(170, "L", "PPP", "LPL")), askew(within(260, "PPPP", "LLPL", wide=True))),
+    "travel": (standing("L", "PLP", "PLP"), lying("LPL", "PPLP")),
+    "garden": (within(210, "L", "LP", "PLP"), within(320, "LPL", "PLP", wide=True)),
+    "sports": (standing("L", "PL", "LPLP"), lying("LPL", "LPL")),
+    "music": (askew(within(170, "L", "LP", "PLP")), askew(within(260, "LPL", "PLP", wide=True))),
+    "school": (standing("LL", "PLP", "LL", "PLP"), lying("PLP", "LPLPL")),
+    "space": (standing("LP", "PL", "LP"), within(200, "LL", "LPLP", wide=True)),
+    "pets": (within(210, "PP", "LP", "LPL"), within(260, "LPL", "PPLP", wide=True)),
+    "valentine": (within(170, "L", "LP", "PPLP"), within(200, "LL", "PPLPP", wide=True)),
+    "mountains": (standing("L", "LP", "LPL"), lying("PLP", "LPLP")),
+    "pumpkin_night": (askew(standing("L", "LL", "PPPP"), (5, -5, 5)), askew(lying("LLP", "PPLP"))),
+    "seaside": (askew(standing("PP", "LL", "LLP")), askew(lying("LPL", "PPLPP"))),
+    "autumn": (askew(within(210, "PP", "LP", "LL"), (5, -5, -5)), askew(within(260, "LL", "PPLP", wide=True))),
+    "starry_night": (standing("LL", "PP", "LL"), lying("LLP", "PPLP")),
+    "best_wishes": (within(210, "PP", "LL", "PLP"), within(320, "LP", "LPLPL", wide=True)),
+    "anniversary": (within(250, "L", "PLP", "L"), within(400, "PL", "LPLL", wide=True)),
+    "mothers_day": (within(170, "PP", "LP", "PLPL"), within(260, "PLP", "LPLP", wide=True)),
+    "fathers_day": (standing("LL", "PP", "LPL"), lying("PLL", "PPLP")),
+    "easter": (askew(within(210, "L", "PPLPP", "L"), (5, -5, 5)), askew(within(320, "LL", "PPLP", wide=True))),
+    "new_year": (askew(standing("L", "PPP", "LPLPL")), askew(lying("PPPP", "LPLPL"))),
+    "milestone": (within(210, "LP", "LL", "PPPP", "LL"), within(320, "LPLP", "LLPL", "LPLL", wide=True)),
+    "memorial": (within(250, "L", "LP", "PL"), within(400, "LP", "PLL", wide=True)),
+    "road_trip": (standing("LL", "PPP", "LLP", "LPL"), lying("LPLP", "PPLP")),
+    "city": (standing("L", "PPP", "LPLP"), lying("PLP", "LLPL")),
+    "open_sea": (standing("L", "LP", "LPLP"), lying("LLP", "LPL")),
+    # Five frames on each of two strips of film; three on a wide page.
+    "cinema": ([box(left, 322 + 476 * at, 680, 452) for left in (220, 1100) for at in range(5)],
+               [box(96 + 949 * at, top, 909, 606) for top in (322, 1072) for at in range(3)]),
+    # Four grandparents, two parents, one child: the lines between them are the page's.
+    "family_tree": ([box(x - 190, 290, 380, 450) for x in (310, 770, 1230, 1690)] + [box(x - 230, 1010, 460, 550) for x in (540, 1460)]
+                    + [box(380, 1830, 1240, 850)],
+                    [box(x - 190, 270, 380, 420) for x in (480, 1140, 1860, 2520)] + [box(x - 270, 880, 540, 640) for x in (810, 2190)]
+                    + [box(1190, 820, 620, 760)]),
+}
 
-def graduation():
-    return tilted((500, 920, 560, 840, -5), (2500, 920, 560, 840, 5), (1500, 750, 1140, 760, 0), (1090, 1550, 740, 493, -5),
-                  (1910, 1550, 740, 493, 5))
-
-def christmas():
-    return tilted((540, 730, 780, 520, -5), (1460, 740, 780, 520, 5), (400, 1370, 500, 750, 5), (1000, 1380, 520, 780, -5),
-                  (1600, 1370, 500, 750, 5), (545, 2080, 780, 520, -5), (1455, 2090, 780, 520, 5))
-
-def spring():
-    return [box(150, 560, 520, 780), box(740, 560, 520, 780), box(1330, 560, 520, 780), box(150, 1410, 815, 543),
-            box(1035, 1410, 815, 543), box(150, 2023, 930, 610), box(1150, 2023, 700, 610)]
-
-def summer():
-    return tilted((800, 500, 700, 467, -5), (1520, 470, 700, 467, 5), (2230, 510, 700, 467, -5), (450, 1120, 440, 660, 5),
-                  (975, 1150, 440, 660, -5), (1500, 1130, 440, 660, 5), (2025, 1150, 440, 660, -5), (2550, 1120, 440, 660, 5),
-                  (1500, 1720, 640, 427, 0))
-
-def winter():
-    return tilted((545, 470, 800, 533, -5), (1450, 510, 780, 520, 5), (390, 1150, 500, 750, 5), (1000, 1190, 540, 810, -5),
-                  (1610, 1170, 480, 720, 5), (545, 1900, 780, 520, -5), (1440, 1960, 760, 507, 5))
-
-def garden():
-    return [box(130, 330, 1080, 720), box(1270, 330, 600, 720), box(130, 1110, 540, 810), box(730, 1110, 540, 810),
-            box(1330, 1110, 540, 810), box(330, 1980, 640, 430), box(1030, 1980, 640, 430)]
-
-def travel():
-    return tilted((560, 510, 740, 493, -5), (1390, 480, 740, 493, 5), (2200, 620, 720, 480, -5), (380, 1240, 440, 660, -5),
-                  (930, 1290, 460, 690, 5), (1560, 1310, 740, 493, -5), (2240, 1360, 480, 720, 5))
-
-def sports():
-    return [box(785, 110, 690, 460), box(1525, 110, 690, 460), centred(510, 1000, 500, 750, -5), centred(2490, 1000, 500, 750, 5),
-            box(930, 620, 1140, 760), box(785, 1430, 690, 460), box(1525, 1430, 690, 460)]
-
-def music():
-    return tilted((545, 900, 800, 533, -5), (1455, 920, 800, 533, 5), (400, 1720, 520, 780, 5), (1000, 1740, 520, 780, -5),
-                  (1600, 1720, 520, 780, 5))
-
-def school():
-    return tilted((500, 560, 600, 400, -5), (1160, 550, 600, 400, 5), (1830, 560, 600, 400, -5), (2490, 550, 600, 400, 5),
-                  (640, 1180, 430, 645, 5), (1210, 1200, 430, 645, -5), (1780, 1180, 430, 645, 5), (2350, 1200, 430, 645, -5))
-
-def cinema():
-    """Twelve pictures of two strips of film."""
-    return [box(left, 17 + 497 * at, 720, 480) for left in (160, 1120) for at in range(6)]
-
-def space():
-    return tilted((820, 640, 860, 573, -5), (520, 1340, 580, 870, 5), (1380, 1290, 900, 600, -5), (1480, 1960, 560, 740, 5),
-                  (700, 2110, 860, 573, -5), (1000, 2620, 720, 480, 5))
-
-def pets():
-    return tilted((545, 700, 780, 520, -5), (1455, 710, 780, 520, 5), (400, 1350, 500, 750, 5), (1000, 1350, 520, 780, -5),
-                  (1600, 1350, 500, 750, 5), (1000, 2150, 1080, 720, 0))
-
-def family_tree():
-    """Three and four portraits in the crown, three landscapes below them, the whole family before the trunk."""
-    return tilted((470, 520, 380, 520, -5), (1000, 450, 400, 540, 0), (1530, 520, 380, 520, 5), (290, 1120, 360, 500, 5),
-                  (760, 1100, 380, 520, -5), (1240, 1100, 380, 520, 5), (1710, 1120, 360, 500, -5), (430, 1680, 520, 370, -5),
-                  (1000, 1640, 520, 370, 0), (1570, 1680, 520, 370, 5), (1000, 2400, 900, 600, 0))
-
-def valentine():
-    """A large portrait before the heart, four portraits on each side."""
-    sides = [(x, y, 400, 550, tilt) for x, y, tilt in ((270, 610, -5), (740, 590, 5), (270, 1360, 5), (740, 1390, -5))]
-    return tilted(*sides, *((3000 - x, y, wide, high, -tilt) for x, y, wide, high, tilt in sides), (1500, 960, 700, 860, 0))
-
-def mountains():
-    return tilted((400, 430, 600, 400, -5), (1040, 410, 600, 400, 5), (1680, 430, 600, 400, -5), (2310, 480, 560, 373, 5),
-                  *((300 + 480 * at, 1080 + (14, -14)[at % 2], 400, 560, (5, -5)[at % 2]) for at in range(6)))
-
-def pumpkin_night():
-    return tilted((540, 830, 760, 507, -5), (1460, 960, 760, 507, 5), (400, 1510, 500, 750, 5), (1000, 1600, 500, 750, -5),
-                  (1600, 1600, 500, 750, 5), (545, 2240, 780, 520, -5), (1455, 2290, 760, 507, 5))
-
-# ---- shapes
 
 def stamps():
-    """Three by four stamps."""
-    return [shape(x, y, 600, "stamp.gif") for y in (435, 1145, 1855, 2565) for x in (345, 1000, 1655)]
+    """Twelve stamps on a dark card, close to each other."""
+    return [shape(390 + 610 * column, 590 + 610 * line, 570, "stamp.gif") for line in range(4) for column in range(3)]
 
 
 def cloud_nine():
-    """Eight clouds and a few empty white ones."""
-    white = [(1000, 330), (180, 1010), (1820, 960), (1010, 1500), (180, 1990), (1820, 2010), (1000, 2720)]
-    photos = [(450, 480), (1550, 480), (1000, 900), (430, 1470), (1570, 1450), (1000, 2020), (420, 2540), (1580, 2540)]
-    return [shape(x, y, 280, "cloud.gif", 5) for x, y in white] + [shape(x, y, 740, "cloud.gif") for x, y in photos]
-
+    """Seven clouds that fill the sky."""
+    spots = [(620, 560, 900), (1450, 850, 900), (560, 1190, 760), (1400, 1530, 900), (540, 1850, 900), (1440, 2180, 760), (700, 2520, 900)]
+    return [shape(x, y, size, "cloud.gif") for x, y, size in spots]

@@ -47,6 +47,16 @@ TEST_F(font_test, offers_the_fonts_of_the_screen_but_the_first)
     EXPECT_TRUE(window.lstFonts.items().empty());
 }
 
+TEST_F(font_test, offers_the_faces_for_titles_before_the_others)
+{
+    session.desk.fonts = {"Arial", "Courier", "EB Garamond", "League Spartan", "Serif"};
+    window.unload();
+    window.load();
+    EXPECT_EQ(window.lstFonts.items(),
+              (std::vector<std::string>{"League Spartan", "EB Garamond", "Courier", "Serif"}));
+    EXPECT_EQ(window.lstFonts.text(), "Serif");
+}
+
 TEST_F(font_test, hides_size_and_colour_until_a_collage_is_begun)
 {
     main.font_extended = false;

@@ -1,0 +1,153 @@
+"""More pages of the occasions: days of the year, and the roads, cities and seas of journeys."""
+import math
+import random
+
+from starter_art.botany import bough, garland_of_leaves, petals, rose_corner
+from starter_art.occasions import GOLD, HEART
+from starter_art.pages import placed
+from starter_art.scenery import bokeh, disk, light, ranges, rule, sky, stars, water, wood
+from starter_art.svg import circle, closed, drawing, path, rectangle
+
+
+def anniversary(size):
+    chance = random.Random(321)
+    wide, high = size
+    parts = sky(size, (0, "#2e2030"), (1, "#1f1521")) + light(size, 0.5, 0.5, 1.0, "#8a6a86", 0.4) + bokeh(chance, size, [GOLD], 34, 14, 60, rim=0.2)
+    parts += rule(size, 56, GOLD)
+    for x, y, turn in ((90, high - 90, 45), (wide - 90, high - 90, -45), (90, 90, 135), (wide - 90, 90, -135)):
+        parts.append(placed(garland_of_leaves(random.Random(4), 5, GOLD), x, y, 0.34, turn, opacity="0.8"))
+    return drawing(*size, parts)
+
+
+def mothers_day(size):
+    wide, high = size
+    parts = sky(size, (0, "#4a2c3a"), (1, "#331d28")) + light(size, 0.5, 0.5, 1.0, "#b58a98", 0.4)
+    return drawing(*size, parts + [rose_corner(wide, 0, -1, 1, 0.62), rose_corner(0, high, 1, -1, 0.62)])
+
+
+def fathers_day(size):
+    """A herringbone cloth of two blues."""
+    wide, high = size
+    parts = sky(size, (0, "#27323f"), (1, "#1c242e"))
+    shape = "".join(f"M{x},{y}l50,50M{x + 100},{y}l-50,50" for x in range(-50, wide + 50, 100) for y in range(-50, high + 50, 16))
+    parts.append(path(shape, fill="none", stroke="#6d8299", stroke_width="4", stroke_opacity="0.2"))
+    return drawing(*size, parts + light(size, 0.5, 0.45, 1.0, "#7f97b0", 0.22) + rule(size, 56, "#b58a5a", "0.8", False))
+
+
+def easter(size):
+    chance = random.Random(324)
+    wide, high = size
+    parts = sky(size, (0, "#2c4a3c"), (0.6, "#567a5c"), (1, "#2b4430")) + light(size, 0.5, 0.5, 0.8, "#d3d9a0", 0.3)
+    for x, y, turn, scale in ((-30, 0.3 * high, 70, 0.62), (wide + 30, 0.36 * high, -64, 0.7), (-20, high - 140, 48, 0.75), (wide + 20, high - 120, -50, 0.72)):
+        parts.append(placed(bough(chance, ["#fbf4e4", "#f7e7a6", "#fdfaf0"], "#40352a"), x, y, scale, turn))
+    return drawing(*size, parts + petals(chance, size, ["#fbf4e4", "#f7e7a6"], 36))
+
+
+def new_year(size):
+    chance = random.Random(325)
+    wide, high = size
+    parts = sky(size, (0, "#10142a"), (0.6, "#1f2748"), (1, "#0d1122")) + stars(chance, size, 160)
+    for x, y, reach, tone in ((0.07, 0.17, 300, "#f3d08a"), (0.93, 0.3, 340, "#e8a0a0"), (0.06, 0.66, 280, "#9fc4e8"), (0.95, 0.8, 300, "#f3d08a"),
+                              (0.14, 0.92, 200, "#e8c8a0")):
+        parts += rocket(chance, x * wide, y * high, reach, tone)
+    return drawing(*size, parts)
+
+
+def rocket(chance, x, y, reach, tone):
+    """A burst: sparks that fall a little as they fly."""
+    found = []
+    for at in range(46):
+        angle, far = 2 * math.pi * at / 46 + chance.uniform(-0.05, 0.05), reach * chance.uniform(0.55, 1)
+        tip = (x + far * math.cos(angle), y + far * math.sin(angle) + 0.12 * far)
+        found += [path(f"M{x + 0.25 * far * math.cos(angle):.0f},{y + 0.25 * far * math.sin(angle):.0f}Q{x + 0.7 * far * math.cos(angle):.0f},"
+                       f"{y + 0.7 * far * math.sin(angle):.0f} {tip[0]:.0f},{tip[1]:.0f}", fill="none", stroke=tone, stroke_width="3",
+                       stroke_opacity=f"{chance.uniform(0.25, 0.6):.2f}", stroke_linecap="round"),
+                  circle(*tip, chance.uniform(3, 6), fill="#fff6df", fill_opacity="0.85")]
+    return found
+
+
+def milestone(size):
+    chance = random.Random(326)
+    wide, high = size
+    parts = sky(size, (0, "#16352f"), (1, "#0f2622")) + light(size, 0.5, 0.5, 1.0, "#5f9484", 0.35) + rule(size, 56, GOLD)
+    for _ in range(170):
+        side, reach = chance.choice((0, 1)), chance.random() ** 2 * 0.1 * wide
+        x, y = (reach if side == 0 else wide - reach), chance.uniform(0, high)
+        parts.append(circle(x, y, chance.uniform(3, 13), fill=chance.choice([GOLD, "#f0dcae", "#b08c4e"]), fill_opacity=f"{chance.uniform(0.3, 0.85):.2f}"))
+    return drawing(*size, parts)
+
+
+def memorial(size):
+    """A lake in the morning, woods beyond it."""
+    chance = random.Random(327)
+    parts = sky(size, (0, "#2b333b"), (0.4, "#6d7880"), (0.58, "#b0b0a8"), (0.6, "#7f8a8e"), (0.85, "#353f45"), (1, "#1c2328"))
+    parts += light(size, 0.5, 0.55, 0.6, "#efe9d6", 0.4)
+    for at, (tone, high) in enumerate((("#98a2a4", 0.05), ("#7d888c", 0.04), ("#5c676c", 0.03))):
+        parts += [part.replace("</g>", "") for part in wood(chance, size, 0.6 + 0.004 * at, high * size[1], tone, 90 - 14 * at)]
+    return drawing(*size, parts + water(chance, size, 0.61, "#9aa2a4", "#b9b8ae", 120))
+
+
+def road_trip(size):
+    chance = random.Random(328)
+    wide, high = size
+    parts = sky(size, (0, "#2d2b4a"), (0.3, "#80627c"), (0.52, "#e0a17c"), (1, "#e0a17c")) + light(size, 0.5, 0.53, 0.6, "#ffe0a8", 0.6)
+    parts += ranges(chance, size, 0.5, 0.6, "#a0708a", "#4a3a52", 4, 0.05)
+    parts += sky(size, (0, "#3a3340"), (0.6, "#3a3340"), (1, "#1d1a24"), name="plain")[:1] + [rectangle(0, 0.6 * high, wide, 0.4 * high, fill="url(#plain)")]
+    parts.append(path(closed([(0.49 * wide, 0.6 * high), (0.51 * wide, 0.6 * high), (0.86 * wide, high), (0.14 * wide, high)]), fill="#26222c"))
+    for at in range(9):
+        near, far = (at / 9) ** 2.2, ((at + 0.45) / 9) ** 2.2
+        y, below = high * (0.6 + 0.4 * near), high * (0.6 + 0.4 * far)
+        parts.append(path(closed([(wide / 2 - 2 - 14 * near, y), (wide / 2 + 2 + 14 * near, y), (wide / 2 + 2 + 14 * far, below),
+                                  (wide / 2 - 2 - 14 * far, below)]), fill="#d9b877", fill_opacity="0.6"))
+    return drawing(*size, parts)
+
+
+def city(size):
+    """Rows of houses with lights in their windows, the nearest the darkest."""
+    chance = random.Random(329)
+    wide, high = size
+    parts = sky(size, (0, "#171c36"), (0.5, "#3f4468"), (0.78, "#a0706c"), (1, "#a0706c")) + light(size, 0.5, 0.75, 0.8, "#f0b48a", 0.4)
+    for row, (base, tone, lit) in enumerate(((0.62, "#4a4566", 0.12), (0.72, "#2f2f4c", 0.22), (0.83, "#171a2e", 0.3))):
+        x = -20
+        while x < wide:
+            across, top = chance.uniform(70, 170) * (1 + 0.2 * row), high * (base - chance.random() ** 2 * 0.16)
+            parts.append(rectangle(round(x), round(top), round(across) + 1, high - top, fill=tone))
+            if chance.random() < 0.25:
+                parts.append(rectangle(round(x + across / 2) - 3, round(top) - 60, 6, 62, fill=tone))
+            parts.append(path(windows(chance, x, top, across, high, lit), fill="#f3cf8f", fill_opacity=f"{0.35 + 0.15 * row:.2f}"))
+            x += across + chance.choice((0, 0, 14))
+    parts += [rectangle(0, 0.88 * high, wide, 0.12 * high, fill="#0f1120", fill_opacity="0.75")]
+    return drawing(*size, parts)
+
+
+def windows(chance, x, top, across, high, lit):
+    shape = ""
+    for y in range(int(top) + 24, int(0.9 * high), 34):
+        for at in range(int(x) + 14, int(x + across) - 16, 26):
+            if chance.random() < lit:
+                shape += f"M{at},{y}h10v14h-10Z"
+    return shape or "M0,0Z"
+
+
+def open_sea(size):
+    chance = random.Random(330)
+    parts = sky(size, (0, "#13233c"), (0.3, "#2f4a6b"), (0.42, "#7f93a3"), (0.421, "#3f5f74"), (1, "#0d1c2c"))
+    parts += stars(chance, size, 90, 0.3) + light(size, 0.78, 0.24, 0.4, "#f6ecd0", 0.45) + disk(size, 0.78, 0.24, 62, "#fbf3dc")
+    parts += water(chance, size, 0.43, "#9fb8c4", "#f6ecd0", 260, 0.78)
+    return drawing(*size, parts)
+
+
+def evening_sky(size):
+    """Nothing but the sky, and the first stars."""
+    parts = sky(size, (0, "#24304f"), (0.5, "#565d84"), (0.8, "#94788c"), (1, "#4f4a68")) + light(size, 0.5, 0.75, 0.8, "#e0b0a0", 0.3)
+    return drawing(*size, parts + stars(random.Random(65), size, 150, 0.55))
+
+
+def heart_paper(size):
+    """Deep red paper with hearts of many sizes, hardly lighter than the paper."""
+    chance = random.Random(61)
+    parts = sky(size, (0, "#551a29"), (1, "#3d111c")) + light(size, 0.5, 0.45, 1.0, "#b5566a", 0.4)
+    for _ in range(130):
+        parts.append(placed([path(HEART)], chance.uniform(0, size[0]), chance.uniform(0, size[1]), chance.uniform(0.15, 0.65), chance.uniform(-28, 28),
+                            fill="#f0b7bd", fill_opacity=f"{chance.uniform(0.03, 0.1):.2f}"))
+    return drawing(*size, parts)
