@@ -179,6 +179,7 @@ const std::map<std::string, option> & options()
         {"--photos", valued(read_photos)},
         {"--design", text_into(&batch_arguments::design)},
         {"--frames", text_into(&batch_arguments::frames)},
+        {"--recipe", text_into(&batch_arguments::recipe)},
         {"--quick", choice_into(&batch_arguments::quick, {"block", "scattered", "matrix", "shapes"})},
         {"--orientation", choice_into(&batch_arguments::orientation, {"portrait", "landscape", "square"})},
         {"--set", valued(read_setting)},
@@ -250,6 +251,34 @@ words take_option(batch_arguments & read, words rest)
     return rest;
 }
 
+// A recipe says itself what these would say.
+void check_beside_recipe(const batch_arguments & read)
+{
+    const auto refuse = [](const std::string & name) {
+        throw bad_arguments{"--recipe and " + name + " can't both be followed: the recipe says it already"};
+    };
+    if (!read.design.empty())
+        refuse("--design");
+    if (!read.quick.empty())
+        refuse("--quick");
+    if (!read.frames.empty())
+        refuse("--frames");
+    if (!read.orientation.empty())
+        refuse("--orientation");
+    if (read.seed)
+        refuse("--random");
+}
+
+void check_what_is_made(const batch_arguments & read)
+{
+    if (!read.recipe.empty())
+        return check_beside_recipe(read);
+    if (read.design.empty() && read.quick.empty())
+        throw bad_arguments{"--design, --quick or --recipe is missing; --list shows the designs"};
+    if (!read.design.empty() && !read.quick.empty())
+        throw bad_arguments{"--design and --quick can't both be made"};
+}
+
 std::string columns_of_a_job_list()
 {
     std::string names;
@@ -292,12 +321,9 @@ void read_job_option(batch_arguments & read, const std::string & name, const std
 void check_complete(const batch_arguments & read)
 {
     using task = batch_arguments::task;
-    if (read.design.empty() && read.quick.empty())
-        throw bad_arguments{"--design or --quick is missing; --list shows the designs"};
-    if (!read.design.empty() && !read.quick.empty())
-        throw bad_arguments{"--design and --quick can't both be made"};
-    // A quick style is laid out for its photos.
-    if (read.photos.empty() && (read.wanted == task::make || !read.quick.empty()))
+    check_what_is_made(read);
+    // A quick style is laid out for its photos; a recipe brings its own.
+    if (read.photos.empty() && read.recipe.empty() && (read.wanted == task::make || !read.quick.empty()))
         throw bad_arguments{"--photos is missing"};
     if (read.out.empty() && read.wanted == task::make)
         throw bad_arguments{"--out is missing"};

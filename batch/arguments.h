@@ -13,6 +13,7 @@ struct batch_arguments {
     std::string design;
     std::string frames;       ///< the frame set that a frame design wears
     std::string quick;        ///< style instead of a design: "block", "scattered", "matrix", "shapes"
+    std::string recipe;       ///< file of a flurn that is made once more, instead of a design or a style
     std::string orientation;  ///< "portrait", "landscape", "square"; empty: the one the design was drawn for
     std::vector<std::pair<std::string, std::string>> settings;  ///< control and value, in the order given
     std::optional<std::string> caption;

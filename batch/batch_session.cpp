@@ -9,6 +9,7 @@
 #include "batch/output_kind.h"
 #include "batch/poster_file.h"
 #include "batch/print_size.h"
+#include "batch/recipe_step.h"
 #include "batch/settings.h"
 #include "engine/preview.h"
 #include "engine/run_steps.h"
@@ -181,7 +182,8 @@ exit_status make_full_size(open_session & running, const batch_arguments & argum
     running.all.main.run.drawn_at = drawn_scale(arguments);
     check_memory(running.all.main.run.drawn_at, free_memory());
     // The grid of shapes is laid out by a preview; the full size draws it as it stands.
-    if (running.all.main.collage.quick_active && running.all.main.optShapes.selected())
+    if (arguments.recipe.empty() && running.all.main.collage.quick_active &&
+        running.all.main.optShapes.selected())
         write_quick_shapes(running.all.main);
     running.desk.forget_errors();
     running.all.main.cmdFlurn.click();
@@ -215,10 +217,18 @@ exit_status make_small(open_session & running, const batch_arguments & arguments
     return outcome_of(running, went_out);
 }
 
+bool is_started(frmMain & main, const batch_arguments & arguments)
+{
+    if (arguments.recipe.empty())
+        return arguments.quick.empty() ? start_design(main, arguments) : start_quick_style(main, arguments);
+    start_recipe(main, arguments, [&] { bring_photos(main, arguments); });
+    return true;
+}
+
 exit_status make(open_session & running, const batch_arguments & arguments)
 {
     frmMain & main = running.all.main;
-    if (!(arguments.quick.empty() ? start_design(main, arguments) : start_quick_style(main, arguments)))
+    if (!is_started(main, arguments))
         return exit_status::not_made;
     if (arguments.wanted == batch_arguments::task::dump)
         print_controls(main);
@@ -232,7 +242,9 @@ exit_status make(open_session & running, const batch_arguments & arguments)
 void check_against(frmMain & main, const batch_arguments & arguments)
 {
     check_settings(main, arguments);
-    if (arguments.quick.empty())
+    if (!arguments.recipe.empty())
+        check_recipe_file(main, arguments);
+    else if (arguments.quick.empty())
         check_design(main, arguments);
 }
 

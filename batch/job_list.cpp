@@ -71,9 +71,10 @@ batch_arguments without_what_is_named(batch_arguments common, const table_line &
             continue;
         if (header.cells[i] == "photos")
             common.photos.clear();
-        if (header.cells[i] == "design" || header.cells[i] == "quick") {
+        if (header.cells[i] == "design" || header.cells[i] == "quick" || header.cells[i] == "recipe") {
             common.design.clear();
             common.quick.clear();
+            common.recipe.clear();
         }
     }
     return common;

@@ -4,6 +4,7 @@
 #include "desktop/program_folders.h"
 #include "desktop/text_drawing.h"
 #include "desktop/without_windows.h"
+#include "recipes/recipe_shelf.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -98,7 +99,8 @@ std::string kept_told(const std::string & data)
     const auto is_list = [](const std::string & name) { return name.ends_with(".pls"); };
     return counted(static_cast<std::size_t>(std::ranges::count_if(lists, is_list)), "photo lists") + ", " +
            counted(folders_in(joined(data, "frames")).size(), "frame sets") + ", " +
-           counted(files_in(joined(data, "user_images")).size(), "pictures");
+           counted(files_in(joined(data, "user_images")).size(), "pictures") + ", " +
+           counted(count_recipes(data), "recipes");
 }
 
 std::string room_told(const std::string & folder)

@@ -6,6 +6,7 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
 
   tessaloom-batch --photos DIR|LIST.pls|FILE... --design NAME --out FILE [options]
   tessaloom-batch --photos DIR|LIST.pls|FILE... --quick STYLE --out FILE [options]
+  tessaloom-batch --recipe FILE.flurn --out FILE [options]
   tessaloom-batch --jobs FILE [options]
 
   --photos DIR|LIST.pls|FILE...   folders of .jpg files, photo lists and the photos themselves, in any mix; a folder
@@ -15,6 +16,9 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
   --quick block|scattered|matrix|shapes
                                   a layout made for these photos, three or more, instead of a design; the shape is
                                   set by --set cmbShapes=Stars
+  --recipe FILE.flurn             makes a flurn of the window once more: the same bytes with the same photos; with
+                                  --photos the same settings for other photos. The recipes of the last 50 lie in
+                                  recipes/ of the data folder
   --out FILE                      where the poster goes, a name ending in .jpg, .jpeg, .png, .tif, .tiff or .pdf, which
                                   tells the kind; a file that is there is replaced, a link is written through; - is
                                   standard output, as JPEG
@@ -47,8 +51,8 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
   --keep DIR                      leaves the work files there: templates, lists, finished.jpg
 
   --jobs FILE                     works off a job list: tab-separated, a header line that names the columns (out,
-                                  photos, design, quick, frames, orientation, set, caption, size, scale, dpi, page,
-                                  around, bleed, random, answer; photos and set may stand there more than once), a job a line; - is standard
+                                  photos, design, quick, recipe, frames, orientation, set, caption, size, scale, dpi,
+                                  page, around, bleed, random, answer; photos and set may stand there more than once), a job a line; - is standard
                                   input. Options given beside it hold for all jobs. A job whose out is there is done
   --again                         makes those jobs too
 

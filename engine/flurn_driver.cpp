@@ -114,7 +114,7 @@ void give_up(frmMain & main)
     set_enable(main, true);
 }
 
-void make_collage(frmMain & main, borrowed_settings & before)
+void make_collage(frmMain & main, const std::function<void()> & when_made, borrowed_settings & before)
 {
     const busy pointer(main.desk);
     begin_run(main);
@@ -136,6 +136,7 @@ void make_collage(frmMain & main, borrowed_settings & before)
     finish_canvas(main);
     keep_collage(main);
     keep_last_flurn(main);
+    fire(when_made);
     main.image_to_show = finished_path(main);
 }
 
@@ -155,14 +156,15 @@ void take_failure(frmMain & main, borrowed_settings & before)
     main.picSample.show(false);
 }
 
-void full_run(frmMain & main, const template_maker & make_template, borrowed_settings & before)
+void full_run(frmMain & main, const template_maker & make_template, const std::function<void()> & when_made,
+              borrowed_settings & before)
 {
     set_output_size(main);
     make_template(main, run_size::full);
     offer_saving(main);
     read_new_template(main, run_size::full);
     bend_template(main, run_size::full);
-    const bool is_made = went_through(main, [&] { make_collage(main, before); });
+    const bool is_made = went_through(main, [&] { make_collage(main, when_made, before); });
     tell_left_out(main);
     if (is_made)
         show_collage(main);
@@ -172,12 +174,12 @@ void full_run(frmMain & main, const template_maker & make_template, borrowed_set
 
 }  // namespace
 
-void make_flurn(frmMain & main, const template_maker & make_template)
+void make_flurn(frmMain & main, const template_maker & make_template, const std::function<void()> & when_made)
 {
     borrowed_settings before = borrow_settings(main);
     // Whatever ends the run, the window is usable afterwards.
     try {
-        full_run(main, make_template, before);
+        full_run(main, make_template, when_made, before);
     } catch (...) {
         end_run(main);
         give_back(main, before);

@@ -37,9 +37,10 @@ bool matrix_is_mixed(const frmMain & main)
 }
 
 // A poster is mixed as the preview on show.
-mixing mixing_in(run_size size)
+mixing mixing_in(const frmMain & main, run_size size)
 {
-    return size == run_size::preview ? mixing::forced : mixing::as_before;
+    const bool anew = size == run_size::preview && !main.collage.keeps_turns;
+    return anew ? mixing::forced : mixing::as_before;
 }
 
 bool border_is_wanted(const frmMain & main)
@@ -119,7 +120,8 @@ void turn_the_order(frmMain & main, run_size size)
     location_table & table = main.design_locations;
     if (!of.random_design || !of.design_rotated || layout_of(main) == layout::grids)
         return;
-    if (size == run_size::preview || of.turns_shown.empty() || of.locations_shown != table.count) {
+    const bool anew = size == run_size::preview && !of.keeps_turns;
+    if (anew || of.turns_shown.empty() || of.locations_shown != table.count) {
         of.locations_shown = table.count;
         of.turns_shown = turned_by_chance(main);
     } else {
@@ -168,12 +170,12 @@ void read_new_template(frmMain & main, run_size size)
 void bend_template(frmMain & main, run_size size)
 {
     if (shapes_are_mixed(main))
-        mix_locations(main, mixing_in(size));
+        mix_locations(main, mixing_in(main, size));
     main.run.first_cell_height = main.design_locations[0].height;
     main.run.first_cell_width = main.design_locations[0].width;
     make_caption_room(main);
     if (matrix_is_mixed(main))
-        mix_locations(main, mixing_in(size));
+        mix_locations(main, mixing_in(main, size));
     if (border_is_wanted(main))
         apply_border(main, size);
 }

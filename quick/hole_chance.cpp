@@ -30,5 +30,5 @@ random_source repeating(frmMain & main)
 
 random_source hole_chance(frmMain & main, run_size size)
 {
-    return size == run_size::preview ? noting(main) : repeating(main);
+    return size == run_size::preview && !main.collage.keeps_turns ? noting(main) : repeating(main);
 }

@@ -32,7 +32,7 @@ void write_template(frmMain & main, run_size size)
     if (main.optBlock.selected()) {
         write_quick_block(main, hole_chance(main, size));
     } else if (main.optShapes.selected()) {
-        if (preview)
+        if (preview && !main.collage.keeps_turns)
             write_quick_shapes(main);
     } else if (preview || main.optScatter.selected()) {
         main.quick.scatter_mode = scatter_mode::scatter;

@@ -21,6 +21,8 @@ struct collage {
     bool design_matches = false;
     int16 landscape_turn = 0;  ///< degrees by which the template is turned; 100: a saved landscape design
     bool bg_from_design = false;
+    bool from_recipe = false;  ///< its template came with a recipe and lies in `designs/__recipe`
+    bool keeps_turns = false;  ///< for one preview: it turns, mixes and leaves holes as the one before
 
     /// How the preview drawn last turned the order of its locations, of which there were so many.
     std::vector<order_turn> turns_shown;

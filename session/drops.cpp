@@ -5,6 +5,8 @@
 #include "photos/editor/photo_grid.h"
 #include "photos/lists/working_list.h"
 #include "quick/start_quick.h"
+#include "recipes/open_flurn.h"
+#include "recipes/recipe.h"
 #include "session/main_window/photos.h"
 
 #include <algorithm>
@@ -33,14 +35,38 @@ drop_offer if_local(const dragged_files & dragged, const drop_offer & offer)
     return refused("Only files of this computer can be dropped here. Save the photos to a folder first.");
 }
 
-drop_offer offer_of_main(const frmMain & main)
+bool is_recipe(const std::string & path)
+{
+    return path.ends_with(recipe_ending);
+}
+
+// One flurn and nothing else: there is one window to open it in.
+bool is_flurn(const dragged_files & dragged)
+{
+    return dragged.paths.size() == 1 && is_recipe(dragged.paths.front());
+}
+
+drop_offer offer_of_flurn(const frmMain & main)
+{
+    return main.menus_shown ? taken("Drop here to open this flurn.")
+                            : refused("Finish or cancel this collage first, then drop the flurn.");
+}
+
+drop_offer offer_of_photos(const frmMain & main)
 {
     return taken(main.menus_shown ? "Drop here to make a quick collage of these photos."
                                   : "Drop here to take these photos instead of those in the collage.");
 }
 
+drop_offer offer_of_main(const frmMain & main, const dragged_files & dragged)
+{
+    return is_flurn(dragged) ? offer_of_flurn(main) : if_local(dragged, offer_of_photos(main));
+}
+
 void take_in_main(frmMain & main, const dragged_files & dropped)
 {
+    if (is_flurn(dropped))
+        return open_flurn(main, dropped.paths.front());
     if (!use_as_source(main, dropped))
         return;
     if (main.menus_shown)
@@ -55,7 +81,7 @@ drop_target target_of_main(windows & all, const drop_surroundings & around)
     return {.offer =
                 [&main, around](const dragged_files & dragged) {
                     const bool busy = main.run.run_active || around.is_busy();
-                    return busy ? refused(wait) : if_local(dragged, offer_of_main(main));
+                    return busy ? refused(wait) : offer_of_main(main, dragged);
                 },
             .take = [&main, around](const dragged_files & dropped, int,
                                     int) { around.act([&] { take_in_main(main, dropped); }); }};

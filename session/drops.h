@@ -14,7 +14,7 @@ struct drop_surroundings {
     std::function<void(const std::function<void()> & step)> act;
 };
 
-/// The choosing stage begins a quick collage, the finishing stage takes the photos instead of its own,
-/// "Select Photos" makes them the source, "Selected photos" adds them to the selection, and the editor of a
-/// list takes them where they fall.
+/// The choosing stage begins a quick collage, or opens the recipe of a flurn, the finishing stage takes the
+/// photos instead of its own, "Select Photos" makes them the source, "Selected photos" adds them to the
+/// selection, and the editor of a list takes them where they fall.
 drop_targets connect_drops(windows & all, const drop_surroundings & around);

@@ -3,9 +3,20 @@
 #include "support/list_controls.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
+
+/// One setting that was forced: which control, what stood there, and what stands there now. Of options the
+/// control is the one that was selected, and what stood there the name of the one that was before, or
+/// nothing.
+struct forced_setting {
+    enum class how : std::uint8_t { text, tick, option, color };
+    how kind = how::text;
+    control * held = nullptr;
+    std::string before{}, forced{};
+    option_button * option_before = nullptr;
+    bool operator==(const forced_setting &) const = default;
+};
 
 /// Settings that a design or a style has forced on the user's controls. Each is noted with what stood there,
 /// and goes back to it unless the user has chosen something else since.
@@ -24,6 +35,11 @@ public:
     /// Puts everything back, the last first. Handlers fire as for any change by code.
     void release();
 
+    /// What was forced, the first first, and the way to bring that from elsewhere. Of a setting whose control
+    /// is not of its kind nothing is put back.
+    const std::vector<forced_setting> & all() const { return noted; }
+    void take(std::vector<forced_setting> others) { noted = std::move(others); }
+
 private:
-    std::vector<std::function<void()>> ways_back;
+    std::vector<forced_setting> noted;
 };

@@ -12,6 +12,7 @@
 #include "photos/lists/photo_table.h"
 #include "photos/thumbnails/thumbnails_ahead.h"
 #include "quick/quick_state.h"
+#include "recipes/recipe_memory.h"
 #include "session/collage.h"
 #include "support/desktop.h"
 #include "support/files/folder_lock.h"
@@ -53,6 +54,7 @@ struct frmMain : form {
 
     // Menu bar.
     menu_entry mnuFile{*this, "mnuFile", "&File"};
+    menu_entry mnuRecent{*this, "mnuRecent", "Recent flurns"};
     menu_entry mnuQuit{*this, "mnuQuit", "Quit"};
     menu_entry mnuQuick{*this, "mnuQuick", " &Quick flurn"};
     menu_entry mnuDesigned{*this, "mnuDesigned", " Designed flurn"};
@@ -219,6 +221,7 @@ struct frmMain : form {
     lettering_choices lettering{};  ///< as its designer was left
     bool square_background = false, run_landscape = false;  ///< shape of the last full-size run
     finished_flurn last_flurn;
+    recipe_memory recipes;
     bool matrix_portrait = true;     ///< the poster of the matrix designer
     bool frame_manage_mode = false;  ///< frame sets are managed, not chosen from
     std::string icon_path;           ///< the picture that is to become an icon

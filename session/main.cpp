@@ -5,6 +5,7 @@
 #include "desktop/portal.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_desktop.h"
+#include "recipes/open_flurn.h"
 #include "session/connect_all.h"
 #include "session/drops.h"
 #include "session/start/start_up.h"
@@ -14,6 +15,9 @@
 #include "support/platform_error.h"
 
 #include <QApplication>
+#include <QTimer>
+
+#include <string>
 
 namespace {
 
@@ -44,7 +48,19 @@ int give_way(qt_desktop & desk, const std::string & data_folder)
     return 1;
 }
 
-int run(qt_desktop & desk)
+// As soon as the window is there, as an action of the user's.
+void open_when_shown(windows & all, change_history & history, const std::string & file)
+{
+    const auto open = [&all, &history, file] {
+        act_as_user(all.main, history, [&] { open_flurn(all.main, file); });
+    };
+    QTimer::singleShot(0, QCoreApplication::instance(), [&all, open] {
+        guarded([&all](const std::string & text) { all.main.desk.message(text); }, open);
+    });
+}
+
+// `flurn` is the recipe that the program was started with; empty when there is none.
+int run(qt_desktop & desk, const std::string & flurn)
 {
     change_history history;
     windows all(desk, clock_random());
@@ -54,6 +70,8 @@ int run(qt_desktop & desk)
         with_platform_errors([&] {
             desk.drops = drops_on(all, history);
             start(all, history);
+            if (!flurn.empty())
+                open_when_shown(all, history, flurn);
         });
     } catch (const data_folder_in_use & taken) {
         return give_way(desk, taken.data_folder);
@@ -69,9 +87,11 @@ int run(qt_desktop & desk)
 
 }  // namespace
 
-int main(int, char ** words)
+int main(int count, char ** words)
 {
-    int only_the_name = 1;  // the program reads no command line, nor lets the toolkit read one
+    // A flurn's file is all that the program reads of its command line; the toolkit reads none of it.
+    const std::string flurn = count > 1 ? words[1] : "";
+    int only_the_name = 1;
     expect_display();
     const bool by_portal = take_choosers_of_desktop();
     QApplication application(only_the_name, words);
@@ -82,5 +102,5 @@ int main(int, char ** words)
     QApplication::setQuitOnLastWindowClosed(false);
     apply_looks(application);
     qt_desktop desk;
-    return run(desk);
+    return run(desk, flurn);
 }

@@ -75,7 +75,15 @@ bool entry_box::set_as_user(std::string_view text)
 void list_box::set_items(std::vector<std::string> texts)
 {
     entries = std::move(texts);
+    shown_pictures.clear();
     chosen = -1;
+    changed();
+}
+
+void list_box::set_pictures(std::vector<std::string> paths)
+{
+    shown_pictures = std::move(paths);
+    shown_pictures.resize(entries.size());
     changed();
 }
 
@@ -89,6 +97,8 @@ void list_box::remove_item(int index)
 {
     check_entry(*this, index, entries.size());
     entries.erase(entries.begin() + index);
+    if (index < static_cast<int>(shown_pictures.size()))
+        shown_pictures.erase(shown_pictures.begin() + index);
     if (index == chosen)
         chosen = -1;
     else if (index < chosen)

@@ -45,6 +45,10 @@ public:
     /// Takes other entries, of which none is selected.
     void set_items(std::vector<std::string> texts);
     void add_item(std::string text);
+    /// Shows a small picture beside each entry: paths of files, one for each entry; an empty one for none.
+    /// Other entries have none until they are told.
+    void set_pictures(std::vector<std::string> paths);
+    const std::vector<std::string> & pictures() const { return shown_pictures; }
     /// An entry that goes while it is selected leaves none selected. Raises subscript (9).
     void remove_item(int index);
     /// Position of the selected entry, -1 when there is none.
@@ -63,7 +67,7 @@ public:
     bool set_as_user(std::string_view text) override { return select_text(text); }
 
 private:
-    std::vector<std::string> entries;
+    std::vector<std::string> entries, shown_pictures;
     int chosen = -1;
 };
 

@@ -38,6 +38,8 @@ line_source section_of_design_list(const frmMain & main)
 line_source opened_template(const frmMain & main, run_size size)
 {
     const ::design_record & design = main.design_record;
+    if (main.collage.from_recipe)
+        return line_source(template_path(main, "__recipe"));
     if (design.file == "__matrix" && size == run_size::full)
         return line_source(template_path(main, "__matrix_"));
     if (is_work_file(design.file) || design.system == "No" || design.design == "Frame")
@@ -120,6 +122,18 @@ void read_template(frmMain & main, run_size size)
         main.desk.message(" XXY " + main.trace + "YY CAUGHT AN ERROR " + std::to_string(code(error)) + "\n" +
                           told(error));
     }
+}
+
+std::vector<std::string> lines_of_template(const frmMain & main, run_size size)
+{
+    std::vector<std::string> lines;
+    for (line_source source = opened_template(main, size); !source.at_end();) {
+        std::string line = source.read_line();
+        if (line.starts_with('[') || static_cast<int>(lines.size()) == line_limit)
+            break;
+        lines.push_back(std::move(line));
+    }
+    return lines;
 }
 
 void turn_locations(frmMain & main)

@@ -141,8 +141,8 @@ void remove_leftovers(const frmMain & main)
     tried([&] { finish_noted(main); });
     tried([&] { put_back(main); });
     tried([&] { remove_parts(main.data_folder); });
-    for (const char * folder :
-         {"tmp", "designs", "descriptions", "samples", "piclists", "user_images", "frames", "icons"})
+    for (const char * folder : {"tmp", "designs", "descriptions", "samples", "piclists", "user_images",
+                                "frames", "icons", "recipes"})
         tried([&] { remove_parts(in_data(folder)); });
     tried([&] { remove_parts_of_sets(in_data("frames")); });
     for (const char * file : {"designs.new", "icons/icons.new", "tmp/designs.ini"})

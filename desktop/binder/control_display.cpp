@@ -6,8 +6,12 @@
 
 #include <QAccessible>
 #include <QGroupBox>
+#include <QIcon>
+#include <QImage>
 #include <QLayout>
 #include <QMenu>
+#include <QPainter>
+#include <QPixmap>
 
 #include <algorithm>
 
@@ -144,12 +148,49 @@ void display_content(const text_box & held, QPlainTextEdit & widget)
     display_font(held, widget);
 }
 
+// All of them in the middle of the same room, so that the texts beside them begin in one line.
+QPixmap picture_in_room(const QString & path, QSize room)
+{
+    QPixmap sheet(room);
+    sheet.fill(Qt::transparent);
+    const QImage image(path);
+    if (image.isNull())
+        return sheet;
+    const QImage small = image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter(&sheet).drawImage((room.width() - small.width()) / 2, (room.height() - small.height()) / 2,
+                               small);
+    return sheet;
+}
+
+// The entry that is selected keeps its colours.
+QIcon picture_icon(const QString & path, QSize room)
+{
+    QIcon icon;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+        icon.addPixmap(picture_in_room(path, room), mode);
+    return icon;
+}
+
 bool has_items(const QListWidget & widget, const QStringList & wanted)
 {
     bool same = widget.count() == wanted.size();
     for (int i = 0; same && i < widget.count(); ++i)
         same = widget.item(i)->text() == wanted[i];
     return same;
+}
+
+// Read anew with its entries alone: reading takes time.
+void display_pictures(const list_box & held, QListWidget & widget)
+{
+    const QStringList before = widget.property("pictures").toStringList();
+    QStringList wanted;
+    for (const std::string & path : held.pictures())
+        wanted.append(shown(path));
+    if (wanted == before)
+        return;
+    widget.setProperty("pictures", wanted);
+    for (int i = 0; i < std::min<int>(widget.count(), static_cast<int>(wanted.size())); ++i)
+        widget.item(i)->setIcon(picture_icon(wanted[i], widget.iconSize()));
 }
 
 void display_content(const list_box & held, QListWidget & widget)
@@ -161,7 +202,9 @@ void display_content(const list_box & held, QListWidget & widget)
     if (!has_items(widget, wanted)) {
         widget.clear();
         widget.addItems(wanted);
+        widget.setProperty("pictures", QStringList());
     }
+    display_pictures(held, widget);
     if (selected_row(widget) != held.list_index())
         widget.setCurrentRow(held.list_index());
 }

@@ -3,6 +3,7 @@
 #include "engine/output/save_image.h"
 #include "engine/output/shown_size.h"
 #include "engine/run_steps.h"
+#include "recipes/keep_flurn.h"
 #include "session/window_state.h"
 #include "session/windows.h"
 #include "support/files/paths.h"
@@ -91,8 +92,8 @@ void cmdSave_click(windows & all)
         return;
     main.save_image_path.clear();
     save_new_image(main);
-    if (!main.save_image_path.empty())
-        write_collage(main, *size);
+    if (!main.save_image_path.empty() && write_collage(main, *size) && all.size.chkRecipe.ticked())
+        keep_beside(main, main.save_image_path);
 }
 
 void cmdView_click(frmMain & main)

@@ -34,15 +34,16 @@ std::string remedy(const platform_error & error)
     return "The collage is still here. Save it in another folder or under another name.";
 }
 
-void write_picture(frmMain & main, int save_size)
+bool write_picture(frmMain & main, int save_size)
 {
     try {
         const busy pointer(main.desk);
         with_platform_errors([&] { save_flurn(main.run.canvas, save_size, main.save_image_path); });
-        return;
+        return true;
     } catch (const platform_error & error) {
         main.desk.message("The collage could not be saved:\r\n" + main.save_image_path + "\r\n\r\n" +
                           error.what() + "\r\n\r\n" + remedy(error));
+        return false;
     }
 }
 
@@ -66,10 +67,11 @@ void save_new_image(frmMain & main)
     }
 }
 
-void write_collage(frmMain & main, int save_size)
+bool write_collage(frmMain & main, int save_size)
 {
     if (!may_write(main))
-        return;
-    write_picture(main, save_size);
+        return false;
+    const bool written = write_picture(main, save_size);
     set_enable(main, true);
+    return written;
 }

@@ -8,5 +8,5 @@ void save_new_image(frmMain & main);
 
 /// Writes the finished collage to `save_image_path` with a long side of `save_size` pixels. Asks before a
 /// file that is there is overwritten, and for another name when the user says so. What can't be written is
-/// told, and the file that was there stands as it was.
-void write_collage(frmMain & main, int save_size);
+/// told, and the file that was there stands as it was. True when it was written.
+bool write_collage(frmMain & main, int save_size);

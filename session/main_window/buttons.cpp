@@ -2,6 +2,7 @@
 
 #include "engine/flurn_driver.h"
 #include "quick/quick_template.h"
+#include "recipes/keep_flurn.h"
 #include "session/main_window/redraw.h"
 #include "session/window_state.h"
 #include "support/windows/show_help.h"
@@ -14,6 +15,12 @@ void leave_finishing_stage(frmMain & main)
     show_work_controls(main, false);
     show_choosing_stage(main);
     main.collage.quick_active = false;
+}
+
+void cmdFlurn_click(frmMain & main)
+{
+    note_flurn(main);
+    make_flurn(main, make_quick_template, [&main] { keep_flurn(main); });
 }
 
 void cmdCancel_click(frmMain & main)
@@ -65,7 +72,7 @@ void key_pressed(frmMain & main, key pressed)
 
 void connect_buttons(frmMain & main)
 {
-    main.cmdFlurn.on_click = [&main] { make_flurn(main, make_quick_template); };
+    main.cmdFlurn.on_click = [&main] { cmdFlurn_click(main); };
     main.cmdCancel.on_click = [&main] { cmdCancel_click(main); };
     main.cmdHelp.on_click = [&main] { show_help(main, "finishing.htm"); };
     main.optPreview.on_click = [&main] { optPreview_click(main); };

@@ -6,6 +6,7 @@
 #include "frames/frame_menus.h"
 #include "photos/photo_menus.h"
 #include "quick/start_quick.h"
+#include "recipes/open_flurn.h"
 #include "session/main_window/closing.h"
 #include "session/main_window/designed.h"
 #include "session/window_state.h"
@@ -50,12 +51,19 @@ void about(frmMain & main)
     main.desk.show_modal(main.all->about);
 }
 
+void recent_flurns(frmMain & main)
+{
+    if (const auto chosen = ask(main.desk, main.all->recent))
+        open_flurn(main, *chosen);
+}
+
 struct hooked_entry {
     menu_entry frmMain::*entry;
     void (*action)(frmMain & main);
 };
 
 constexpr hooked_entry hooked_entries[] = {
+    {&frmMain::mnuRecent, recent_flurns},
     {&frmMain::mnuQuit, quit_program},
     {&frmMain::mnuQuick, quick},
     {&frmMain::mnuDesigned, begin_designed},

@@ -18,14 +18,6 @@ bool is_kept(const frmMain & main, const control & each)
     return dynamic_cast<const menu_entry *>(&each) == nullptr;
 }
 
-template <typename Visit>
-void visit_kept(const frmMain & main, const Visit & visit)
-{
-    for (control * each : main.controls())
-        if (is_kept(main, *each))
-            visit(*each);
-}
-
 std::string template_file(const frmMain & main)
 {
     return work_path(main, "designs/__quick");
@@ -119,14 +111,21 @@ void take_files_back(const frmMain & main, const moment & present)
 void put_controls_back(const frmMain & main, const std::vector<control_state> & states)
 {
     auto next = states.begin();
-    visit_kept(main, [&](control & each) {
-        if (state_of(each) != *next)
-            take_state(each, *next);
+    for (control * each : kept_controls(main)) {
+        if (state_of(*each) != *next)
+            take_state(*each, *next);
         ++next;
-    });
+    }
 }
 
 }  // namespace
+
+std::vector<control *> kept_controls(const frmMain & main)
+{
+    std::vector<control *> kept = main.controls();
+    std::erase_if(kept, [&](const control * each) { return !is_kept(main, *each); });
+    return kept;
+}
 
 bool moment::operator==(const moment & other) const
 {
@@ -146,7 +145,8 @@ moment moment_of(frmMain & main, const moment & before)
                .shown_file = main.picSample.file(),
                .preview = preview_of(main, before),
                .loads = main.picSample.load_count()};
-    visit_kept(main, [&](const control & each) { now.controls.push_back(state_of(each)); });
+    for (const control * each : kept_controls(main))
+        now.controls.push_back(state_of(*each));
     return now;
 }
 

@@ -36,6 +36,9 @@ struct kept_photos {
     bool operator==(const kept_photos &) const = default;
 };
 
+/// The controls that a moment keeps: not those of the menus, of a run or of the choosing stage.
+std::vector<control *> kept_controls(const frmMain & main);
+
 /// The bytes of a file; nullptr when there was none.
 using kept_file = std::shared_ptr<const std::string>;
 

@@ -16,6 +16,7 @@ struct frmSize : form {
     option_button optCustom{*this, "optCustom", sizes, "Custom size"};
     label lblSize{*this, "lblSize", "Number of pixels on long side:"};
     text_box txtSize{*this, "txtSize"};
+    check_box chkRecipe{*this, "chkRecipe", "Keep a .flurn file beside it, to open this flurn again"};
     button cmdOk{*this, "cmdOk", "Ok"};
     button cmdCancel{*this, "cmdCancel", "Cancel"};
     button cmdHelp{*this, "cmdHelp", "Help"};

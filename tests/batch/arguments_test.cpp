@@ -66,7 +66,7 @@ TEST(batch_arguments, what_is_missing_or_wrong_is_named)
         std::string fault;
     };
     const std::vector<row> rows = {
-        {{}, "--design or --quick is missing; --list shows the designs"},
+        {{}, "--design, --quick or --recipe is missing; --list shows the designs"},
         {{"--design", "W"}, "--photos is missing"},
         {{"--quick", "block"}, "--photos is missing"},
         {{"--quick", "block", "--dump"}, "--photos is missing"},

@@ -99,7 +99,7 @@ TEST(job_list, a_fault_is_told_with_its_line)
     const std::string header = "out\tdesign\tphotos\tsize\n";
     const std::string columns =
         "answer, around, bleed, caption, design, dpi, frames, orientation, out, page, photos, quick, random, "
-        "scale, set, size";
+        "recipe, scale, set, size";
     struct row {
         std::string text, fault;
     };
@@ -115,7 +115,7 @@ TEST(job_list, a_fault_is_told_with_its_line)
          "line 2 of the job list: --size takes a whole number from 16 to 12000, not \"9\""},
         {header + "a.jpg\tW\tp\n\nb.jpg\tW\n", "line 4 of the job list: --photos is missing"},
         {header + "a.jpg\n",
-         "line 2 of the job list: --design or --quick is missing; --list shows the designs"},
+         "line 2 of the job list: --design, --quick or --recipe is missing; --list shows the designs"},
         {header + "\tW\tp\n", "line 2 of the job list: --out is missing"},
         {header + "-\tW\tp\n", "line 2 of the job list: --out has to name a file"},
         {header + "a.bmp\tW\tp\n",

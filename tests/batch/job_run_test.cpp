@@ -84,7 +84,7 @@ TEST_F(job_run, a_bad_line_is_named_before_any_job_is_begun)
            "\"Puzzle\" is a name that the program keeps for itself: its layout is written by a quick "
            "style or a designer of the window; --list shows the designs"},
           {"Mosaic wall\toptTop=0", "optTop takes 1, which selects it, not \"0\""},
-          {"\t", "--design or --quick is missing; --list shows the designs"}}) {
+          {"\t", "--design, --quick or --recipe is missing; --list shows the designs"}}) {
         list("out\tphotos\tdesign\tset\n" + line("a.jpg", photos() + "\tMosaic wall") +
              line("b.jpg", photos() + "\t" + each.cells));
         EXPECT_EQ(refusal({"--jobs", place.at("jobs.tsv"), "--preview"}),

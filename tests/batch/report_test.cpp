@@ -23,6 +23,9 @@ void keep_of_ones_own(const std::string & data)
     catalogue.close();
     replace_file(joined(data, "piclists/Aunt Ada.pls"), "");
     replace_file(joined(data, "user_images/aunt_ada.jpg"), "");
+    make_folders(joined(data, "recipes"));
+    replace_file(joined(data, "recipes/Ada.flurn"), "x");
+    replace_file(joined(data, "recipes/Ada.jpg"), "x");
 }
 
 }  // namespace
@@ -46,7 +49,7 @@ TEST_F(batch_program, reports_what_is_kept_in_numbers_and_without_names)
     EXPECT_EQ(before.substr(before.find(',')), ", 0 of one's own");
     EXPECT_EQ(how(told, "Designs"), before.substr(0, before.find(',')) + ", 1 of one's own");
     EXPECT_EQ(how(told, "Data folder is"), "whole");
-    EXPECT_EQ(how(told, "Kept"), "1 photo lists, 5 frame sets, 1 pictures");
+    EXPECT_EQ(how(told, "Kept"), "1 photo lists, 5 frame sets, 1 pictures, 1 recipes");
     EXPECT_EQ(told.find("Ada"), std::string::npos);
     EXPECT_EQ(told.find("ada"), std::string::npos);
     EXPECT_EQ(told.find(place.path()), std::string::npos);

@@ -22,6 +22,7 @@ struct text_of_control {
 // What a user reads in each window, control by control; the menus stand with a blank before them.
 constexpr text_of_control texts[] = {
     {"frmMain", "mnuFile", "File"},
+    {"frmMain", "mnuRecent", "Recent flurns"},
     {"frmMain", "mnuQuit", "Quit"},
     {"frmMain", "mnuQuick", " Quick flurn"},
     {"frmMain", "mnuDesigned", " Designed flurn"},
@@ -193,9 +194,16 @@ constexpr text_of_control texts[] = {
     {"frmSize", "optWeb", "Web size -  500px * 750px   (for email, Facebook, etc)"},
     {"frmSize", "optCustom", "Custom size"},
     {"frmSize", "lblSize", "Number of pixels on long side:"},
+    {"frmSize", "chkRecipe", "Keep a .flurn file beside it, to open this flurn again"},
     {"frmSize", "cmdOk", "Ok"},
     {"frmSize", "cmdCancel", "Cancel"},
     {"frmSize", "cmdHelp", "Help"},
+    {"frmRecent", "lblEmpty", "No flurn yet: each one that you make is listed here."},
+    {"frmRecent", "cmdHelp", "Help"},
+    {"frmRecent", "cmdFile", "Open file..."},
+    {"frmRecent", "cmdRemove", "Remove from list"},
+    {"frmRecent", "cmdOk", "Open"},
+    {"frmRecent", "cmdCancel", "Cancel"},
     {"frmFont", "chkBold", "Bold"},
     {"frmFont", "chkItalic", "Italic"},
     {"frmFont", "chkUnderline", "Underline"},
@@ -239,6 +247,7 @@ constexpr text_of_control titles[] = {
     {"frmIconName", "", "I c o n   N a m e"},
     {"frmCaptionText", "", "C o l l a g e   C a p t i o n"},
     {"frmSize", "", "Collage Size"},
+    {"frmRecent", "", "R e c e n t   F l u r n s"},
     {"frmFont", "", "Fonts available"},
 };
 

@@ -103,6 +103,18 @@ void filled_session::add_small_views(std::vector<window_view> & views)
                          all.size.optCustom.select();
                          all.size.txtSize.set_text("4200");
                      }});
+    views.push_back({.name = "frmRecent_empty", .window = &all.recent, .prepare = {}, .fill = {}});
+    views.push_back({.name = "frmRecent", .window = &all.recent, .prepare = {}, .fill = [this] {
+                         all.recent.flurns.resize(3);
+                         all.recent.lblEmpty.show(false);
+                         all.recent.lstFlurns.set_items({"2026-11-22 15:30   Quick Block",
+                                                         "2026-11-21 09:05   Grandmother's birthday",
+                                                         "2026-11-20 18:44   Quick Shapes Stars"});
+                         all.recent.lstFlurns.set_pictures({folder.at("images/autumn.jpg"),
+                                                            folder.at("images/starry_night.jpg"),
+                                                            folder.at("samples/not_yet.jpg")});
+                         all.recent.lstFlurns.select(1);
+                     }});
     views.push_back({.name = "frmFont_plain",
                      .window = &all.font,
                      .prepare = [this] { all.main.font_extended = false; },

@@ -72,10 +72,10 @@ class Program:
             self.close()
             raise
 
-    def start_program(self, plugins):
+    def start_program(self, plugins, *words):
         self.socket_path = tempfile.mktemp(prefix='probe_', dir=self.folder)
         self.process = subprocess.Popen(
-            [os.path.join(self.app, 'tessaloom')], stderr=subprocess.DEVNULL,
+            [os.path.join(self.app, 'tessaloom'), *words], stderr=subprocess.DEVNULL,
             env=dict(self.environment, **self.shown_by(), QT_PLUGIN_PATH=plugins, QT_QPA_GENERIC_PLUGINS='probe',
                      TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8', **slow_disk(plugins)))
         self.probe = until(self.reached, 'the program')

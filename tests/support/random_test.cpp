@@ -33,6 +33,30 @@ TEST(random, another_seed_or_reseeding_gives_other_numbers)
     EXPECT_NE(drawn(seeded_random(8), 5), before);
 }
 
+TEST(random, goes_on_from_a_position_as_the_source_that_stood_there)
+{
+    for (const random_source & random : {seeded_random(7), clock_random()}) {
+        drawn(random, 3);
+        random.reseed();
+        random.reseed();
+        drawn(random, 5);
+        const std::optional<random_source> again = random_from(random.position());
+        ASSERT_TRUE(again);
+        EXPECT_EQ(again->position(), random.position());
+        EXPECT_EQ(drawn(*again, 5), drawn(random, 5));
+        again->reseed();
+        random.reseed();
+        EXPECT_EQ(drawn(*again, 5), drawn(random, 5));
+        EXPECT_EQ(again->position(), random.position());
+    }
+}
+
+TEST(random, refuses_a_position_that_would_take_for_ever)
+{
+    EXPECT_FALSE(random_from({.seed = 1, .reseeds = farthest_position + 1, .draws = 0}));
+    EXPECT_FALSE(random_from({.seed = 1, .reseeds = 0, .draws = farthest_position + 1}));
+}
+
 TEST(random, numbers_are_spread_over_0_to_1_without_1)
 {
     std::vector<int> tenths(10);

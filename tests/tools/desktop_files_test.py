@@ -12,6 +12,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import xml.etree.ElementTree
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 APP, FILES = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
@@ -190,7 +191,30 @@ whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pac
             self.assertIn("Validation was successful", output_of("appstreamcli", "validate", "--no-net", "--no-color", metainfo))
         for name in re.findall(r"/screens/(\S+?)<", metainfo.read_text()):
             self.assertTrue((ROOT / "docs" / "screens" / name).exists(), name)
-        self.assertNotIn("MimeType", entry.read_text())  # .pls is known as a list of music
+        # .pls is known as a list of music, so it isn't named.
+        self.assertEqual(re.findall(r"^MimeType=(.*)$", entry.read_text(), re.M), ["application/x-tessaloom-flurn;"])
+        self.assertIn("Exec=tessaloom %f\n", entry.read_text())
+
+    def test_a_flurn_is_known_by_its_name_and_its_first_line(self):
+        kinds = ROOT / "packaging" / "tessaloom-flurn.xml"
+        self.assertIn("application/x-tessaloom-flurn", (FILES / "example.tessaloom.tessaloom.metainfo.xml").read_text())
+        known = xml.etree.ElementTree.parse(kinds).getroot()
+        space = {"m": "http://www.freedesktop.org/standards/shared-mime-info"}
+        self.assertEqual(known.find("m:mime-type", space).get("type"), "application/x-tessaloom-flurn")
+        self.assertEqual(known.find(".//m:glob", space).get("pattern"), "*.flurn")
+        first = (ROOT / "recipes" / "recipe_text.cpp").read_text()
+        begins = known.find(".//m:match", space).get("value").replace("\\t", "")
+        self.assertIn(f'heading = "{begins}"', first)
+        if shutil.which("update-mime-database") and shutil.which("gio"):
+            place = self.home / "share" / "mime" / "packages"
+            place.mkdir(parents=True)
+            shutil.copy(kinds, place)
+            output_of("update-mime-database", place.parent)
+            flurn = self.home / "x.flurn"
+            flurn.write_text("Tessaloom flurn\t1\r\nend\r\n")
+            told = output_of("gio", "info", "-a", "standard::content-type", flurn,
+                             env=dict(self.environment, XDG_DATA_HOME=str(self.home / "share")))
+            self.assertIn("application/x-tessaloom-flurn", told)
 
 
 if __name__ == "__main__":
