@@ -40,12 +40,13 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXE
 set(CPACK_THREADS 0)
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_SOURCE_DIR}/by_kind.cmake)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/alike.cmake)
+set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/members.cmake)
 set(CPACK_SOURCE_DATE ${SOURCE_DATE})
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS OFF)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_COMPRESSION_TYPE gzip)  # and xz at last (members.cmake)
 
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_NAME tessaloom)
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SECTION graphics)
@@ -57,8 +58,8 @@ set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "fonts-league-spartan, qt6-wayla
 set(CPACK_COMPONENT_APPLICATION_DESCRIPTION "Tessaloom makes large posters of photos: pick a design or a quick style,
 adjust it under a live preview, save and print the poster.
 .
-This package holds the window, the program for scripts and the one that makes
-packages of designs.")
+This package holds the window, the program for scripts, the one that makes
+photos of any kind ready and the one that makes packages of designs.")
 
 set(CPACK_DEBIAN_SHARED_PACKAGE_NAME tessaloom-data)
 set(CPACK_DEBIAN_SHARED_PACKAGE_SECTION graphics)
