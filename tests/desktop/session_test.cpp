@@ -159,7 +159,7 @@ TEST_F(session_test, a_designed_flurn_goes_from_the_menu_over_both_choosers_to_i
         QTest::mouseClick(browser.findChild<QRadioButton *>("optTheme"), Qt::LeftButton, {}, {8, 8});
         QApplication::processEvents();
         keep_screen(browser, "designs_landscape.png");
-        EXPECT_EQ(all.themes.optDesign[0].caption(), "White mats");
+        EXPECT_EQ(all.themes.optDesign[0].caption(), "At the seaside, wide");
         when_asked<QDialog>([&](QDialog & chooser) {
             all.select_photos.txtCards.set_text("/home/someone/pictures/summer");
             keep_screen(chooser, "photos.png");
@@ -169,7 +169,7 @@ TEST_F(session_test, a_designed_flurn_goes_from_the_menu_over_both_choosers_to_i
     });
     window().findChild<QAction *>("mnuDesigned")->trigger();
     EXPECT_EQ(window().windowTitle(), "F i n i s h i n g   t o u c h e s");
-    EXPECT_EQ(all.main.lblDesign.caption(), "White mats");
+    EXPECT_EQ(all.main.lblDesign.caption(), "At the seaside, wide");
     EXPECT_TRUE(all.main.optLandscape.selected());
     EXPECT_EQ(all.main.picSample.load_count(), 1);
     EXPECT_FALSE(found<picture_view>("picSample")->image().isNull());
