@@ -25,13 +25,13 @@ struct role_color {
 };
 
 constexpr role_color role_colors[] = {
-    {QPalette::WindowText, "#e9eaec", "#959ba2"},    {QPalette::Base, "#1a1c1f", "#24272a"},
-    {QPalette::AlternateBase, "#212428", "#24272a"}, {QPalette::Text, "#e9eaec", "#959ba2"},
-    {QPalette::Button, "#3b3f45", "#2f3236"},        {QPalette::ButtonText, "#e9eaec", "#959ba2"},
+    {QPalette::WindowText, "#e9eaec", "#a0a6ad"},    {QPalette::Base, "#1a1c1f", "#24272a"},
+    {QPalette::AlternateBase, "#212428", "#24272a"}, {QPalette::Text, "#e9eaec", "#a0a6ad"},
+    {QPalette::Button, "#3b3f45", "#2f3236"},        {QPalette::ButtonText, "#e9eaec", "#a0a6ad"},
     {QPalette::BrightText, "#ffffff", "#ffffff"},    {QPalette::ToolTipBase, "#3b3f45", "#3b3f45"},
-    {QPalette::ToolTipText, "#e9eaec", "#e9eaec"},   {QPalette::PlaceholderText, "#9aa0a7", "#959ba2"},
+    {QPalette::ToolTipText, "#e9eaec", "#e9eaec"},   {QPalette::PlaceholderText, "#9aa0a7", "#a0a6ad"},
     {QPalette::Highlight, "#f0b050", "#55595f"},     {QPalette::HighlightedText, "#1a1c1f", "#c0c4c8"},
-    {QPalette::Link, "#f0b050", "#959ba2"},          {QPalette::LinkVisited, "#d8a860", "#959ba2"},
+    {QPalette::Link, "#f0b050", "#a0a6ad"},          {QPalette::LinkVisited, "#d8a860", "#a0a6ad"},
     {QPalette::Light, "#4c5158", "#3b3f45"},         {QPalette::Midlight, "#43484e", "#363a3f"},
     {QPalette::Mid, "#585d64", "#43484e"},           {QPalette::Dark, "#17181b", "#17181b"},
     {QPalette::Shadow, "#0c0d0e", "#0c0d0e"},
@@ -57,18 +57,18 @@ QGroupBox, QFrame[panel="true"] { border: 1px solid #3f444a; border-radius: 6px;
 QGroupBox { margin-top: 0.55em; padding-top: 0.45em; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: %1;
     background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 %2, stop: 0.52 %2, stop: 0.54 #2d3034); }
-QGroupBox::title:disabled { color: #959ba2; }
+QGroupBox::title:disabled { color: #a0a6ad; }
 QMenuBar { background: transparent; padding: 3px 6px; }
 QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: %1; color: #1a1c1f; }
-QMenuBar::item:disabled { color: #959ba2; }
+QMenuBar::item:disabled { color: #a0a6ad; }
 QMenuBar QToolButton { color: #1a1c1f; background: %1; border-radius: 4px; }
 QPushButton:default { background: %1; color: #1a1c1f; border: 1px solid #b98636; border-radius: 4px;
     padding: 4px 18px; }
 QPushButton:default:hover { background: #f7c272; }
 QPushButton:default:pressed { background: #d2963b; }
 QPushButton:default:focus { border: 2px solid #ffffff; padding: 3px 17px; }
-QPushButton:default:disabled { background: #2f3236; color: #959ba2; border-color: #43484e; }
+QPushButton:default:disabled { background: #2f3236; color: #a0a6ad; border-color: #43484e; }
 QPlainTextEdit, QListWidget { border: 1px solid #3f444a; }
 QPlainTextEdit:focus, QListWidget:focus { border-color: %1; }
 QListWidget::item { padding: 3px 4px; }
