@@ -14,18 +14,12 @@ std::ptrdiff_t rank_of(const std::string & name)
 
 const std::vector<std::string> & display_faces()
 {
-    static const std::vector<std::string> names{
-        "League Spartan", "EB Garamond",    "Linux Libertine Display O", "Yanone Kaffeesatz", "Quicksand",
-        "Lobster Two",    "Dancing Script", "Playfair Display",          "Josefin Sans"};
+    static const std::vector<std::string> names{"Quicksand",      "Linux Libertine Display O",
+                                                "EB Garamond",    "Yanone Kaffeesatz",
+                                                "League Spartan", "Lobster Two",
+                                                "Dancing Script", "Playfair Display",
+                                                "Josefin Sans"};
     return names;
-}
-
-std::string display_face_of(const std::vector<std::string> & installed)
-{
-    for (const std::string & name : display_faces())
-        if (std::ranges::find(installed, name) != installed.end())
-            return name;
-    return {};
 }
 
 std::vector<std::string> display_faces_first(std::vector<std::string> installed)

@@ -6,8 +6,5 @@
 /// packages have them.
 const std::vector<std::string> & display_faces();
 
-/// The first of them that is among these; empty when none is.
-std::string display_face_of(const std::vector<std::string> & installed);
-
 /// The same names, those drawn for titles first, the others in their order.
 std::vector<std::string> display_faces_first(std::vector<std::string> installed);

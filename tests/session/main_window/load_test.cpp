@@ -47,15 +47,6 @@ TEST(load_main, sets_the_texts_and_the_font)
     EXPECT_EQ(main.cmdFlurn.caption(), "Flurn");
 }
 
-TEST(load_main, begins_with_a_face_for_titles_where_one_is_installed)
-{
-    opened_session session;
-    session.desk.fonts = {"Arial", "EB Garamond", "League Spartan", "Serif"};
-    session.main.txtCaption.set_font({.name = "Sans Serif", .size = 9});
-    session.main.load();
-    EXPECT_EQ(session.main.txtCaption.font(), (font_style{.name = "League Spartan", .size = 16}));
-}
-
 TEST(load_main, places_what_the_program_moves)
 {
     opened_session session;

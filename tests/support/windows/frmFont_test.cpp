@@ -49,11 +49,11 @@ TEST_F(font_test, offers_the_fonts_of_the_screen_but_the_first)
 
 TEST_F(font_test, offers_the_faces_for_titles_before_the_others)
 {
-    session.desk.fonts = {"Arial", "Courier", "EB Garamond", "League Spartan", "Serif"};
+    session.desk.fonts = {"Arial", "Courier", "EB Garamond", "Quicksand", "Serif"};
     window.unload();
     window.load();
     EXPECT_EQ(window.lstFonts.items(),
-              (std::vector<std::string>{"League Spartan", "EB Garamond", "Courier", "Serif"}));
+              (std::vector<std::string>{"Quicksand", "EB Garamond", "Courier", "Serif"}));
     EXPECT_EQ(window.lstFonts.text(), "Serif");
 }
 
