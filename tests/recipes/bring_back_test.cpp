@@ -35,63 +35,59 @@ struct flurn_change {
     int photos = 4;
 };
 
-const std::vector<flurn_change> & ways_to_make_one()
-{
-    static const std::vector<flurn_change> rows{
-        {"block", [](flurn_session &) {}},
-        {"block with blanks", [](flurn_session & s) { s.main.cmbBlanks.choose_text("3"); }},
-        {"scatter", [](flurn_session & s) { s.main.optScatter.select(); }, 12},
-        {"matrix", [](flurn_session & s) { s.main.optMatrix.select(); }, 12},
-        {"shaken matrix",
-         [](flurn_session & s) {
-             s.main.optMatrix.select();
-             s.main.chkRotate.tick(true);
-             s.main.chkResize.tick(true);
-             s.main.chkShuffle.tick(true);
-         },
-         12},
-        {"shapes", [](flurn_session & s) { s.main.optShapes.select(); }, 12},
-        {"mixed shapes",
-         [](flurn_session & s) {
-             s.main.optShapes.select();
-             s.main.cmbShapes.choose_text("Stripes");
-             s.main.chkMix.tick(true);
-             s.main.cmdRowUp.click();
-         },
-         12},
-        {"shuffled photos", [](flurn_session & s) { s.main.cmdShuffle.click(); }},
-        {"random photos", [](flurn_session & s) { s.main.chkRandom.tick(true); }},
-        {"landscape", [](flurn_session & s) { s.main.optLandscape.select(); }},
-        {"square", [](flurn_session & s) { s.main.optSquare.select(); }},
-        {"caption",
-         [](flurn_session & s) {
-             s.main.txtCaption.set_text("A day\tat \\ the sea");
-             s.main.cmbSize.choose_text("60");
-             s.main.optTop.select();
-             s.main.chkClear.tick(true);
-         }},
-        {"border and frames",
-         [](flurn_session & s) {
-             s.main.optMedium.select();
-             s.main.cmbFrame.set_text("33");
-             s.desk.will_choose_color(0x3060A0);
-             s.main.cmdFrameColor.click();
-         }},
-        {"soft edges", [](flurn_session & s) { s.main.chkSoftEdge.tick(true); }},
-        {"background picture",
-         [](flurn_session & s) {
-             s.desk.will_choose_file(s.photos.front());
-             s.main.optBGimage.select();
-         }},
-    };
-    return rows;
-}
+const flurn_change ways_to_make_one[] = {
+    {"block", [](flurn_session &) {}},
+    {"block with blanks", [](flurn_session & s) { s.main.cmbBlanks.choose_text("3"); }},
+    {"scatter", [](flurn_session & s) { s.main.optScatter.select(); }, 12},
+    {"matrix", [](flurn_session & s) { s.main.optMatrix.select(); }, 12},
+    {"shaken matrix",
+     [](flurn_session & s) {
+         s.main.optMatrix.select();
+         s.main.chkRotate.tick(true);
+         s.main.chkResize.tick(true);
+         s.main.chkShuffle.tick(true);
+     },
+     12},
+    {"shapes", [](flurn_session & s) { s.main.optShapes.select(); }, 12},
+    {"mixed shapes",
+     [](flurn_session & s) {
+         s.main.optShapes.select();
+         s.main.cmbShapes.choose_text("Stripes");
+         s.main.chkMix.tick(true);
+         s.main.cmdRowUp.click();
+     },
+     12},
+    {"shuffled photos", [](flurn_session & s) { s.main.cmdShuffle.click(); }},
+    {"random photos", [](flurn_session & s) { s.main.chkRandom.tick(true); }},
+    {"landscape", [](flurn_session & s) { s.main.optLandscape.select(); }},
+    {"square", [](flurn_session & s) { s.main.optSquare.select(); }},
+    {"caption",
+     [](flurn_session & s) {
+         s.main.txtCaption.set_text("A day\tat \\ the sea");
+         s.main.cmbSize.choose_text("60");
+         s.main.optTop.select();
+         s.main.chkClear.tick(true);
+     }},
+    {"border and frames",
+     [](flurn_session & s) {
+         s.main.optMedium.select();
+         s.main.cmbFrame.set_text("33");
+         s.desk.will_choose_color(0x3060A0);
+         s.main.cmdFrameColor.click();
+     }},
+    {"soft edges", [](flurn_session & s) { s.main.chkSoftEdge.tick(true); }},
+    {"background picture",
+     [](flurn_session & s) {
+         s.desk.will_choose_file(s.photos.front());
+         s.main.optBGimage.select();
+     }},
+};
 
 }  // namespace
 
 TEST(bring_back, shows_the_preview_and_makes_the_poster_of_then_byte_by_byte)
 {
-    for (const flurn_change & each : ways_to_make_one()) {
+    for (const flurn_change & each : ways_to_make_one) {
         SCOPED_TRACE(each.name);
         flurn_session session;
         session.begin(each.photos);
@@ -112,7 +108,7 @@ TEST(bring_back, shows_the_preview_and_makes_the_poster_of_then_byte_by_byte)
 
 TEST(bring_back, draws_the_preview_of_a_recipe_that_has_none_and_makes_the_same_poster)
 {
-    for (const flurn_change & each : ways_to_make_one()) {
+    for (const flurn_change & each : ways_to_make_one) {
         SCOPED_TRACE(each.name);
         flurn_session session;
         session.begin(each.photos);
