@@ -7,6 +7,7 @@
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -26,6 +27,15 @@ QSize measured(const QFontMetrics & metrics, const QString & text, int extra_wid
     return {std::max(1, width), metrics.height()};
 }
 
+// Letters that a face shapes by a program of its own come out a little differently by the size in which the
+// face was used before. Used in a large one first, they are the same each time.
+void forget_former_size(QFont font, const QString & text)
+{
+    constexpr int large = 1000, other = 500;
+    font.setPixelSize(font.pixelSize() == large ? other : large);
+    QPainterPath().addText(0, 0, font, text.left(1));
+}
+
 }  // namespace
 
 bitmap drawn_text(const text_request & request)
@@ -37,6 +47,7 @@ bitmap drawn_text(const text_request & request)
     const QFontMetrics metrics(font);
     QImage painted(measured(metrics, text, request.extra_width), QImage::Format_RGB32);
     painted.fill(color_of(request.background));
+    forget_former_size(font, text);
     QPainter painter(&painted);
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setFont(font);

@@ -91,6 +91,8 @@ def play(program):
     screen.until(program.finished, 'the first preview')
     for name in ('optScatter', 'optLarge', 'cmdShuffle'):
         collage.changed_preview(program, lambda: program.click(name), name)
+    collage.changed_preview(program, lambda: program.type_into('txtCaption', 'Summer'), 'a caption')
+    screen.until(lambda: program.find('txtCaption')['text'] == 'Summer', 'the caption')
     poster = make(program)
     # What was on show when Flurn was clicked lies beside the recipe.
     preview = hashlib.sha1(bytes_of(glob.glob(os.path.join(program.data, 'recipes', '*.jpg'))[0])).hexdigest()
