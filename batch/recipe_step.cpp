@@ -6,8 +6,8 @@
 #include "quick/shapes/quick_shapes.h"
 #include "recipes/bring_back.h"
 #include "recipes/found_photos.h"
+#include "recipes/read_recipe.h"
 #include "recipes/recipe_shelf.h"
-#include "recipes/recipe_text.h"
 #include "support/platform_error.h"
 
 #include <cstdio>

@@ -3,8 +3,8 @@
 #include "recipes/bring_back.h"
 #include "recipes/found_photos.h"
 #include "recipes/photo_news.h"
+#include "recipes/read_recipe.h"
 #include "recipes/recipe_shelf.h"
-#include "recipes/recipe_text.h"
 #include "support/files/paths.h"
 #include "support/platform_error.h"
 

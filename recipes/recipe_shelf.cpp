@@ -1,5 +1,6 @@
 #include "recipes/recipe_shelf.h"
 
+#include "recipes/read_recipe.h"
 #include "recipes/recipe_text.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"

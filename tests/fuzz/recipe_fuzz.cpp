@@ -1,4 +1,5 @@
 #include "recipes/bring_back.h"
+#include "recipes/read_recipe.h"
 #include "recipes/recipe_text.h"
 #include "tests/fuzz/fuzz_session.h"
 #include "tests/fuzz/fuzzed.h"

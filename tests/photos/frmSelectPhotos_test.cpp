@@ -1,56 +1,8 @@
-#include "photos/lists/photo_list.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
-#include "tests/session/opened_session.h"
+#include "tests/photos/photo_choice.h"
 
 #include <filesystem>
-
-namespace {
-
-// A session with a folder of two photos; nothing is chosen yet.
-struct photo_choice : opened_session {
-    photo_choice()
-    {
-        for (const char * name : {"album/A.JPG", "album/b.Jpg", "album/c.jpeg"})
-            folder.write(name, "no picture");
-        folder.at("data/piclists/x");
-    }
-
-    frmSelectPhotos & dialog = all.select_photos;
-
-    /// Opens the dialog as the program's user sees it and plays.
-    void open(std::function<void(frmSelectPhotos &)> play)
-    {
-        main.photo_choice_cancelled = false;
-        desk.on_modal<frmSelectPhotos>(std::move(play));
-        desk.show_modal(dialog);
-    }
-
-    void have_chosen(photo_source kind, const std::string & text, const std::string & path)
-    {
-        set_photo_source_kind(main, kind);
-        main.txtPhotos.set_text(text);
-        main.txtPhotos.tag = path;
-    }
-
-    void have_selected(int count)
-    {
-        std::vector<std::string> photos;
-        for (int i = 0; i < count; ++i)
-            photos.push_back("/p/" + std::to_string(i) + ".jpg");
-        main.txtPhotos.tag.clear();
-        append_to_list(main, photos);
-        have_chosen(photo_source::selection, main.cmdPhotos.tag + " selected photos", main.txtPhotos.tag);
-    }
-
-    std::string choice() const
-    {
-        return main.lblPhotos.tag + "|" + main.lblPhotos.caption() + "|" + main.txtPhotos.text() + "|" +
-               name_of(main.txtPhotos.tag);
-    }
-};
-
-}  // namespace
 
 TEST(frmSelectPhotos, without_a_choice_it_offers_the_folder_and_no_ok)
 {
@@ -367,45 +319,4 @@ TEST(frmSelectPhotos, the_help_key_and_button_open_its_page)
     ASSERT_EQ(session.desk.opened_documents.size(), 2U);
     for (const std::string & page : session.desk.opened_documents)
         EXPECT_TRUE(page.ends_with("/help/select_photos.htm"));
-}
-
-// ---- the button of the main window
-
-TEST(cmdPhotos, a_new_choice_is_counted_and_previewed)
-{
-    photo_choice session;
-    session.finish();
-    session.main.table.reshuffle_choice = photo_table::reshuffle::yes;
-    session.main.photo_choice_cancelled = true;
-    session.desk.will_choose_folder(session.folder.at("album"));
-    session.desk.on_modal<frmSelectPhotos>([&](frmSelectPhotos & dialog) {
-        EXPECT_FALSE(session.main.photo_choice_cancelled);
-        dialog.cmdCards.click();
-    });
-    EXPECT_EQ(session.previews_of([&] { session.main.cmdPhotos.click(); }), 1);
-    EXPECT_EQ(session.main.table.reshuffle_choice, photo_table::reshuffle::not_asked);
-    EXPECT_EQ(session.desk.shown_windows, (std::vector<std::string>{"frmSelectPhotos", "frmPhotoCnt"}));
-    EXPECT_EQ(session.desk.busy_depth, 0);
-    EXPECT_EQ(session.main.table.last_photo, 1);
-}
-
-TEST(cmdPhotos, a_selection_is_read_from_its_list)
-{
-    photo_choice session;
-    session.finish();
-    session.desk.will_choose_files({session.folder.at("album/A.JPG"), "/p/gone.jpg"});
-    session.desk.on_modal<frmSelectPhotos>([&](frmSelectPhotos & dialog) { dialog.optSelect.select(); });
-    session.main.cmdPhotos.click();
-    EXPECT_EQ(session.main.table.last_photo, 0) << "a photo that is gone is dropped";
-    EXPECT_EQ(name_of(session.main.table[0]), "A.JPG");
-}
-
-TEST(cmdPhotos, without_a_choice_nothing_is_counted_or_drawn)
-{
-    photo_choice session;
-    session.finish();
-    session.main.table.reshuffle_choice = photo_table::reshuffle::yes;
-    session.desk.on_modal<frmSelectPhotos>([&](frmSelectPhotos & dialog) { dialog.cmdCancel.click(); });
-    EXPECT_EQ(session.previews_of([&] { session.main.cmdPhotos.click(); }), 0);
-    EXPECT_EQ(session.main.table.reshuffle_choice, photo_table::reshuffle::yes);
 }

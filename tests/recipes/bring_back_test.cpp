@@ -1,8 +1,8 @@
 #include "recipes/bring_back.h"
 
+#include "recipes/read_recipe.h"
 #include "recipes/recipe_of.h"
 #include "recipes/recipe_text.h"
-#include "recipes/stage_fields.h"
 #include "session/undo/moment.h"
 #include "support/files/text_file.h"
 #include "tests/recipes/flurn_session.h"

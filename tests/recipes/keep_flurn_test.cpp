@@ -1,6 +1,6 @@
 #include "recipes/keep_flurn.h"
 
-#include "recipes/recipe_text.h"
+#include "recipes/read_recipe.h"
 #include "support/files/text_file.h"
 #include "tests/recipes/flurn_session.h"
 

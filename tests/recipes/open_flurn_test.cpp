@@ -1,7 +1,7 @@
 #include "recipes/open_flurn.h"
 
 #include "photos/thumbnails/thumbnail_path.h"
-#include "recipes/recipe_text.h"
+#include "recipes/read_recipe.h"
 #include "support/files/text_file.h"
 #include "tests/pictures.h"
 #include "tests/recipes/flurn_session.h"

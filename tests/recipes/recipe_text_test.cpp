@@ -1,5 +1,6 @@
 #include "recipes/recipe_text.h"
 
+#include "recipes/read_recipe.h"
 #include "support/files/text_file.h"
 
 #include <gtest/gtest.h>
