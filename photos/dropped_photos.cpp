@@ -16,7 +16,7 @@
 namespace {
 
 constexpr std::size_t most_selected = 998;  // as many as a selection takes
-constexpr std::size_t most_named = 20;   // more lines than that leave the screen
+constexpr std::size_t most_named = 20;      // more lines than that leave the screen
 
 std::string without_separator_at_end(std::string path)
 {

@@ -34,7 +34,8 @@ text_lines newer_catalogue(const frmMain & main)
 
 void take_newer_designs(const frmMain & main)
 {
-    const std::string seed = read_file(seed_catalogue_path(main)), noted = kept_file(main, supplied_catalogue);
+    const std::string seed = read_file(seed_catalogue_path(main)),
+                      noted = kept_file(main, supplied_catalogue);
     if (file_exists(noted) && read_file(noted) == seed)
         return;
     const std::string path = kept_file(main, "designs.ini");

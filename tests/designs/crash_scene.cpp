@@ -197,7 +197,8 @@ int crash_scene::break_off(const std::string & name, mishap fate,
     EXPECT_EQ(run_child(1'000'000, mishap::killed, act), went_through) << name;
     const folder_image after = image_of(data);
     EXPECT_NE(after, before) << name;
-    int step = static_cast<int>(fate) * sweep_stride % step_stride;  // where not each: other ones with each mishap
+    int step =
+        static_cast<int>(fate) * sweep_stride % step_stride;  // where not each: other ones with each mishap
     for (int ended = broken_off; ended != went_through; step += step_stride) {
         SCOPED_TRACE(name + ", step " + std::to_string(step));
         put_back(data, before);
