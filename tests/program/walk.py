@@ -2,9 +2,8 @@
 """A walk through the built program by mouse, from the empty stage to a finished poster, that leaves a picture of each moment in a
 folder, and frames.json: for each its file, its window, how long it is looked at (milliseconds) and where the pointer is in it.
 
-    walk.py APP PLUGINS PHOTOS FOLDER
+    walk.py APP PLUGINS FOLDER PHOTO...
 """
-import glob
 import json
 import os
 import shutil
@@ -97,15 +96,15 @@ def finish(p, reel):
 
 
 def main():
-    if len(sys.argv) != 5:
+    if len(sys.argv) < 5:
         sys.exit(__doc__)
-    app, plugins, photos, folder = sys.argv[1:]
+    app, plugins, folder, *photos = sys.argv[1:]
     os.mkdir(HOME)  # there already: another walk or tour is under way, or died
     p = screen.Program(app, plugins, home=HOME)
     try:
         p.photos = os.path.join(HOME, 'Pictures', 'Summer by the sea')
         os.makedirs(p.photos)
-        for path in sorted(glob.glob(os.path.join(photos, '*.jpg'))):
+        for path in photos:
             shutil.copy(path, p.photos)
         reel = Reel(p, folder)
         welcomed(p)
