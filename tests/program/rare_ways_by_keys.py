@@ -2,6 +2,7 @@
 """What is needed now and then, in the built program by keyboard alone: photos that need copies, a list that is gathered
 and arranged, a design of one's own, printing, and flurns opened again."""
 import os
+import shutil
 
 from collage import check, focused_on, folder_by_keys, name_by_keys, place_of_keyboard, quit_by_keys, run, welcomed
 from designs import in_finishing_stage, is_enabled, lines_of, made_flurn, same, shows, told
@@ -20,26 +21,26 @@ def keyboard_at(p, name):
     until(lambda: (place_of_keyboard(p) or [''])[0] == name, 'the keyboard at ' + name)
 
 
-def gather_list(p):
+def gather_list(p, folder):
     entry(p, 'mnuPictures', 'mnuNewList')
     p.window('frmPictureName')
     p.type('Sea')
     p.keys('Return')
     p.window('frmPhotoList')
     p.shortcut('cmdFolder')
-    name_by_keys(p, p.photos)
+    name_by_keys(p, folder)
     p.window('frmPhotoList')
     until(lambda: p.find('cmdEdit'), 'photos to be edited')
     p.shortcut('cmdEdit')
-    arrange(p)
+    arrange(p, folder)
     p.window('frmPhotoList')
     p.shortcut('cmdDone')
     p.window('frmMain')
 
 
-def arrange(p):
+def arrange(p, folder):
     """The first photo goes behind the second one, and the third is taken out."""
-    photos = [os.path.join(p.photos, name) for name in sorted(os.listdir(p.photos))]
+    photos = [os.path.join(folder, name) for name in sorted(os.listdir(folder)) if name.endswith('.jpg')]
     p.window('frmPictures')
     p.widget('cmdSave')
     keyboard_at(p, 'picIn_0')
@@ -64,13 +65,14 @@ def answer_copies(p, count):
 
 
 def print_it(p):
-    """Where there is no printer the window says so, and the keyboard comes back."""
+    """Where there is no printer the window says so, and the keyboard comes back to where it was."""
+    before = until(lambda: place_of_keyboard(p), 'the keyboard')
     p.shortcut('cmdPrint')
     seen = p.window('QMessageBox')
     check(seen['message'].startswith('There is no printer.'), seen['message'])
     p.keys('Return')
     p.window('frmImage')
-    keyboard_at(p, 'cmdPrint')
+    keyboard_at(p, before[0])
 
 
 def make_quick(p, count):
@@ -160,8 +162,9 @@ def recipes(p):
 
 
 def play(p):
+    plain = shutil.copytree(p.photos, os.path.join(p.folder, 'plain photos'))
     welcomed(p)
-    gather_list(p)
+    gather_list(p, plain)
     count = made_phone_photos(p)
     make_quick(p, count)
     keep_design(p)

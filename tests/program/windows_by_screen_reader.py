@@ -225,8 +225,8 @@ def play(p):
     designers(p, reader)
     frames(p, reader)
     collages(p, reader)
-    recent(p, reader)
     own_designs(p, reader)
+    recent(p, reader)
 
 
 if __name__ == '__main__':
