@@ -1,9 +1,9 @@
 """The supplied designs of tilted photos, from number 201 on."""
 from starter_designs import scatters
-from starter_designs.catalogue import ANY_SHAPE, FITTING, design, on
+from starter_designs.catalogue import ANY_SHAPE, design, on
 
-TURNS = {**FITTING, "Turn BG": "Yes"}
-STAYS = {**FITTING, "Turn BG": "No"}
+TURNS = {**ANY_SHAPE, "Turn BG": "Yes"}
+STAYS = {**ANY_SHAPE, "Turn BG": "No"}
 ANY = {**ANY_SHAPE, "Turn BG": "No"}
 CARDS = {**ANY_SHAPE, "Block": "Yes", "Turn BG": "No"}
 

@@ -46,7 +46,7 @@ def rows_of(size, gap, *rows):
 
 PORTRAIT, LANDSCAPE = (2000, 3000), (3000, 2000)
 T, W = ("T", 440), ("W", 660)
-SMALL_T, SMALL_W = ("T", 380), ("W", 570)
+SMALL_W = ("W", 530)
 
 
 def frames_tall_nine():
@@ -90,5 +90,5 @@ def frames_tall_eight():
 
 def frames_medley():
     """A landscape poster: small frames in three rows."""
-    row, other = (SMALL_W, ("T", 330), SMALL_W, ("T", 330)), (("T", 330), SMALL_W, ("T", 330), SMALL_W)
+    row, other = (SMALL_W, ("T", 305), SMALL_W, ("T", 305)), (("T", 305), SMALL_W, ("T", 305), SMALL_W)
     return rows_of(LANDSCAPE, 50, row, other, row)
