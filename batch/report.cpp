@@ -8,6 +8,7 @@
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "support/windows/display_faces.h"
 #include "versions/archive_version.h"
 #include "versions/picture_versions.h"
 #include "versions/version.h"
@@ -66,7 +67,10 @@ std::string surroundings()
 
 std::string fonts_told()
 {
-    return counted(installed_fonts().size(), "families") + ", captions begin with " + first_caption_family();
+    const std::vector<std::string> fonts = installed_fonts();
+    const std::string face = face_to_begin_with(fonts);
+    return counted(fonts.size(), "families") + ", captions begin with " +
+           (face.empty() ? first_caption_family() : face);
 }
 
 // ---- the folders
