@@ -7,7 +7,7 @@ import random
 
 from starter_art.botany import bough, rose_corner, twig_of_leaves
 from starter_art.pages import placed
-from starter_art.papers import bands, boards, dots, feet, glow_over, paper, petals_in_air, plates, ribbons, sheet
+from starter_art.papers import bands, boards, dots, feet, glow_over, paper, petals_in_air, pier, plates, ribbons, sheet
 from starter_art.scenery import contours, curve, light, mixed, range_of, rule, sky, wood
 from starter_art.svg import circle, closed, drawing, ellipse, path, rectangle
 
@@ -62,7 +62,7 @@ def summer(size):
     for _ in range(60):
         x, y = chance.uniform(0, wide), chance.uniform(10, 240)
         parts.append(ellipse(x, y, chance.uniform(20, 70), 3, fill="#5fa3b0", fill_opacity="0.35"))
-    parts += boards(size, "#6b4c33", "#3a2717", 4, 6, (0, high - 262, wide, high))
+    parts += pier(size, "#6b4c33", "#3a2717", 4, high - 262)
     return drawing(*size, parts)
 
 
@@ -161,11 +161,8 @@ def recipe(size):
     wide, high = size
     left, top, right = (190, 1370, 1170) if high > wide else (1270, 390, 2270)
     lines = "".join(f"M{left},{y}H{right}" for y in range(top + 60, (2640 if high > wide else 1680), 92))
-    check = 36
-    cloth = "".join(f"M{x},{y}h{check}v{check}h-{check}Z" for y in (high - 290, high - 290 + 0) for x in range(90, wide - 90, 2 * check))
     parts = boards(size, "#43362d", "#211812", 9, 331) + sheet(size, "#f7f0de")
-    return drawing(*size, parts + [path(lines, stroke="#b08a63", stroke_width="4", stroke_opacity="0.7", fill="none"), path(cloth, fill="#a8453a", fill_opacity="0.55"),
-                                   path(f"M{left},{top}H{right}", stroke="#a8453a", stroke_width="7", fill="none")])
+    return drawing(*size, parts + [path(lines, stroke="#b08a63", stroke_width="4", stroke_opacity="0.7", fill="none"), path(f"M{left},{top}H{right}", stroke="#a8453a", stroke_width="7", fill="none")])
 
 
 def book_list(size):

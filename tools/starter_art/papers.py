@@ -4,7 +4,8 @@ import math
 import random
 
 from starter_art.scenery import light, mixed
-from starter_art.svg import circle, closed, down_gradient, ellipse, number, path, points, rectangle
+from starter_art.surfaces import stuff
+from starter_art.svg import circle, down_gradient, ellipse, number, path, rectangle
 
 HEAD, FOOT = (50, 258), {True: (1752, 1960), False: (2742, 2950)}  # from above to below, the foot by whether the page is wide
 
@@ -14,22 +15,12 @@ def feet(size):
     return HEAD, FOOT[size[0] > size[1]]
 
 
-def paper(size, color, shade="#5b4a32", seed=1, fibres=520):
-    """A sheet that fills the page: a little darker towards its corners, with fibres that one sees from near."""
-    chance, (wide, high) = random.Random(seed), size
-    found = [rectangle(0, 0, wide, high, fill=color),
-             '<radialGradient id="corners" cx="0.42" cy="0.36" r="0.85"><stop offset="45%" stop-color="' + shade
-             + '" stop-opacity="0"/><stop offset="100%" stop-color="' + shade + '" stop-opacity="0.2"/></radialGradient>',
-             rectangle(0, 0, wide, high, fill="url(#corners)")]
-    dark, pale = [], []
-    for _ in range(fibres):
-        x, y, turn, reach = chance.uniform(0, wide), chance.uniform(0, high), chance.uniform(0, 6.3), chance.uniform(10, 46)
-        bent = turn + chance.uniform(-0.7, 0.7)
-        (dark if chance.random() < 0.55 else pale).append(
-            f"M{x:.0f},{y:.0f}q{reach * math.cos(bent) / 2:.0f},{reach * math.sin(bent) / 2:.0f} {reach * math.cos(turn):.0f},{reach * math.sin(turn):.0f}")
-    for lines, tone, opacity in ((dark, shade, "0.13"), (pale, "#ffffff", "0.5")):
-        found.append(path("".join(lines), fill="none", stroke=tone, stroke_opacity=opacity, stroke_width="2.2", stroke_linecap="round"))
-    return found
+def paper(size, color, shade="#5b4a32", seed=1):
+    """A sheet that fills the page, a little darker towards its corners."""
+    return [stuff("paper", seed=seed, color=color),
+            '<radialGradient id="corners" cx="0.42" cy="0.36" r="0.85"><stop offset="45%" stop-color="' + shade
+            + '" stop-opacity="0"/><stop offset="100%" stop-color="' + shade + '" stop-opacity="0.2"/></radialGradient>',
+            rectangle(0, 0, *size, fill="url(#corners)")]
 
 
 def shadow_below(name, wide, y, reach=46, strength=0.34, left=0):
@@ -90,41 +81,19 @@ def sheet(size, color, inset=90, head=268, foot=262, seed=3):
     return found + [path("".join(dark), fill="none", stroke="#5b4a32", stroke_opacity="0.09", stroke_width="2")]
 
 
-def boards(size, color, seam, count=7, seed=5, area=None):
-    """Dark boards across the page, or across an area of it, with a quiet grain."""
-    chance = random.Random(seed)
-    left, top, right, bottom = area or (0, 0, *size)
-    high, found = (bottom - top) / count, []
+def boards(size, color, seam, count, seed):
+    """Dark boards across the page."""
+    return [stuff("wood", seed=seed, board=number(size[1] / count), tones=[mixed(color, seam, share) for share in (0, 0.1, 0.2, 0.05, 0.15)], seam=seam)]
+
+
+def pier(size, color, seam, count, top):
+    """Boards across the foot of a page, from `top` down, each with a line of light."""
+    wide, high = size[0], (size[1] - top) / count
+    found = []
     for at in range(count):
         y = top + at * high
-        found.append(rectangle(left, y, right - left, high + 1, fill=mixed(color, seam, chance.uniform(0, 0.35))))
-        lines = ""
-        for line in range(9):
-            base, phase, swing = y + high * (line + 0.5) / 9, chance.uniform(0, 6.3), high * 0.03
-            spots = [(x, base + swing * math.sin(x / 330 + phase)) for x in range(int(left), int(right) + 150, 150)]
-            lines += "M" + points(spots).replace(" ", "L")
-        found.append(path(lines, fill="none", stroke=seam, stroke_width="3", stroke_opacity="0.3"))
-        found.append(path(f"M{left},{number(y)}H{right}", fill="none", stroke=mixed(seam, "#000000", 0.4), stroke_width="6", stroke_opacity="0.8"))
-    return found
-
-
-def tape(x, y, turn, tone="#e9dfb8", long=190, high=62):
-    """A strip of paper tape, torn at both ends; one sees through it."""
-    half, teeth = long / 2, 6
-    right = [(half + (8 if at % 2 else 0), -high / 2 + high * at / teeth) for at in range(teeth + 1)]
-    left = [(-half - (8 if at % 2 else 0), high / 2 - high * at / teeth) for at in range(teeth + 1)]
-    return path(closed(right + left), fill=tone, fill_opacity="0.82", transform=f"translate({number(x)},{number(y)}) rotate({number(turn)})")
-
-
-def line_of_lights(wide, y, sag, tones, count):
-    """A cord that sags from edge to edge and hangs little pennants; `tones` in turn."""
-    def at(x):
-        return y + sag * (1 - (2 * x / wide - 1) ** 2)
-    found = [path("M" + points([(x, at(x)) for x in range(0, wide + 1, 50)]).replace(" ", "L"), fill="none", stroke="#8a7a5c", stroke_width="6")]
-    step = wide / count
-    for flag in range(count):
-        x, tone = (flag + 0.5) * step, tones[flag % len(tones)]
-        found.append(path(closed([(x - step * 0.36, at(x - step * 0.36)), (x + step * 0.36, at(x + step * 0.36)), (x, at(x) + step * 0.8)]), fill=tone))
+        found += [rectangle(0, y, wide, high + 1, fill=mixed(color, seam, 0.3 * (at % 2))), rectangle(0, y, wide, 6, fill=mixed(seam, "#000000", 0.4)),
+                  rectangle(0, y + 8, wide, 3, fill="#ffffff", fill_opacity="0.12")]
     return found
 
 
