@@ -9,7 +9,7 @@ ALL_TILTS = [tilt for tilt in range(-35, 40, 5) if tilt]
 
 
 def mosaic_wall():
-    return mosaic(PORTRAIT, 10, 18, [(5, 6, 1), (4, 4, 2), (3, 4, 2), (2, 2, 14), (2, 3, 14)], seed=23)
+    return mosaic(PORTRAIT, 10, 18, [(5, 6, 1), (4, 5, 2), (4, 4, 2), (3, 4, 8), (3, 3, 8), (2, 3, 6)], seed=1)
 
 
 def panorama():
