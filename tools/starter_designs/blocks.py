@@ -212,7 +212,7 @@ def fortnight():
 
 def three_weeks():
     """Seven squares a week, with room for the name of the month above."""
-    return roomy(LANDSCAPE, [box(80 + 408 * x, 540 + 408 * y, 384, 384) for y in range(3) for x in range(7)])
+    return [box(80 + 408 * x, 540 + 408 * y, 384, 384) for y in range(3) for x in range(7)]
 
 
 def quilt():

@@ -91,7 +91,7 @@ BLOCKS = [
            "Thirteen photos in rows of many sizes, two of them large.", blocks.fortnight,
            {**TURNS, **on("linen")}),
     design(151, "Three weeks", "Block", "Landscape", "Twenty-one squares like the sheet of a calendar",
-           "Three weeks of seven days, a photo for each, and room for the name of the month.", blocks.three_weeks, {**ANY_SHAPE, "Turn BG": "Yes", "Borders": "No", **on("slate")}),
+           "Three weeks of seven days, a photo for each, and room for the name of the month.", blocks.three_weeks, {**ANY_SHAPE, "Turn BG": "No", "Borders": "No", **on("slate_wide")}),
     design(152, "Quilt", "Block", "Portrait", "Thirty squares like a quilt",
            "Thirty squares, five across, sewn together with a narrow seam.", blocks.quilt,
            {**SQUARES, **on("argyle"), "Turn BG": "No"}, style="Fill"),

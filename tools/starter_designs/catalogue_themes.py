@@ -95,8 +95,6 @@ FRAMES = [
     framed_by_set(402, "Framed landscapes", "Portrait", "Ten frames in rows of two and three", framed.frames_wide_eight, "green_wall_tall"),
     framed_by_set(403, "Framed family", "Portrait", "Two frames above, five below", framed.frames_family,
                   "green_wall_tall"),
-    framed_by_set(404, "Framed staircase", "Portrait", "Wide frames in three steps, tall ones beside them", framed.frames_staircase,
-                  "stone_wall_tall"),
     framed_by_set(405, "Framed shelf", "Landscape", "Three tall frames above three wide ones", framed.frames_shelf,
                   "shelves"),
     framed_by_set(406, "Framed duet", "Landscape", "Three frames above three, tall and wide in turn", framed.frames_duet,

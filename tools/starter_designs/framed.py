@@ -63,12 +63,6 @@ def frames_family():
     return rows_of(PORTRAIT, 90, (("T", 460), ("T", 460)), (("W", 690), ("W", 690)), (T, T, T))
 
 
-def frames_staircase():
-    """Frames that go down in three steps."""
-    return [place for step in range(3) for place in wide(130 + 480 * step, 330 + 720 * step, 640)] + [
-        place for step in range(3) for place in tall((1340, 130, 700)[step], (330, 1040, 1960)[step], (450, 420, 400)[step])]
-
-
 def frames_shelf():
     """A landscape poster: three tall frames on a board above three wide ones."""
     return [place for at in range(3) for place in tall(600 + 680 * at, 443, 440)] + [

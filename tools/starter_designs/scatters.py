@@ -137,17 +137,6 @@ def loose_portraits():
     return askew(lying("PLP", "LPLPL"), (-5, 5))
 
 
-def spiral():
-    """Eighteen photos in two rings about a square one, each ring leaning the other way."""
-    places = []
-    for count, across, down, first, lean, (long_side, short_side) in ((11, 720, 1090, 8, -10, (400, 290)), (6, 370, 560, 30, 10, (370, 270))):
-        for at in range(count):
-            angle = math.radians(first + 360 * at / count)
-            sides = (long_side, short_side) if at % 2 else (short_side, long_side)
-            places.append(centred(1000 + across * math.sin(angle), 1500 - down * math.cos(angle), *sides, lean))
-    return places + [centred(1000, 1500, 480, 480, -5)]
-
-
 def bouquet():
     """Petals of portraits above one large photo, leaves of landscapes below."""
     places = []
