@@ -34,7 +34,7 @@ PAGES = [
          editorial.broadsheet, {**TURNS, **on("stone_wall")}),
     page(161, "Double portrait", "Portrait", "Two large portraits above six small photos", "Two large portraits and two rows of three below them.",
          editorial.double_portrait, {**STAYS, **on("wine")}),
-    page(162, "Lookbook", "Portrait", "Six photos of one size", "Six photos of one size in two rows, with a lot of air.", editorial.lookbook, {**ANY_TURNS, **on("sand")}),
+    page(162, "Lookbook", "Portrait", "Six photos of one size", "Six photos of one size in three rows.", editorial.lookbook, {**ANY_TURNS, **on("sand")}),
     page(163, "Nine squares", "Portrait", "Nine squares with room above", "Nine squares, three by three, and room for a title.",
          editorial.nine_squares, {**ANY, **on("ink")}),
     page(164, "Sixteen squares", "Portrait", "Sixteen squares with room above", "Sixteen squares, four by four, and room for a title.",
