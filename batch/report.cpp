@@ -10,6 +10,7 @@
 #include "support/platform_error.h"
 #include "support/windows/display_faces.h"
 #include "versions/archive_version.h"
+#include "versions/page_versions.h"
 #include "versions/picture_versions.h"
 #include "versions/version.h"
 
@@ -136,7 +137,8 @@ std::string programs_told(const std::string & install)
 
 std::vector<std::string> libraries_in_use()
 {
-    return {toolkit_version(), picture_version(), jpeg_version(), archive_version()};
+    return {toolkit_version(), picture_version(), jpeg_version(),
+            archive_version(), tiff_version(),    pdf_version()};
 }
 
 std::string report(const batch_folders & folders)

@@ -153,8 +153,8 @@ def scatter(prototypes, places, turns=None, sizes=None, kinds=None):
     kept = bpy.data.collections.new("prototypes")
     for number, one in enumerate(prototypes):
         one.name = f"{number:03}_{one.name}"
-        for home in list(one.users_collection):
-            home.objects.unlink(one)
+        if one.name in bpy.context.collection.objects:  # not there: an earlier scatter has it as well
+            bpy.context.collection.objects.unlink(one)
         kept.objects.link(one)
     count = len(places)
     mesh = bpy.data.meshes.new("places")

@@ -14,7 +14,7 @@ SIZE = {"landscape": (1620, 1080), "portrait": (1080, 1620)}
 @dataclasses.dataclass
 class Roll:
     """How a photo is taken and developed."""
-    samples: int = 64
+    samples: int = 24
     exposure: float = 0.0  # stops
     look: str = "Medium High Contrast"  # of the Filmic view; "None" is flat
     clean: float = 1.0  # how much the noise of rendering is taken out; 0 leaves all
@@ -90,7 +90,7 @@ def shifted(values, down, right):
     return numpy.roll(values, (down, right), axis=(0, 1))
 
 
-def cleaned(one, other, strength, reach=4):
+def cleaned(one, other, strength, reach=3):
     """The mean of two exposures without their noise: each pixel becomes a mean of those around it that look alike, where the
     difference of the two exposures says how much unlikeness is noise. Levels are compared as the eye sees them."""
     one, other = (numpy.log1p(4 * numpy.maximum(half, 0)) for half in (one, other))
