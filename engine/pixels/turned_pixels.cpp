@@ -250,7 +250,7 @@ std::vector<const pixel *> rows_from_top(const bitmap & image)
     return rows;
 }
 
-void put_turned(const turned_source & source, const turned_row & row, arithmetic way)
+void put_turned(const turned_source & source, const turned_row & row, [[maybe_unused]] arithmetic way)
 {
     int done = 0;
 #if defined(__x86_64__)
