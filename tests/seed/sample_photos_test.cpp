@@ -5,7 +5,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <numbers>
 #include <set>
 #include <string>
@@ -76,7 +78,26 @@ double distance(const bitmap & one, const bitmap & other)
     return sum / (one.height() * static_cast<double>(channels(one.row(0)).size()));
 }
 
+std::string contents(const std::filesystem::path & path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
 }  // namespace
+
+TEST(sample_photos, are_the_rendered_ones_where_there_are)
+{
+    int rendered = 0;
+    for (const auto & entry : std::filesystem::directory_iterator(SEED_FOLDER "/photos")) {
+        const auto built = std::filesystem::path(SAMPLE_PHOTOS) / entry.path().filename();
+        ASSERT_TRUE(std::filesystem::exists(built)) << entry.path() << " is no sample photo";
+        EXPECT_TRUE(contents(entry.path()) == contents(built)) << built;
+        EXPECT_LE(entry.file_size(), 400'000u) << entry.path();
+        ++rendered;
+    }
+    EXPECT_GE(rendered, 1);
+}
 
 TEST(sample_photos, are_many_and_half_of_them_stand_upright)
 {

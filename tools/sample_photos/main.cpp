@@ -1,4 +1,5 @@
-// Draws the sample photos into a folder: sample_photos FOLDER. Always the same bytes.
+// Puts the sample photos into a folder: sample_photos FOLDER TAKEN [NAME]. What lies in TAKEN under a photo's
+// name is copied, the others are drawn. Always the same bytes.
 #include "scenes.h"
 
 #include <FreeImage.h>
@@ -37,28 +38,38 @@ void save(const canvas & photo, const std::string & path)
         throw std::runtime_error(path + ": can't be written");
 }
 
-void take(const scene & shot, const std::filesystem::path & folder)
+void draw(const scene & shot, const std::filesystem::path & file)
 {
     const bool wide = shot.held == format::landscape;
     canvas photo(wide ? long_side : short_side, wide ? short_side : long_side);
     shot.draw(photo);
-    save(photo, (folder / (shot.name + ".jpg")).string());
+    save(photo, file.string());
+}
+
+void provide(const scene & shot, const std::filesystem::path & folder, const std::filesystem::path & taken)
+{
+    const std::string name = shot.name + ".jpg";
+    if (std::filesystem::exists(taken / name))
+        std::filesystem::copy_file(taken / name, folder / name,
+                                   std::filesystem::copy_options::overwrite_existing);
+    else
+        draw(shot, folder / name);
 }
 
 }  // namespace
 
 int main(int count, char ** arguments)
 {
-    if (count < 2) {
-        std::fprintf(stderr, "sample_photos FOLDER [NAME]\n");
+    if (count < 3) {
+        std::fprintf(stderr, "sample_photos FOLDER TAKEN [NAME]\n");
         return 1;
     }
-    const std::filesystem::path folder = arguments[1];
+    const std::filesystem::path folder = arguments[1], taken = arguments[2];
     std::filesystem::create_directories(folder);
     std::vector<scene> scenes = all_scenes();
-    if (count > 2)
+    if (count > 3)
         std::erase_if(scenes,
-                      [&](const scene & one) { return one.name.find(arguments[2]) == std::string::npos; });
+                      [&](const scene & one) { return one.name.find(arguments[3]) == std::string::npos; });
     std::atomic<std::size_t> next = 0;
     std::atomic<bool> failed = false;
     std::vector<std::thread> workers;
@@ -66,7 +77,7 @@ int main(int count, char ** arguments)
         workers.emplace_back([&] {
             for (std::size_t at = next++; at < scenes.size(); at = next++) {
                 try {
-                    take(scenes[at], folder);
+                    provide(scenes[at], folder, taken);
                 } catch (const std::exception & error) {
                     std::fprintf(stderr, "sample_photos: %s\n", error.what());
                     failed = true;
