@@ -81,7 +81,9 @@ def hand(joints, side, material):
         places[f"knuckle_{k}"], places[f"tip_{k}"] = (aside, 0, 0.098, 0.0115), (aside * 1.65, 0, 0.098 + long, 0.008)
         bones += [("palm", f"knuckle_{k}"), (f"knuckle_{k}", f"tip_{k}")]
     wrist, end = Vector(joints["wrist_" + side][:3]), Vector(joints["hand_" + side][:3])
-    return along(body("hand", places, bones, material), wrist, end - wrist, 0 if side == "r" else math.pi)
+    made = body("hand", places, bones, material)
+    made.data.transform(Matrix.Scale(1.12, 4))
+    return along(made, wrist, end - wrist, 0 if side == "r" else math.pi)
 
 
 def shoe(joints, side, material):
@@ -107,8 +109,8 @@ def dressed(wearer, moved, material, wind=0.0):
     """A loose shirt with short sleeves and short trousers, blown a little to one side."""
     joints = {joint: (moved or {}).get(joint, at[:3]) for joint, at in STANDING.items()}
     for side in "lr":
-        sleeve(wearer, joints, ("shoulder_" + side, "elbow_" + side), 0.62, (0.070, 0.082), material)
-        sleeve(wearer, joints, ("hip_" + side, "knee_" + side), 0.78, (0.108, 0.102), material)
+        sleeve(wearer, joints, ("shoulder_" + side, "elbow_" + side), 0.55, (0.064, 0.066), material)
+        sleeve(wearer, joints, ("hip_" + side, "knee_" + side), 0.72, (0.104, 0.090), material)
     shirt = shapes.lathe("shirt", [(0.05, 1.50), (0.13, 1.46), (0.185, 1.40), (0.185, 1.25), (0.165, 1.10), (0.172, 0.96), (0.195, 0.84), (0.18, 0.84), (0.1, 1.3)], material, steps=48)
     for vertex in shirt.data.vertices:
         low = max(0.0, 1.12 - vertex.co.z) / 0.28
