@@ -76,6 +76,11 @@ batch_arguments without_what_is_named(batch_arguments common, const table_line &
             common.quick.clear();
             common.recipe.clear();
         }
+        if (header.cells[i] == "recipe") {
+            common.frames.clear();
+            common.orientation.clear();
+            common.seed.reset();
+        }
     }
     return common;
 }

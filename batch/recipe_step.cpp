@@ -36,10 +36,12 @@ bool own_photos_found(frmMain & main, recipe & wanted, const std::string & file)
 {
     const found_photos found = look_for(main, wanted.photos);
     name_each(found.gone, "isn't there any more; it is left out.");
+    for (const refused_photo & photo : found.refused)
+        std::fprintf(stderr, "%s is left out: %s.\n", photo.path.c_str(), photo.why.c_str());
     name_each(found.changed, "has changed since this flurn was made.");
     if (found.there.empty())
         throw platform_error(error_number::file_not_found,
-                             "None of the photos of this flurn is there any more; --photos names others.",
+                             "None of the photos of this flurn can be used any more; --photos names others.",
                              file);
     wanted.photos = found.there;
     return found.are_those_of_then();
@@ -55,8 +57,11 @@ void take_given_photos(const frmMain & main, recipe & wanted)
 std::vector<std::string> paths_of(const recipe & wanted)
 {
     std::vector<std::string> paths;
-    for (const recipe_photo & photo : wanted.photos)
+    for (const recipe_photo & photo : wanted.photos) {
         paths.push_back(photo.path);
+        if (photo.original)
+            paths.push_back(photo.original->path);
+    }
     return paths;
 }
 

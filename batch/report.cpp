@@ -8,7 +8,9 @@
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "support/windows/display_faces.h"
 #include "versions/archive_version.h"
+#include "versions/page_versions.h"
 #include "versions/picture_versions.h"
 #include "versions/version.h"
 
@@ -66,7 +68,10 @@ std::string surroundings()
 
 std::string fonts_told()
 {
-    return counted(installed_fonts().size(), "families") + ", captions begin with " + first_caption_family();
+    const std::vector<std::string> fonts = installed_fonts();
+    const std::string face = face_to_begin_with(fonts);
+    return counted(fonts.size(), "families") + ", captions begin with " +
+           (face.empty() ? first_caption_family() : face);
 }
 
 // ---- the folders
@@ -132,7 +137,8 @@ std::string programs_told(const std::string & install)
 
 std::vector<std::string> libraries_in_use()
 {
-    return {toolkit_version(), picture_version(), jpeg_version(), archive_version()};
+    return {toolkit_version(), picture_version(), jpeg_version(),
+            archive_version(), tiff_version(),    pdf_version()};
 }
 
 std::string report(const batch_folders & folders)

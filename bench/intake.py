@@ -13,7 +13,10 @@ import subprocess
 import sys
 import tempfile
 
-TOOLS = {'jpg': ['djpeg', '-outfile', os.devnull], 'heic': None, 'png': ['convert'], 'tif': ['convert'], 'webp': ['dwebp', '-quiet', '-ppm', '-o', os.devnull]}
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, 'tests', 'intake'))
+from photo_files import SCREEN  # the wide colours of phones
+
+TOOLS = {'jpg': ['djpeg', '-outfile', os.devnull], 'webp': ['dwebp', '-quiet', '-ppm', '-o', os.devnull]}
 
 
 def work_of(*command):
@@ -30,18 +33,23 @@ def made_files(photo, folder):
     odd = os.path.join(folder, 'odd.jpg')
     subprocess.run(['convert', photo, '-crop', '-7-5', '+repage', odd], check=True)
     subprocess.run(['exiv2', '-Mset Exif.Image.Orientation 6', odd], check=True)
+    profile = os.path.join(folder, 'screen.icc')
+    with open(profile, 'wb') as file:
+        file.write(SCREEN)
+    subprocess.run(['convert', photo, '-profile', profile, os.path.join(folder, 'wide.jpg')], check=True)
     subprocess.run(['heif-enc', photo, '-o', os.path.join(folder, 'phone.heic')], check=True, capture_output=True)
-    for name in ('screen.png', 'page.tif', 'web.webp'):
+    subprocess.run(['heif-enc', '-A', photo, '-o', os.path.join(folder, 'phone.avif')], check=True, capture_output=True)
+    for name in ('screen.png', 'page.tif', 'web.webp', 'old.bmp'):
         subprocess.run(['convert', photo, os.path.join(folder, name)], check=True)
-    return ['turned.jpg', 'odd.jpg', 'phone.heic', 'screen.png', 'page.tif', 'web.webp']
+    return ['turned.jpg', 'odd.jpg', 'wide.jpg', 'phone.heic', 'phone.avif', 'screen.png', 'page.tif', 'web.webp', 'old.bmp']
 
 
 def decoding(path, folder):
-    """The format's own tool; for HEIC there is none that only decodes, so its planes are written as they are."""
+    """The format's own tool; for HEIC and AVIF there is none that only decodes, so its planes are written as they are."""
     kind = path.rpartition('.')[2]
-    if kind == 'heic':
+    if kind in ('heic', 'avif'):
         return ['heif-convert', path, os.path.join(folder, 'planes.y4m')]
-    return [*TOOLS[kind], path, 'ppm:' + os.devnull] if kind in ('png', 'tif') else [*TOOLS[kind], path]
+    return [*TOOLS[kind], path] if kind in TOOLS else ['convert', path, 'ppm:' + os.devnull]
 
 
 def main(programs, photo, runs):

@@ -40,7 +40,7 @@ endfunction()
 # Links each storey to the one below it and has every header compiled alone. A storey without a source file gets an
 # empty one, since an archive needs a member.
 function(finish_storeys)
-    target_link_libraries(ground PRIVATE FreeImage::FreeImage JPEG::JPEG LibArchive::LibArchive PkgConfig::LCMS asio)
+    target_link_libraries(ground PRIVATE FreeImage::FreeImage JPEG::JPEG LibArchive::LibArchive PkgConfig::LCMS TIFF::TIFF asio)
     target_link_libraries(records PUBLIC ground)
     target_link_libraries(cores PUBLIC records)
     target_link_libraries(procedures PUBLIC cores)

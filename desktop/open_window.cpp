@@ -6,15 +6,52 @@
 #include <QWidget>
 
 #include <filesystem>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr int longest_wait = 1000;  // milliseconds
+constexpr char end_of_request = '\0';
+constexpr qint64 longest_request = 8192;  // twice the longest path
 
-// One name for a folder, whichever way it is reached. The system forgets the name with the program that
-// listens.
-QString name_for(const std::string & data_folder)
+// Names of that kind are open to all users of the computer.
+bool is_own(const QLocalSocket & visitor)
+{
+    ucred other{};
+    socklen_t size = sizeof other;
+    return ::getsockopt(static_cast<int>(visitor.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &other,
+                        &size) == 0 &&
+           other.uid == ::geteuid();
+}
+
+// Who didn't wait for the answer is gone, with what was asked.
+void answer(QLocalSocket & visitor, const open_window::visit & visited)
+{
+    const QByteArray request = visitor.peek(longest_request + 1);
+    const auto length = request.indexOf(end_of_request);
+    if (length < 0 && request.size() <= longest_request)
+        return;
+    visitor.readAll();
+    if (length < 0 || visitor.state() != QLocalSocket::ConnectedState)
+        return visitor.abort();
+    visitor.putChar(static_cast<char>(visited(request.left(length).toStdString())));
+    visitor.disconnectFromServer();
+}
+
+void receive(QLocalSocket & visitor, const open_window::visit & visited)
+{
+    QObject::connect(&visitor, &QLocalSocket::disconnected, &visitor, &QObject::deleteLater);
+    if (!is_own(visitor))
+        return visitor.abort();
+    QObject::connect(&visitor, &QLocalSocket::readyRead, &visitor,
+                     [&visitor, visited] { answer(visitor, visited); });
+    answer(visitor, visited);
+}
+
+}  // namespace
+
+QString name_of_open_window(const std::string & data_folder)
 {
     std::error_code failed;
     const std::filesystem::path found = std::filesystem::canonical(data_folder, failed);
@@ -24,28 +61,29 @@ QString name_for(const std::string & data_folder)
     return QStringLiteral("tessaloom-%1-%2").arg(::geteuid()).arg(QString::fromLatin1(hash.toHex().left(32)));
 }
 
-}  // namespace
-
-open_window::open_window(const std::string & data_folder, std::function<void()> raise)
+open_window::open_window(const std::string & data_folder, visit visited)
 {
     server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
-    QObject::connect(&server, &QLocalServer::newConnection, &server, [this, raise = std::move(raise)] {
-        while (QLocalSocket * const asked = server.nextPendingConnection()) {
-            QObject::connect(asked, &QLocalSocket::disconnected, asked, &QObject::deleteLater);
-            raise();
-            asked->write("raised");
-            asked->disconnectFromServer();
-        }
+    QObject::connect(&server, &QLocalServer::newConnection, &server, [this, visited = std::move(visited)] {
+        while (QLocalSocket * const visitor = server.nextPendingConnection())
+            receive(*visitor, visited);
     });
-    server.listen(name_for(data_folder));
+    server.listen(name_of_open_window(data_folder));
 }
 
-bool raise_open_window(const std::string & data_folder)
+window_answer ask_open_window(const std::string & data_folder, const std::string & flurn)
 {
     QLocalSocket socket;
     socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
-    socket.connectToServer(name_for(data_folder));
-    return socket.waitForConnected(longest_wait) && socket.waitForReadyRead(longest_wait);
+    socket.connectToServer(name_of_open_window(data_folder));
+    if (!socket.waitForConnected(longest_wait))
+        return window_answer::none;
+    socket.write(QByteArray::fromStdString(flurn) + end_of_request);
+    char answer = 0;
+    if (!socket.waitForReadyRead(longest_wait) || !socket.getChar(&answer))
+        return window_answer::none;
+    const auto told = static_cast<window_answer>(answer);
+    return told <= window_answer::at_work ? told : window_answer::none;
 }
 
 void raise_own_window()

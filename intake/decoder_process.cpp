@@ -7,9 +7,11 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <optional>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -57,16 +59,17 @@ public:
     {
         if (id > 0) {
             ::kill(id, SIGKILL);
-            wait();
+            while (::waitpid(id, nullptr, 0) < 0 && errno == EINTR) {}
         }
     }
-    // Its status as the system tells it.
-    int wait()
+    // Its status as the system tells it, nothing while it runs.
+    std::optional<int> status()
     {
-        int status = 0;
-        while (::waitpid(id, &status, 0) < 0 && errno == EINTR) {}
+        int told = 0;
+        if (::waitpid(id, &told, WNOHANG) != id)
+            return std::nullopt;
         id = 0;
-        return status;
+        return told;
     }
 
 private:
@@ -103,21 +106,26 @@ struct read_answer {
     reading ended = reading::over;
 };
 
-reading end_of_patience(const std::atomic<bool> & stop, clock_type::time_point latest)
+// What may end it from outside.
+struct patience {
+    const std::atomic<bool> & stop;
+    clock_type::time_point latest;
+};
+
+reading end_of(const patience & most)
 {
-    if (stop)
+    if (most.stop)
         return reading::stopped;
-    return clock_type::now() > latest ? reading::too_slow : reading::over;
+    return clock_type::now() > most.latest ? reading::too_slow : reading::over;
 }
 
-read_answer all_of(int from, const decoder & used, const std::atomic<bool> & stop)
+read_answer all_of(int from, const decoder & used, const patience & most)
 {
     constexpr int glance = 50;  // milliseconds between looks at what would end it
-    const auto latest = clock_type::now() + used.patience;
     read_answer answer;
     std::string chunk(1 << 16, '\0');
     for (;;) {
-        answer.ended = end_of_patience(stop, latest);
+        answer.ended = end_of(most);
         if (answer.ended != reading::over)
             return answer;
         pollfd waiting{.fd = from, .events = POLLIN, .revents = 0};
@@ -137,13 +145,39 @@ decoder_answer failed(decode_fault fault)
     return {.fault = fault};
 }
 
-decoder_answer made_of(const read_answer & read, int status)
+decoder_answer made_of(const std::string & bytes, int status)
 {
     if (WIFSIGNALED(status) && WTERMSIG(status) == SIGXCPU)
         return failed(decode_fault::too_slow);
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
         return failed(decode_fault::broken_down);
-    return answer_of(read.bytes);
+    return answer_of(bytes);
+}
+
+decoder_answer ended(reading how)
+{
+    switch (how) {
+        case reading::too_slow:
+            return failed(decode_fault::too_slow);
+        case reading::stopped:
+            return failed(decode_fault::stopped);
+        default:
+            return failed(decode_fault::too_large);
+    }
+}
+
+// One that a file has taken over may say no more and stay.
+decoder_answer answer_at_end(child & running, const read_answer & read, const patience & most)
+{
+    constexpr std::chrono::milliseconds glance{1};
+    reading how = read.ended;
+    while (how == reading::over) {
+        if (const std::optional<int> status = running.status())
+            return made_of(read.bytes, *status);
+        std::this_thread::sleep_for(glance);
+        how = end_of(most);
+    }
+    return ended(how);
 }
 
 }  // namespace
@@ -167,15 +201,6 @@ decoder_answer answer_for(const decoder & used, const std::string & path, pictur
         return failed(decode_fault::no_decoder);
     child running(id);
     to.close();
-    const read_answer read = all_of(from.get(), used, stop);
-    switch (read.ended) {
-        case reading::over:
-            return made_of(read, running.wait());
-        case reading::too_slow:
-            return failed(decode_fault::too_slow);
-        case reading::stopped:
-            return failed(decode_fault::stopped);
-        default:
-            return failed(decode_fault::too_large);
-    }
+    const patience most{.stop = stop, .latest = clock_type::now() + used.patience};
+    return answer_at_end(running, all_of(from.get(), used, most), most);
 }

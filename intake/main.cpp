@@ -30,12 +30,13 @@ std::string data_folder_of(const intake_arguments & arguments)
 
 void show_progress(const preparing & work)
 {
-    if (::isatty(STDERR_FILENO) != 0)
+    if (::isatty(STDERR_FILENO) != 0 && work.wanted() > 0)
         std::fprintf(stderr, "\rPreparing %zu of %zu photos ", work.done(), work.wanted());
 }
 
 void wait_for(preparing & work)
 {
+    show_progress(work);
     while (!work.is_over_within(std::chrono::milliseconds(100))) {
         show_progress(work);
         if (interrupted != 0)

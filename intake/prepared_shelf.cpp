@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 // Changes when copies are made another way: those made before are passed over then, and cleared in time.
 constexpr std::string_view way_of_making = "1";
-constexpr std::string_view origin_name = "origin", going_ending = ".going";
+constexpr std::string_view shelf_name = "prepared", origin_name = "origin", going_ending = ".going";
 constexpr std::size_t longest_stem = 200;
 constexpr int hexadecimal = 16;
 
@@ -45,6 +45,13 @@ std::optional<std::uint64_t> number_of_name(const std::string & name)
         std::from_chars(digits.data(), digits.data() + digits.size(), number, hexadecimal);
     const bool is_whole = fault == std::errc{} && end == digits.data() + hexadecimal;
     return is_whole ? std::optional(number) : std::nullopt;
+}
+
+template <typename Number>
+bool read_number(const std::string & text, Number & number)
+{
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return fault == std::errc{} && end == text.data() + text.size();
 }
 
 // What a copy was made of; two photos that happen to have one number are told apart by it.
@@ -146,7 +153,22 @@ std::optional<photo_identity> identity_of(const std::string & path)
     return photo_identity{.path = absolute_path(path), .stamp = *stamp};
 }
 
-prepared_shelf::prepared_shelf(const std::string & data_folder) : folder(joined(data_folder, "prepared"))
+std::optional<photo_identity> origin_of_copy(const std::string & data_folder, const std::string & copy)
+{
+    const std::string place = folder_of(copy);
+    if (folder_of(place) != joined(data_folder, shelf_name))
+        return std::nullopt;
+    // A path may hold ends of lines: it goes to the end.
+    const std::vector<std::string> fields = split(text_in(joined(place, origin_name)), '\n', 5);
+    photo_identity photo;
+    if (fields.size() != 5 || !fields[4].ends_with('\n') || !read_number(fields[1], photo.stamp.bytes) ||
+        !read_number(fields[2], photo.stamp.changed))
+        return std::nullopt;
+    photo.path = fields[4].substr(0, fields[4].size() - 1);
+    return copy_name(photo) == name_of(copy) ? std::optional(photo) : std::nullopt;
+}
+
+prepared_shelf::prepared_shelf(const std::string & data_folder) : folder(joined(data_folder, shelf_name))
 {
     make_folders(folder);
     fs::permissions(folder, fs::perms::owner_all);

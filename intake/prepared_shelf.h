@@ -22,6 +22,10 @@ struct photo_identity {
 /// The photo as it is now; nothing when it isn't there.
 std::optional<photo_identity> identity_of(const std::string & path);
 
+/// The photo that this copy was made of, as it was then; nothing for a file that is none of the copies in
+/// that data folder.
+std::optional<photo_identity> origin_of_copy(const std::string & data_folder, const std::string & copy);
+
 /// Room for copies, in bytes, unless the user says otherwise.
 inline constexpr std::uint64_t usual_room = std::uint64_t{2} << 30U;
 

@@ -54,7 +54,7 @@ set(CPACK_DEBIAN_APPLICATION_PACKAGE_SHLIBDEPS ON)
 # The fonts are for captions.
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS
     "tessaloom-data (= ${PROJECT_VERSION}), fonts-dejavu-core | fonts-freefont-ttf | fonts-liberation")
-set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "qt6-wayland, qt6-xdgdesktopportal-platformtheme")
+set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "fonts-vollkorn, qt6-wayland, qt6-xdgdesktopportal-platformtheme")
 set(CPACK_COMPONENT_APPLICATION_DESCRIPTION "Tessaloom makes large posters of photos: pick a design or a quick style,
 adjust it under a live preview, save and print the poster.
 .

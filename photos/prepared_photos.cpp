@@ -79,15 +79,15 @@ std::vector<std::string> files_of(const std::vector<intake_photo> & photos)
     return files;
 }
 
-std::optional<std::vector<std::string>> prepared(frmMain & main, std::vector<intake_photo> seen)
+// Raises 61, 70, 75, 76 where copies have no place.
+std::optional<std::vector<intake_photo>> prepared(frmMain & main, std::vector<intake_photo> seen)
 {
     prepared_shelf & shelf = copies_of_session(main);
     preparing work(std::move(seen), shelf, decoder_in(main.install_folder), main.workers);
     if (!is_done_with_progress(main, work))
         return std::nullopt;
     shelf.clear_to(usual_room);
-    tell_refused(main, work.photos());
-    return files_of(work.photos());
+    return work.photos();
 }
 
 }  // namespace
@@ -113,10 +113,26 @@ std::optional<std::vector<std::string>> photos_with_copies(frmMain & main, std::
         return std::nullopt;
     seen.resize(std::min(seen.size(), static_cast<std::size_t>(photo_table::capacity)));
     try {
-        return prepared(main, std::move(seen));
+        const auto photos = prepared(main, std::move(seen));
+        if (!photos)
+            return std::nullopt;
+        tell_refused(main, *photos);
+        return files_of(*photos);
     } catch (const platform_error & error) {
         main.desk.message("The copies can't be made: " + told(error), {});
         return std::nullopt;
+    }
+}
+
+std::optional<std::vector<intake_photo>> copies_made_again(frmMain & main, std::vector<intake_photo> seen)
+{
+    try {
+        return prepared(main, seen);
+    } catch (const platform_error & error) {
+        for (intake_photo & photo : seen)
+            if (photo.ready.empty() && photo.why.empty())
+                photo.why = "its copy can't be made: " + told(error);
+        return seen;
     }
 }
 

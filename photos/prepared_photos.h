@@ -22,6 +22,10 @@ std::optional<std::vector<std::string>> photos_with_copies(frmMain & main, std::
 /// The same for files that were chosen; without copies the files themselves.
 std::vector<std::string> chosen_files_with_copies(frmMain & main, const std::vector<std::string> & files);
 
+/// Copies of photos that had some already, in their order, without a question and without a word of those
+/// that none can be made of; these aren't `ready`. Nothing where the user closed the small window.
+std::optional<std::vector<intake_photo>> copies_made_again(frmMain & main, std::vector<intake_photo> seen);
+
 /// The shelf of copies that this session uses, made when it is asked for first. Raises 61, 70, 75, 76.
 prepared_shelf & copies_of_session(frmMain & main);
 

@@ -1,5 +1,6 @@
 #include "recipes/found_photos.h"
 
+#include "recipes/kept_copies.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
 
@@ -7,24 +8,33 @@
 
 namespace {
 
-bool has_changed(const recipe_photo & photo, const file_stamp & now)
+// A photo or an original.
+template <typename File>
+bool is_as_then(const File & file)
 {
-    return now.bytes != photo.bytes || (!photo.moves_along && now.changed != photo.changed);
+    const auto now = stamp_of(file.path);
+    return now && now->bytes == file.bytes && (file.moves_along || now->changed == file.changed);
 }
 
-found_photos looked_at(const std::vector<recipe_photo> & photos)
+// What was made anew from the same original is the same picture.
+bool has_changed(const recipe_photo & photo)
 {
-    found_photos found;
-    for (const recipe_photo & photo : photos) {
-        const auto stamp = file_exists(photo.path) ? stamp_of(photo.path) : std::nullopt;
-        if (!stamp) {
-            found.gone.push_back(photo.path);
-            continue;
+    return !is_as_then(photo) && !(photo.original && is_as_then(*photo.original));
+}
+
+found_photos looked_at(const copies_brought & brought)
+{
+    found_photos found{.is_stopped = brought.is_stopped};
+    for (const recipe_photo & photo : brought.photos)
+        if (file_exists(photo.path)) {
+            found.there.push_back(photo);
+            if (has_changed(photo))
+                found.changed.push_back(own_path(photo));
+        } else if (!brought.refused.contains(own_path(photo))) {
+            found.gone.push_back(own_path(photo));
         }
-        found.there.push_back(photo);
-        if (has_changed(photo, *stamp))
-            found.changed.push_back(photo.path);
-    }
+    for (const auto & [path, why] : brought.refused)
+        found.refused.push_back({.path = path, .why = why});
     // The same photo may be in use more than once.
     for (auto * paths : {&found.gone, &found.changed}) {
         std::ranges::sort(*paths);
@@ -37,7 +47,7 @@ std::vector<recipe_photo *> gone_among(std::vector<recipe_photo> & photos)
 {
     std::vector<recipe_photo *> gone;
     for (recipe_photo & photo : photos)
-        if (!file_exists(photo.path))
+        if (!file_exists(photo.path) && !file_exists(own_path(photo)))
             gone.push_back(&photo);
     return gone;
 }
@@ -45,22 +55,23 @@ std::vector<recipe_photo *> gone_among(std::vector<recipe_photo> & photos)
 // The deepest folder in which all of them lay, with a separator at its end.
 std::string shared_folder(const std::vector<recipe_photo *> & photos)
 {
-    std::string shared = folder_of(photos.front()->path) + path_separator;
+    std::string shared = folder_of(own_path(*photos.front())) + path_separator;
     for (const recipe_photo * photo : photos)
-        while (!shared.empty() && !photo->path.starts_with(shared)) {
+        while (!shared.empty() && !own_path(*photo).starts_with(shared)) {
             shared.pop_back();
             shared.resize(shared.empty() ? 0 : last_separator(shared) + 1);
         }
     return shared;
 }
 
-void move_to(recipe_photo & photo, const std::string & folder, const std::string & shared)
+template <typename File>
+void move_to(File & file, const std::string & folder, const std::string & shared)
 {
     for (const std::string & path :
-         {joined(folder, photo.path.substr(shared.size())), joined(folder, name_of(photo.path))})
+         {joined(folder, file.path.substr(shared.size())), joined(folder, name_of(file.path))})
         if (file_exists(path)) {
-            photo.path = path;
-            photo.moves_along = true;
+            file.path = path;
+            file.moves_along = true;
             return;
         }
 }
@@ -72,7 +83,10 @@ std::vector<recipe_photo> with_moved(std::vector<recipe_photo> photos, const std
         return photos;
     const std::string shared = shared_folder(gone);
     for (recipe_photo * photo : gone)
-        move_to(*photo, folder, shared);
+        if (photo->original)
+            move_to(*photo->original, folder, shared);
+        else
+            move_to(*photo, folder, shared);
     return photos;
 }
 
@@ -80,7 +94,8 @@ std::vector<recipe_photo> with_moved(std::vector<recipe_photo> photos, const std
 
 found_photos look_for(frmMain & main, const std::vector<recipe_photo> & photos)
 {
-    return alone_beside(main.desk, main.workers, [&] { return looked_at(photos); });
+    const copies_brought brought = bring_copies(main, photos);
+    return alone_beside(main.desk, main.workers, [&] { return looked_at(brought); });
 }
 
 std::vector<recipe_photo> looked_for_in(frmMain & main, const std::string & folder,

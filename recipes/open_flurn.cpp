@@ -14,7 +14,7 @@ namespace {
 found_photos found_with_help(frmMain & main, recipe & wanted)
 {
     found_photos found = look_for(main, wanted.photos);
-    while (!found.gone.empty()) {
+    while (!found.gone.empty() && !found.is_stopped) {
         const question asked{
             .title = "", .text = question_of_gone(found, wanted.photos.size()), .offered = answers::yes_no};
         if (main.desk.ask(asked) != answer::yes)
@@ -31,8 +31,10 @@ found_photos found_with_help(frmMain & main, recipe & wanted)
 void lay_out(frmMain & main, const std::string & file, recipe wanted)
 {
     const found_photos found = found_with_help(main, wanted);
+    if (found.is_stopped)
+        return;
     if (found.there.empty()) {
-        main.desk.message(none_is_there(file));
+        main.desk.message(none_is_there(file, found));
         return;
     }
     wanted.photos = found.there;

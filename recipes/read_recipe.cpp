@@ -119,20 +119,33 @@ void add_named(std::vector<Entry> & entries, Entry entry, const read_row & from)
     add(entries, std::move(entry), from);
 }
 
-void read_photo(recipe & into, const read_row & from, const known_folders & folders)
+// A photo and its original have the same fields.
+template <typename File>
+File file_in(const read_row & from, const known_folders & folders)
 {
     from.expect(3);
     const std::optional<std::string> path = path_named(from.text(1), folders);
     if (!path)
         refuse("Its line " + std::to_string(from.number) +
                " names a photo at a place where a flurn may not look.");
-    add(into.photos,
-        {.path = *path,
-         .bytes = from.number_at<std::uint64_t>(2, 0, std::numeric_limits<std::uint64_t>::max()),
-         .changed = from.number_at<std::int64_t>(3, std::numeric_limits<std::int64_t>::min(),
-                                                 std::numeric_limits<std::int64_t>::max()),
-         .moves_along = from.text(1).starts_with("here:")},
-        from, photo_table::capacity);
+    return {.path = *path,
+            .bytes = from.number_at<std::uint64_t>(2, 0, std::numeric_limits<std::uint64_t>::max()),
+            .changed = from.number_at<std::int64_t>(3, std::numeric_limits<std::int64_t>::min(),
+                                                    std::numeric_limits<std::int64_t>::max()),
+            .moves_along = from.text(1).starts_with("here:")};
+}
+
+void read_photo(recipe & into, const read_row & from, const known_folders & folders)
+{
+    add(into.photos, file_in<recipe_photo>(from, folders), from, photo_table::capacity);
+}
+
+// It belongs to the photo above it.
+void read_original(recipe & into, const read_row & from, const known_folders & folders)
+{
+    if (into.photos.empty() || into.photos.back().original)
+        from.refuse_it();
+    into.photos.back().original = file_in<recipe_original>(from, folders);
 }
 
 font_style font_at(const read_row & from)
@@ -257,6 +270,7 @@ const std::map<std::string, reader> & readers()
         {"made", text_into(&recipe::made)},
         {"design", text_into(&recipe::design)},
         {"photo", read_photo},
+        {"original", read_original},
         {"setting", without_folders(read_setting)},
         {"control", read_control},
         {"forced", read_force},

@@ -13,6 +13,11 @@ const Entry * named(const std::vector<Entry> & entries, std::string_view name)
 
 }  // namespace
 
+const std::string & own_path(const recipe_photo & photo)
+{
+    return photo.original ? photo.original->path : photo.path;
+}
+
 const std::string * setting_in(const recipe & held, std::string_view name)
 {
     const recipe_setting * const found = named(held.settings, name);

@@ -14,14 +14,27 @@
 /// Ends the name of a recipe's file.
 inline constexpr const char * recipe_ending = ".flurn";
 
+/// The photo that a copy was prepared from.
+struct recipe_original {
+    std::string path;
+    std::uint64_t bytes = 0;  ///< these three as for the photo itself
+    std::int64_t changed = 0;
+    bool moves_along = false;
+    bool operator==(const recipe_original &) const = default;
+};
+
 struct recipe_photo {
     std::string path;
     std::uint64_t bytes = 0;   ///< of its file when the flurn was made
     std::int64_t changed = 0;  ///< when it was last changed before, in nanoseconds since 1970
     bool moves_along =
         false;  ///< it was told from the recipe's folder: copying both may have changed its time
+    std::optional<recipe_original> original{};  ///< of a copy, which may be cleared; else nothing
     bool operator==(const recipe_photo &) const = default;
 };
+
+/// The file that its user knows: what a copy was prepared from, else the photo.
+const std::string & own_path(const recipe_photo & photo);
 
 /// Something that the window holds beside its controls, under its name.
 struct recipe_setting {

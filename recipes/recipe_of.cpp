@@ -3,6 +3,7 @@
 #include "designs/templates/template_path.h"
 #include "designs/templates/template_reader.h"
 #include "photos/thumbnails/thumbnail_path.h"
+#include "recipes/kept_copies.h"
 #include "recipes/kept_forces.h"
 #include "recipes/stage_settings.h"
 #include "session/undo/moment.h"
@@ -21,19 +22,22 @@ std::vector<std::string> photos_in_use(const frmMain & main)
     return photos;
 }
 
-recipe_photo as_it_is(const std::string & path)
+recipe_photo as_it_is(const std::string & path, const std::string & data_folder)
 {
     const file_stamp stamp = stamp_of(path).value_or(file_stamp{});
-    return {.path = path, .bytes = stamp.bytes, .changed = stamp.changed};
+    return {.path = path,
+            .bytes = stamp.bytes,
+            .changed = stamp.changed,
+            .original = original_of_copy(data_folder, path)};
 }
 
 // Their folder may be slow to answer.
 std::vector<recipe_photo> photos_of(frmMain & main)
 {
-    return alone_beside(main.desk, main.workers, [photos = photos_in_use(main)] {
+    return alone_beside(main.desk, main.workers, [photos = photos_in_use(main), data = main.data_folder] {
         std::vector<recipe_photo> kept;
         for (const std::string & photo : photos)
-            kept.push_back(as_it_is(photo));
+            kept.push_back(as_it_is(photo, data));
         return kept;
     });
 }

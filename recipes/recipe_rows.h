@@ -5,8 +5,9 @@
 
 /// What writer and reader of a recipe's rows have in common.
 
-/// The version that is written and the newest one that is read.
-inline constexpr int recipe_version = 1;
+/// The newest version that is read. What an older program can follow is written as of that one.
+inline constexpr int recipe_version = 2;
+inline constexpr int version_without_originals = 1;
 
 /// The first field of the first row; the version is the second.
 inline constexpr std::string_view recipe_heading = "Tessaloom flurn";

@@ -4,6 +4,8 @@
 #include "recipes/value_text.h"
 #include "support/files/text_file.h"
 
+#include <algorithm>
+
 namespace {
 
 std::string escaped(std::string_view text)
@@ -75,12 +77,21 @@ std::string template_rows(const recipe_template & each)
     return text;
 }
 
+std::string photo_rows(const recipe_photo & photo, const known_folders & folders)
+{
+    std::string text = row({"photo", kept_path(photo.path, folders), std::to_string(photo.bytes),
+                            std::to_string(photo.changed)});
+    if (photo.original)
+        text += row({"original", kept_path(photo.original->path, folders),
+                     std::to_string(photo.original->bytes), std::to_string(photo.original->changed)});
+    return text;
+}
+
 std::string rows_of(const recipe & held, const known_folders & folders)
 {
     std::string text;
     for (const recipe_photo & photo : held.photos)
-        text += row({"photo", kept_path(photo.path, folders), std::to_string(photo.bytes),
-                     std::to_string(photo.changed)});
+        text += photo_rows(photo, folders);
     for (const recipe_setting & each : held.settings)
         text += row({"setting", each.name, each.value});
     for (const recipe_control & each : held.controls)
@@ -94,11 +105,18 @@ std::string rows_of(const recipe & held, const known_folders & folders)
     return text;
 }
 
+int version_of(const recipe & held)
+{
+    const bool has_originals = std::ranges::any_of(
+        held.photos, [](const recipe_photo & photo) { return photo.original.has_value(); });
+    return has_originals ? recipe_version : version_without_originals;
+}
+
 }  // namespace
 
 std::string recipe_text(const recipe & held, const known_folders & folders)
 {
-    std::string text = row({std::string(recipe_heading), std::to_string(recipe_version)}) +
+    std::string text = row({std::string(recipe_heading), std::to_string(version_of(held))}) +
                        row({"program", held.program}) + row({"made", held.made}) +
                        row({"design", held.design});
     if (held.chance)

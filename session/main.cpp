@@ -38,25 +38,66 @@ void start(windows & all, change_history & history)
     all.main.desk.show(all.main);
 }
 
-// Two windows on one folder would take each other's work away.
-int give_way(qt_desktop & desk, const std::string & data_folder)
+int tell(qt_desktop & desk, const std::string & text)
 {
-    raise_open_window(data_folder);
-    desk.message("Tessaloom is open already, with the data folder\r\n" + data_folder +
-                     "\r\n\r\nPlease go on in its window, or close that one first.",
-                 {});
+    desk.message(text, {});
     return 1;
+}
+
+// Two windows on one folder would take each other's work away.
+int give_way(qt_desktop & desk, const std::string & data_folder, const std::string & flurn)
+{
+    switch (ask_open_window(data_folder, flurn)) {
+        case window_answer::opens:
+            return 0;
+        case window_answer::at_work:
+            return tell(
+                desk,
+                "Tessaloom is open already, and at work. Finish or cancel what it does there, then open "
+                "this flurn again:\r\n" +
+                    flurn);
+        default:
+            return tell(desk, "Tessaloom is open already, with the data folder\r\n" + data_folder +
+                                  "\r\n\r\nPlease go on in its window, or close that one first.");
+    }
+}
+
+// As for one that is dropped on the window: only before a collage is begun.
+bool takes_flurn(const frmMain & main, const change_history & history)
+{
+    return main.menus_shown && !main.run.run_active && history.actions == 0 &&
+           QApplication::activeModalWidget() == nullptr;
+}
+
+// Two may have come at once.
+void open_if_free(windows & all, change_history & history, const std::string & file)
+{
+    if (takes_flurn(all.main, history))
+        act_as_user(all.main, history, [&] { open_flurn(all.main, file); });
+    else
+        all.main.desk.message("Finish or cancel this collage first, then open this flurn again:\r\n" + file,
+                              {});
 }
 
 // As soon as the window is there, as an action of the user's.
 void open_when_shown(windows & all, change_history & history, const std::string & file)
 {
-    const auto open = [&all, &history, file] {
-        act_as_user(all.main, history, [&] { open_flurn(all.main, file); });
-    };
-    QTimer::singleShot(0, QCoreApplication::instance(), [&all, open] {
-        guarded([&all](const std::string & text) { all.main.desk.message(text); }, open);
+    QTimer::singleShot(0, QCoreApplication::instance(), [&all, &history, file] {
+        guarded([&all](const std::string & text) { all.main.desk.message(text); },
+                [&] { open_if_free(all, history, file); });
     });
+}
+
+// Another start of the program brought it.
+window_answer visited(windows & all, change_history & history, const std::string & flurn)
+{
+    raise_own_window();
+    if (flurn.empty())
+        return window_answer::raised;
+    if (!takes_flurn(all.main, history))
+        return window_answer::at_work;
+    open_when_shown(all, history, flurn);
+    return window_answer::opens;
 }
 
 // `flurn` is the recipe that the program was started with; empty when there is none.
@@ -74,14 +115,15 @@ int run(qt_desktop & desk, const std::string & flurn)
                 open_when_shown(all, history, flurn);
         });
     } catch (const data_folder_in_use & taken) {
-        return give_way(desk, taken.data_folder);
+        return give_way(desk, taken.data_folder, flurn);
     } catch (const end_of_program & end) {
         return end.status;
     } catch (const platform_error & error) {
         desk.message(run_time_error(code(error), told(error)), {});
         return 1;
     }
-    const open_window reachable(all.main.data_folder, raise_own_window);
+    const open_window reachable(all.main.data_folder,
+                                [&](const std::string & asked) { return visited(all, history, asked); });
     return desk.run();
 }
 
@@ -90,7 +132,7 @@ int run(qt_desktop & desk, const std::string & flurn)
 int main(int count, char ** words)
 {
     // A flurn's file is all that the program reads of its command line; the toolkit reads none of it.
-    const std::string flurn = count > 1 ? words[1] : "";
+    const std::string flurn = count > 1 ? absolute_path(words[1]) : "";
     int only_the_name = 1;
     expect_display();
     const bool by_portal = take_choosers_of_desktop();

@@ -5,6 +5,7 @@
 
 #include <FreeImage.h>
 #include <algorithm>
+#include <tiffio.h>
 
 namespace {
 
@@ -176,6 +177,9 @@ rgb_triple get_rgb_triple(std::uint32_t color)
 void set_output_message()
 {
     FreeImage_SetOutputMessageStdCall([](FREE_IMAGE_FORMAT, const char *) {});
+    // What lies below it speaks for itself, of each tag that a TIFF hasn't.
+    TIFFSetErrorHandler(nullptr);
+    TIFFSetWarningHandler(nullptr);
 }
 
 bitmap load_picture(picture_format format, const std::string & path)

@@ -74,7 +74,7 @@ struct picture_size {
     bool operator==(const picture_size &) const = default;
 };
 
-/// Registers the callback that swallows the library's messages.
+/// Swallows the messages of the library, and of those that it reads and writes files with.
 void set_output_message();
 
 /// The picture of that very format, or an empty bitmap when the file is missing, damaged or of another

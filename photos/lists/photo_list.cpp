@@ -148,10 +148,13 @@ void look_again_at_folder(frmMain & main, const std::string & folder)
     const bool has_copies = std::ranges::any_of(
         before, [&](const std::string & photo) { return !photo.starts_with(folder + path_separator); });
     std::optional<std::vector<std::string>> now;
-    if (has_copies)
-        now = photos_with_copies(
-            main, alone_beside(main.desk, main.workers, [&folder] { return looked_at_folder(folder); }),
-            copies_wanted::anyway);
+    if (has_copies) {
+        auto seen = alone_beside(main.desk, main.workers, [&folder] { return looked_at_folder(folder); });
+        const bool needs_copies = count_of_needing(seen) > 0;
+        now = photos_with_copies(main, std::move(seen), copies_wanted::anyway);
+        if (needs_copies && !now)
+            return;  // the user didn't wait for them: those that are in use stay
+    }
     if (!now)
         now = alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); });
     now->resize(std::min(now->size(), folder_limit));

@@ -7,6 +7,7 @@
 #include "session/start/start_up.h"
 #include "session/window_state.h"
 #include "support/files/paths.h"
+#include "support/windows/display_faces.h"
 
 namespace {
 
@@ -73,6 +74,8 @@ void place_shared_groups(frmMain & main)
 void reset_caption(frmMain & main)
 {
     font_style font = main.txtCaption.font();
+    if (const std::string face = face_to_begin_with(main.desk.font_names()); !face.empty())
+        font.name = face;
     font.size = 16;
     font.bold = font.italic = font.underline = false;
     main.txtCaption.set_font(font);

@@ -14,10 +14,23 @@ std::ptrdiff_t rank_of(const std::string & name)
 
 const std::vector<std::string> & display_faces()
 {
-    static const std::vector<std::string> names{"Quicksand",      "Linux Libertine Display O",
-                                                "EB Garamond",    "Yanone Kaffeesatz",
-                                                "League Spartan", "Lobster Two",
-                                                "Dancing Script", "Playfair Display",
+    static const std::vector<std::string> names{"Vollkorn SemiBold",
+                                                "Vollkorn",
+                                                "Vollkorn Black",
+                                                "Manrope ExtraBold",
+                                                "Inter Display Semi Bold",
+                                                "Quicksand Medium",
+                                                "Quicksand",
+                                                "Roboto Slab",
+                                                "Bebas Neue",
+                                                "Lobster Two",
+                                                "Leckerli One",
+                                                "Dancing Script",
+                                                "Linux Libertine Display O",
+                                                "EB Garamond",
+                                                "Yanone Kaffeesatz",
+                                                "League Spartan",
+                                                "Playfair Display",
                                                 "Josefin Sans"};
     return names;
 }
@@ -26,4 +39,14 @@ std::vector<std::string> display_faces_first(std::vector<std::string> installed)
 {
     std::ranges::stable_sort(installed, {}, rank_of);
     return installed;
+}
+
+std::string face_to_begin_with(const std::vector<std::string> & installed)
+{
+    // A caption keeps to the line of its face: these have room in it for what stands on a capital and for
+    // what hangs below a letter.
+    for (const char * name : {"Vollkorn SemiBold", "Vollkorn"})
+        if (std::ranges::find(installed, name) != installed.end())
+            return name;
+    return {};
 }

@@ -1,5 +1,6 @@
 #include "batch/report.h"
 
+#include "desktop/without_windows.h"
 #include "tests/batch/batch_program.h"
 #include "versions/version.h"
 
@@ -36,6 +37,7 @@ TEST_F(batch_program, reports_versions_system_and_fonts)
     EXPECT_TRUE(told.starts_with(version_told("tessaloom-batch", libraries_in_use()))) << told;
     for (const char * what : {"Built with", "System", "Surroundings", "Cores", "Fonts"})
         EXPECT_NE(how(told, what), "NOT TOLD") << what;
+    EXPECT_TRUE(how(told, "Fonts").ends_with(", captions begin with " + first_caption_family()));
     EXPECT_EQ(how(told, "Program").substr(0, 18), "its data beside it");
     EXPECT_NE(how(told, "Cores"), "0");
 }

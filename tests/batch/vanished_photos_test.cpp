@@ -2,7 +2,10 @@
 // names it once, and fills every place with the others.
 
 #include "batch/open_session.h"
+#include "engine/preview.h"
 #include "photos/left_out.h"
+#include "photos/thumbnails/thumbnail_path.h"
+#include "quick/quick_template.h"
 #include "tests/batch/batch_program.h"
 #include "tests/jpeg_files.h"
 
@@ -19,19 +22,23 @@ using option_words = std::vector<std::string>;
 using photo_change = void (*)(const std::string & photo);
 
 struct named_change {
+    const char * what;
     const char * reason;  // as it is told; empty for a photo that can still be used
     photo_change make;
 };
 
 const named_change photo_changes[] = {
-    {"it isn't there any more", [](const std::string & photo) { fs::remove(photo); }},
-    {"it isn't there any more", [](const std::string & photo) { fs::rename(photo, photo + ".old"); }},
-    {"it can't be read as a JPEG photo", [](const std::string & photo) { write_file(photo, "a text"); }},
-    {"it was cut short",
+    {"deleted", "it isn't there any more", [](const std::string & photo) { fs::remove(photo); }},
+    {"renamed", "it isn't there any more",
+     [](const std::string & photo) { fs::rename(photo, photo + ".old"); }},
+    {"replaced by a text", "it can't be read as a JPEG photo",
+     [](const std::string & photo) { write_file(photo, "a text"); }},
+    {"cut short", "it was cut short",
      [](const std::string & photo) {
          write_file(photo, read_file(photo).substr(0, fs::file_size(photo) / 2));
      }},
-    {"", [](const std::string & photo) { write_file(photo, jpeg_of({.quality = 40}, 200, 500)); }},
+    {"replaced by another", "",
+     [](const std::string & photo) { write_file(photo, jpeg_of({.quality = 40}, 200, 500)); }},
 };
 
 // Percent of the picture that shows the ground, black, or the grey with which a broken photo is filled up.
@@ -47,6 +54,15 @@ double empty_share(const bitmap & image)
         count += std::ranges::count_if(image.row(y), is_empty);
     return 300.0 * static_cast<double>(count) / (static_cast<double>(image.width()) * image.height());
 }
+
+// What is drawn after the photos have changed.
+struct way_of_run {
+    run_size size = run_size::full;
+    int match = 1;  // what stands in the box
+};
+
+// The thumbnails of the photos that change: a poster has no use for them, a preview is made of them.
+enum class thumbnail_fate { stay, serve, gone };
 
 struct poster {
     bool shown = false;
@@ -76,8 +92,8 @@ protected:
                        jpeg_of({.quality = 70 + i}, i % 2 == 0 ? 360 : 270, i % 2 == 0 ? 270 : 360));
     }
 
-    // A poster whose photos change once its preview is on show.
-    poster made(const option_words & look, const std::function<void()> & change) const
+    // A picture whose photos change once its preview is on show.
+    poster made(const option_words & look, const way_of_run & way, const std::function<void()> & change) const
     {
         make_photos();
         option_words all{"--photos",
@@ -96,11 +112,12 @@ protected:
         testing::internal::CaptureStderr();
         open_session running(arguments, folders);
         EXPECT_EQ(make_collage(running, arguments), exit_status::made);
-        return flurned(running, change);
+        return drawn(running, way, change);
     }
 
     // The same from one of the designers.
-    poster designed(menu_entry frmMain::*entry, const std::function<void()> & change) const
+    poster designed(menu_entry frmMain::*entry, const way_of_run & way,
+                    const std::function<void()> & change) const
     {
         make_photos();
         testing::internal::CaptureStderr();
@@ -108,7 +125,7 @@ protected:
         running.desk.on_modal = [&](form & window) { design(running.all, window); };
         (running.all.main.*entry).click();
         EXPECT_EQ(running.all.main.table.last_photo, 8);
-        return flurned(running, change);
+        return drawn(running, way, change);
     }
 
 private:
@@ -128,35 +145,60 @@ private:
         }
     }
 
-    static poster flurned(open_session & running, const std::function<void()> & change)
+    static poster drawn(open_session & running, const way_of_run & way, const std::function<void()> & change)
     {
+        frmMain & main = running.all.main;
+        {
+            const updating quiet(main);
+            main.chkMatch.tick(way.match == 1);
+        }
         change();
         testing::internal::GetCapturedStderr();
         testing::internal::CaptureStderr();
+        main.left_out.told_by = left_out_photos::teller::box;
+        poster result = way.size == run_size::full ? flurned(running) : previewed(main);
+        result.told = testing::internal::GetCapturedStderr();
+        return result;
+    }
+
+    static poster flurned(open_session & running)
+    {
         poster result;
-        running.all.main.left_out.told_by = left_out_photos::teller::box;
         running.desk.on_modal = [&](form & window) {
             result.shown = result.shown || &window == &running.all.image;
             result.empty = empty_share(running.all.main.run.canvas);
         };
         running.all.main.cmdFlurn.click();
-        result.told = testing::internal::GetCapturedStderr();
+        return result;
+    }
+
+    static poster previewed(frmMain & main)
+    {
+        const std::string picture = finished_path(main);
+        delete_file(picture);
+        if (main.collage.quick_active)
+            make_preview(main, make_quick_template);
+        else
+            gen_sample(main);
+        poster result;
+        result.shown = file_exists(picture);
+        if (result.shown)
+            result.empty = empty_share(load_picture(picture_format::jpeg, picture));
         return result;
     }
 };
 
-using kind_of_poster = std::function<poster(const std::function<void()> &)>;
+using kind_of_poster = std::function<poster(const way_of_run &, const std::function<void()> &)>;
 
 const option_words styles[] = {
     {"--design", "Mosaic wall"},
-    {"--design", "Mosaic wall", "--set", "chkMatch=0"},
     {"--design", "Mosaic wall", "--set", "chkCaption=1"},
     {"--design", "Waves", "--set", "chkSoftEdge=1"},
     {"--design", "Framed family", "--frames", "soccer"},
     {"--quick", "block"},
     {"--quick", "scattered"},
     {"--quick", "matrix"},
-    {"--quick", "matrix", "--set", "chkMatch=0", "--set", "chkRotate=1", "--set", "chkResize=1"},
+    {"--quick", "matrix", "--set", "chkRotate=1", "--set", "chkResize=1"},
     {"--quick", "shapes", "--set", "cmbShapes=Stars"},
 };
 
@@ -175,50 +217,100 @@ protected:
     {
         std::vector<std::pair<std::string, kind_of_poster>> all;
         for (const option_words & look : styles)
-            all.emplace_back(told_of_look(look), [this, &look](const std::function<void()> & change) {
-                return made(look, change);
-            });
-        for (const auto entry : {&frmMain::mnuMatrix, &frmMain::mnuLettering, &frmMain::mnuPuzzle})
-            all.emplace_back("designer", [this, entry](const std::function<void()> & change) {
-                return designed(entry, change);
-            });
+            all.emplace_back(told_of_look(look),
+                             [this, &look](const way_of_run & way, const std::function<void()> & change) {
+                                 return made(look, way, change);
+                             });
+        const std::pair<const char *, menu_entry frmMain::*> designers[]{
+            {"matrix", &frmMain::mnuMatrix},
+            {"lettering", &frmMain::mnuLettering},
+            {"puzzle", &frmMain::mnuPuzzle}};
+        for (const auto & [name, entry] : designers)
+            all.emplace_back(
+                name, [this, entry = entry](const way_of_run & way, const std::function<void()> & change) {
+                    return designed(entry, way, change);
+                });
         return all;
+    }
+
+    void expect_filled_and_named(const std::string & where, const poster & sound, const poster & spoiled,
+                                 const std::string & reason) const
+    {
+        EXPECT_TRUE(spoiled.shown) << where;
+        EXPECT_NEAR(spoiled.empty, sound.empty, 3) << where;
+        for (const int number : {1, 4})
+            EXPECT_EQ(times_told(spoiled, photo(number) + ": " + reason), reason.empty() ? 0 : 1)
+                << where << spoiled.told;
+    }
+
+    // Each kind of poster meets each change, and each change meets photos that are matched and that aren't.
+    void expect_changes_survived(run_size size, thumbnail_fate thumbnails) const
+    {
+        std::size_t kind = 0;
+        for (const auto & [name, poster_after] : kinds()) {
+            ++kind;
+            for (const int match : {1, 0}) {
+                const way_of_run way{.size = size, .match = match};
+                const std::string where = name + (match == 1 ? " matched: " : " unmatched: ");
+                const poster sound = poster_after(way, [] {});
+                EXPECT_TRUE(sound.shown) << where;
+                EXPECT_EQ(times_told(sound, "left out"), 0) << where << sound.told;
+                for (std::size_t i = match == 1 ? kind % 2 : 1 - kind % 2; i < std::size(photo_changes);
+                     i += 2)
+                    expect_survived(where, photo_changes[i], thumbnails, sound,
+                                    [&](const auto & change) { return poster_after(way, change); });
+            }
+        }
+    }
+
+    void expect_survived(const std::string & where, const named_change & change, thumbnail_fate thumbnails,
+                         const poster & sound,
+                         const std::function<poster(const std::function<void()> &)> & poster_after) const
+    {
+        const bool is_lost = change.reason[0] != '\0';
+        const poster spoiled = poster_after([&] {
+            for (const int number : {1, 4}) {
+                change.make(photo(number));
+                if (thumbnails == thumbnail_fate::gone && is_lost)
+                    delete_file(thumbnail_path(photo(number)));
+            }
+        });
+        expect_filled_and_named(where + change.what, sound, spoiled,
+                                thumbnails == thumbnail_fate::serve ? "" : change.reason);
+    }
+
+    void expect_none_left(const std::string & name, const kind_of_poster & poster_after,
+                          const way_of_run & way) const
+    {
+        const poster gone = poster_after(way, [&] { fs::remove_all(folder); });
+        EXPECT_FALSE(gone.shown && way.size == run_size::full) << name;
+        EXPECT_EQ(times_told(gone, "None of your photos can be used:"), 1) << name << gone.told;
+        EXPECT_EQ(times_told(gone, photo(8) + ": it isn't there any more"), 1) << name;
     }
 };
 
 }  // namespace
 
-TEST_F(vanished_in_any_style, leave_no_place_empty_and_are_named_once)
+TEST_F(vanished_in_any_style, leave_no_place_of_the_poster_empty_and_are_named_once)
 {
-    std::size_t next = 0;
-    for (const auto & [name, poster_after] : kinds()) {
-        const poster sound = poster_after([] {});
-        EXPECT_TRUE(sound.shown) << name;
-        EXPECT_EQ(times_told(sound, "left out"), 0) << name;
-        // Each kind meets two of the changes, and each change several kinds.
-        for (int i = 0; i < 2; ++i, ++next) {
-            const named_change & change = photo_changes[next % std::size(photo_changes)];
-            const poster spoiled = poster_after([&] {
-                change.make(photo(1));
-                change.make(photo(4));
-            });
-            const std::string where = name + change.reason;
-            EXPECT_TRUE(spoiled.shown) << where;
-            EXPECT_NEAR(spoiled.empty, sound.empty, 3) << where;
-            const int named = change.reason[0] == '\0' ? 0 : 1;
-            for (const int number : {1, 4})
-                EXPECT_EQ(times_told(spoiled, photo(number) + ": " + change.reason), named)
-                    << where << spoiled.told;
-        }
-    }
+    expect_changes_survived(run_size::full, thumbnail_fate::stay);
 }
 
-TEST_F(vanished_in_any_style, with_their_folder_make_no_poster)
+TEST_F(vanished_in_any_style, without_thumbnails_leave_no_place_of_the_preview_empty_and_are_named_once)
 {
-    for (const auto & [name, poster_after] : kinds()) {
-        const poster gone = poster_after([&] { fs::remove_all(folder); });
-        EXPECT_FALSE(gone.shown) << name;
-        EXPECT_EQ(times_told(gone, "None of your photos can be used:"), 1) << name << gone.told;
-        EXPECT_EQ(times_told(gone, photo(8) + ": it isn't there any more"), 1) << name;
-    }
+    expect_changes_survived(run_size::preview, thumbnail_fate::gone);
+}
+
+// A preview is made of the thumbnails: it doesn't look at each photo.
+TEST_F(vanished_in_any_style, are_in_the_preview_as_long_as_their_thumbnails_are_there)
+{
+    expect_changes_survived(run_size::preview, thumbnail_fate::serve);
+}
+
+TEST_F(vanished_in_any_style, with_their_folder_make_no_poster_and_are_named)
+{
+    for (const auto & [name, poster_after] : kinds())
+        for (const run_size size : {run_size::full, run_size::preview})
+            for (const int match : {1, 0})
+                expect_none_left(name, poster_after, {.size = size, .match = match});
 }

@@ -46,8 +46,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * bytes, std::size_t co
     ignoring_refusals([&] {
         try {
             const recipe read = recipe_of_text(fuzzed_text(bytes, count), folders());
-            for (const recipe_photo & photo : read.photos)
+            for (const recipe_photo & photo : read.photos) {
                 expect_plain(photo.path);
+                expect_plain(own_path(photo));
+            }
             if (recipe_of_text(recipe_text(read, folders()), folders()) != read)
                 std::abort();
             bring_back_in(session, read);

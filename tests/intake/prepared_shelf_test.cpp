@@ -94,6 +94,49 @@ TEST(prepared_shelf, clears_what_was_used_last_the_longest_ago)
     EXPECT_EQ(copies_in(folder), 1U);
 }
 
+TEST(prepared_shelf, has_room_for_two_gibibytes_unless_told_otherwise)
+{
+    const temporary_folder folder;
+    std::vector<std::string> copies;
+    {
+        prepared_shelf shelf(folder.path());
+        for (const char * name : {"a.heic", "b.heic", "c.heic"})
+            copies.push_back(shelf.put(photo_at(folder.write(name, name)), name));
+    }
+    for (const std::string & copy : copies)
+        fs::resize_file(copy, 700'000'000);  // which takes no room on the disk
+    use_in_turn(copies);
+    prepared_shelf(folder.path()).clear_to(usual_room);
+    EXPECT_EQ(copies_in(folder), 3U);
+    fs::resize_file(copies[2], 800'000'000);
+    use_in_turn(copies);
+    prepared_shelf(folder.path()).clear_to(usual_room);
+    EXPECT_FALSE(file_exists(copies[0]));
+    EXPECT_TRUE(file_exists(copies[1]));
+    EXPECT_TRUE(file_exists(copies[2]));
+}
+
+TEST(prepared_shelf, tells_what_a_copy_was_made_of_and_nothing_of_any_other_file)
+{
+    const temporary_folder folder;
+    const std::string photo = folder.write("my photos/two\nlines.HEIC", "as the phone made it");
+    prepared_shelf shelf(folder.path());
+    const std::string copy = shelf.put(photo_at(photo), "upright");
+    const auto origin = origin_of_copy(folder.path(), copy);
+    ASSERT_TRUE(origin);
+    EXPECT_EQ(origin->path, photo);
+    EXPECT_EQ(origin->stamp.bytes, photo_at(photo).stamp.bytes);
+    EXPECT_EQ(origin->stamp.changed, photo_at(photo).stamp.changed);
+    EXPECT_EQ(shelf.found(*origin), copy);
+    EXPECT_FALSE(origin_of_copy(folder.path(), photo));
+    EXPECT_FALSE(origin_of_copy(folder.path() + "/other", copy));
+    EXPECT_FALSE(origin_of_copy(folder.path(), joined(folder_of(copy), "other.jpg")));
+    for (const char * text : {"", "1\n2\n", "1\nx\n3\n4\n/a/two\n", "1\n2\n3\n4\n/a/two"}) {
+        write_file(joined(folder_of(copy), "origin"), text);
+        EXPECT_FALSE(origin_of_copy(folder.path(), copy)) << text;
+    }
+}
+
 TEST(prepared_shelf, clears_nothing_that_anyone_uses)
 {
     const temporary_folder folder;

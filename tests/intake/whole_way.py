@@ -46,6 +46,38 @@ def copies_keep_to_their_room(intake, photos):
     check(os.path.exists(intake.take(in_folder(photos, '3.jpg'))['3.jpg']) and '1 (0 made now)' in intake.table, intake.table)
 
 
+def copies_have_two_gibibytes_unless_told(intake, photos):
+    copies = []
+    for i in range(3):
+        copies.append(intake.take(turned(photos, f'{i}.jpg', f'{240 + 16 * i}x160'))[f'{i}.jpg'])
+        os.truncate(copies[-1], 700_000_000)  # which takes no room on the disk
+        os.utime(os.path.dirname(copies[-1]), (1_000_000_000 + i, 1_000_000_000 + i))
+    check(all(map(os.path.exists, copies)), copies)
+    last = intake.take(turned(photos, '3.jpg', '320x160'))['3.jpg']
+    check(len(copies_of(intake)) == 4, copies_of(intake))
+    os.truncate(last, 700_000_000)
+    intake.take(turned(photos, '4.jpg', '336x160'))
+    check(not os.path.exists(copies[0]) and all(map(os.path.exists, [*copies[1:], last])), copies_of(intake))
+
+
+def progress_is_told_on_a_terminal_and_nowhere_else(intake, photos):
+    for i in range(3):
+        turned(photos, f'{i}.jpg', f'{240 + 16 * i}x160')
+    seen, terminal = os.openpty()
+    running = subprocess.Popen(intake.command(photos), stdout=subprocess.PIPE, stderr=terminal)
+    os.close(terminal)
+    shown = b''
+    try:
+        while piece := os.read(seen, 1000):
+            shown += piece
+    except OSError:  # the terminal's other end is closed
+        pass
+    os.close(seen)
+    running.communicate(timeout=60)
+    check(running.returncode == 0 and b'of 3 photos' in shown and shown.endswith(b'\r\x1b[K'), shown)
+    check(intake.start(photos).stderr == '', 'progress where nobody looks')
+
+
 def folders_are_walked_when_asked(intake, photos):
     os.makedirs(in_folder(photos, 'b/c'))
     os.makedirs(in_folder(photos, 'b/sample_thumbs'))
@@ -228,6 +260,7 @@ def a_place_that_cannot_be_written_is_told(intake, photos):
 
 
 if __name__ == '__main__':
-    play(copies_are_found_again, copies_keep_to_their_room, folders_are_walked_when_asked, what_is_wrong_is_named_and_the_rest_goes_on,
+    play(copies_are_found_again, copies_keep_to_their_room, copies_have_two_gibibytes_unless_told,
+         progress_is_told_on_a_terminal_and_nowhere_else, folders_are_walked_when_asked, what_is_wrong_is_named_and_the_rest_goes_on,
          bombs_are_refused_soon, raw_files_are_developed, the_decoder_is_shut_in_before_it_reads, a_stop_leaves_nothing_half, many_at_once_share_a_data_folder,
          a_place_that_cannot_be_written_is_told)

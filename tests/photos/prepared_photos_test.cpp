@@ -162,6 +162,32 @@ TEST_F(prepared_photos_test, goes_on_without_copies_when_the_small_window_is_clo
     EXPECT_EQ(main.table[1], photos + "/2 turned.jpg");
 }
 
+TEST_F(prepared_photos_test, prepares_what_came_to_a_folder_with_copies_when_it_is_looked_at_again)
+{
+    delete_file(photos + "/4 damaged.png");
+    choose_folder(answer::yes);
+    folder.write("photos/5 came.jpeg", jpeg_of({.quality = 60}, 64, 32));
+    delete_file(photos + "/2 turned.jpg");
+    look_again_at_folder(main, photos);
+    EXPECT_EQ(table(), "1 upright.jpg 3 other name.jpg 5 came.jpg ");
+    EXPECT_EQ(desk.questions.size(), 1U);
+    EXPECT_TRUE(is_under(main.table[2], folder.at("prepared")));
+}
+
+TEST_F(prepared_photos_test, keeps_the_copies_in_use_when_the_user_does_not_wait_for_new_ones)
+{
+    delete_file(photos + "/4 damaged.png");
+    choose_folder(answer::yes);
+    folder.write("photos/5 came.jpeg", jpeg_of({.quality = 60}, 64, 32));
+    desk.on_breath = [this] {
+        if (all.photo_count.on_query_unload)
+            all.photo_count.on_query_unload();
+    };
+    look_again_at_folder(main, photos);
+    EXPECT_EQ(table(), "1 upright.jpg 2 turned.jpg 3 other name.jpg ");
+    EXPECT_TRUE(is_under(main.table[1], folder.at("prepared")));
+}
+
 TEST_F(prepared_photos_test, tells_when_the_copies_have_no_place)
 {
     folder.write("prepared", "a file in the folder's place");

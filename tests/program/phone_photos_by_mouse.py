@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Photos of phones in the built program: what is asked when a folder holds some, and what comes of yes and of no."""
 import os
+import shutil
 import subprocess
+import sys
 
 import screen
 from collage import check, folder_by_mouse, quit_by_mouse, run, welcomed
@@ -51,6 +53,37 @@ def prepared(p):
                   for name in os.listdir(os.path.join(place, each)) if name.endswith('.jpg')) if os.path.isdir(place) else []
 
 
+def poster(p):
+    p.click('cmdFlurn')
+    screen.until(lambda: p.look().get('window') == 'frmImage', 'the finished collage')
+    made = p.finished()
+    p.click('cmdClose')
+    p.window('frmMain')
+    p.widget('cmdFlurn')
+    return made
+
+
+def opened_again_without_its_copies(p):
+    """The copies are cleared between two starts: the flurn opens all the same."""
+    made = poster(p)
+    p.click('cmdCancel')
+    p.widget('mnuQuick')
+    quit_by_mouse(p)
+    shutil.rmtree(os.path.join(p.data, 'prepared'))
+    p.start_program(sys.argv[2])
+    p.window('frmMain')
+    p.click('mnuFile')
+    p.click('mnuRecent')
+    p.window('frmRecent')
+    keep(p, 'phone_recent')
+    p.click('cmdOk')
+    p.window('frmMain')
+    p.widget('cmdFlurn')
+    check(len(prepared(p)) == 4, prepared(p))
+    check(poster(p) == made, 'another poster')
+    keep(p, 'phone_again')
+
+
 def play(p):
     count = made_phone_photos(p)
     welcomed(p)
@@ -70,6 +103,7 @@ def play(p):
     screen.until(lambda: p.finished() not in ('', without), 'a preview with the copies')
     p.widget('cmdFlurn')
     keep(p, 'phone_yes')
+    opened_again_without_its_copies(p)
     p.click('cmdCancel')
     quit_by_mouse(p)
 

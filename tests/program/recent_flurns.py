@@ -66,6 +66,36 @@ def open_recent(program):
     program.window('frmRecent')
 
 
+def hand_over(program, flurn):
+    """A second start with a flurn: the window that is open takes it, and the second program ends without a word."""
+    told = subprocess.run([os.path.join(program.app, 'tessaloom'), os.path.relpath(flurn, program.folder)], cwd=program.folder,
+                          env=dict(program.environment, **program.shown_by()), timeout=screen.PATIENCE)
+    check(told.returncode == 0, 'the second program ended with %d' % told.returncode)
+    program.focused = None
+    program.window('frmMain')
+    program.widget('cmdFlurn')
+
+
+def refuse_at_work(program, flurn):
+    """The same while a collage is made: it stays, and the second program says what to do."""
+    preview = program.finished()
+    second = screen.Program(program.app, PLUGINS, flurn, beside=program)
+    try:
+        box = second.window('QMessageBox')
+        check(box['message'].startswith('Tessaloom is open already, and at work.') and flurn in box['message'],
+              'the box says ' + box['message'])
+        keep(second, 'recent_at_work.png')
+        second.keys('Return')
+        screen.until(lambda: second.process.poll() is not None, 'the end of the second program')
+        check(second.process.returncode == 1, 'it ended with %d' % second.process.returncode)
+    finally:
+        second.close()
+    program.focused = None
+    program.window('frmMain')
+    program.widget('cmdFlurn')
+    check(program.finished() == preview, 'another collage than before')
+
+
 def expect_same(program, preview, poster, pixels, shot):
     program.widget('cmdFlurn')
     screen.until(lambda: program.finished() == preview, 'the preview of then, byte by byte')
@@ -123,6 +153,11 @@ def play(program):
     started_again(program, flurn)
     program.widget('cmdFlurn')
     check(make(program) == poster, 'another poster from the command line')
+    back_to_choosing(program)
+
+    hand_over(program, flurn)
+    refuse_at_work(program, flurn)
+    check(make(program) == poster, 'another poster of the flurn that a second start brought')
     back_to_choosing(program)
 
     moved = os.path.join(program.folder, 'moved')

@@ -57,7 +57,7 @@ class Display:
 class Program:
     """A program that was started, with a home of its own, or in the home and on the display of another one."""
 
-    def __init__(self, app, plugins, beside=None, home=None):
+    def __init__(self, app, plugins, *words, beside=None, home=None):
         self.app = app
         self.beside = beside
         self.folder = home or (beside.folder if beside else tempfile.mkdtemp(prefix='tessaloom_'))
@@ -67,7 +67,7 @@ class Program:
             self.display = beside.display if beside else Display()
             self.environment = dict(those_of_no_desktop(os.environ), DISPLAY=self.display.name, HOME=self.folder,
                                     XDG_RUNTIME_DIR=self.folder, TMPDIR=self.folder, QT_QPA_PLATFORMTHEME='')
-            self.start_program(plugins)
+            self.start_program(plugins, *words)
         except BaseException:
             self.close()
             raise

@@ -34,7 +34,14 @@ recipe some_recipe()
                     .bytes = std::numeric_limits<std::uint64_t>::max(),
                     .changed = std::numeric_limits<std::int64_t>::max(),
                     .moves_along = true},
-                   {.path = "/photos/a.jpg", .bytes = 12, .changed = -5}},
+                   {.path = "/photos/a.jpg", .bytes = 12, .changed = -5},
+                   {.path = "/home/anna/data/prepared/0/c.jpg",
+                    .bytes = 13,
+                    .changed = 6,
+                    .original = recipe_original{.path = "/home/anna/holiday/c.heic",
+                                                .bytes = 9,
+                                                .changed = -7,
+                                                .moves_along = true}}},
         .settings = {{.name = "one", .value = ""}, {.name = "two", .value = "a=b\tc"}},
         .controls = {{.name = "txtCaption", .state = caption}, {.name = "txtBGimage", .state = background}},
         .forces = {{.by = recipe_force::source::style,
@@ -75,11 +82,26 @@ TEST(recipe_text, comes_back_as_it_was)
 TEST(recipe_text, is_lines_of_tabs_that_tell_paths_from_their_folder)
 {
     const std::string text = recipe_text(some_recipe(), text_folders);
-    EXPECT_TRUE(text.starts_with("Tessaloom flurn\t1\r\nprogram\t1.2.3\r\nmade\t2026-11-22 15:30:11\r\n"));
+    EXPECT_TRUE(text.starts_with("Tessaloom flurn\t2\r\nprogram\t1.2.3\r\nmade\t2026-11-22 15:30:11\r\n"));
     EXPECT_NE(text.find("\r\nphoto\there:b.jpg\t"), std::string::npos);
+    EXPECT_NE(text.find("\r\noriginal\there:c.heic\t9\t-7\r\n"), std::string::npos);
     EXPECT_NE(text.find("data:user_images/x.jpg"), std::string::npos);
     EXPECT_EQ(text.find("/home/anna"), std::string::npos);
     EXPECT_TRUE(text.ends_with("\r\nend\r\n"));
+}
+
+// What an older program can follow stays open to it.
+TEST(recipe_text, is_of_the_second_version_where_it_tells_of_originals)
+{
+    recipe held = some_recipe();
+    held.photos.pop_back();
+    EXPECT_TRUE(recipe_text(held, text_folders).starts_with("Tessaloom flurn\t1\r\n"));
+    EXPECT_NE(fault_in(with_row("original\t/a.heic\t1\t2")), "");
+    const std::string photo = "photo\t/a.jpg\t1\t2\r\n", original = "original\t/a.heic\t1\t2";
+    EXPECT_EQ(fault_in(with_row(photo + original)), "");
+    EXPECT_NE(fault_in(with_row(photo + original + "\r\n" + original)), "");
+    EXPECT_NE(fault_in(with_row(photo + "original\t/../a.heic\t1\t2")), "");
+    EXPECT_NE(fault_in(with_row(photo + "original\t/a.heic\t1")), "");
 }
 
 TEST(recipe_text, reads_line_ends_of_either_kind)
@@ -91,7 +113,7 @@ TEST(recipe_text, reads_line_ends_of_either_kind)
 
 TEST(recipe_text, of_a_newer_program_is_refused_with_the_remedy)
 {
-    EXPECT_EQ(fault_in("Tessaloom flurn\t2\r\nwhatever\r\nend\r\n"),
+    EXPECT_EQ(fault_in("Tessaloom flurn\t3\r\nwhatever\r\nend\r\n"),
               "It was made by a newer Tessaloom. Open it with that one, or bring this one up to date.");
 }
 

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -67,6 +68,34 @@ double brightness_behind_a_caption(const std::string & name)
     return sum / count;
 }
 
+/// The share of a picture that lies in runs of one colour along its rows: where a gradient shows its steps.
+double share_in_flat_runs(const std::string & name)
+{
+    constexpr int far = 16, flat = 14;
+    const bitmap picture = load_picture(picture_format::jpeg, built(name));
+    int seen = 0, inside = 0;
+    for (int y = far / 2; y < picture.height(); y += far)
+        for (int x = 0, run = 0; x < picture.width(); ++x, ++seen) {
+            run = x > 0 && pixel_at(picture, x, y) == pixel_at(picture, x - 1, y) ? run + 1 : 1;
+            inside += run == flat ? flat : run > flat ? 1 : 0;
+        }
+    return static_cast<double>(inside) / seen;
+}
+
+/// How much two squares of 400 pixels of a picture differ, in levels, on average; places from the lower left.
+double unlikeness(const bitmap & picture, int left, int bottom, int other_left, int other_bottom)
+{
+    constexpr int side = 400;
+    double sum = 0;
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x) {
+            const rgb_triple one = pixel_at(picture, left + x, bottom + y).value();
+            const rgb_triple other = pixel_at(picture, other_left + x, other_bottom + y).value();
+            sum += std::abs(one.green - other.green);
+        }
+    return sum / (side * side);
+}
+
 /// As pages of the net are judged: 1 for none, 21 for black on white.
 double contrast(double one, double other)
 {
@@ -122,6 +151,24 @@ TEST(seed_pictures, a_caption_is_read_in_white_on_every_background)
         ++found;
     }
     EXPECT_GE(found, 70);
+}
+
+TEST(seed_pictures, gradients_of_backgrounds_show_no_rings)
+{
+    for (const char * name :
+         {"wedding", "starry_night_wide", "ink_tall", "best_wishes", "oak", "strung_lights"})
+        EXPECT_LT(share_in_flat_runs(std::string("images/") + name + ".jpg"), 0.01) << name;
+}
+
+TEST(seed_pictures, what_photos_lie_on_does_not_repeat_itself)
+{
+    for (const char * name : {"oak", "linen", "cork_tall", "felt_tall", "kraft", "lawn", "stone_wall"}) {
+        const bitmap ground =
+            load_picture(picture_format::jpeg, built(std::string("images/") + name + ".jpg"));
+        for (const auto & [across, down] : {std::pair{500, 0}, {0, 500}, {1000, 500}, {270, 0}, {0, 270}})
+            EXPECT_GT(unlikeness(ground, 300, 700, 300 + across, 700 + down), 1.5)
+                << name << ' ' << across << ' ' << down;
+    }
 }
 
 TEST(seed_pictures, every_design_has_its_samples_and_a_second_one_where_it_turns)

@@ -258,6 +258,20 @@ TEST_F(picture_test, only_the_very_format_is_loaded_whatever_the_name)
     EXPECT_FALSE(load_picture(picture_format::jpeg, ""));
 }
 
+TEST_F(picture_test, reading_and_writing_any_format_says_nothing_on_standard_error)
+{
+    set_output_message();
+    testing::internal::CaptureStderr();
+    for (const picture_format format : {picture_format::bmp, picture_format::jpeg, picture_format::png,
+                                        picture_format::tiff, picture_format::gif}) {
+        save_picture(format, graded(13, 7), folder.at("a"));
+        EXPECT_TRUE(load_picture(format, folder.at("a")));
+        const std::string bytes = read_file(folder.at("a"));
+        load_picture(format, folder.write("cut", bytes.substr(0, bytes.size() / 2)));
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST_F(picture_test, names_may_hold_any_bytes)
 {
     const std::string path = folder.at("M\xC3\xBCller \xFF.jpg");

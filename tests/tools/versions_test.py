@@ -21,6 +21,7 @@ class versions(unittest.TestCase):
             self.assertRegex(told, rf"^{name} {re.escape(VERSION)}( \([0-9a-f]{{7,}}\+?\))?\nwith .*libarchive {NUMBER}")
             if name == "tessaloom-batch":
                 self.assertRegex(told, rf"with Qt {NUMBER}, FreeImage {NUMBER}, libjpeg-turbo {NUMBER}, ")
+                self.assertRegex(told, rf", libtiff {NUMBER}, qpdf {NUMBER}\n$")
 
     def test_the_newest_release_of_the_changelog_is_this_version(self):
         releases = re.findall(rf"^## ({NUMBER}), (unreleased|\d{{4}}-\d\d-\d\d)$", (ROOT / "CHANGELOG.md").read_text(), re.M)

@@ -2,14 +2,16 @@
 //
 //     seed_art mask IN.svg OUT.gif SIZE       a square of that side, grey levels
 //     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
-//     seed_art icon IN.svg OUT.bmp W H        a Windows bitmap of that size, 24 bits
-//     seed_art smaller IN.jpg OUT.jpg QUALITY  the same picture in less bytes, as a JPEG of that quality
-//     seed_art shrunk IN OUT.jpg WIDTH        a picture or a screen, narrower, as a JPEG for a page
-//     seed_art unlike ONE.jpg OTHER.jpg LEVELS fails when they differ by more levels on average
-//     seed_art png IN.svg OUT.png W H         a PNG of that size, clear where nothing is drawn
-//     seed_art collage LAYOUT OUT.jpg W H FOLDER  a small collage of the photos of that folder
-//     seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which is checked
+//     seed_art ground IN.svg OUT.jpg W H SMALL.jpg W H  what photos lie on, with its stuff and grain, and its
+//     preview seed_art icon IN.svg OUT.bmp W H        a Windows bitmap of that size, 24 bits seed_art smaller
+//     IN.jpg OUT.jpg QUALITY  the same picture in less bytes, as a JPEG of that quality seed_art shrunk IN
+//     OUT.jpg WIDTH        a picture or a screen, narrower, as a JPEG for a page seed_art unlike ONE.jpg
+//     OTHER.jpg LEVELS fails when they differ by more levels on average seed_art png IN.svg OUT.png W H a PNG
+//     of that size, clear where nothing is drawn seed_art collage LAYOUT OUT.jpg W H FOLDER  a small collage
+//     of the photos of that folder seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which
+//     is checked
 #include "collage.h"
+#include "ground.h"
 
 #include <QImage>
 #include <QPainter>
@@ -27,6 +29,7 @@
 namespace {
 
 constexpr int picture_quality = 92;
+constexpr int ground_quality = 95 | JPEG_SUBSAMPLING_444 | JPEG_OPTIMIZE;
 constexpr int page_quality = 84;
 
 struct unloader {
@@ -78,6 +81,16 @@ void render_mask(const char * drawing, const char * target, int size)
 void render_picture(const char * drawing, const char * target, int width, int height)
 {
     save(FIF_JPEG, in_colour(rendered(drawing, width, height)), target, picture_quality);
+}
+
+void render_ground(char ** words)
+{
+    const QImage page = ground(words[2], std::stoi(words[4]), std::stoi(words[5]));
+    save(FIF_JPEG, in_colour(page), words[3], ground_quality);
+    const QImage small =
+        page.scaled(std::stoi(words[7]), std::stoi(words[8]), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_RGB32);
+    save(FIF_JPEG, in_colour(small), words[6], ground_quality);
 }
 
 void render_icon(const char * drawing, const char * target, int width, int height)
@@ -161,6 +174,8 @@ void render(int count, char ** arguments)
         render_mask(arguments[2], arguments[3], std::stoi(arguments[4]));
     else if (kind == "picture" && count == 6)
         render_picture(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
+    else if (kind == "ground" && count == 9)
+        render_ground(arguments);
     else if (kind == "icon" && count == 6)
         render_icon(arguments[2], arguments[3], std::stoi(arguments[4]), std::stoi(arguments[5]));
     else if (kind == "smaller" && count == 5)
@@ -177,7 +192,8 @@ void render(int count, char ** arguments)
         render_white(arguments[2], std::stoi(arguments[3]));
     else
         throw std::runtime_error(
-            "mask IN OUT SIZE, picture, icon or png IN OUT WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
+            "mask IN OUT SIZE, picture, icon or png IN OUT WIDTH HEIGHT, ground IN OUT WIDTH HEIGHT "
+            "SMALL WIDTH HEIGHT, collage IN OUT WIDTH HEIGHT "
             "PHOTOS, smaller IN OUT QUALITY, shrunk IN OUT WIDTH, unlike ONE OTHER LEVELS, or white OUT "
             "SIZE");
 }

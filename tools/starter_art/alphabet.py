@@ -2,7 +2,7 @@
 
 A letter fills its box, since boxes stand side by side with little between them; narrow ones wear bars or serifs.
 """
-from starter_art.masks import RIM
+from starter_art.masks import LIT, RIM
 from starter_art.svg import drawing, group, path, rectangle
 
 PEN = 122  # the whole stroke
@@ -59,7 +59,8 @@ def character(strokes, **placing):
     style = dict(fill="none", stroke_linecap="round", stroke_linejoin="round", **placing)
     return drawing(500, 500, [rectangle(0, 0, 500, 500, fill="#ffffff"),
                               group(parts, stroke=RIM, stroke_width=PEN, **style),
-                              group(parts, stroke="#000000", stroke_width=PEN - 2 * RIM_WIDTH, **style)])
+                              group([group(parts, stroke="#000000", stroke_width=PEN - 2 * RIM_WIDTH, **style)],
+                                    transform=f"translate({LIT},{LIT})")])
 
 
 def all_characters():

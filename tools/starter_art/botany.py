@@ -5,51 +5,97 @@ from starter_art.roses import corner
 from starter_art.svg import circle, ellipse, path
 
 
-def leaf_shape(x, y, reach, turn):
+def leaf_shape(x, y, reach, turn, broad=0.3):
     """A leaf that begins at (x, y) and points that way; 0 is upwards."""
     c, s = math.cos(math.radians(turn)), math.sin(math.radians(turn))
     def at(across, along):
         return f"{x + across * c + along * s:.0f},{y + across * s - along * c:.0f}"
-    return (f"M{x:.0f},{y:.0f}C{at(-0.3 * reach, 0.3 * reach)} {at(-0.24 * reach, 0.75 * reach)} {at(0, reach)}"
-            f"C{at(0.24 * reach, 0.75 * reach)} {at(0.3 * reach, 0.3 * reach)} {x:.0f},{y:.0f}Z")
+    return (f"M{x:.0f},{y:.0f}C{at(-broad * reach, 0.3 * reach)} {at(-0.8 * broad * reach, 0.75 * reach)} {at(0, reach)}"
+            f"C{at(0.8 * broad * reach, 0.75 * reach)} {at(broad * reach, 0.3 * reach)} {x:.0f},{y:.0f}Z")
+
+
+def half_leaf(x, y, reach, turn, broad=0.3):
+    """The half of that leaf that looks away from its own left."""
+    c, s = math.cos(math.radians(turn)), math.sin(math.radians(turn))
+    def at(across, along):
+        return f"{x + across * c + along * s:.0f},{y + across * s - along * c:.0f}"
+    return (f"M{x:.0f},{y:.0f}Q{at(0.05 * reach, 0.5 * reach)} {at(0, reach)}"
+            f"C{at(0.8 * broad * reach, 0.75 * reach)} {at(broad * reach, 0.3 * reach)} {x:.0f},{y:.0f}Z")
+
+
+def lit_leaf(chance, x, y, reach, turn, color):
+    """A leaf with its fold: one half in the light, the other not, and a shade of its own."""
+    broad = chance.uniform(0.24, 0.36)
+    change, strength = chance.choice((("#ffffff", 0.1), ("#ffffff", 0.05), ("#000000", 0.08), ("#000000", 0.2), ("#c9b060", 0.12)))
+    whole, half = leaf_shape(x, y, reach, turn, broad), half_leaf(x, y, reach, turn, broad)
+    return [path(whole, fill=color), path(whole, fill=change, fill_opacity=strength), path(half, fill="#000000", fill_opacity="0.17"),
+            path(f"M{x:.0f},{y:.0f}L{x + 0.86 * reach * math.sin(math.radians(turn)):.0f},{y - 0.86 * reach * math.cos(math.radians(turn)):.0f}",
+                 fill="none", stroke="#ffffff", stroke_opacity="0.16", stroke_width="3")]
 
 
 def twig_of_leaves(chance, color):
-    """A twig of about five hundred, leaves of many sizes to both sides."""
-    shape, bend = "", chance.uniform(-0.2, 0.2)
+    """A twig of about five hundred, leaves of many sizes and shades to both sides; on some the leaves stand by turns."""
+    found, bend, by_turns = [], chance.uniform(-0.3, 0.3), chance.choice((0, 0, 26))
     for at in range(8):
         y = 60 + 56 * at
-        x = bend * y * y / 500
         for side in (-1, 1):
-            shape += leaf_shape(x, -y, chance.uniform(95, 150) * (1.05 - 0.07 * at), side * chance.uniform(38, 66))
-    shape += leaf_shape(bend * 500, -500, 120, bend * 60)
-    return [path(f"M0,0Q{bend * 120:.0f},-260 {bend * 500:.0f},-510", fill="none", stroke=color, stroke_width="9", stroke_linecap="round"),
-            path(shape, fill=color)]
+            along = y + (by_turns if side > 0 else 0)
+            found += lit_leaf(chance, bend * along * along / 500, -along, chance.uniform(90, 155) * (1.05 - 0.07 * at),
+                              side * chance.uniform(34, 70) + 30 * bend, color)
+    found += lit_leaf(chance, bend * 500, -500, 120, bend * 60, color)
+    return [path(f"M0,0Q{bend * 120:.0f},-260 {bend * 500:.0f},-510", fill="none", stroke=color, stroke_width="9", stroke_linecap="round")] + found
 
 
 def garland_of_leaves(chance, pairs, color):
     """A sprig of laurel: even pairs of slim leaves."""
-    shape = ""
+    found = []
     for at in range(pairs):
         y = 70 + 78 * at
         for side in (-1, 1):
-            shape += leaf_shape(0, -y, chance.uniform(120, 140) * (1.1 - 0.06 * at), side * 40)
-    shape += leaf_shape(0, -70 - 78 * pairs, 120, 0)
-    return [path(f"M0,0V{-90 - 78 * pairs}", fill="none", stroke=color, stroke_width="7", stroke_linecap="round"), path(shape, fill=color)]
+            turn, reach = side * chance.uniform(36, 44), chance.uniform(120, 140) * (1.1 - 0.06 * at)
+            found += [path(leaf_shape(0, -y, reach, turn, 0.25), fill=color), path(half_leaf(0, -y, reach, turn, 0.25), fill="#000000", fill_opacity="0.2")]
+    found.append(path(leaf_shape(0, -70 - 78 * pairs, 120, 0, 0.25), fill=color))
+    return [path(f"M0,0V{-90 - 78 * pairs}", fill="none", stroke=color, stroke_width="7", stroke_linecap="round")] + found
+
+
+BRANCHES = ("M0,0C-30,-220 60,-420 20,-640C0,-740 40,-800 60,-860M18,-420C120,-520 160,-560 190,-680M30,-620C-60,-700 -90,-740 -100,-800",
+            "M0,0C40,-200 -50,-400 0,-600C30,-720 -30,-800 -20,-880M-12,-330C-110,-430 -150,-500 -160,-640M0,-560C90,-640 130,-700 150,-790")
 
 
 def bough(chance, tones, bark):
-    """A bough in blossom, of about eight hundred."""
-    found = [path("M0,0C-30,-220 60,-420 20,-640C0,-740 40,-800 60,-860M18,-420C120,-520 160,-560 190,-680M30,-620C-60,-700 -90,-740 -100,-800",
-                  fill="none", stroke=bark, stroke_width="16", stroke_linecap="round")]
-    for _ in range(34):
-        y = chance.uniform(120, 860)
-        spread = 30 + 150 * (y / 860)
-        x, size, turn = chance.uniform(-spread, spread) + 30, chance.uniform(24, 44), chance.uniform(0, 72)
-        found += [ellipse(x, -y - 0.6 * size, 0.4 * size, 0.52 * size, fill=tones[at % len(tones)], fill_opacity="0.95",
-                          transform=f"rotate({turn + 72 * at:.0f} {x:.0f} {-y:.0f})") for at in range(5)]
-        found.append(circle(x, -y, 0.2 * size, fill="#c9647c"))
+    """A bough in blossom, of about eight hundred: flowers, seen from above or aslant, and buds."""
+    branch = chance.choice(BRANCHES)
+    found = [path(branch, fill="none", stroke=bark, stroke_width="17", stroke_linecap="round"),
+             path(branch, fill="none", stroke="#ffffff", stroke_width="4", stroke_opacity="0.12", stroke_linecap="round", transform="translate(-4,-3)")]
+    for _ in range(38):
+        y = chance.uniform(120, 800)
+        spread = 30 + 110 * (y / 860)
+        x, size, turn, tall = chance.uniform(-spread, spread) + 10, chance.uniform(22, 46), chance.uniform(0, 72), chance.uniform(0.62, 1)
+        if chance.random() < 0.2:
+            found += bud(x, -y, 0.4 * size, chance.uniform(-50, 50), tones[0])
+            continue
+        found.append(f'<g transform="translate({x:.0f},{-y:.0f}) rotate({turn:.0f}) scale(1 {tall:.2f})">' + "".join(blossom(chance, size, tones)) + "</g>")
     return found
+
+
+def blossom(chance, size, tones):
+    """Five petals about a heart with stamens, its shadow below."""
+    found = [circle(0.12 * size, 0.16 * size, 0.95 * size, fill="#000000", fill_opacity="0.14")]
+    for at in range(5):
+        turn = f"rotate({72 * at + chance.uniform(-8, 8):.0f})"
+        found += [ellipse(0, -0.58 * size, 0.42 * size, 0.52 * size, fill=tones[chance.randrange(len(tones))], transform=turn),
+                  ellipse(0, -0.36 * size, 0.16 * size, 0.34 * size, fill="#b4506c", fill_opacity="0.22", transform=turn)]
+    for at in range(7):
+        angle, reach = 0.9 * at, size * (0.3 + 0.06 * (at % 3))
+        found.append(circle(reach * math.cos(angle), reach * math.sin(angle), 0.05 * size, fill="#f2d27a"))
+    return found + [circle(0, 0, 0.15 * size, fill="#a8586a")]
+
+
+def bud(x, y, size, turn, tone):
+    return [f'<g transform="translate({x:.0f},{y:.0f}) rotate({turn:.0f})">' + ellipse(0, -size, 0.8 * size, 1.2 * size, fill=tone)
+            + ellipse(0.3 * size, -size, 0.4 * size, 1.1 * size, fill="#b4506c", fill_opacity="0.3")
+            + path(f"M{-0.7 * size:.1f},{-0.5 * size:.1f}Q0,{0.5 * size:.1f} {0.7 * size:.1f},{-0.5 * size:.1f}Q0,{-0.2 * size:.1f} {-0.7 * size:.1f},{-0.5 * size:.1f}Z",
+                   fill="#5a6b3f") + "</g>"]
 
 
 def petals(chance, size, tones, count):

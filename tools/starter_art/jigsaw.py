@@ -15,6 +15,7 @@ from starter_art.svg import drawing
 UNITS = 10000  # of the drawing, for numbers without a point
 RIM = "#343434"  # dark: half a pixel of it still counts as the piece's, so that two pieces share a line evenly
 RIM_WIDTH = 0.0026
+LIT = 0.0004  # the rim is broader by this where the light comes from, at the upper left, and narrower across: it brightens
 
 RIGHT, BOTTOM = 0.8575, 0.84
 # Where the body begins: `ACROSS` and `DOWN` follow the steps of the designer; edges are straight at the outer side.
@@ -103,7 +104,7 @@ def piece(points, seams=()):
     lines = [f'<polyline points="{" ".join(f"{round(x * UNITS)},{round(y * UNITS)}" for x, y in seam)}" fill="none" '
              f'stroke="{RIM}" stroke-width="{round(2 * RIM_WIDTH * UNITS)}"/>' for seam in seams]
     ground = f'<rect width="{UNITS}" height="{UNITS}" fill="#ffffff"/>'
-    return drawing(UNITS, UNITS, [ground, drawn(points, RIM), drawn(inset(points, RIM_WIDTH), "#000000")] + lines)
+    return drawing(UNITS, UNITS, [ground, drawn(points, RIM), drawn([(x + LIT, y + LIT) for x, y in inset(points, RIM_WIDTH)], "#000000")] + lines)
 
 
 def four():

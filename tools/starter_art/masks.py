@@ -9,13 +9,14 @@ from starter_art.leaves import ALL as LEAVES
 from starter_art.svg import circle, closed, drawing, ellipse, group, path, rectangle
 
 RIM = "#6e6e6e"
+LIT = 2.5  # the rim brightens the photo: it is so much broader at the upper left, where the light comes from, and narrower across
 
 
 def mask(parts, rim=16):
     """The parts as one shape: their rims lie under all of their insides."""
     ground = rectangle(0, 0, 500, 500, fill="#ffffff")
     outline = group(parts, fill=RIM, stroke=RIM, stroke_width=rim, stroke_linejoin="round")
-    return drawing(500, 500, [ground, outline, group(parts, fill="#000000")])
+    return drawing(500, 500, [ground, outline, group(parts, fill="#000000", transform=f"translate({LIT},{LIT})")])
 
 
 def plain(parts):

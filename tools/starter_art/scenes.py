@@ -2,6 +2,7 @@
 import math
 import random
 
+from starter_art.fasteners import peg
 from starter_art.roses import line
 from starter_art.pages import placed
 from starter_art.surfaces import SQUARE, TALL, WIDE, washed
@@ -125,8 +126,7 @@ def strung_lights(size):
                       ellipse(x, height(x) + 32, 15, 21, fill="#fff6cf")]
         for at in range(4):
             x = 1000 + 470 * (at - 1.5)
-            parts += [placed([rectangle(-12, -26, 24, 78, fill="#c98f4f", rx=5), rectangle(-12, -2, 24, 8, fill="#8a5c2c")],
-                             x + side, height(x + side), 1, -7 * (at - 1.5)) for side in (-110, 110)]
+            parts += [peg(x + side, height(x + side), -7 * (at - 1.5)) for side in (-110, 110)]
     return drawing(wide, high, parts)
 
 

@@ -1,259 +1,119 @@
-"""Grounds that photos lie or hang on: wood, cloth, cork, felt, paper, plaster. What turns has a square page, which is
-stretched by half either way, so its pattern stands it."""
-import math
+"""Grounds that photos lie or hang on: wood, cloth, cork, felt, paper, painted walls. What they are of is drawn by the pixel when
+they are rendered (tools/seed_art/textures.h); here stand what to take for it, the light and what lies over it. What turns has a
+square page, which is stretched by half either way, so its pattern stands it."""
 import random
 
-from starter_art.svg import (circle, closed, drawing, ellipse, number, path, rectangle, smooth)
+from starter_art.svg import circle, closed, drawing, group, number, path, rectangle
 
 TALL, WIDE, SQUARE = (2000, 3000), (3000, 2000), (2400, 2400)
-TILE = 500
+LIT_FROM = (0.36, 0.3)  # the light's place on a page, in shares of it
 
 
 def washed(size, color, light="#ffffff", shine=0.28, shade=0.3, at=(0.45, 0.38)):
-    """A plain page with light on it: bright about a point, darker towards the corners."""
+    """A page of plain paper with light on it, as what lies below and what lies above."""
+    return [stuff("paper", seed=51, color=color)], lights(size, light, shine, shade, at)
+
+
+def lights(size, light="#ffffff", shine=0.12, shade=0.34, at=LIT_FROM):
+    """The light on a page: bright about a point, darker towards the corners."""
     def round_gradient(name, reach, stops):
         listed = "".join(f'<stop offset="{number(100 * where)}%" stop-color="{tone}" stop-opacity="{opacity}"/>'
                          for where, tone, opacity in stops)
         return f'<radialGradient id="{name}" cx="{at[0]}" cy="{at[1]}" r="{reach}">{listed}</radialGradient>'
     whole = (0, 0, *size)
-    return ([round_gradient("shine", 0.7, [(0, light, shine), (1, light, 0)]),
-             round_gradient("shade", 0.95, [(0.2, "#000000", 0), (0.5, "#000000", 0.16 * shade), (0.75, "#000000", 0.5 * shade),
-                                       (1, "#000000", shade)]), rectangle(*whole, fill=color)],
-            [rectangle(*whole, fill="url(#shine)"), rectangle(*whole, fill="url(#shade)")])
+    return [round_gradient("shine", 0.7, [(0, light, shine), (1, light, 0)]),
+            round_gradient("shade", 0.95, [(0.2, "#000000", 0), (0.5, "#000000", 0.16 * shade), (0.75, "#000000", 0.5 * shade),
+                                           (1, "#000000", shade)]),
+            rectangle(*whole, fill="url(#shine)"), rectangle(*whole, fill="url(#shade)")]
 
 
-def tiles(size, name, parts, chance):
-    """One square of specks, defined once and laid side by side, each turned another way."""
-    found = [f'<defs><g id="{name}">\n' + "\n".join(parts) + "\n</g></defs>"]
-    middle = TILE / 2
-    for top in range(0, size[1], TILE):
-        for left in range(0, size[0], TILE):
-            turn = chance.choice((0, 90, 180, 270))
-            found.append(f'<use xlink:href="#{name}" transform="translate({left},{top}) rotate({turn} {number(middle)} '
-                         f'{number(middle)})"/>')
-    return found
+def stuff(kind, **values):
+    """What a page is of, in the words that its rendering reads."""
+    return "<desc>" + " ".join([kind] + [f"{name}={','.join(value) if isinstance(value, list) else value}"
+                                         for name, value in values.items()]) + "</desc>"
 
 
-def lines_across(size, step, swing, chance, upright):
-    """Threads as one path for each strength: threads of a cloth are of uneven colour."""
-    buckets = [[], [], []]
-    length, across = (size[1], size[0]) if upright else (size[0], size[1])
-    at = 0.0
-    while at < across:
-        buckets[chance.randrange(3)].append(f"M{number(at)},0V{length}" if upright else f"M0,{number(at)}H{length}")
-        at += step + chance.uniform(-swing, swing)
-    return ["".join(one) for one in buckets]
+OAK = ["#7c5832", "#74502c", "#85603a", "#6e4c2b", "#7e5b36"]
+WALNUT = ["#654434", "#6e4b3a", "#5b3e2e", "#74513f", "#62402f"]
+DRIFTWOOD = ["#65615b", "#6d6961", "#5e5a53", "#69655e", "#615e57"]
+WOODS = {"oak": (270, OAK, "#3a2410", 3), "walnut": (270, WALNUT, "#20120b", 5), "driftwood": (200, DRIFTWOOD, "#2f2c28", 9)}
 
 
-def cloth(size, color, dark, light, seed, step=8.0):
+def wood(size, board, tones, seam, seed):
+    """Boards that run across the page."""
+    words = stuff("wood", seed=seed, board=number(size[1] / round(size[1] / board)), tones=tones, seam=seam)
+    return drawing(*size, [words] + lights(size, "#fff2d8", 0.1, 0.4))
+
+
+CLOTHS = {"linen": dict(seed=2, pitch=9, warp="#6f634b", weft="#655b48"), "slate": dict(seed=4, pitch=10, warp="#566473", weft="#4d5a69"),
+          "denim": dict(seed=6, pitch=6, twill=1, warp="#2c426b", weft="#596c94"), "sage": dict(seed=8, pitch=9, warp="#596952", weft="#52604b"),
+          "blush": dict(seed=12, pitch=9, warp="#815753", weft="#764f4b"),
+          "gingham": dict(seed=7, pitch=6, checks=120, warp="#9c5048", weft="#6a2420")}  # a picnic blanket of two reds
+
+
+def cloth(size, **threads):
     """A woven cloth."""
-    chance = random.Random(seed)
-    below, above = washed(size, color)
-    threads = []
-    for upright in (False, True):
-        for thread, opacity in zip(lines_across(size, step, 1.6, chance, upright), ("0.10", "0.18", "0.26")):
-            threads.append(path(thread, stroke=dark, stroke_opacity=opacity, stroke_width="3", fill="none"))
-        for thread, opacity in zip(lines_across(size, step * 1.7, 3, chance, upright), ("0.06", "0.12", "0.2")):
-            threads.append(path(thread, stroke=light, stroke_opacity=opacity, stroke_width="3", fill="none"))
-    return drawing(*size, below + threads + above)
+    return drawing(*size, [stuff("cloth", **threads)] + lights(size))
 
 
-def gingham(size):
-    """A picnic blanket of two reds."""
-    chance = random.Random(7)
-    below, above = washed(size, "#87403a", shine=0.1, shade=0.3)
-    check = 120
-    bands = [rectangle(x, 0, check, size[1], fill="#561b1b", fill_opacity="0.6") for x in range(check // 2, size[0], 2 * check)]
-    bands += [rectangle(0, y, size[0], check, fill="#561b1b", fill_opacity="0.6") for y in range(check // 2, size[1], 2 * check)]
-    threads = [path(thread, stroke="#ffffff", stroke_opacity="0.12", stroke_width="3", fill="none")
-               for upright in (False, True) for thread in lines_across(size, 9, 1, chance, upright)]
-    return drawing(*size, below + bands + threads + above)
+WALLS = {"stone_wall": ("#676561", 41), "blue_wall": ("#4a6075", 43), "green_wall": ("#536959", 45), "charcoal": ("#38383a", 46),
+         "ink": ("#28374e", 47), "wine": ("#532c36", 48), "forest": ("#2b4236", 49), "sand": ("#71624c", 50)}
 
 
-def wood(size, planks, tones, seam, seed, knots=True):
-    """Planks that run across the page, each with a grain of its own."""
-    chance = random.Random(seed)
-    below, above = washed(size, tones[0], light="#fff2d8", shine=0.22, shade=0.34)
-    high, parts, last = size[1] / planks, [], None
-    for plank in range(planks):
-        top, tone = plank * high, chance.choice([tone for tone in tones if tone != last])
-        last = tone
-        parts.append(rectangle(0, top, size[0], high + 1, fill=tone))
-        joint = chance.uniform(0.15, 0.85) * size[0]
-        parts.append(rectangle(joint, top, size[0] - joint, high + 1, fill=chance.choice(tones), fill_opacity="0.55"))
-        knot = (chance.uniform(0.05, 0.95) * size[0], top + chance.uniform(0.3, 0.7) * high)
-        parts += grain(chance, size[0], top, high, seam, knot if knots and chance.random() < 0.6 else None)
-        parts += [path(f"M0,{number(top)}H{size[0]}M{number(joint)},{number(top)}V{number(top + high)}", stroke=seam,
-                       stroke_width="6", stroke_opacity="0.75", fill="none"),
-                  path(f"M0,{number(top + 6)}H{size[0]}", stroke="#ffffff", stroke_width="3", stroke_opacity="0.16", fill="none")]
-    return drawing(*size, below + parts + above)
-
-
-def grain(chance, wide, top, high, color, knot):
-    """Lines along a plank, which give way to a knot."""
-    found = []
-    for step in range(13):
-        base = top + high * (step + 0.5) / 13
-        phase, swing = chance.uniform(0, 6.3), high * 0.022
-        line = []
-        for x in range(-60, wide + 61, 120):
-            y = base + swing * math.sin(x / 310 + phase) + swing * 0.5 * math.sin(x / 130 + 2 * phase)
-            if knot:
-                near = math.exp(-((x - knot[0]) / 130) ** 2)
-                y += (1 if base >= knot[1] else -1) * near * high * 0.09
-            line.append((x, y))
-        found.append(path(smooth(line), stroke=color, stroke_opacity=number(chance.uniform(0.1, 0.4)),
-                          stroke_width=number(chance.uniform(1.5, 4)), fill="none"))
-    if knot:
-        found += [ellipse(*knot, 34 - 9 * ring, 15 - 4 * ring, fill=color, fill_opacity="0.32") for ring in range(3)]
-    return found
-
-
-OAK = ["#7d5a35", "#74522e", "#86613a", "#6f4d2a", "#7f5c37"]
-WALNUT = ["#5d4030", "#664736", "#543a2b", "#6d4d3a", "#5a3d2e"]
-DRIFTWOOD = ["#5f5c56", "#66635c", "#58554f", "#636059", "#5c5953"]
-
-
-def oak(size):
-    return wood(size, size[1] // 270, OAK, "#3a2410", seed=3)
-
-
-def walnut(size):
-    return wood(size, size[1] // 270, WALNUT, "#2a1910", seed=5)
-
-
-def driftwood(size):
-    return wood(size, size[1] // 240, DRIFTWOOD, "#2f2c28", seed=9)
-
-
-def linen(size):
-    return cloth(size, "#5a5143", "#383127", "#b5a88f", seed=2)
-
-
-def slate(size):
-    return cloth(size, "#45525f", "#262f39", "#8fa0b0", seed=4, step=10)
-
-
-def denim(size):
-    return cloth(size, "#34496b", "#1b2b49", "#86a0c8", seed=6, step=7)
-
-
-def sage(size):
-    return cloth(size, "#4c5a45", "#2f3a2b", "#93a287", seed=8, step=9)
-
-
-def blush(size):
-    return cloth(size, "#6d4744", "#472c2a", "#b58a83", seed=12, step=9)
-
-
-def specks(chance, count, colors, large, stretch=1.0, opacity=(0.3, 0.9)):
-    found = []
-    for _ in range(count):
-        x, y, size = chance.uniform(0, TILE), chance.uniform(0, TILE), large * chance.uniform(0.35, 1)
-        found.append(ellipse(x, y, size * stretch, size, fill=chance.choice(colors),
-                             fill_opacity=f"{chance.uniform(*opacity):.2f}",
-                             transform=f"rotate({number(chance.uniform(0, 180))} {number(x)} {number(y)})"))
-    return found
-
-
-def fibres(chance, count, colors, length, width, opacity):
-    found = []
-    for _ in range(count):
-        x, y, turn = chance.uniform(0, TILE), chance.uniform(0, TILE), chance.uniform(0, 6.3)
-        reach = length * chance.uniform(0.4, 1)
-        found.append(path(f"M{number(x)},{number(y)}q{number(reach * math.cos(turn + 0.4) / 2)},"
-                          f"{number(reach * math.sin(turn + 0.4) / 2)} {number(reach * math.cos(turn))},"
-                          f"{number(reach * math.sin(turn))}", stroke=chance.choice(colors), stroke_width=number(width),
-                          stroke_opacity=opacity, fill="none", stroke_linecap="round"))
-    return found
+def wall(size, color, seed):
+    """A painted wall in the light of a lamp."""
+    return drawing(*size, [stuff("wall", seed=seed, color=color)] + lights(size, "#fff6e0", 0.12, 0.42))
 
 
 def cork(size, rim=44):
     """A board of cork in a wooden frame."""
-    chance = random.Random(15)
-    below, above = washed(size, "#7d5a36", shine=0.1, shade=0.24)
-    grains = tiles(size, "cork", specks(chance, 330, ["#664626", "#503418", "#93704a", "#70502c", "#9a7850", "#3f2812"], 13, 1.5, (0.25, 0.7)),
-                   chance)
-    edge = [rectangle(rim / 2, rim / 2, size[0] - rim, size[1] - rim, fill="none", stroke="#7c522c", stroke_width=number(rim)),
-            rectangle(rim / 4, rim / 4, size[0] - rim / 2, size[1] - rim / 2, fill="none", stroke="#9a6c3f",
-                      stroke_width=number(rim / 2)),
-            rectangle(rim, rim, size[0] - 2 * rim, 16, fill="#3a2310", fill_opacity="0.3"),
-            rectangle(rim, rim, 12, size[1] - 2 * rim, fill="#3a2310", fill_opacity="0.22")]
-    return drawing(*size, below + grains + above + edge)
+    words = stuff("cork", seed=15, tones=["#7b5833", "#6f4d2b", "#85613b", "#5f4021", "#52351b", "#916d44"])
+    wide, high = size
+    edge = [rectangle(rim / 2, rim / 2, wide - rim, high - rim, fill="none", stroke="#6f4726", stroke_width=number(rim)),
+            rectangle(rim / 4, rim / 4, wide - rim / 2, high - rim / 2, fill="none", stroke="#8a5c34", stroke_width=number(rim / 2)),
+            rectangle(rim / 2, rim / 2, wide - rim, high - rim, fill="none", stroke="#4a2c14", stroke_width="2", stroke_opacity="0.7"),
+            rectangle(1.5, 1.5, wide - 3, high - 3, fill="none", stroke="#b98655", stroke_width="3", stroke_opacity="0.6")]
+    shade = [path(f"M{rim},{rim}H{wide - rim}V{rim + reach}H{rim + reach}V{high - rim}H{rim}Z", fill="#1c0f05", fill_opacity="0.075")
+             for reach in range(2, 34, 4)]
+    return drawing(*size, [words] + lights(size, shine=0.08, shade=0.3) + shade + edge)
 
 
 def felt(size):
     """The green cloth of a card table, with its edge of wood."""
-    chance = random.Random(21)
-    below, above = washed(size, "#195f43", light="#7ac79f", shine=0.28, shade=0.42, at=(0.5, 0.45))
-    hairs = tiles(size, "felt", fibres(chance, 300, ["#0f5638", "#3b9a70", "#17694a"], 34, 2.5, "0.4"), chance)
+    words = stuff("felt", seed=21, color="#1d6a4b", hairs=["#0f5638", "#4aa67d", "#17694a"])
     wide, high = size
     edge = [rectangle(24, 24, wide - 48, high - 48, fill="none", stroke="#4a2b18", stroke_width="48"),
             rectangle(14, 14, wide - 28, high - 28, fill="none", stroke="#6d4326", stroke_width="18"),
+            rectangle(3, 3, wide - 6, high - 6, fill="none", stroke="#9a6a42", stroke_width="5", stroke_opacity="0.7"),
             rectangle(92, 92, wide - 184, high - 184, fill="none", stroke="#d9c37a", stroke_width="5", stroke_opacity="0.25", rx="40")]
-    return drawing(*size, below + hairs + above + edge)
+    shade = [path(f"M48,48H{wide - 48}V{48 + reach}H{48 + reach}V{high - 48}H48Z", fill="#000000", fill_opacity="0.07")
+             for reach in range(2, 34, 4)]
+    return drawing(*size, [words] + lights(size, "#9fe0bd", 0.16, 0.46) + shade + edge)
 
 
 def kraft(size):
     """Brown wrapping paper."""
-    chance = random.Random(27)
-    below, above = washed(size, "#7d603c", shine=0.12, shade=0.24)
-    hairs = tiles(size, "kraft", fibres(chance, 170, ["#5f4525", "#9c7d55", "#4f381c"], 46, 2.2, "0.42")
-                  + specks(chance, 60, ["#4a341a", "#a88a62"], 3.5), chance)
-    return drawing(*size, below + hairs + above)
+    words = stuff("paper", seed=27, color="#82653d", flecks=["#5f4525", "#a88a62", "#4f381c", "#6b5030"])
+    return drawing(*size, [words] + lights(size, shine=0.08, shade=0.32))
+
+
+LOBE = "C-9,-5 -16,-12 -15,-21 C-14,-29 -4,-31 0,-24 C4,-31 14,-29 15,-21 C16,-12 9,-5 0,0Z"
+CLOVER = [part for turn in (0, 118, 243) for part in (
+    path("M2,4 " + LOBE, fill="#0b2110", fill_opacity="0.5", transform=f"rotate({turn})"),
+    path("M0,0 " + LOBE, fill="#376f3a", transform=f"rotate({turn})"),
+    path("M-9,-17Q0,-11 9,-17", fill="none", stroke="#a9cf98", stroke_width="3", stroke_opacity="0.3", transform=f"rotate({turn})"))]
 
 
 def lawn(size):
     """Grass seen from above, with clover in it."""
     chance = random.Random(33)
-    below, above = washed(size, "#1f4a29", light="#8fbf7a", shine=0.2, shade=0.4)
-    blades = tiles(size, "lawn", fibres(chance, 420, ["#143a1c", "#2b5f33", "#3c7343", "#1d4a26", "#4a824c"], 62, 5, "0.55"), chance)
+    words = stuff("lawn", seed=33, color="#15331c", blades=["#2b5f33", "#3c7343", "#24552e", "#4a8049", "#5a8a4c", "#356b3a"])
     clover = []
-    for _ in range(90):
-        x, y, reach = chance.uniform(0, size[0]), chance.uniform(0, size[1]), chance.uniform(9, 16)
-        clover += [circle(x + reach * math.cos(turn), y + reach * math.sin(turn), reach * 0.72, fill="#5f9a55", fill_opacity="0.4")
-                   for turn in (0.5, 2.6, 4.7)]
-    return drawing(*size, below + blades + clover + above)
-
-
-def plaster(size, color, light, seed):
-    """A painted wall in the light of two lamps."""
-    chance = random.Random(seed)
-    below, above = washed(size, color, light=light, shine=0.24, shade=0.34, at=(0.5, 0.42))
-    strokes = tiles(size, "plaster", fibres(chance, 70, ["#ffffff", "#000000"], 150, 9, "0.035"), chance)
-    return drawing(*size, below + strokes + above)
-
-
-def stone_wall(size):
-    return plaster(size, "#5d5b57", "#cfc9bd", 41)
-
-
-def blue_wall(size):
-    return plaster(size, "#3d5163", "#a9c6dd", 43)
-
-
-def green_wall(size):
-    return plaster(size, "#4a5f50", "#cfe3cf", 45)
-
-
-def charcoal(size):
-    return plaster(size, "#2d2d2f", "#8f8f92", 46)
-
-
-def ink(size):
-    return plaster(size, "#1f2b3d", "#7f97b5", 47)
-
-
-def wine(size):
-    return plaster(size, "#43232b", "#b5808c", 48)
-
-
-def forest(size):
-    return plaster(size, "#22352b", "#86a892", 49)
-
-
-def sand(size):
-    return plaster(size, "#665844", "#d6c4a0", 50)
+    for _ in range(150):
+        turn, scale = chance.uniform(0, 360), chance.uniform(0.5, 0.95)
+        clover.append(group(CLOVER, transform=f"translate({number(chance.uniform(0, size[0]))},{number(chance.uniform(0, size[1]))}) "
+                                              f"rotate({number(turn)}) scale({scale:.2f})"))
+    return drawing(*size, [words] + clover + lights(size, "#d9f0b8", 0.12, 0.42))
 
 
 def wallpaper(size):
@@ -310,12 +170,20 @@ def argyle(size):
                                                 stroke_opacity="0.35", stroke_dasharray="14 10")] + above)
 
 
+def ground(name, size):
+    if name in WOODS:
+        return wood(size, *WOODS[name])
+    if name in CLOTHS:
+        return cloth(size, **CLOTHS[name])
+    return wall(size, *WALLS[name]) if name in WALLS else OTHERS[name](size)
+
+
+OTHERS = {"cork": cork, "felt": felt, "kraft": kraft, "lawn": lawn, "stock_page": stock_page}
 # A square page is for designs that turn; one that stays has its ground in its own shape.
-TURNING = (oak, walnut, linen, slate, denim, sage, blush, gingham, kraft, lawn, stone_wall, green_wall, stock_page, charcoal,
-           sand)
-STANDING = (oak, walnut, slate, sage, cork, felt, kraft, blush, stone_wall, blue_wall, green_wall, charcoal, ink, wine, forest)
-LYING = (driftwood, slate, felt, blush, blue_wall, charcoal, ink, wine, forest, sage, sand)
-ALONE = {"wallpaper": wallpaper(TALL), "argyle": argyle(TALL)}
-SHARED = {**ALONE, **{ground.__name__: ground(SQUARE) for ground in TURNING},
-          **{f"{ground.__name__}_tall": ground(TALL) for ground in STANDING},
-          **{f"{ground.__name__}_wide": ground(WIDE) for ground in LYING}}
+TURNING = ("oak", "walnut", "linen", "slate", "denim", "sage", "blush", "gingham", "kraft", "lawn", "stone_wall", "green_wall", "stock_page",
+           "charcoal", "sand")
+STANDING = ("oak", "walnut", "slate", "sage", "cork", "felt", "kraft", "blush", "stone_wall", "blue_wall", "green_wall", "charcoal", "ink",
+            "wine", "forest")
+LYING = ("driftwood", "slate", "felt", "blush", "blue_wall", "charcoal", "ink", "wine", "forest", "sage", "sand")
+SHARED = {"wallpaper": wallpaper(TALL), "argyle": argyle(TALL), **{name: ground(name, SQUARE) for name in TURNING},
+          **{f"{name}_tall": ground(name, TALL) for name in STANDING}, **{f"{name}_wide": ground(name, WIDE) for name in LYING}}

@@ -47,6 +47,24 @@ TEST(load_main, sets_the_texts_and_the_font)
     EXPECT_EQ(main.cmdFlurn.caption(), "Flurn");
 }
 
+TEST(load_main, begins_captions_in_a_face_for_titles_where_one_is_installed)
+{
+    opened_session session;
+    session.desk.fonts = {"Arial", "League Spartan", "Vollkorn", "Vollkorn SemiBold"};
+    session.main.txtCaption.set_font({.name = "Sans Serif", .size = 9, .bold = true});
+    session.main.load();
+    EXPECT_EQ(session.main.txtCaption.font(), (font_style{.name = "Vollkorn SemiBold", .size = 16}));
+}
+
+TEST(load_main, leaves_captions_their_face_where_only_those_without_room_for_accents_are_installed)
+{
+    opened_session session;
+    session.desk.fonts = {"Arial", "League Spartan", "Yanone Kaffeesatz"};
+    session.main.txtCaption.set_font({.name = "Sans Serif", .size = 9});
+    session.main.load();
+    EXPECT_EQ(session.main.txtCaption.font(), (font_style{.name = "Sans Serif", .size = 16}));
+}
+
 TEST(load_main, places_what_the_program_moves)
 {
     opened_session session;

@@ -1,0 +1,44 @@
+#pragma once
+#include "../sample_photos/canvas.h"
+#include "../sample_photos/noise.h"
+
+#include <QImage>
+#include <QMap>
+#include <QString>
+
+#include <string>
+#include <vector>
+
+/// What the textures share: their words as numbers and colours, and pages filled by a function of the place.
+
+class stuff_words {
+public:
+    explicit stuff_words(const QString & words);
+    [[nodiscard]] QString kind() const { return first; }
+    [[nodiscard]] float number(const QString & name, float without) const;
+    [[nodiscard]] unsigned seed() const { return static_cast<unsigned>(number("seed", 1)); }
+    [[nodiscard]] bool has(const QString & name) const { return values.contains(name); }
+    /// One at least. Throws std::runtime_error.
+    [[nodiscard]] std::vector<colour> colours(const QString & name) const;
+
+private:
+    QString first;
+    QMap<QString, QString> values;
+};
+
+/// Every pixel by a function of its place, in pixels from the top left.
+template <typename Function>
+void fill(QImage & page, Function colour_at)
+{
+    for (int y = 0; y < page.height(); ++y) {
+        auto * row = reinterpret_cast<QRgba64 *>(page.scanLine(y));
+        for (int x = 0; x < page.width(); ++x) {
+            const colour seen = colour_at(static_cast<float>(x), static_cast<float>(y));
+            const auto fine = [](float share) { return static_cast<quint16>(clamped(share) * 65535); };
+            row[x] = QRgba64::fromRgba64(fine(seen.r), fine(seen.g), fine(seen.b), 65535);
+        }
+    }
+}
+
+/// Hairs or bristles that lie in four directions, which one where by chance: about 0, of a half at most.
+float hairs_at(float x, float y, float length, float width, unsigned seed);
