@@ -12,7 +12,8 @@ HUB, RADIUS = 31.0, 26.0
 
 
 def ring(name, radius, y, thick, material):
-    return s.tube(name, [(radius * cos(a), y, HUB + radius * sin(a)) for a in (2 * pi * i / 120 for i in range(120))], thick, material, closed=True)
+    return s.tube(name, [(radius * cos(a), y, HUB + radius * sin(a)) for a in (2 * pi * i / 120 for i in range(120))], thick,
+                  material, closed=True)
 
 
 def wheel(steel):
@@ -26,11 +27,14 @@ def wheel(steel):
         a, b = 2 * pi * i / count, 2 * pi * (i + 1) / count
         outer, inner = RADIUS, RADIUS - 1.7
         for y in (-1.1, 1.1):
-            s.tube("brace", [(outer * cos(a), y, HUB + outer * sin(a)), (inner * cos(b), y, HUB + inner * sin(b))], 0.05, steel)
-            s.tube("brace", [(inner * cos(a), y, HUB + inner * sin(a)), (outer * cos(a), y, HUB + outer * sin(a))], 0.05, steel)
+            s.tube("brace", [(outer * cos(a), y, HUB + outer * sin(a)), (inner * cos(b), y, HUB + inner * sin(b))], 0.05,
+                   steel)
+            s.tube("brace", [(inner * cos(a), y, HUB + inner * sin(a)), (outer * cos(a), y, HUB + outer * sin(a))], 0.05,
+                   steel)
         if i % 2 == 0:
             for y in (-1.1, 1.1):
-                s.tube("spoke", [(0.8 * cos(a), y * 1.6, HUB + 0.8 * sin(a)), (inner * cos(a), y, HUB + inner * sin(a))], 0.045, steel)
+                s.tube("spoke", [(0.8 * cos(a), y * 1.6, HUB + 0.8 * sin(a)), (inner * cos(a), y, HUB + inner * sin(a))],
+                       0.045, steel)
     s.tube("axle", [(0, -2.6, HUB), (0, 2.6, HUB)], 0.75, steel)
 
 
@@ -88,15 +92,19 @@ def fair(dice):
         s.box("booth", (4.4, 3, 2.9), front, at=(x, -9, 1.45))
         s.box("opening", (3.6, 0.05, 1.2), warm, at=(x, -10.53, 1.75))
         for k in range(8):
-            made = s.box("awning", (0.56, 1.7, 0.06), m.plain("cloth", tone if k % 2 else "ece6da", 0.8), at=(x - 1.95 + 0.557 * k, -11.0, 2.95))
+            made = s.box("awning", (0.56, 1.7, 0.06), m.plain("cloth", tone if k % 2 else "ece6da", 0.8),
+                         at=(x - 1.95 + 0.557 * k, -11.0, 2.95))
             made.rotation_euler.x = 0.42
         for k in range(9):
             s.ball("lamp", 0.07, m.glow("lamp", "ffdca0", 60), (x - 2.1 + 0.52 * k, -11.8, 2.62), 1)
     coats = [m.plain("coat", tone, 0.9) for tone in ("14151a", "201a1c", "1a2028", "2a2320")]
     for i in range(46):
         slow = dice.uniform(-0.14, 0.14)
-        made = person("guest", dice.choice(coats), {"knee_l": (-0.10, -0.10 - slow, 0.48), "ankle_l": (-0.10, -0.16 - slow, 0.10),
-                                                    "toe_l": (-0.11, -0.33 - slow, 0.05), "ankle_r": (0.10, 0.20 + slow, 0.12), "toe_r": (0.11, 0.05 + slow, 0.04)}, 1.12)
+        made = person("guest", dice.choice(coats), {"knee_l": (-0.10, -0.10 - slow, 0.48),
+                                                    "ankle_l": (-0.10, -0.16 - slow, 0.10),
+                                                    "toe_l": (-0.11, -0.33 - slow, 0.05),
+                                                    "ankle_r": (0.10, 0.20 + slow, 0.12), "toe_r": (0.11, 0.05 + slow, 0.04)},
+                      1.12)
         made.location = (dice.uniform(-15, 15), dice.uniform(-26, -13), 0)
         made.rotation_euler.z, made.scale = dice.choice((1.3, -1.4, 3.1, 3.3, 2.6, 0.2)), (dice.uniform(0.9, 1.04),) * 3
 
@@ -111,12 +119,14 @@ def build():
     fair(dice)
     made, nodes, shader = m.principled("square", "3a3634", 0.3)
     wet = nodes.noise(nodes.place(), 0.25, detail=5.0)
-    m.feed(nodes, shader, Roughness=m.ramp(nodes, wet, (0.4, 0.08), (0.62, 0.5)), Normal=m.relief(nodes, nodes.noise(nodes.place(), 5.0), 0.02, 0.3))
+    m.feed(nodes, shader, Roughness=m.ramp(nodes, wet, (0.4, 0.08), (0.62, 0.5)),
+           Normal=m.relief(nodes, nodes.noise(nodes.place(), 5.0), 0.02, 0.3))
     s.sheet("square", (400, 300), (2, 2), lambda x, y: 0.0, made)
     for x, r in ((-34, 5), (-27, 4), (29, 5), (36, 6), (-42, 6), (43, 5)):
         tree = s.ball("tree", r, m.plain("tree", "0b100b", 0.95), (x, 22, r * 1.1), 5)
         s.wrinkled(tree, r * 0.7, r * 0.35)
     daylight(-1.6, 14, strength=1.0, dust=2.5, ozone=4.0,
-             clouds=dict(low=0.50, high=0.80, scale=0.8, light=(0.34, 0.13, 0.10), shade=(0.055, 0.05, 0.085), stretch=(0.4, 1.0)))
+             clouds=dict(low=0.50, high=0.80, scale=0.8, light=(0.34, 0.13, 0.10), shade=(0.055, 0.05, 0.085),
+                         stretch=(0.4, 1.0)))
     camera((-7, -62, 2.0), (-1.0, 0, 26.5), 27)
     return Roll(samples=12, exposure=0.6, glow=0.10)

@@ -30,8 +30,10 @@ PERSON = [("hips", "waist"), ("waist", "chest"), ("chest", "neck"), ("neck", "ch
 
 STANDING = {"hips": (0, 0, 0.94, (0.15, 0.11)), "waist": (0, 0, 1.10, (0.125, 0.095)), "chest": (0, 0, 1.32, (0.16, 0.105)),
             "neck": (0, 0, 1.49, 0.052), "chin": (0, 0.01, 1.58, 0.048), "crown": (0, 0, 1.68, 0.06),
-            "shoulder_l": (-0.185, 0, 1.42, 0.062), "elbow_l": (-0.24, 0.02, 1.14, 0.042), "wrist_l": (-0.26, -0.03, 0.90, 0.026),
-            "hand_l": (-0.265, -0.05, 0.80, 0.034), "shoulder_r": (0.185, 0, 1.42, 0.062), "elbow_r": (0.24, 0.02, 1.14, 0.042),
+            "shoulder_l": (-0.185, 0, 1.42, 0.062), "elbow_l": (-0.24, 0.02, 1.14, 0.042),
+            "wrist_l": (-0.26, -0.03, 0.90, 0.026),
+            "hand_l": (-0.265, -0.05, 0.80, 0.034), "shoulder_r": (0.185, 0, 1.42, 0.062),
+            "elbow_r": (0.24, 0.02, 1.14, 0.042),
             "wrist_r": (0.26, -0.03, 0.90, 0.026), "hand_r": (0.265, -0.05, 0.80, 0.034),
             "hip_l": (-0.09, 0, 0.86, 0.095), "knee_l": (-0.10, -0.01, 0.48, 0.058), "ankle_l": (-0.10, 0.02, 0.09, 0.034),
             "toe_l": (-0.115, -0.14, 0.04, 0.035), "hip_r": (0.09, 0, 0.86, 0.095), "knee_r": (0.10, -0.01, 0.48, 0.058),
@@ -49,8 +51,10 @@ def person(name, material, moved=None, slim=1.0):
     for side in "lr":
         knee, ankle = Vector(joints["knee_" + side][:3]), Vector(joints["ankle_" + side][:3])
         joints["calf_" + side] = (*(knee.lerp(ankle, 0.32) + Vector((0, 0.012, 0))), 0.060 * slim)
-    made = body(name, {joint: at for joint, at in joints.items() if joint[:4] not in ("hand", "toe_", "crow")}, PERSON, material)
-    for part in [head(joints, material)] + [part for side in "lr" for part in (hand(joints, side, material), shoe(joints, side, material))]:
+    made = body(name, {joint: at for joint, at in joints.items() if joint[:4] not in ("hand", "toe_", "crow")}, PERSON,
+                material)
+    for part in [head(joints, material)] + [part for side in "lr" for part in (hand(joints, side, material),
+                                                                               shoe(joints, side, material))]:
         part.parent = made
     return made
 
@@ -69,13 +73,15 @@ def head(joints, material):
 
 def along(made, place, way, turn=0.0):
     """Turns a thing whose length is z into a way, at a place."""
-    made.matrix_world = Matrix.Translation(place) @ Vector(way).to_track_quat("Z", "Y").to_matrix().to_4x4() @ Matrix.Rotation(turn, 4, "Z")
+    made.matrix_world = Matrix.Translation(place) @ Vector(way).to_track_quat("Z",
+                                                                              "Y").to_matrix().to_4x4() @ Matrix.Rotation(turn, 4, "Z")
     return made
 
 
 def hand(joints, side, material):
     """An open hand from the wrist on, fingers a little spread."""
-    bones, places = [("wrist", "palm")], {"wrist": (0, 0, -0.01, 0.025), "palm": (0, 0, 0.055, (0.036, 0.016)), "thumb": (-0.046, 0, 0.075, 0.012), "tip": (-0.070, 0, 0.112, 0.009)}
+    bones, places = [("wrist", "palm")], {"wrist": (0, 0, -0.01, 0.025), "palm": (0, 0, 0.055, (0.036, 0.016)),
+                                          "thumb": (-0.046, 0, 0.075, 0.012), "tip": (-0.070, 0, 0.112, 0.009)}
     bones += [("palm", "thumb"), ("thumb", "tip")]
     for k, (aside, long) in enumerate(FINGERS):
         places[f"knuckle_{k}"], places[f"tip_{k}"] = (aside, 0, 0.098, 0.0115), (aside * 1.65, 0, 0.098 + long, 0.008)
@@ -111,7 +117,8 @@ def dressed(wearer, moved, material, wind=0.0):
     for side in "lr":
         sleeve(wearer, joints, ("shoulder_" + side, "elbow_" + side), 0.55, (0.064, 0.066), material)
         sleeve(wearer, joints, ("hip_" + side, "knee_" + side), 0.72, (0.104, 0.090), material)
-    shirt = shapes.lathe("shirt", [(0.05, 1.50), (0.13, 1.46), (0.185, 1.40), (0.185, 1.25), (0.165, 1.10), (0.172, 0.96), (0.195, 0.84), (0.18, 0.84), (0.1, 1.3)], material, steps=48)
+    shirt = shapes.lathe("shirt", [(0.05, 1.50), (0.13, 1.46), (0.185, 1.40), (0.185, 1.25), (0.165, 1.10), (0.172, 0.96),
+                                   (0.195, 0.84), (0.18, 0.84), (0.1, 1.3)], material, steps=48)
     for vertex in shirt.data.vertices:
         low = max(0.0, 1.12 - vertex.co.z) / 0.28
         turn = math.atan2(vertex.co.y, vertex.co.x)
@@ -123,7 +130,8 @@ def dressed(wearer, moved, material, wind=0.0):
 
 def coat(wearer, material, low=0.72):
     """A loose coat around one who stands, down to a height."""
-    profile = [(0.07, 1.50), (0.15, 1.44), (0.185, 1.36), (0.18, 1.20), (0.185, 1.0), (0.20, low + 0.06), (0.205, low), (0.19, low), (0.12, 1.3)]
+    profile = [(0.07, 1.50), (0.15, 1.44), (0.185, 1.36), (0.18, 1.20), (0.185, 1.0), (0.20, low + 0.06), (0.205, low),
+               (0.19, low), (0.12, 1.3)]
     made = shapes.lathe(wearer.name + " coat", profile, material, steps=40)
     made.scale = (1.05, 0.72, 1)
     made.parent = wearer
@@ -132,7 +140,8 @@ def coat(wearer, material, low=0.72):
 
 def long_hair(wearer, material):
     """Hair that falls to the shoulders, at the back (+y)."""
-    made = shapes.lathe(wearer.name + " hair", [(0, 1.775), (0.07, 1.76), (0.115, 1.68), (0.125, 1.58), (0.135, 1.46), (0.10, 1.42), (0, 1.46)],
+    made = shapes.lathe(wearer.name + " hair", [(0, 1.775), (0.07, 1.76), (0.115, 1.68), (0.125, 1.58), (0.135, 1.46),
+                                                (0.10, 1.42), (0, 1.46)],
                         material, steps=32)
     made.location.y = 0.03
     made.parent = wearer

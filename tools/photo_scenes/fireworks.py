@@ -82,7 +82,8 @@ def smoke():
     lit = nodes.add("ShaderNodeBsdfDiffuse", (0.8, 0.8, 0.8))
     through = nodes.add("ShaderNodeBsdfTranslucent", (0.8, 0.8, 0.8))
     body = nodes.add("ShaderNodeMixShader", 0.5, lit, through)
-    m.surface(nodes, nodes.add("ShaderNodeMixShader", nodes.math("MULTIPLY", cover, 0.55), nodes.add("ShaderNodeBsdfTransparent"), body))
+    m.surface(nodes, nodes.add("ShaderNodeMixShader", nodes.math("MULTIPLY", cover, 0.55),
+                               nodes.add("ShaderNodeBsdfTransparent"), body))
     for x, z, wide in ((-60, 150, 190), (50, 190, 210), (0, 105, 230), (70, 110, 150)):
         sheet = s.sheet("smoke", (wide, wide * 0.7), (2, 2), lambda x, y: 0.0, made)
         sheet.location, sheet.rotation_euler = (x, 430, z), (pi / 2, 0, 0)
@@ -90,7 +91,8 @@ def smoke():
 
 def water():
     made, nodes, shader = m.principled("water", "03060c", 0.06, Specular=0.6)
-    waves = nodes.math("ADD", nodes.noise(m.stretched(nodes, (0.55, 1, 1)), 0.22, detail=5.0), nodes.math("MULTIPLY", nodes.noise(nodes.place(), 1.3), 0.2))
+    waves = nodes.math("ADD", nodes.noise(m.stretched(nodes, (0.55, 1, 1)), 0.22, detail=5.0),
+                       nodes.math("MULTIPLY", nodes.noise(nodes.place(), 1.3), 0.2))
     m.feed(nodes, shader, Normal=m.relief(nodes, waves, 0.9, 0.4))
     return made
 
@@ -126,7 +128,8 @@ def build():
     shell(chance, (-60, 420, 222), 32, violet, 110)
     shell(chance, (66, 415, 226), 30, green, 110)
     shell(chance, (12, 395, 104), 26, [(0.0, "ffffff"), (0.3, "fff0dc"), (0.8, "ffd0a0")], 100)
-    for foot, top in (((-8, 400, 6), (-10, 400, 194)), ((-40, 410, 6), (-62, 410, 124)), ((30, 405, 6), (52, 405, 138)), ((5, 395, 6), (12, 395, 102))):
+    for foot, top in (((-8, 400, 6), (-10, 400, 194)), ((-40, 410, 6), (-62, 410, 124)), ((30, 405, 6), (52, 405, 138)),
+                      ((5, 395, 6), (12, 395, 102))):
         rising(foot, top)
     smoke()
     town(dice)

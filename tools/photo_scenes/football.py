@@ -117,7 +117,8 @@ def turf(name, size, middle, count, length):
     """A patch of lawn."""
     made = s.sheet(name, size, (20, 20), lambda x, y: 0.0, m.plain("earth", "2a3514", 0.9))
     made.location = (*middle, 0)
-    s.hair(made, count, length, blades(), seed=3, brownian_factor=0.012, root_radius=0.9, tip_radius=0.12, radius_scale=0.0034,
+    s.hair(made, count, length, blades(), seed=3, brownian_factor=0.012, root_radius=0.9, tip_radius=0.12,
+           radius_scale=0.0034,
            length_random=0.65, use_rotations=False, normal_factor=0.02, factor_random=0.012, display_step=2, render_step=3,
            child_type="NONE", hair_step=3)
     return made

@@ -82,7 +82,8 @@ def cone(tall, wide):
 
 def hand_of_paper():
     """A paper sleeve around the lower end."""
-    made = s.lathe("sleeve", [(0.0065, -0.122), (0.019, -0.066), (0.0196, -0.065), (0.020, -0.066), (0.0075, -0.122)], m.plain("paper", "f0ece2", 0.8))
+    made = s.lathe("sleeve", [(0.0065, -0.122), (0.019, -0.066), (0.0196, -0.065), (0.020, -0.066), (0.0075, -0.122)],
+                   m.plain("paper", "f0ece2", 0.8))
     return made
 
 
@@ -92,7 +93,8 @@ def beach():
     s.box("surf", (80, 1.6, 0.1), m.plain("surf", "ffffff", 0.8), at=(0, 26, -1.33))
     s.box("sea", (800, 500, 0.1), m.plain("sea", "1f8f9f", 0.25), at=(0, 276.5, -1.34))
     for x, y, tone in ((-2.6, 13, "d9363e"), (2.9, 17, "f0c03a"), (5.6, 22, "2f78c4"), (-6.5, 20, "f2efe6")):
-        s.lathe("parasol", [(1.25, 0.75), (0.7, 1.1), (0, 1.25)], m.plain("cloth", tone, 0.8), steps=24).location = (x, y, -0.2)
+        s.lathe("parasol", [(1.25, 0.75), (0.7, 1.1), (0, 1.25)], m.plain("cloth", tone, 0.8),
+                steps=24).location = (x, y, -0.2)
         s.tube("pole", [(x, y, -1.3), (x, y, 1.0)], 0.03, m.plain("pole", "f4f4f4", 0.5))
         s.box("towel", (0.9, 1.7, 0.02), m.plain("towel", tone, 0.9), at=(x + 1.3, y - 1, -1.28))
 
@@ -104,7 +106,8 @@ def build():
     lower.location = (0, 0, 0.019)
     upper = scoop(0.0295, ice("vanilla", "f7e6bd", "edd093", "5b3a1c"), 8)
     upper.location, upper.rotation_euler = (0.003, 0.001, 0.063), (0.12, -0.1, 1.3)
-    wafer = s.box("wafer", (0.019, 0.0028, 0.062), m.wood("wafer", "a8682c", "d3a05a", "e3bb7c", 0.6, 30), 0.0005, (0.021, 0.006, 0.104))
+    wafer = s.box("wafer", (0.019, 0.0028, 0.062), m.wood("wafer", "a8682c", "d3a05a", "e3bb7c", 0.6, 30), 0.0005,
+                  (0.021, 0.006, 0.104))
     wafer.rotation_euler = (0.1, 0.42, 0.3)
     beach()
     daylight(40, -128, strength=0.15, dust=0.5, sun_size=2.0)

@@ -35,7 +35,8 @@ def top():
     melted = m.ramp(nodes, brown, (0.3, "f6e4b4"), (0.46, "f2d390"), (0.57, "dc9a46"), (0.68, "9a5222"))
     rough = m.ramp(nodes, nodes.noise(where, 24.0), (0.35, 0.16), (0.65, 0.42))
     height = nodes.math("ADD", nodes.math("MULTIPLY", share, 1.0), nodes.math("MULTIPLY", nodes.noise(where, 130.0), 0.35))
-    m.feed(nodes, shader, Base_Color=nodes.mix(share, sauce, melted), Roughness=rough, Normal=m.relief(nodes, height, 0.003, 0.6))
+    m.feed(nodes, shader, Base_Color=nodes.mix(share, sauce, melted), Roughness=rough,
+           Normal=m.relief(nodes, height, 0.003, 0.6))
     return made
 
 
@@ -97,10 +98,12 @@ def slices(dice, height):
         if any((x - u) ** 2 + (y - v) ** 2 < 0.045 ** 2 for u, v in taken):
             continue
         taken.append((x, y))
-        profile = [(0, 0), (0.008, 0.0002), (0.0155, 0.0016), (0.0185, 0.0034), (0.0188, 0.0024), (0.0155, 0.0004), (0, -0.001)]
+        profile = [(0, 0), (0.008, 0.0002), (0.0155, 0.0016), (0.0185, 0.0034), (0.0188, 0.0024), (0.0155, 0.0004),
+                   (0, -0.001)]
         made = s.lathe("salami", profile, meat, steps=48)
         made.location = (x, y, height + 0.0015)
-        made.rotation_euler, made.scale = (dice.uniform(-0.12, 0.12), dice.uniform(-0.12, 0.12), dice.uniform(0, 6)), (1, dice.uniform(0.88, 1.0), dice.uniform(0.7, 1.5))
+        made.rotation_euler, made.scale = (dice.uniform(-0.12, 0.12), dice.uniform(-0.12, 0.12),
+                                           dice.uniform(0, 6)), (1, dice.uniform(0.88, 1.0), dice.uniform(0.7, 1.5))
     return taken
 
 
@@ -122,9 +125,11 @@ def basil(dice, height):
     m.feed(nodes, shader, Base_Color=m.ramp(nodes, nodes.noise(where, 70.0), (0.3, "1f5212"), (0.7, "4f8a2c")),
            Normal=m.relief(nodes, m.waves(nodes, where, 90.0, 3.0, "DIAGONAL"), 0.0012, 0.5))
     for x, y, turn, size in ((-0.005, 0.010, 0.4, 1.15), (0.012, 0.004, 2.6, 1.0), (-0.002, -0.014, 4.4, 0.95),
-                             (0.075, 0.045, 1.2, 0.85), (-0.082, -0.034, 5.4, 0.9), (-0.05, 0.078, 3.3, 0.85), (0.055, -0.075, 0.3, 0.85)):
+                             (0.075, 0.045, 1.2, 0.85), (-0.082, -0.034, 5.4, 0.9), (-0.05, 0.078, 3.3, 0.85),
+                             (0.055, -0.075, 0.3, 0.85)):
         blade = s.leaf("basil", 0.040, 0.026, made, bend=0.30, fold=-0.32)
-        blade.location, blade.rotation_euler = (x, y, height + 0.010), (dice.uniform(-0.2, 0.2), dice.uniform(-0.25, 0.0), turn)
+        blade.location, blade.rotation_euler = (x, y, height + 0.010), (dice.uniform(-0.2, 0.2), dice.uniform(-0.25, 0.0),
+                                                                        turn)
         blade.scale = (size,) * 3
 
 
@@ -149,13 +154,15 @@ def table(dice):
                     m.wood("maple", "8f6238", "b98a58", "d8b184", 0.5, 2.5), finer=0, steps=160)
     board.location.z = 0.0
     skin, stalk = m.plain("skin", "c31a10", 0.12, Specular=0.6, Clearcoat=0.4), m.plain("stalk", "4a7a28", 0.5)
-    for at, turn in (((-0.115, -0.208, 0.018), (0.3, 0.2, 0)), ((-0.078, -0.226, 0.018), (-0.5, 0.3, 1)), ((-0.115, -0.250, 0.018), (0.5, -0.4, 2)),
+    for at, turn in (((-0.115, -0.208, 0.018), (0.3, 0.2, 0)), ((-0.078, -0.226, 0.018), (-0.5, 0.3, 1)),
+                     ((-0.115, -0.250, 0.018), (0.5, -0.4, 2)),
                      ((0.135, 0.205, 0.018), (0.5, 0.4, 2))):
         tomato(skin, stalk, at, 0.0195, turn)
     flour = m.plain("flour", "efe6d4", 0.9)
     for _ in range(260):
         a, r = dice.uniform(0, 2 * pi), dice.gauss(0.176, 0.012)
-        speck = s.ball("flour", dice.uniform(0.0004, 0.0010), flour, (r * cos(a), r * sin(a), 0.0164 if r < 0.187 else 0.0006), 1)
+        speck = s.ball("flour", dice.uniform(0.0004, 0.0010), flour, (r * cos(a), r * sin(a),
+                                                                      0.0164 if r < 0.187 else 0.0006), 1)
         speck.scale.z = 0.5
 
 

@@ -9,7 +9,8 @@ def facade(name, wall, seed):
     across = nodes.math("DIVIDE", nodes.math("ADD", apart.outputs[0], apart.outputs[1]), 2.1)
     up = nodes.math("DIVIDE", apart.outputs[2], 3.1)
     own = nodes.math("MULTIPLY_ADD", nodes.chance(), 99.0, seed)
-    chance = nodes.add("ShaderNodeTexWhiteNoise", nodes.add("ShaderNodeCombineXYZ", nodes.math("FLOOR", across), nodes.math("FLOOR", up), own))
+    chance = nodes.add("ShaderNodeTexWhiteNoise", nodes.add("ShaderNodeCombineXYZ", nodes.math("FLOOR", across),
+                                                            nodes.math("FLOOR", up), own))
     tone = m.ramp(nodes, nodes.add("ShaderNodeSeparateRGB", chance.outputs["Color"]).outputs[1],
                   (0.0, "ffae58"), (0.5, "ffd296"), (0.85, "fff0d8"), (1.0, "c4dcff"))
     level = m.ramp(nodes, chance.outputs["Value"], (0.70, 0.0), (0.72, 0.06), (0.9, 0.35), (1.0, 1.0))
