@@ -73,8 +73,8 @@ def head(joints, material):
 
 def along(made, place, way, turn=0.0):
     """Turns a thing whose length is z into a way, at a place."""
-    made.matrix_world = Matrix.Translation(place) @ Vector(way).to_track_quat("Z",
-                                                                              "Y").to_matrix().to_4x4() @ Matrix.Rotation(turn, 4, "Z")
+    turned = Vector(way).to_track_quat("Z", "Y").to_matrix().to_4x4()
+    made.matrix_world = Matrix.Translation(place) @ turned @ Matrix.Rotation(turn, 4, "Z")
     return made
 
 
