@@ -7,6 +7,7 @@
 #include "desktop/binder/growing_room.h"
 #include "desktop/binder/main_keys.h"
 #include "desktop/binder/move_keys.h"
+#include "desktop/binder/primary_button.h"
 #include "desktop/binder/shortcuts.h"
 #include "desktop/binder/wheel.h"
 #include "desktop/binder/window_room.h"
@@ -19,6 +20,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QPushButton>
 
 #include <algorithm>
 #include <optional>
@@ -182,6 +184,8 @@ void binding::show_widget(control & held, QWidget & widget)
         focus.before_loss(widget);
     display(held, widget);
     widget.setVisible(visible);
+    if (qobject_cast<QPushButton *>(&widget))
+        mark_primary(window);
     if (widget.property("placed").toBool())
         place.follow();
     show_frame_around(widget);

@@ -266,6 +266,17 @@ void display_content(const group & held, QWidget & widget)
     }
 }
 
+// From edge to edge of its neighbours, which move as the letters grow.
+QRect flush_with_neighbours(const QWidget & widget, const QRect & place)
+{
+    const QString name = widget.property("rightEdge").toString();
+    const auto * const right = name.isEmpty() ? nullptr : widget.window()->findChild<const QWidget *>(name);
+    if (!right)
+        return place;
+    const int left = widget.property("leftEdge").toInt();
+    return {left, place.y(), right->geometry().right() + 1 - left, place.height()};
+}
+
 void display_place(const control & held, QWidget & widget)
 {
     const box & at = held.place();
@@ -277,7 +288,7 @@ void display_place(const control & held, QWidget & widget)
                 least = widget.layout() ? widget.layout()->totalMinimumSize() : QSize();
     const QPoint corner = QPoint(at.left, at.top) + shift_of(widget, at);
     const QSize size(at.width ? at.width : own.width(), at.height ? at.height : own.height());
-    widget.setGeometry({corner, size.expandedTo(least)});
+    widget.setGeometry(flush_with_neighbours(widget, {corner, size.expandedTo(least)}));
 }
 
 // Without a tip of its own the control leaves the one of the Designer file.

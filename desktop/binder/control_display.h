@@ -6,6 +6,8 @@
 /// of these names:
 ///   mnemonic   letters of which the first that stands in the caption becomes the shortcut
 ///   placed     true: the widget stands where the control's `place` says
+///   leftEdge   pixels, with rightEdge on what is placed: it begins there, whatever `place` says,
+///   rightEdge  and ends where the widget of that name ends
 ///   sized      true: the widget keeps the size of the control's `place` inside its layout
 ///   shrink     text is shown at one n-th of the size that the control holds
 ///   announced  true: a reader of the screen is told each new text; `announcements` counts them

@@ -7,14 +7,20 @@
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPalette>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
 constexpr int air = 8;  // pixels below the lowest widget
+constexpr int least_share_of_content = 4;
 
 // The bar of a main window, in pixels; what it shows can't be scrolled.
 QSize bar_of(const QWidget & window)
@@ -32,10 +38,10 @@ QSize least_of(const QWidget & content)
 }
 
 // Direct children that were never hidden come back with their new parent.
-void move_children(QWidget & from, QWidget & to)
+void move_children(QWidget & from, QWidget & to, const QWidget * but)
 {
     for (QWidget * each : from.findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
-        if (each->isWindow())
+        if (each->isWindow() || each == but || each == &to)
             continue;
         const bool hidden = each->isHidden();
         each->setParent(&to);
@@ -43,17 +49,84 @@ void move_children(QWidget & from, QWidget & to)
     }
 }
 
-// All that stands in a dialog, in a widget of its own.
-QWidget * taken_content(QWidget & window)
+bool holds_default(const QLayout & row)
 {
-    auto * const content = new QWidget;
+    for (int i = 0; i < row.count(); ++i) {
+        const auto * const button = qobject_cast<const QPushButton *>(row.itemAt(i)->widget());
+        if (button && button->isDefault())
+            return true;
+    }
+    return false;
+}
+
+// The row of buttons that a dialog ends with.
+QLayout * last_row(const QWidget & window)
+{
+    auto * const lines = qobject_cast<QVBoxLayout *>(window.layout());
+    QLayout * const row = lines && lines->count() > 1 ? lines->itemAt(lines->count() - 1)->layout() : nullptr;
+    return row && holds_default(*row) ? row : nullptr;
+}
+
+// The panel of buttons of a dialog whose form places its widgets.
+QWidget * placed_panel(const QWidget & window)
+{
+    for (QPushButton * each : window.findChildren<QPushButton *>())
+        if (QWidget * const panel = each->parentWidget();
+            each->isDefault() && panel->parentWidget() == &window && panel->property("placed").toBool())
+            return panel;
+    return nullptr;
+}
+
+QWidget * taken_row(QWidget & window, QLayout & row)
+{
+    QMargins around = window.layout()->contentsMargins();
+    window.layout()->removeItem(&row);
+    row.setParent(nullptr);
+    auto * const foot = new QWidget(&window);
+    foot->setObjectName(QStringLiteral("foot_area"));
+    around.setTop(air);
+    row.setContentsMargins(around);
+    foot->setLayout(&row);
+    foot->show();
+    around.setTop(window.layout()->contentsMargins().top());
+    around.setBottom(0);
+    window.layout()->setContentsMargins(around);
+    return foot;
+}
+
+// All that stands in a dialog but its foot, in a widget of its own.
+QWidget * taken_content(QWidget & window, const QWidget * foot)
+{
+    auto * const content = new QWidget(&window);  // a window of its own would have a tab order of its own
     content->setObjectName(QStringLiteral("content_area"));
     if (QLayout * const layout = window.layout())
         content->setLayout(layout);
     else
-        move_children(window, *content);
+        move_children(window, *content, foot);
     return content;
 }
+
+// A style sheet takes colours that were set since the window was made back when a widget gets another parent.
+class kept_colors {
+public:
+    explicit kept_colors(const QWidget & window)
+    {
+        for (QWidget * each : window.findChildren<QWidget *>())
+            if (each->testAttribute(Qt::WA_SetPalette))
+                colors.emplace_back(each, each->palette());
+    }
+    ~kept_colors()
+    {
+        for (const auto & [widget, own] : colors)
+            if (widget->palette() != own)
+                widget->setPalette(own);
+    }
+    kept_colors(const kept_colors &) = delete;
+    kept_colors & operator=(const kept_colors &) = delete;
+
+private:
+    std::vector<std::pair<QWidget *, QPalette>> colors;
+};
 
 QScrollArea * made_view(QWidget & window)
 {
@@ -92,25 +165,29 @@ bool window_room::has_room(QSize wanted) const
 
 void window_room::fix(QSize wanted)
 {
-    wanted = wanted.expandedTo({bar_of(window).width(), 0}).expandedTo(least_of(content ? *content : window));
+    const QSize foot_room(0, foot_height());
+    wanted = wanted.expandedTo({bar_of(window).width(), 0})
+                 .expandedTo(least_of(content ? *content : window) + foot_room);
     if (!view && has_room(wanted)) {
         window.setFixedSize(wanted);
         return;
     }
-    take_content();
-    whole = wanted - QSize(0, bar_of(window).height());
+    take_content(wanted.height());
+    whole = wanted - QSize(0, bar_of(window).height() + foot_height());
     content->setFixedSize(whole);
     fit();
 }
 
 // Once taken, it stays in the view.
-void window_room::take_content()
+void window_room::take_content(int whole_height)
 {
     if (view)
         return;
+    const kept_colors as_they_are(window);
     const QPointer<QWidget> focus = window.focusWidget();
     auto * const main = qobject_cast<QMainWindow *>(&window);
-    content = main ? main->takeCentralWidget() : taken_content(window);
+    take_foot(whole_height);
+    content = main ? main->takeCentralWidget() : taken_content(window, foot);
     view = made_view(window);
     if (main)
         main->setCentralWidget(view);
@@ -126,6 +203,33 @@ void window_room::take_content()
         folded->installEventFilter(this);
     if (focus)
         focus->setFocus(Qt::OtherFocusReason);
+}
+
+// What a dialog is left by stays in sight, where that leaves room for what is scrolled.
+void window_room::take_foot(int whole_height)
+{
+    QLayout * const row = last_row(window);
+    QWidget * const panel = row ? nullptr : placed_panel(window);
+    const QSize most = room(), needed = row     ? row->minimumSize() + QSize(4 * air, 2 * air)
+                                        : panel ? panel->minimumSizeHint() + QSize(4 * air, 2 * air)
+                                                : most;
+    if (needed.width() > most.width() || needed.height() > most.height() / least_share_of_content)
+        return;
+    foot = row ? taken_row(window, *row) : panel;
+    placed_foot = row ? 0 : whole_height - panel->y();
+    foot->installEventFilter(this);
+}
+
+int window_room::foot_height() const
+{
+    return placed_foot > 0 || !foot ? placed_foot : foot->sizeHint().height();
+}
+
+void window_room::place_foot()
+{
+    const int left = placed_foot > 0 ? foot->x() : 0, top = window.height() - foot_height();
+    const int width = placed_foot > 0 ? std::min(foot->width(), window.width() - 2 * left) : window.width();
+    foot->setGeometry(left, top, width, placed_foot > 0 ? foot->height() : foot_height());
 }
 
 // The toolkit scrolls for the Tab key alone. What is seen in part stays: it may be about to be clicked.
@@ -151,7 +255,7 @@ void window_room::fold(int most)
 
 void window_room::fit()
 {
-    const QSize bar(0, bar_of(window).height()), most = room() - bar;
+    const QSize bar(0, bar_of(window).height() + foot_height()), most = room() - bar;
     fold(most.height());
     const int thickness = view->verticalScrollBar()->sizeHint().width();
     QSize shown = content->size();
@@ -161,7 +265,9 @@ void window_room::fit()
         shown.rheight() += thickness;
     window.setFixedSize(shown.boundedTo(most) + bar);
     if (!qobject_cast<const QMainWindow *>(&window))
-        view->setGeometry(window.rect());
+        view->setGeometry(window.rect().adjusted(0, 0, 0, -foot_height()));
+    if (foot)
+        place_foot();
 }
 
 void window_room::follow()
@@ -184,9 +290,9 @@ void window_room::scroll()
 {
     if (!view && !has_room(window.size())) {
         const QSize shown = window.size();
-        take_content();
+        take_content(shown.height());
         if (!content->layout() || content->layout()->sizeConstraint() != QLayout::SetFixedSize)
-            content->setFixedSize(shown);
+            content->setFixedSize(shown - QSize(0, foot_height()));
         content->adjustSize();
         fit();
     }

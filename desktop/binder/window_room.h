@@ -8,7 +8,7 @@
 
 /// Keeps a window on its screen. One that has room there is as large as its form and its content ask for; of
 /// one that hasn't, first the growing widget gives up the height it doesn't need, then the content is
-/// scrolled.
+/// scrolled; the row of buttons that a dialog ends with stays below it.
 class window_room : public QObject {
 public:
     /// `its_room` gives the pixels that the screen has for the window inside its frame; without it there is
@@ -24,7 +24,10 @@ public:
 
 private:
     bool has_room(QSize wanted) const;
-    void take_content();
+    void take_content(int whole_height);
+    void take_foot(int whole_height);
+    void place_foot();
+    int foot_height() const;
     void follow_focus();
     void fit();
     void fold(int most);
@@ -35,5 +38,7 @@ private:
     std::function<QSize()> room;
     QPointer<QScrollArea> view;  ///< none as long as the window has room
     QPointer<QWidget> content;   ///< what it scrolls
+    QPointer<QWidget> foot;      ///< the buttons below it; none where they are scrolled with all else
+    int placed_foot = 0;         ///< its height with the air around it, where the form places it
     QSize whole;                 ///< of the content where a form tells it
 };

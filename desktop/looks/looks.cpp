@@ -64,10 +64,10 @@ QMenuBar::item:selected { background: %1; color: #1a1c1f; }
 QMenuBar::item:disabled { color: #a0a6ad; }
 QMenuBar QToolButton { color: #1a1c1f; background: %1; border-radius: 4px; }
 QPushButton:default { background: %1; color: #1a1c1f; border: 1px solid #b98636; border-radius: 4px;
-    padding: 4px 18px; }
+    padding: 3px 10px; min-width: 58px; }
 QPushButton:default:hover { background: #f7c272; }
 QPushButton:default:pressed { background: #d2963b; }
-QPushButton:default:focus { border: 2px solid #ffffff; padding: 3px 17px; }
+QPushButton:default:focus { border: 2px solid #ffffff; padding: 2px 9px; }
 QPushButton:default:disabled { background: #2f3236; color: #a0a6ad; border-color: #43484e; }
 QPlainTextEdit, QListWidget { border: 1px solid #3f444a; }
 QPlainTextEdit:focus, QListWidget:focus { border-color: %1; }

@@ -84,9 +84,12 @@ void press_key(frmPictures & window, int cell, picture_key pressed)
         return;
     }
     const std::optional<int> to = cell_beside(cell, pressed);
-    if (window.checking || !to || holds_photo(window, *to))
+    if (window.checking || !to || !holds_photo(window, cell))
         return;
-    move_cell(window, cell, *to);
+    if (holds_photo(window, *to))
+        swap_cells(window, cell, *to);
+    else
+        move_cell(window, cell, *to);
     cell_of(window, *to).take_focus();
 }
 

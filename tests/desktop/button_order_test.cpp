@@ -1,5 +1,6 @@
 #include "desktop/binder/binder.h"
 #include "desktop/binder/windows_made.h"
+#include "desktop/looks/letters.h"
 #include "desktop/qt_desktop.h"
 #include "tests/desktop/stages.h"
 #include "tests/desktop/window_views.h"
@@ -10,6 +11,7 @@
 #include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -70,7 +72,51 @@ std::vector<std::string> misplaced(const QWidget & window)
     return faults;
 }
 
+// What a button of one short word is wide.
+int shortest_width(const QPushButton & like)
+{
+    return like.text().size() > 5 ? 0 : like.sizeHint().width();
+}
+
 using faults = std::vector<std::string>;
+
+TEST(buttons, the_one_that_enter_presses_is_as_large_as_its_neighbours)
+{
+    filled_session session;
+    for (const int letters : {smallest_letters, roomy_letters, 21}) {
+        set_letters(letters);
+        for (const window_view & view : session.views()) {
+            SCOPED_TRACE(view.name);
+            const shown_view shown(view);
+            const auto row = row_of_default(shown.window());
+            for (const QPushButton * each : row) {
+                EXPECT_EQ(each->height(), row.back()->height()) << caption_of(*each) << " of " << letters;
+                EXPECT_LE(shortest_width(*each), row.back()->width()) << letters;
+            }
+        }
+    }
+    set_letters(smallest_letters);
+}
+
+// There is no other way out of a window that only shows something.
+TEST(buttons, a_lone_one_is_what_enter_presses)
+{
+    filled_session session;
+    int lone = 0;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        QList<QPushButton *> seen = shown.window().findChildren<QPushButton *>();
+        seen.removeIf([](const QPushButton * each) { return !each->isVisible(); });
+        if (seen.size() != 1)
+            continue;
+        ++lone;
+        EXPECT_TRUE(seen.front()->isDefault());
+        QTest::keyClick(&shown.window(), Qt::Key_Return);
+        EXPECT_FALSE(view.window->loaded());
+    }
+    EXPECT_GE(lone, 2);
+}
 
 TEST(buttons, of_every_window_stand_in_one_order)
 {

@@ -8,8 +8,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -182,6 +185,47 @@ TEST(lists, those_of_entries_alone_are_not_typed_into)
                 EXPECT_EQ(widget->isEditable(), !dynamic_cast<const entry_box *>(list)) << list->name();
             }
     }
+}
+
+void turn_wheel_over(QWidget & widget, int steps)
+{
+    const QPointF middle = widget.rect().center();
+    QWheelEvent turned(middle, widget.mapToGlobal(middle), {}, {0, steps * 120}, Qt::NoButton, Qt::NoModifier,
+                       Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &turned);
+}
+
+// What a wheel may change in passing.
+template <typename Widget, typename Value>
+int left_alone(QWidget & window, Value value)
+{
+    int looked_at = 0;
+    for (Widget * each : window.findChildren<Widget *>()) {
+        if (!each->isVisible() || each->hasFocus() || qobject_cast<QScrollBar *>(each))
+            continue;
+        const QPointer<QWidget> focus = window.focusWidget();
+        const auto before = (each->*value)();
+        for (const int steps : {-1, 2}) {
+            turn_wheel_over(*each, steps);
+            EXPECT_EQ((each->*value)(), before) << each->objectName().toStdString();
+        }
+        EXPECT_EQ(window.focusWidget(), focus) << each->objectName().toStdString();
+        ++looked_at;
+    }
+    return looked_at;
+}
+
+TEST(lists, of_every_window_are_left_alone_by_a_wheel_that_passes)
+{
+    filled_session session;
+    int looked_at = 0;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        looked_at += left_alone<QComboBox>(shown.window(), &QComboBox::currentIndex);
+        looked_at += left_alone<QAbstractSlider>(shown.window(), &QAbstractSlider::value);
+    }
+    EXPECT_GT(looked_at, 20);
 }
 
 // ---- what a reader of the screen hears

@@ -6,10 +6,13 @@
 #include "tests/desktop/window_views.h"
 
 #include <QApplication>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -69,6 +72,56 @@ TEST_P(small_screens, have_room_for_the_main_window_in_all_its_stages)
             EXPECT_EQ(window->size(), window->size().boundedTo(room));
             EXPECT_EQ(out_of_reach(main, *window), faults());
         }
+}
+
+// What tells letters from their ground, by the names of the widgets.
+std::map<std::string, std::vector<QColor>> colors_of(const form & shown, const QWidget & window)
+{
+    std::map<std::string, std::vector<QColor>> colors;
+    for (const QWidget * one : seen_widgets(shown, window)) {
+        const auto * const box = qobject_cast<const QPlainTextEdit *>(one);
+        const QPalette & own = box ? box->viewport()->palette() : one->palette();
+        for (const auto role : {QPalette::Base, QPalette::Text, QPalette::Window, QPalette::WindowText,
+                                QPalette::Button, QPalette::ButtonText})
+            colors[one->objectName().toStdString()].push_back(own.color(role));
+    }
+    return colors;
+}
+
+TEST(small_screen, changes_no_colour_of_a_window_that_it_scrolls)
+{
+    filled_session session;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        std::map<std::string, std::vector<QColor>> colors;
+        {
+            const shown_view whole(view);
+            colors = colors_of(*view.window, whole.window());
+        }
+        const shown_view scrolled(view, QSize(632, 284));
+        EXPECT_EQ(colors_of(*view.window, scrolled.window()), colors);
+    }
+}
+
+// Whoever doesn't scroll finds the way out as well: 1366 by 768 pixels at one and a half times the usual
+// density.
+TEST(small_screen, shows_the_buttons_that_a_dialog_ends_with)
+{
+    filled_session session;
+    session.desk.room = {.width = 810, .height = 430};
+    int scrolled = 0;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view, QSize(904, 476));
+        scrolled += shown.window().findChild<QScrollArea *>(QLatin1String("view_area")) ? 1 : 0;
+        for (const QPushButton * each : shown.window().findChildren<QPushButton *>())
+            if (each->isVisible() && each->isDefault()) {
+                EXPECT_EQ(each->visibleRegion(), QRegion(each->rect()));
+                EXPECT_TRUE(shown.window().rect().contains(place_in(shown.window(), *each)));
+            }
+        EXPECT_EQ(tab_order_faults(*view.window, shown.window()), faults());
+    }
+    EXPECT_GE(scrolled, 5);
 }
 
 // By whatever means it came there, from the form's own wish to a reader of the screen.

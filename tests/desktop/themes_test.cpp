@@ -2,6 +2,7 @@
 #include "desktop/binder/picture_view.h"
 #include "desktop/binder/windows_made.h"
 #include "desktop/looks/elided_option.h"
+#include "desktop/looks/letters.h"
 #include "support/MFreeImage.h"
 #include "tests/designs/opened_browser.h"
 #include "tests/desktop/layout_checks.h"
@@ -110,7 +111,22 @@ TEST_F(themes_test, the_window_and_its_sample_have_the_size_of_the_orientation)
     QTest::mouseClick(found<QRadioButton>("optLandscape"), Qt::LeftButton, {}, QPoint(8, 8));
     EXPECT_EQ(window->size(), QSize(894, 584));
     EXPECT_EQ(found<QWidget>("picSample")->geometry(), QRect(424, 96, 450, 300));
-    EXPECT_EQ(found<QWidget>("frmButtons")->x(), 220);
+    EXPECT_EQ(session.browser.frmButtons.place().left, 220);
+}
+
+TEST_F(themes_test, the_panel_of_the_buttons_is_flush_with_what_stands_above_it)
+{
+    for (const int letters : {smallest_letters, roomy_letters, 21})
+        for (const char * orientation : {"optPortrait", "optLandscape"}) {
+            set_letters(letters);
+            found<QRadioButton>(orientation)->click();
+            QApplication::processEvents();
+            const QRect panel = found<QWidget>("frmButtons")->geometry();
+            EXPECT_EQ(panel.left(), place_in(*window, *found<QWidget>("frmStyle")).left()) << letters;
+            EXPECT_EQ(panel.right(), found<QWidget>("picSample")->geometry().right()) << letters;
+            EXPECT_GT(panel.top(), place_in(*window, *found<QWidget>("txtDescription")).bottom());
+        }
+    set_letters(smallest_letters);
 }
 
 TEST_F(themes_test, an_ampersand_of_a_name_is_shown)

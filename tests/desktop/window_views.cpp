@@ -84,7 +84,7 @@ void filled_session::add_image_views(std::vector<window_view> & views)
     };
     const std::string autumn = folder.at("images/autumn.jpg"), night = folder.at("images/starry_night.jpg");
     add("portrait", collage.empty() ? autumn : collage, image_face::finished);
-    add("landscape", night, image_face::finished);
+    add("landscape", folder.at("images/autumn_wide.jpg"), image_face::finished);
     add("square", square_of(*this, night), image_face::finished);
     add("sample", folder.at("samples/not_yet.jpg"), image_face::sample);
 }

@@ -1,5 +1,7 @@
 #include "engine/background.h"
 
+#include "engine/canvas.h"
+#include "session/connect_all.h"
 #include "tests/engine/collage_fixture.h"
 #include "tests/pictures.h"
 
@@ -29,6 +31,31 @@ TEST(lay_background, blends_the_users_picture)
     const rgb_triple half = seen(background_of(run, 60, 90, run_size::full), 30, 45);
     EXPECT_NEAR(half.red, (30 + 128) / 2.0, 4);
     EXPECT_NEAR(half.blue, (220 + 128) / 2.0, 4);
+}
+
+// Chosen while the picture is selected: nobody clicks "Solid color" in between.
+TEST(lay_background, lets_the_colour_that_was_chosen_through_at_any_blend)
+{
+    collage_fixture run;
+    connect_all(run.all);
+    run.main.txtBGimage.set_text(run.picture("sea.jpg", blue, 90, 60));
+    run.main.optBGimage.select();
+    run.desk.will_choose_color(0x28C81E);  // green, red in the low byte
+    run.main.cmdBGcolor.click();
+    for (int blend = 0; blend < 100; blend += 5) {
+        run.main.cmbBlend.set_text(std::to_string(blend));
+        run.main.collage_width = 2000;
+        run.main.collage_height = 3000;
+        allocate_canvas(run.main, run_size::preview);
+        lay_background(run.main, run_size::preview);
+        const rgb_triple shown = seen(run.main.run.canvas, 100, 100);
+        const auto mixed = [blend](int picture, int ground) {
+            return (picture * blend + ground * (100 - blend)) / 100.0;
+        };
+        EXPECT_NEAR(shown.red, mixed(blue.red, green.red), 8) << blend;
+        EXPECT_NEAR(shown.green, mixed(blue.green, green.green), 8) << blend;
+        EXPECT_NEAR(shown.blue, mixed(blue.blue, green.blue), 8) << blend;
+    }
 }
 
 TEST(lay_background, leaves_no_strip_beside_the_picture_of_a_preview)

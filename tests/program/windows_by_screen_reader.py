@@ -179,6 +179,25 @@ def collages(p, reader):
     p.click('cmdCancel')
 
 
+def recent(p, reader):
+    """The flurn that was just made is opened again by accessible actions alone."""
+    p.window('frmMain')
+    entry(p, 'mnuFile', 'mnuRecent')
+    looked_at(p, reader, 'frmRecent')
+    window = reader.window('Recent Flurns')
+    flurns = [one for one in window.inside() if one.role == 'list item']
+    check(len(flurns) == 1 and 'Quick Block' in flurns[0].name, 'the flurns are %s' % [one.name for one in flurns])
+    check(not {'Help', 'Open file...', 'Remove from list', 'Cancel', 'Open'} -
+          {one.name for one in window.inside() if one.role == 'push button'}, 'a button has no name')
+    before = p.finished()
+    reader.press(window, 'push button', 'Open')
+    reader.gone('Recent Flurns')
+    main = reader.window('Finishing touches')
+    until(lambda: 'sensitive' in reader.find(main, 'push button', 'Flurn').states, 'the flurn to be open')
+    check(p.finished() != before, 'no preview was made')
+    reader.press(main, 'push button', 'Cancel')
+
+
 def own_designs(p, reader):
     p.window('frmMain')
     entry(p, 'mnuDesign', 'mnuSaveDesign')
@@ -207,6 +226,7 @@ def play(p):
     frames(p, reader)
     collages(p, reader)
     own_designs(p, reader)
+    recent(p, reader)
 
 
 if __name__ == '__main__':

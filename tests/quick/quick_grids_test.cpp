@@ -1,3 +1,5 @@
+#include "quick/matrix/matrix_grid.h"
+#include "quick/matrix/matrix_plan.h"
 #include "quick/matrix/quick_matrix.h"
 #include "quick/quick_match.h"
 #include "support/files/text_file.h"
@@ -57,6 +59,56 @@ TEST(cmdMore, is_disabled_where_the_grid_in_front_shows_as_many_photos)
     expect_states(session.main, "cmdMore+");
     find_matrix_line(session.main, 12);
     expect_states(session.main, "cmdMore-");
+}
+
+namespace {
+
+void take_photos(frmMain & main, int portrait, int landscape)
+{
+    main.quick.photos_portrait = narrow(portrait);
+    main.quick.photos_landscape = narrow(landscape);
+    main.quick.photo_shapes.clear();
+    for (int i = 0; i < portrait + landscape; ++i)
+        main.quick.photo_shapes +=
+            i * portrait / (portrait + landscape) != (i + 1) * portrait / (portrait + landscape) ? "p:"
+                                                                                                 : "l:";
+}
+
+}  // namespace
+
+// With the grids that are supplied, for all mixes and posters: what a click would show is reckoned anew.
+TEST(cmdMore, is_enabled_just_where_it_shows_fewer_photos)
+{
+    opened_session session;
+    session.folder.write("install/quick_matrix.ini",
+                         read_file(std::string(SEED_FOLDER) + "/quick_matrix.ini"));
+    frmMain & main = session.main;
+    int offered = 0, refused = 0;
+    for (option_button * poster : {&main.optPortrait, &main.optLandscape, &main.optSquare}) {
+        const updating quiet(main);
+        poster->select();
+        for (int photos = 3; photos < 120; photos += 1 + photos / 30)
+            for (int eighths = 0; eighths <= 8; ++eighths) {
+                const int landscape = photos * eighths / 8;
+                take_photos(main, photos - landscape, landscape);
+                const int wanted = photos + landscape;
+                const auto shown_with = [&](const char * tag) {
+                    main.cmdMore.tag = tag;
+                    return photos_shown({.grid = matrix_grid_of(find_matrix_line(main, wanted)),
+                                         .poster = selected_shape(main),
+                                         .portrait = main.quick.photos_portrait,
+                                         .landscape = main.quick.photos_landscape,
+                                         .shapes = main.quick.photo_shapes});
+                };
+                const bool fewer = shown_with("fewer") < shown_with("");
+                ++(fewer ? offered : refused);
+                ASSERT_EQ(main.cmdMore.enabled(), fewer) << poster->name() << ", " << photos - landscape
+                                                         << " portraits, " << landscape << " landscapes";
+                EXPECT_EQ(main.cmdMore.caption(), "Fewer photos");
+            }
+    }
+    EXPECT_GT(offered, 100);
+    EXPECT_GT(refused, 10);
 }
 
 TEST(note, says_how_many_photos_are_left_out)

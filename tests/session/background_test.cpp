@@ -192,6 +192,19 @@ TEST(background_color, reaches_the_caption_box_and_the_ground_behind_a_photo_at_
     }
 }
 
+TEST(background_color, goes_back_to_the_swatch_with_the_plain_ground_after_a_cancelled_photo)
+{
+    opened_session session;
+    session.finish();
+    session.desk.will_choose_color(0x445566);
+    session.main.cmdBGcolor.click();
+    session.desk.will_choose_file(std::nullopt);
+    session.main.optBGimage.select();
+    expect_states(session.main, "optSolid1 optBGimage0");
+    EXPECT_EQ(session.main.bg_color, 0x445566u);
+    EXPECT_EQ(session.main.picBGcolor.back_color(), 0x445566u);
+}
+
 TEST(background_color, is_chosen_by_button_and_swatch)
 {
     opened_session session;

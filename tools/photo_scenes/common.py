@@ -20,7 +20,7 @@ def clear_stage():
     scene.render.engine = "CYCLES"
     cycles = scene.cycles
     cycles.device = "CPU"
-    cycles.max_bounces, cycles.diffuse_bounces, cycles.glossy_bounces = 6, 2, 3
+    cycles.diffuse_bounces, cycles.glossy_bounces = 2, 3
     cycles.transmission_bounces, cycles.transparent_max_bounces = 6, 12
     cycles.caustics_reflective = cycles.caustics_refractive = False
     cycles.sample_clamp_indirect = 6
@@ -153,8 +153,8 @@ def scatter(prototypes, places, turns=None, sizes=None, kinds=None):
     kept = bpy.data.collections.new("prototypes")
     for number, one in enumerate(prototypes):
         one.name = f"{number:03}_{one.name}"
-        for home in list(one.users_collection):
-            home.objects.unlink(one)
+        if one.name in bpy.context.collection.objects:  # not there: an earlier scatter has it as well
+            bpy.context.collection.objects.unlink(one)
         kept.objects.link(one)
     count = len(places)
     mesh = bpy.data.meshes.new("places")

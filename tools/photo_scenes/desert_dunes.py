@@ -48,4 +48,4 @@ def build():
     ground("dunes", height, sand(), near=25, far=4500, spread=21, rows=1700, columns=1000)
     camera((0, 0, eye), (0, 100, eye - 14), lens=55)
     daylight(7, -70, strength=0.2, dust=0.4, ozone=4.0, low=((3.1, 2.45, 2.0), 0.13))
-    return Roll(samples=48, exposure=0.1, warmth=0.02)
+    return Roll(samples=24, exposure=0.1, warmth=0.02)

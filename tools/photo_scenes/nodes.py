@@ -78,23 +78,28 @@ class Nodes:
         return self.add("ShaderNodeObjectInfo").outputs["Random"]
 
 
-def material(name, lamp="no"):
-    """A new material and its empty tree. Only a lamp is asked for light by all other surfaces: haze glows too, on millions of
-    faces."""
+def material(name):
+    """A new material and its empty tree."""
     made = bpy.data.materials.new(name)
     made.use_nodes = True
-    made.cycles.sample_as_light = lamp == "lamp"
     return made, Nodes(made.node_tree)
 
 
 def surface(nodes, shader, haze=None):
     """Ends a material. Haze, (colour, distance), is the air between: what lies that far off keeps a third of its own light."""
     if haze:
+        no_lamp(nodes)
         colour, reach = haze
         far = nodes.add("ShaderNodeCameraData").outputs["View Distance"]
         left = nodes.math("POWER", 2.718, nodes.math("MULTIPLY", far, -1 / reach))
         shader = nodes.add("ShaderNodeMixShader", left, nodes.add("ShaderNodeEmission", colour, 1.0), shader)
     nodes.add("ShaderNodeOutputMaterial", Surface=shader)
+
+
+def no_lamp(nodes):
+    """Says of a material that glows on very many faces, or faintly, that other surfaces needn't be asked for its light."""
+    owner = next(one for one in bpy.data.materials if one.node_tree == nodes.tree)
+    owner.cycles.sample_as_light = False
 
 
 def plain(name, colour, roughness=0.6, haze=None, **more):

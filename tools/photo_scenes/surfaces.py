@@ -42,6 +42,6 @@ def soil(dark, light, scale=3.0, rough=0.9, bump=0.6, haze=None):
 
 def glowing(colour, strength):
     """A lamp."""
-    made, nodes = material("glowing", "lamp")
+    made, nodes = material("glowing")
     surface(nodes, nodes.add("ShaderNodeEmission", colour, strength))
     return made

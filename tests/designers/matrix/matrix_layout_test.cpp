@@ -184,27 +184,43 @@ TEST(framed_matrix, says_when_the_gap_between_rows_cannot_be_kept)
     EXPECT_EQ(layout.cell_height, 917);
 }
 
+void expect_on_poster(const matrix_choices & choices, run_size size)
+{
+    const poster_area area = whole_poster(choices.poster);
+    for (const framed_cell & cell : framed_cells(choices, matrix_layout_of(choices, size)))
+        for (const rectangle & each : {cell.area, cell.photo})
+            ASSERT_TRUE(each.left >= 0 && each.top >= 0 && each.right() <= area.width &&
+                        each.bottom() <= area.height)
+                << choices.rows << " by " << choices.columns << ": " << each.left << ", " << each.top
+                << " to " << each.right() << ", " << each.bottom();
+}
+
+// All counts that the lists offer, frames that stand and frames that lie, with the gaps at the ends of their
+// lists. Rows and columns that leave no room at all are refused before.
 TEST(framed_matrix, never_leaves_the_poster)
 {
+    constexpr poster_borders all_borders[] = {{100, 100, 100, 100}, {0, 900, 700, 50}};
+    int looked_at = 0;
     for (const poster_shape poster : {poster_shape::portrait, poster_shape::landscape})
-        for (int rows = 1; rows <= 12; ++rows)
-            for (int columns = 1; columns <= 12; ++columns)
-                for (const poster_borders & borders :
-                     {poster_borders{100, 100, 100, 100}, {0, 0, 0, 0}, {100, 900, 700, 50}}) {
-                    const matrix_choices choices{.rows = rows,
-                                                 .columns = columns,
-                                                 .borders = borders,
-                                                 .poster = poster,
-                                                 .frames = worn_frames{.set = "club", .captions = 1}};
-                    const matrix_layout layout = matrix_layout_of(choices, run_size::full);
-                    const poster_area area = whole_poster(poster);
-                    for (const framed_cell & cell : framed_cells(choices, layout)) {
-                        ASSERT_GE(cell.area.left, 0) << rows << " by " << columns;
-                        ASSERT_GE(cell.area.top, 0) << rows << " by " << columns;
-                        ASSERT_LE(cell.area.right(), area.width) << rows << " by " << columns;
-                        ASSERT_LE(cell.area.bottom(), area.height) << rows << " by " << columns;
+        for (const matrix_photos photos : {matrix_photos::portrait, matrix_photos::landscape})
+            for (const poster_borders & borders : all_borders)
+                for (const int gap : {20, 300})
+                    for (int cells = 0; cells < 25 * 25; ++cells) {
+                        const matrix_choices choices{.rows = cells / 25 + 1,
+                                                     .columns = cells % 25 + 1,
+                                                     .borders = borders,
+                                                     .gap_v = gap,
+                                                     .gap_h = gap,
+                                                     .photos = photos,
+                                                     .poster = poster,
+                                                     .frames = worn_frames{.set = "club", .captions = 1}};
+                        if (!matrix_fault(choices).empty())
+                            continue;
+                        ++looked_at;
+                        for (const run_size size : {run_size::full, run_size::preview})
+                            ASSERT_NO_FATAL_FAILURE(expect_on_poster(choices, size));
                     }
-                }
+    EXPECT_GT(looked_at, 4000);
 }
 
 TEST(framed_matrix, scaled_to_fit_its_cells_keep_the_shape_of_the_frames_and_its_message)

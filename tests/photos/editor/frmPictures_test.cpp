@@ -175,17 +175,19 @@ TEST(frmPictures, a_drop_on_an_occupied_cell_its_own_or_outside_changes_nothing)
     EXPECT_EQ(session.grid(4), "0 1 2 . ");
 }
 
-TEST(frmPictures, ctrl_and_an_arrow_move_a_photo_to_an_empty_cell_alone)
+TEST(frmPictures, ctrl_and_an_arrow_move_a_photo_to_an_empty_cell_or_past_the_photo_in_it)
 {
     editor session;
     session.edit(editing::saved_list, 3);
     session.cell(2).press(picture_key::right);
     EXPECT_EQ(session.grid(4), "0 1 . 2 ");
     session.cell(0).press(picture_key::right);
+    EXPECT_EQ(session.grid(4), "1 0 . 2 ");
     session.cell(0).press(picture_key::up);
-    EXPECT_EQ(session.grid(4), "0 1 . 2 ");
+    session.cell(0).press(picture_key::left);
+    EXPECT_EQ(session.grid(4), "1 0 . 2 ");
     session.cell(0).press(picture_key::down);
-    EXPECT_EQ(session.cell(10).tag, session.photo(0));
+    EXPECT_EQ(session.cell(10).tag, session.photo(1));
 }
 
 TEST(frmPictures, remove_empties_a_cell_and_the_last_one_disables_save)

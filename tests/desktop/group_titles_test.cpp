@@ -1,0 +1,152 @@
+#include "desktop/binder/binder.h"
+#include "desktop/binder/windows_made.h"
+#include "desktop/looks/letters.h"
+#include "tests/desktop/stages.h"
+#include "tests/desktop/window_views.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QImage>
+#include <QStyleOptionGroupBox>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+// The title of a group interrupts the line around it: nothing of that line is seen behind the letters.
+
+namespace {
+
+using faults = std::vector<std::string>;
+
+// The line is a cold grey that is brighter than the panel, at a half density less so; what the warm letters
+// of a title mix with their ground is never so cold.
+bool is_of_line(QRgb pixel)
+{
+    return qBlue(pixel) - qRed(pixel) >= 8 && qGreen(pixel) >= 52 && qGreen(pixel) < 90;
+}
+
+int longest_run(const QImage & pixels, int row)
+{
+    int longest = 0, run = 0;
+    for (int x = 0; x < pixels.width(); ++x) {
+        run = is_of_line(pixels.pixel(x, row)) ? run + 1 : 0;
+        longest = std::max(longest, run);
+    }
+    return longest;
+}
+
+int longest_run(const QImage & pixels)
+{
+    int longest = 0;
+    for (int row = 0; row < pixels.height(); ++row)
+        longest = std::max(longest, longest_run(pixels, row));
+    return longest;
+}
+
+// In pixels of the box, the blanks around the letters included.
+QRect title_place(const QGroupBox & box)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(&box);
+    option.text = box.title();
+    option.textAlignment = box.alignment();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    option.features = QStyleOptionFrame::None;
+    option.lineWidth = 1;
+    return box.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, &box);
+}
+
+QImage dense_part(const QImage & whole, const QRect & place)
+{
+    const double density = whole.devicePixelRatio();
+    return whole.copy(QRect(place.topLeft() * density, place.size() * density) & whole.rect());
+}
+
+struct titles_seen {
+    int count = 0;
+    faults struck{}, without_line{};
+};
+
+void look_at_title(const QGroupBox & box, const QImage & whole, titles_seen & seen)
+{
+    const QRect title = title_place(box).translated(box.mapTo(box.window(), QPoint()));
+    const QRect beside(title.right() + 1, title.top(), box.width() - title_place(box).right() - 10,
+                       title.height());
+    const int longest = longest_run(dense_part(whole, title));
+    ++seen.count;
+    if (longest > 2)
+        seen.struck.push_back(box.objectName().toStdString() + ": " + std::to_string(longest));
+    if (beside.width() > 20 && longest_run(dense_part(whole, beside)) < 15)
+        seen.without_line.push_back(box.objectName().toStdString());
+}
+
+titles_seen titles_of(QWidget & window)
+{
+    titles_seen seen;
+    const QImage whole = window.grab().toImage();
+    for (const QGroupBox * box : window.findChildren<QGroupBox *>())
+        if (!box->title().trimmed().isEmpty() && box->isEnabled() && !box->visibleRegion().isEmpty())
+            look_at_title(*box, whole, seen);
+    return seen;
+}
+
+struct group_titles : testing::TestWithParam<int> {
+    group_titles() { set_letters(GetParam()); }
+    ~group_titles() override { set_letters(smallest_letters); }
+};
+
+TEST_P(group_titles, of_all_windows_are_struck_by_no_line)
+{
+    filled_session session;
+    int titles = 0;
+    for (const window_view & view : session.views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        const titles_seen seen = titles_of(shown.window());
+        EXPECT_EQ(seen.struck, faults());
+        EXPECT_EQ(seen.without_line, faults()) << "no line was found where there is one";
+        titles += seen.count;
+    }
+    EXPECT_GT(titles, 5);
+}
+
+TEST_P(group_titles, of_the_main_window_are_struck_by_no_line)
+{
+    scripted_desktop desk;
+    frmMain main(desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {});
+    main.load();
+    window->show();
+    int titles = 0;
+    for (const look stage : all_looks)
+        for (const shape poster : all_shapes) {
+            SCOPED_TRACE(name_of(stage, poster));
+            bring_to(main, stage, poster);
+            QApplication::processEvents();
+            const titles_seen seen = titles_of(*window);
+            EXPECT_EQ(seen.struck, faults());
+            EXPECT_EQ(seen.without_line, faults()) << "no line was found where there is one";
+            titles += seen.count;
+        }
+    EXPECT_GT(titles, 50);
+}
+
+INSTANTIATE_TEST_SUITE_P(letters, group_titles, testing::Values(9 * 4 / 3, 12 * 4 / 3, 16 * 4 / 3),
+                         [](const auto & each) { return std::to_string(each.param) + "_pixels"; });
+
+TEST(group_title, that_a_line_strikes_is_told)
+{
+    QWidget window;
+    QGroupBox box(QStringLiteral("Frame Style"), &window);
+    box.setObjectName(QStringLiteral("struck"));
+    box.setGeometry(10, 10, 300, 100);
+    window.resize(320, 120);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(titles_of(window).struck, faults());
+    box.setStyleSheet(QStringLiteral("QGroupBox::title { background: transparent; }"));
+    EXPECT_EQ(titles_of(window).struck.size(), 1u);
+}
+
+}  // namespace
