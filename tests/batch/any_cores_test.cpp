@@ -281,8 +281,8 @@ step settings_by_chance(dice & chance)
 // Three hundred steps: five to a start.
 std::vector<step> many_steps()
 {
-    const char * const designs[] = {"Mosaic wall",     "Snapshots", "Flower garden", "At the seaside",
-                                    "Large and small", "Waves",     "Space",         "Celebration"};
+    const char * const designs[] = {"Mosaic wall",     "Snapshots", "Sweethearts", "At the seaside",
+                                    "Large and small", "Waves",     "Space",       "Stamp album"};
     dice chance;
     std::vector<step> steps;
     for (int start = 0; start < 60; ++start) {

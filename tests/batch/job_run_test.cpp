@@ -27,13 +27,13 @@ TEST_F(job_run, each_job_gives_what_it_gives_alone)
 {
     const std::string folder = photos();
     list("out\tphotos\tdesign\tquick\tset\tcaption\trandom\n" +
-         line("a.jpg", folder + "\tMosaic wall\t\tchkRandom=1\tSummer\t5") +
+         line("a.jpg", folder + "\tThree of us\t\tchkRandom=1\tSummer\t5") +
          line("b.jpg", folder + "\t\tmatrix\tchkRotate=1\t\t6") +
-         line("c.jpg", folder + "\tMosaic wall\t\tchkRandom=1\tSummer\t5"));
+         line("c.jpg", folder + "\tThree of us\t\tchkRandom=1\tSummer\t5"));
     EXPECT_EQ(told_of_jobs(exit_status::made), "line 2: " + out("a.jpg") + " made\nline 3: " + out("b.jpg") +
                                                    " made\nline 4: " + out("c.jpg") +
                                                    " made\n3 made, 0 there before, 0 not made\n");
-    ASSERT_EQ(run({"--photos", folder, "--design", "Mosaic wall", "--set", "chkRandom=1", "--caption",
+    ASSERT_EQ(run({"--photos", folder, "--design", "Three of us", "--set", "chkRandom=1", "--caption",
                    "Summer", "--random", "5", "--preview", "--out", out("alone.jpg")}),
               exit_status::made);
     EXPECT_TRUE(read_file(out("a.jpg")) == read_file(out("alone.jpg")));
@@ -46,8 +46,8 @@ TEST_F(job_run, each_job_gives_what_it_gives_alone)
 
 TEST_F(job_run, what_is_there_is_done_unless_it_is_wanted_again)
 {
-    list("out\tphotos\tdesign\n" + line("a.jpg", photos() + "\tMosaic wall") +
-         line("b.jpg", photos() + "\tMosaic wall"));
+    list("out\tphotos\tdesign\n" + line("a.jpg", photos() + "\tThree of us") +
+         line("b.jpg", photos() + "\tThree of us"));
     write_file(out("a.jpg"), "made before");
     EXPECT_EQ(told_of_jobs(exit_status::made), "line 2: " + out("a.jpg") +
                                                    " is there\nline 3: " + out("b.jpg") +

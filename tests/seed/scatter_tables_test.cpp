@@ -18,6 +18,7 @@ using namespace plain;
 namespace {
 
 constexpr int most_of_a_kind = 64;
+constexpr int well_looked_at = 24;  // photos: in larger heaps the search is shorter
 
 /// The greatest count along the poster for a count across, and the other way round.
 int most_along(int cross)
@@ -256,23 +257,38 @@ TEST(scatter_tables, cover_the_poster_and_its_corners)
     }
 }
 
-TEST(scatter_tables, hide_no_photo_by_more_than_half)
+TEST(scatter_tables, hide_no_photo_by_more_than_two_fifths)
 {
     for (const scatter & one : all_scatters()) {
         const look found = looked_at(one);
         for (std::size_t i = 0; i < one.cells.size(); ++i)
-            EXPECT_GE(found.shown[i], found.inside[i] * 0.5) << one.name << " " << i + 1;
+            EXPECT_GE(found.shown[i], found.inside[i] * (one.total <= well_looked_at ? 0.6 : 0.5))
+                << one.name << " " << i + 1;
     }
 }
 
-TEST(scatter_tables, keep_half_of_each_middle_in_sight_at_least)
+TEST(scatter_tables, keep_the_middle_of_each_photo_in_sight)
 {
     for (const scatter & one : all_scatters()) {
         const look found = looked_at(one);
         for (std::size_t i = 0; i < one.cells.size(); ++i)
-            EXPECT_GE(found.middle_shown[i], found.middle[i] * (one.total == 3 ? 0.4 : 0.5))
+            EXPECT_GE(found.middle_shown[i], found.middle[i] * (one.total <= well_looked_at ? 0.85 : 0.5))
                 << one.name << " " << i + 1;
     }
+}
+
+TEST(scatter_tables, hide_no_photo_by_much_when_all_of_a_kind_are_turned)
+{
+    for (const scatter & one : all_scatters())
+        for (const bool tall : {false, true})
+            if (one.total <= well_looked_at) {
+                scatter all_turned = one;
+                for (cell & each : all_turned.cells)
+                    each = each.tall() == tall ? turned(each) : each;
+                const look found = looked_at(all_turned);
+                for (std::size_t i = 0; i < one.cells.size(); ++i)
+                    EXPECT_GE(found.shown[i], found.inside[i] * 0.4) << one.name << " " << i + 1;
+            }
 }
 
 TEST(scatter_tables, a_photo_stays_as_large_as_it_was_and_near_its_place_when_it_is_turned)

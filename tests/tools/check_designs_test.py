@@ -33,6 +33,7 @@ System=Yes
 Count=3
 Sample=plain.jpg
 Description=plain
+Match=No
 Caption Clear=Yes
 Turn BG=Yes
 
@@ -199,13 +200,25 @@ class CheckDesigns(unittest.TestCase):
 
     def test_a_photo_whose_middle_is_hidden(self):
         self.change("design_list", "100:800:900:600", "400:100:300:600")
-        self.assertEqual([problem for problem in self.problems() if problem.startswith("Plain: portrait")],
+        self.assertEqual([problem for problem in self.problems() if problem.startswith("Plain: portrait: the")],
                          ["Plain: portrait: the middle of location 1 is hidden by 100%"])
 
     def test_a_strip(self):
-        self.change("design_list", "1100:100:600:900", "1100:100:450:900")
+        self.change("design_list", "1100:100:600:900", "1100:100:581:900")
         self.assertEqual(self.problems(), [])
-        self.assert_one("design_list", "1100:100:450:900", "1100:100:449:900", "portrait: location 3 is a strip of 900 by 449")
+        self.change("design_list", "1100:100:581:900", "1100:100:449:900")
+        self.assert_found("portrait: location 3 is a strip of 900 by 449")
+
+    def test_a_place_for_any_photo_that_bears_one_kind_alone(self):
+        self.assert_one("design_list", "1100:100:600:900", "1100:100:580:900", "portrait: location 3 takes any photo, but is a strip of 900 by 580")
+
+    def test_a_panorama_may_be_longer(self):
+        self.change("designs.ini", "File=plain", "File=panorama")
+        for name in ("design_list", "description_list"):
+            self.change(name, "[plain]", "[panorama]")
+        self.change("designs.ini", "Description=plain", "Description=panorama")
+        self.change("design_list", "1100:100:600:900", "1100:100:300:900")
+        self.assertEqual(self.problems(), [])
 
     def test_missing_pictures(self):
         for name in PICTURES:
@@ -261,9 +274,14 @@ class CheckDesigns(unittest.TestCase):
         self.change("designs.ini", "BG Image=sky.jpg\nMatch=No", "BG Image=sky.jpg\nMatch=Yes")
         self.assert_found(r"Tilted: landscape: \d+ of 20 mixes of photos show one twice while another stays out")
 
+    def test_a_design_of_both_kinds_that_asks_to_match(self):
+        # With as many photos as places it shows all of them only if their mix happens to be its own.
+        self.change("designs.ini", "Match=No\nCaption Clear=Yes\nTurn BG=Yes", "Match=Yes\nCaption Clear=Yes\nTurn BG=Yes")
+        self.assert_found(r"Plain: portrait: \d+ of 20 mixes of photos show one twice while another stays out")
+
     def test_a_grid_that_parts_its_cells_takes_every_mix(self):
         self.change("designs.ini", "Style=Fill", "Style=Matrix")
-        self.change("designs.ini", "Match=No\nCaption Clear", "Match=Yes\nCaption Clear")
+        self.change("designs.ini", "Match=No\nCaption Clear=Yes\nTurn BG=No", "Match=Yes\nCaption Clear=Yes\nTurn BG=No")
         self.assert_found("Rows: portrait: .* mixes")
         self.change("design_list", "100:100:4:3:0:", "100:100:4:3:1:")
         self.assertEqual(self.problems(), [])
@@ -275,6 +293,10 @@ class CheckDesigns(unittest.TestCase):
 
     def test_a_page_of_an_occasion_keeps_the_place_without_clearing_it(self):
         self.change("designs.ini", "Design=Block\nBackground=Portrait\nSystem=Yes\nCount=3", "Design=Theme\nBackground=Portrait\nSystem=Yes\nCount=3")
+        self.assert_found("Plain: portrait: photos take .* at the top")
+
+    def test_a_block_with_a_ground_of_its_own_keeps_the_place_as_well(self):
+        self.change("designs.ini", "Caption Clear=Yes\nTurn BG=Yes", "Caption Clear=Yes\nBG Image=sky.jpg\nTurn BG=Yes")
         self.assert_found("Plain: portrait: photos take .* at the top")
 
     def test_photos_that_stay_in_the_place_of_a_cleared_caption(self):

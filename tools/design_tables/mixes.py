@@ -5,7 +5,8 @@ from dataclasses import dataclass
 
 from design_tables.views import size_of
 
-TIMES, UPRIGHT = (2, 2.5, 3, 4), (0.34, 0.42, 0.5, 0.58, 0.66)
+TIMES, UPRIGHT = (1, 1.25, 1.5, 2), (0.34, 0.42, 0.5, 0.58, 0.66)
+FRAMES_TIMES = (2, 2.5, 3, 4)  # frames are drawn for a kind: with fewer photos one kind may run out
 COUNT = len(TIMES) * len(UPRIGHT)
 PORTRAIT, LANDSCAPE = "P", "L"
 
@@ -21,13 +22,12 @@ def orientations(places):
     return [PORTRAIT if size_of(place)[0] > size_of(place)[1] else LANDSCAPE for place in places if place.photo()]
 
 
-def mixes(places):
-    """Twenty folders for that many places: two to four times as many photos, a third to two thirds of them upright. With less
-    than twice as many, one kind may run out: the engine then begins with it anew."""
+def mixes(places, times=TIMES):
+    """Twenty folders for that many places: so many times as many photos, a third to two thirds of them upright."""
     chance = random.Random(places)
-    for times in TIMES:
+    for most in times:
         for share in UPRIGHT:
-            count = math.ceil(places * times)
+            count = math.ceil(places * most)
             tall = round(count * share)
             folder = [PORTRAIT] * tall + [LANDSCAPE] * (count - tall)
             chance.shuffle(folder)
@@ -53,6 +53,6 @@ def played(wanted, folder, matches):
     return Shown(shown, len(shown) - len(set(shown)), len(folder) - len(set(shown)))
 
 
-def spoiled(wanted, matches):
+def spoiled(wanted, matches, times=TIMES):
     """How many of the mixes show a photo twice while another stays out."""
-    return sum(1 for folder in mixes(len(wanted)) if (shown := played(wanted, folder, matches)).twice and shown.out)
+    return sum(1 for folder in mixes(len(wanted), times) if (shown := played(wanted, folder, matches)).twice and shown.out)

@@ -9,108 +9,19 @@ import random
 from dataclasses import dataclass, replace
 
 from quick_tables.limits import scatter_totals
-from starter_designs.place import centred
+from quick_tables.prints import HANG, WIDTH, Photo, Raster, overhang
 
-WIDTH = 2000
-HANG = 130          # how far a corner may leave the poster
-HANG_TURNED = 140   # the same, beyond the former, for a large photo that has been turned
-ROOM = 85           # how far a turned photo may reach before the program takes a broader border
+HANG_TURNED = 140     # how far a large photo that has been turned may leave the poster, beyond HANG
 MOST_PRODUCT = 32767  # of a side and the tilt
-HEAPS = (1.36, 1.28, 1.44, 1.22)  # areas of all photos to that of the poster: those that are tried in turn
-FEW = 4               # photos up to which bare corners are worse than hidden middles
-FEW_HEAPS = (1.5, 1.42, 1.58, 1.34)  # the same for so few
-MIDDLE_COUNTS = 5     # how much a hidden middle weighs
-TURNED_COUNTS = 0.3   # the same for what is hidden when photos are turned
-MOST_TURNED = 24      # photos up to which the search looks at what turned photos leave bare; with more it hardly shows
-
-# How far a turned photo reaches from its corner, in its longer side, by tilt from -35 in steps of 5 without 0: the
-# program's own figures, by which it decides on the border.
-REACH = {
-    "wide": {"top": [-0.58, -0.50, -0.42, -0.34, -0.26, -0.18, -0.90] + [0.0] * 7,
-             "bottom": [0.54, 0.57, 0.60, 0.62, 0.64, 0.65, 0.67, 0.76, 0.83, 0.90, 0.96, 1.02, 1.07, 1.12],
-             "left": [0.0] * 7 + [-0.08, -0.13, -0.17, -0.23, -0.29, -0.34, -0.38],
-             "right": [1.21, 1.20, 1.19, 1.16, 1.13, 1.09, 1.05, 0.99, 0.98, 0.97, 0.94, 0.90, 0.86, 0.82]},
-    "tall": {"top": [-0.39, -0.34, -0.28, -0.23, -0.18, -0.13, -0.07] + [0.0] * 7,
-             "bottom": [0.81, 0.86, 0.91, 0.93, 0.96, 0.97, 0.98, 1.06, 1.10, 1.13, 1.16, 1.18, 1.19, 1.20],
-             "left": [0.0] * 7 + [-0.09, -0.18, -0.26, -0.34, -0.42, -0.50, -0.57],
-             "right": [1.12, 1.08, 1.03, 0.97, 0.90, 0.83, 0.76, 0.67, 0.66, 0.64, 0.62, 0.60, 0.57, 0.54]},
-}
-
-
-@dataclass(frozen=True)
-class Photo:
-    """A photo by its middle."""
-    x: float
-    y: float
-    width: int
-    height: int
-    tilt: int
-
-    def place(self):
-        return centred(self.x, self.y, self.width, self.height, self.tilt)
-
-    def middle(self):
-        """Its middle third, where faces are."""
-        return replace(self, width=self.width / 3, height=self.height / 3)
-
-    def corners(self):
-        """The four corners as (x, y), clockwise."""
-        angle = math.radians(self.tilt)
-        c, s = math.cos(angle) / 2, math.sin(angle) / 2
-        x1, y1 = self.width * c - self.height * s, self.width * s + self.height * c
-        x2, y2 = self.width * c + self.height * s, self.width * s - self.height * c
-        return [(self.x - x1, self.y - y1), (self.x + x2, self.y + y2), (self.x + x1, self.y + y1),
-                (self.x - x2, self.y - y2)]
-
-    def turned(self):
-        """The photo turned from tall to wide or back, as the program does it."""
-        place, quarter = self.place(), min(self.width, self.height) / 4
-        if self.width > self.height:
-            quarter = -self.width / 4
-        return replace(place, top=round(place.top + quarter), left=round(place.left - quarter),
-                       height=place.width, width=place.height)
-
-    def lack_of_room(self, height):
-        """How far the photo, turned, would reach beyond what the narrowest border allows."""
-        place, long_side = self.turned(), max(self.width, self.height)
-        reach = REACH["wide" if self.height > self.width else "tall"]
-        index = round((self.tilt + 35) / 5)
-        index -= index > 6
-        low = min(place.top + long_side * reach["top"][index], place.left + long_side * reach["left"][index])
-        high = max(place.top + long_side * reach["bottom"][index] - height,
-                   place.left + long_side * reach["right"][index] - WIDTH)
-        return max(0, -low - ROOM, high - ROOM)
-
-
-class Raster:
-    """The poster as points, one bit each."""
-
-    def __init__(self, height, step):
-        self.columns, self.rows = round(WIDTH / step), round(height / step)
-        self.step_x, self.step_y = WIDTH / self.columns, height / self.rows
-        self.all = (1 << self.columns * self.rows) - 1
-        size = max(2, self.columns // 8)
-        self.each_corner = [sum(((1 << size) - 1) << (row * self.columns + left) for row in range(top, top + size))
-                            for top in (0, self.rows - size) for left in (0, self.columns - size)]
-        self.corners = sum(self.each_corner)
-
-    def span(self, corners):
-        """The points inside a convex outline."""
-        points, found = list(corners), 0
-        ys = [y for _, y in points]
-        first = max(0, math.ceil(min(ys) / self.step_y - 0.5))
-        last = min(self.rows - 1, math.floor(max(ys) / self.step_y - 0.5))
-        edges = list(zip(points, points[1:] + points[:1]))
-        for row in range(first, last + 1):
-            y = (row + 0.5) * self.step_y
-            xs = [x1 + (x2 - x1) * (y - y1) / (y2 - y1) for (x1, y1), (x2, y2) in edges if (y1 > y) != (y2 > y)]
-            if len(xs) < 2:
-                continue
-            left = max(0, math.ceil(min(xs) / self.step_x - 0.5))
-            right = min(self.columns - 1, math.floor(max(xs) / self.step_x - 0.5))
-            if right >= left:
-                found |= ((1 << (right - left + 1)) - 1) << (row * self.columns + left)
-        return found
+HEAPS = (1.3, 1.24, 1.36, 1.2)  # areas of all photos to that of the poster: those that are tried in turn
+FEW = 4               # photos up to which a poster is hardly covered without bare corners
+FEW_HEAPS = (1.36, 1.28, 1.44, 1.22)  # the same for so few
+SIZED = 8             # photos up to which some are larger than others, since equal ones can't share a poster well
+LOOSE = 5             # photos up to which a lattice is no good beginning
+MIDDLE_COUNTS = 10    # how much a hidden middle weighs; half of it in a photo's neighbour that has been turned
+HIDDEN, HIDDEN_TURNED = 0.35, 0.45  # of a photo: what is hidden beyond it counts
+TURNED_COUNTS = 0.7   # how much what is hidden by turns weighs
+CLOSELY = 20          # pixels from point to point when the outcome is judged
 
 
 def layers(spans):
@@ -123,20 +34,15 @@ def layers(spans):
     return one, two, three
 
 
-def overhang(corners, height):
-    xs, ys = [x for x, _ in corners], [y for _, y in corners]
-    return max(0, max(-min(xs), -min(ys), max(xs) - WIDTH, max(ys) - height) - HANG)
-
-
-def hiding(order, spans, middles, middle_counts):
+def hiding(order, spans, middles, middle_counts=MIDDLE_COUNTS, allowed=HIDDEN):
     """What is covered, and how bad it is that photos are hidden when they are drawn in this order."""
     above = hidden = 0
     for index in reversed(order):
         span, middle = spans[index], middles[index]
         points = span.bit_count()
-        lacking = 0.66 - (span & ~above).bit_count() / max(1, points)
+        lacking = 1 - allowed - (span & ~above).bit_count() / max(1, points)
         if lacking > 0:
-            hidden += points * (12 * lacking) ** 2
+            hidden += points * (20 * lacking) ** 2
         hidden += points * (middle_counts * (middle & above).bit_count() / max(1, middle.bit_count())) ** 2
         above |= span
     return above, hidden
@@ -145,28 +51,34 @@ def hiding(order, spans, middles, middle_counts):
 class Throw:
     def __init__(self, total, height, heap, chance):
         self.total, self.height, self.chance = total, height, chance
-        self.middle_counts, self.turned_counts = (1, 0) if total <= FEW else (MIDDLE_COUNTS, TURNED_COUNTS)
+        self.worth_of_bare = 12 if total <= SIZED else 6
         area, self.worth_of_corner = WIDTH * height, 28 if total <= 16 else 14
         longest = WIDTH * (0.78 if total > 4 else 0.96 if height > WIDTH else 0.86)
         self.long_side = max(12, math.floor(min(math.sqrt(1.5 * heap * area / total), longest) / 12) * 12)
         self.short_side = self.long_side * 2 // 3
-        self.raster = Raster(height, max(28, self.long_side / (16 if total <= 12 else 11)))
+        self.raster = Raster(height, 50 if total <= SIZED else max(28, min(45, self.long_side / 11)))
         self.photos = self.start()
-        self.spans = [self.span(photo) for photo in self.photos]
         self.strains = [self.strain(photo) for photo in self.photos]
+        self.see()
+
+    def see(self):
+        """All photos as points of the raster."""
+        self.spans = [self.span(photo) for photo in self.photos]
         self.turned_spans = [self.turned_span(photo) for photo in self.photos]
         self.middles = [self.raster.span(photo.middle().corners()) for photo in self.photos]
+
+    def look_closely(self):
+        self.raster = Raster(self.height, CLOSELY)
+        self.see()
 
     def span(self, photo):
         return self.raster.span(photo.corners())
 
     def turned_span(self, photo):
-        return self.raster.span(photo.turned().corners()) if self.total <= MOST_TURNED else 0
+        return self.raster.span(photo.turned().corners())
 
     def tilts(self):
-        steepest = min(35, MOST_PRODUCT // self.long_side // 5 * 5)
-        if self.total < 9:
-            steepest = min(steepest, 15)
+        steepest = min(35, MOST_PRODUCT // self.long_side // 5 * 5) if self.total > SIZED else 10
         return [tilt for tilt in range(-steepest, steepest + 1, 5) if tilt]
 
     def start(self):
@@ -179,10 +91,12 @@ class Throw:
         tilts = self.tilts()
         dealt = [tilts[index % len(tilts)] for index in range(self.total)]
         self.chance.shuffle(dealt)
-        photos = []
+        photos, loose = [], self.total <= LOOSE and self.chance.random() < 0.7
         for row, count in enumerate(counts):
             for column in range(count):
                 x, y = (column + 0.5) / count * WIDTH, (row + 0.5) / rows * self.height
+                if loose:
+                    x, y = self.chance.uniform(0.2, 0.8) * WIDTH, self.chance.uniform(0.2, 0.8) * self.height
                 wide = len(photos) % 2 == 0 if count % 2 else (len(photos) + row) % 2 == 0
                 size = (self.long_side, self.short_side) if wide else (self.short_side, self.long_side)
                 photos.append(Photo(x, y, *size, dealt[len(photos)]))
@@ -288,23 +202,21 @@ class Throw:
             yield self.raster.all & ~covered
 
     def cost_of_turns(self, order):
-        if self.total > MOST_TURNED:
-            return 0
         costs = []
         for turned in self.turnings(order):
             covered, hidden = hiding(order, [self.turned_spans[index] if index in turned else span
                                              for index, span in enumerate(self.spans)], self.middles,
-                                     self.middle_counts)
+                                     MIDDLE_COUNTS / 2, HIDDEN_TURNED)
             bare = self.raster.all & ~covered
-            costs.append(6 * bare.bit_count() + self.worth_of_corner / 2 * (bare & self.raster.corners).bit_count()
-                         + self.turned_counts * hidden)
+            costs.append(self.worth_of_bare * bare.bit_count() + self.worth_of_corner / 2 * (bare & self.raster.corners).bit_count()
+                         + TURNED_COUNTS * hidden)
         return sum(costs) / len(costs) + max(costs)
 
     def badness(self, order):
         """What is wrong with the whole throw, drawn in this order: bare points, hidden photos."""
-        above, hidden = hiding(order, self.spans, self.middles, self.middle_counts)
+        above, hidden = hiding(order, self.spans, self.middles)
         bare = self.raster.all & ~above
-        return 6 * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() + hidden + \
+        return self.worth_of_bare * bare.bit_count() + self.worth_of_corner * (bare & self.raster.corners).bit_count() + hidden + \
             self.cost_of_turns(order)
 
     def settle(self, order, rounds):
@@ -317,6 +229,8 @@ class Throw:
             new = replace(old, x=old.x + self.chance.uniform(-reach, reach), y=old.y + self.chance.uniform(-reach, reach))
             if self.chance.random() < 0.2:
                 new = replace(new, tilt=self.chance.choice(tilts))
+            if self.total <= SIZED and self.chance.random() < 0.3:
+                new = self.resized(new)
             if self.leaves(new, old):
                 continue
             old_turned, old_middle = self.turned_spans[index], self.middles[index]
@@ -329,6 +243,12 @@ class Throw:
                 self.photos[index], self.spans[index], self.turned_spans[index] = old, old_span, old_turned
                 self.middles[index] = old_middle
 
+    def resized(self, photo):
+        long_side = max(photo.width, photo.height) + 12 * self.chance.randint(-8, 8)
+        long_side = max(0.72 * self.long_side // 12 * 12, min(1.25 * self.long_side // 12 * 12, 1980, long_side))
+        size = (round(long_side), round(long_side) * 2 // 3)
+        return replace(photo, width=size[photo.width < photo.height], height=size[photo.width > photo.height])
+
     def strain(self, photo):
         pixels = 0.25 * photo.lack_of_room(self.height)
         if self.total <= 24:
@@ -340,10 +260,19 @@ class Throw:
         hang = overhang(new.corners(), self.height)
         return hang > 0 and hang >= overhang(old.corners(), self.height)
 
+    def most_hidden_when_turned(self, order):
+        worst = worst_middle = 0
+        for turned in self.turnings(order):
+            above = 0
+            for index in reversed(order):
+                span = self.turned_spans[index] if index in turned else self.spans[index]
+                worst = max(worst, (span & above).bit_count() / max(1, span.bit_count()))
+                worst_middle = max(worst_middle, (self.middles[index] & above).bit_count() / max(1, self.middles[index].bit_count()))
+                above |= span
+        return worst, worst_middle
+
     def most_bare_when_turned(self, order):
         """The greatest share of the poster that turns leave bare."""
-        if self.total > MOST_TURNED:
-            return 0
         return max(bare.bit_count() for bare in self.bare_when_turned(order)) / self.raster.all.bit_count()
 
     def bare_share(self):
@@ -364,13 +293,16 @@ class Scatter:
     bare_turned: float
     middle_hidden: float
     beyond_turned: float
+    turned_hidden: float
+    turned_middle_hidden: float
 
     def tall(self):
         return sum(place.height > place.width for place in self.places)
 
     def flaws(self):
-        return 10 * max(0, 0.61 - self.least_shown) + 2 * max(0, self.middle_hidden - 0.05) + 3 * self.bare + 25 * max(0, self.bare - 0.035) + \
-            2.5 * self.bare_corner ** 2 + 8 * max(0, self.bare_turned - 0.06) + self.breaches()
+        return 20 * max(0, 0.615 - self.least_shown) + 5 * max(0, self.middle_hidden - 0.06) + 2 * self.bare + 25 * max(0, self.bare - 0.045) + \
+            2 * self.bare_corner ** 2 + 6 * max(0, self.bare_turned - 0.09) + 2 * max(0, self.turned_hidden - 0.5) + \
+            max(0, self.turned_middle_hidden - 0.25) + self.breaches()
 
     def breaches(self):
         """What a poster must not have: a bare corner, a hidden middle, a photo that is off it when it is turned."""
@@ -390,16 +322,19 @@ class Scatter:
 def thrown(total, height, name):
     """The best of some throws; the first that is good enough ends the search."""
     found = []
-    for attempt in range(60 if total <= 7 else 24 if total <= 16 else 16 if total <= 24 else 4):
+    for attempt in range(30 if total <= SIZED else 14 if total <= 24 else 2):
         chance = random.Random(f"{name} {attempt}")
         throw = Throw(total, height, (FEW_HEAPS if total <= FEW else HEAPS)[attempt % 4], chance)
         throw.improve(100 + 5 * total)
         for _ in range(3 if total <= 24 else 2):
-            throw.settle(throw.in_order()[0], 900 + 30 * total if total <= 24 else 200 + (14 if total <= 40 else 9) * total)
-        order, share = throw.in_order()
+            throw.settle(throw.in_order()[0], 1800 if total <= 5 else 900 + 30 * total if total <= 24 else 600 + 10 * total)
+        order = throw.in_order()[0]
+        throw.look_closely()
+        share = min(throw.shown(order).values())
         found.append(Scatter(name, height, [throw.photos[index].place() for index in order], share, *throw.bare_share(),
-                             throw.most_bare_when_turned(order), throw.most_middle_hidden(order), throw.furthest_turned()))
-        if found[-1].flaws() < (0.08 if total <= 24 else 0.11):
+                             throw.most_bare_when_turned(order), throw.most_middle_hidden(order), throw.furthest_turned(),
+                             *throw.most_hidden_when_turned(order)))
+        if found[-1].flaws() < (0.1 if total <= 24 else 0.14):
             break
     return min(found, key=Scatter.flaws)
 

@@ -2,7 +2,7 @@
 import math
 import random
 
-from starter_art.botany import bough, garland_of_leaves, petals, rose_corner
+from starter_art.botany import garland_of_leaves
 from starter_art.occasions import GOLD, HEART
 from starter_art.pages import placed
 from starter_art.scenery import bokeh, disk, light, ranges, rule, sky, stars, water, wood
@@ -19,12 +19,6 @@ def anniversary(size):
     return drawing(*size, parts)
 
 
-def mothers_day(size):
-    wide, high = size
-    parts = sky(size, (0, "#4a2c3a"), (1, "#331d28")) + light(size, 0.5, 0.5, 1.0, "#b58a98", 0.4)
-    return drawing(*size, parts + [rose_corner(wide, 0, -1, 1, 0.62), rose_corner(0, high, 1, -1, 0.62)])
-
-
 def fathers_day(size):
     """A herringbone cloth of two blues."""
     wide, high = size
@@ -32,15 +26,6 @@ def fathers_day(size):
     shape = "".join(f"M{x},{y}l50,50M{x + 100},{y}l-50,50" for x in range(-50, wide + 50, 100) for y in range(-50, high + 50, 16))
     parts.append(path(shape, fill="none", stroke="#6d8299", stroke_width="4", stroke_opacity="0.2"))
     return drawing(*size, parts + light(size, 0.5, 0.45, 1.0, "#7f97b0", 0.22) + rule(size, 56, "#b58a5a", "0.8", False))
-
-
-def easter(size):
-    chance = random.Random(324)
-    wide, high = size
-    parts = sky(size, (0, "#2c4a3c"), (0.6, "#567a5c"), (1, "#2b4430")) + light(size, 0.5, 0.5, 0.8, "#d3d9a0", 0.3)
-    for x, y, turn, scale in ((-30, 0.3 * high, 70, 0.62), (wide + 30, 0.36 * high, -64, 0.7), (-20, high - 140, 48, 0.75), (wide + 20, high - 120, -50, 0.72)):
-        parts.append(placed(bough(chance, ["#fbf4e4", "#f7e7a6", "#fdfaf0"], "#40352a"), x, y, scale, turn))
-    return drawing(*size, parts + petals(chance, size, ["#fbf4e4", "#f7e7a6"], 36))
 
 
 def new_year(size):
@@ -64,17 +49,6 @@ def rocket(chance, x, y, reach, tone):
                        stroke_opacity=f"{chance.uniform(0.25, 0.6):.2f}", stroke_linecap="round"),
                   circle(*tip, chance.uniform(3, 6), fill="#fff6df", fill_opacity="0.85")]
     return found
-
-
-def milestone(size):
-    chance = random.Random(326)
-    wide, high = size
-    parts = sky(size, (0, "#16352f"), (1, "#0f2622")) + light(size, 0.5, 0.5, 1.0, "#5f9484", 0.35) + rule(size, 56, GOLD)
-    for _ in range(170):
-        side, reach = chance.choice((0, 1)), chance.random() ** 2 * 0.1 * wide
-        x, y = (reach if side == 0 else wide - reach), chance.uniform(0, high)
-        parts.append(circle(x, y, chance.uniform(3, 13), fill=chance.choice([GOLD, "#f0dcae", "#b08c4e"]), fill_opacity=f"{chance.uniform(0.3, 0.85):.2f}"))
-    return drawing(*size, parts)
 
 
 def memorial(size):
@@ -135,12 +109,6 @@ def open_sea(size):
     parts += stars(chance, size, 90, 0.3) + light(size, 0.78, 0.24, 0.4, "#f6ecd0", 0.45) + disk(size, 0.78, 0.24, 62, "#fbf3dc")
     parts += water(chance, size, 0.43, "#9fb8c4", "#f6ecd0", 260, 0.78)
     return drawing(*size, parts)
-
-
-def evening_sky(size):
-    """Nothing but the sky, and the first stars."""
-    parts = sky(size, (0, "#24304f"), (0.5, "#565d84"), (0.8, "#94788c"), (1, "#4f4a68")) + light(size, 0.5, 0.75, 0.8, "#e0b0a0", 0.3)
-    return drawing(*size, parts + stars(random.Random(65), size, 150, 0.55))
 
 
 def heart_paper(size):

@@ -2,10 +2,10 @@
 import math
 import random
 
-from starter_art.botany import bough, garland_of_leaves, petals, rose_corner, twig_of_leaves
+from starter_art.botany import garland_of_leaves, twig_of_leaves
 from starter_art.pages import AUTUMN, leaf, leaf_outlines, placed
-from starter_art.scenery import (bokeh, contours, curve, disk, light, mixed, range_of, ranges, rule, sky, stars, water, wood)
-from starter_art.svg import circle, closed, drawing, ellipse, path, rectangle
+from starter_art.scenery import bokeh, curve, disk, light, mixed, ranges, rule, sky, stars, water, wood
+from starter_art.svg import circle, drawing, ellipse, path, rectangle
 
 HEART = "M0,100 C-40,62 -96,28 -96,-28 C-96,-66 -68,-88 -40,-88 C-20,-88 -6,-76 0,-60 C6,-76 20,-88 40,-88 C68,-88 96,-66 96,-28 C96,28 40,62 0,100Z"
 GOLD = "#d9b877"
@@ -30,29 +30,6 @@ def birthday(size):
     return drawing(*size, parts + confetti(chance, size, ["#f3c46b", "#ef8f6a", "#f2e6cf", "#8fd0c4"], 190))
 
 
-def wedding(size):
-    wide, high = size
-    parts = sky(size, (0, "#2c3a35"), (1, "#1f2a27")) + light(size, 0.5, 0.5, 1.0, "#6d8478", 0.45)
-    parts += rule(size, 56, GOLD) + [rose_corner(0, 0, 1, 1, 0.62), rose_corner(wide, high, -1, -1, 0.62)]
-    return drawing(*size, parts)
-
-
-def baby(size):
-    chance = random.Random(303)
-    wide, high = size
-    parts = sky(size, (0, "#2f4562"), (0.6, "#5b7291"), (0.86, "#7b8199"), (1, "#41506a")) + stars(chance, size, 130, 0.75, "#fdf3d8")
-    parts += light(size, 0.86, 0.2, 0.3, "#fdf0c8", 0.5) + [placed([path("M14,-104 A108,108 0 1 0 92,60 A92,92 0 0 1 14,-104Z")],
-                                                                   0.87 * wide, 0.2 * high, 0.9, fill="#fbeecb")]
-    for layer, tone in enumerate(("#586a88", "#445779", "#304261")):
-        x = -100
-        while x < wide + 200:
-            reach = chance.uniform(110, 210)
-            parts.append(circle(x, high - 190 + 90 * layer + chance.uniform(-20, 30), reach, fill=tone))
-            x += reach * 0.85
-        parts.append(rectangle(0, high - 170 + 90 * layer, wide, 400, fill=tone))
-    return drawing(*size, parts)
-
-
 def graduation(size):
     wide, high = size
     parts = sky(size, (0, "#1b2340"), (1, "#11172c")) + light(size, 0.5, 0.45, 1.0, "#52638f", 0.5) + rule(size, 56, GOLD)
@@ -60,36 +37,6 @@ def graduation(size):
         x = 60 if side == 1 else wide - 60
         parts += [placed(garland_of_leaves(random.Random(5), 7, "#b99a5d"), x + side * 40, high - 80, 0.62, side * 14, opacity="0.8"),
                   placed(garland_of_leaves(random.Random(6), 7, "#8f7746"), x + side * 110, high - 60, 0.5, side * 38, opacity="0.7")]
-    return drawing(*size, parts)
-
-
-def spring(size):
-    chance = random.Random(305)
-    wide, high = size
-    parts = sky(size, (0, "#24454a"), (0.6, "#4d746d"), (1, "#26423b")) + light(size, 0.5, 0.5, 0.8, "#a7c4b0", 0.4)
-    for x, y, turn, scale in ((-40, 0.215 * high, 62, 0.9), (-30, high * 0.62, 50, 0.8), (wide + 40, high * 0.3, -58, 0.95), (wide + 30, high - 260, -72, 0.9)):
-        parts.append(placed(bough(chance, ["#f6cdd6", "#f0b3c2", "#fbe3e6"], "#3a2a26"), x, y, scale, turn))
-    return drawing(*size, parts + petals(chance, size, ["#f6cdd6", "#f0b3c2"], 60))
-
-
-def summer(size):
-    chance = random.Random(306)
-    parts = sky(size, (0, "#1f3456"), (0.13, "#3d5079"), (0.24, "#66759b"), (0.42, "#d39a86"), (0.5, "#f0c48c"), (0.5001, "#7a7f92"), (0.72, "#2c4862"), (0.87, "#1a3450"), (1, "#10253a"))
-    parts += light(size, 0.5, 0.5, 0.75, "#ffdf9e", 0.75) + disk(size, 0.5, 0.47, 90, "#fff0c2")
-    parts += water(chance, size, 0.5, "#8fa5b8", "#e0b880", 220)
-    return drawing(*size, parts)
-
-
-def winter(size):
-    chance = random.Random(307)
-    wide, high = size
-    parts = sky(size, (0, "#16233c"), (0.6, "#3f587c"), (0.85, "#7f95ae"), (1, "#7f95ae")) + stars(chance, size, 110, 0.6)
-    parts += ranges(chance, size, 0.66, 0.8, "#6f87a5", "#3b5273", 3, 0.06)
-    parts += wood(chance, size, 0.93, 0.17 * high, "#22364f", 30) + wood(chance, size, 1.0, 0.2 * high, "#132338", 17, (0.2, 0.8))
-    parts += [range_of(chance, size, 0.945, 0.012, "#2a3f5a", 17, 0.4)[0]]
-    for _ in range(300):
-        parts.append(circle(chance.uniform(0, wide), chance.uniform(0, high), chance.uniform(2, 7), fill="#ffffff",
-                            fill_opacity=f"{chance.uniform(0.15, 0.55):.2f}"))
     return drawing(*size, parts)
 
 
@@ -112,24 +59,6 @@ def fir_twig(chance):
         reach = (70 - 0.5 * at) * chance.uniform(0.8, 1.1)
         shape += f"M{x:.0f},0 l{reach * 0.75:.0f},{side * reach * 0.66:.0f} "
     return [path(shape, fill="none", stroke=tone, stroke_width="7", stroke_linecap="round")]
-
-
-def travel(size):
-    chance = random.Random(309)
-    wide, high = size
-    parts = sky(size, (0, "#1e3340"), (1, "#16262f")) + light(size, 0.5, 0.5, 1.0, "#4d7480", 0.4) + contours(chance, size, "#8fb3b5", 40)
-    way = [(0.04 * wide, 0.95 * high), (0.3 * wide, 0.8 * high), (0.18 * wide, 0.5 * high), (0.6 * wide, 0.42 * high), (0.8 * wide, 0.14 * high),
-           (0.97 * wide, 0.09 * high)]
-    parts.append(path(curve_of(way), fill="none", stroke="#e7b27a", stroke_width="8", stroke_dasharray="4 26", stroke_linecap="round"))
-    return drawing(*size, parts + rule(size, 50, "#9db8b8", "0.5"))
-
-
-def curve_of(points):
-    from_x, from_y = points[0]
-    text = f"M{from_x:.0f},{from_y:.0f}"
-    for (x, y), (next_x, next_y) in zip(points[1:-1], points[2:]):
-        text += f" Q{x:.0f},{y:.0f} {(x + next_x) / 2:.0f},{(y + next_y) / 2:.0f}"
-    return text + f" T{points[-1][0]:.0f},{points[-1][1]:.0f}"
 
 
 def garden(size):
@@ -192,19 +121,6 @@ def music(size):
     return drawing(*size, parts)
 
 
-def school(size):
-    chance = random.Random(313)
-    wide, high = size
-    parts = [rectangle(0, 0, wide, high, fill="#6b4a2c"), rectangle(0, 0, wide, 14, fill="#8f673f"), rectangle(0, high - 14, wide, 14, fill="#46301b")]
-    parts += sky((wide, high), (0, "#24403a"), (1, "#1b322d"), name="board")[:1]
-    parts.append(rectangle(44, 44, wide - 88, high - 88, fill="url(#board)"))
-    for _ in range(26):
-        x, y = chance.uniform(150, wide - 150), chance.uniform(150, high - 150)
-        parts.append(ellipse(x, y, chance.uniform(200, 520), chance.uniform(40, 120), fill="#ffffff", fill_opacity="0.016",
-                             transform=f"rotate({chance.uniform(-14, 14):.0f} {x:.0f} {y:.0f})"))
-    return drawing(*size, parts + rule((wide, high), 80, "#e8efe6", "0.35", False))
-
-
 def cinema(size):
     """A velvet curtain, and the black of the two strips of film that the layout lays before it."""
     wide, high = size
@@ -250,22 +166,6 @@ def planet(x, y, radius, bright, dark, name):
     return [f'<radialGradient id="ball{name}" cx="0.32" cy="0.3" r="0.8"><stop offset="0%" stop-color="{bright}"/>'
             f'<stop offset="55%" stop-color="{mixed(bright, dark, 0.55)}"/><stop offset="100%" stop-color="{dark}"/></radialGradient>',
             circle(x, y, radius, fill=f"url(#ball{name})")]
-
-
-def pets(size):
-    chance = random.Random(316)
-    wide, high = size
-    parts = sky(size, (0, "#4a3b33"), (1, "#33281f")) + light(size, 0.5, 0.5, 1.0, "#a58a6c", 0.35)
-    for x, turn in ((0.035, 4), (0.965, 184)):
-        for step in range(int(high / 190)):
-            parts.append(paw(x * wide + (34 if step % 2 else -34), 130 + 190 * step, 0.5, turn + chance.uniform(-8, 8)))
-    return drawing(*size, parts)
-
-
-def paw(x, y, scale, turn):
-    return placed([path("M0,-10 C52,-10 84,44 70,86 C56,124 26,102 0,102 C-26,102 -56,124 -70,86 C-84,44 -52,-10 0,-10Z"),
-                   *(ellipse(px, py, 26, 36) for px, py in ((-92, -14), (-36, -68), (36, -68), (92, -14)))], x, y, scale, turn,
-                  fill="#d8bd98", fill_opacity="0.3")
 
 
 def valentine(size):
@@ -352,11 +252,3 @@ def family_tree(size):
 
 KINSHIP = {(2000, 3000): ["M310,740V860H770V740 M1230,740V860H1690V740 M540,860V1010 M1460,860V1010 M540,1560V1680H1460V1560 M1000,1680V1830"],
            (3000, 2000): ["M480,690V780H1140V690 M1860,690V780H2520V690 M810,780V880 M2190,780V880 M1080,1200H1190 M1920,1200H1810"]}
-
-
-def best_wishes(size):
-    wide, high = size
-    parts = sky(size, (0, "#2a3d3a"), (1, "#1e2d2b")) + light(size, 0.5, 0.5, 1.0, "#7c9a8c", 0.35) + rule(size, 50, GOLD)
-    for x, y, turn in ((70, 70, 135), (wide - 70, 70, 225), (wide - 70, high - 70, 315), (70, high - 70, 45)):
-        parts.append(placed(garland_of_leaves(random.Random(9), 6, GOLD), x, y, 0.42, turn, opacity="0.8"))
-    return drawing(*size, parts)

@@ -1,48 +1,45 @@
 """Layouts of upright photos, wall to wall or with air between them."""
-from starter_designs.mosaic import mosaic, shadows_beneath, tiled
-from starter_designs.place import LANDSCAPE, PORTRAIT, box, grid, rows
+from starter_designs.mosaic import laid, mosaic, shadows_beneath, tiled
+from starter_designs.place import LANDSCAPE, PORTRAIT, box, grid, roomy, rows
 
 
 def three_of_us():
-    return rows(PORTRAIT, 80, 40, [(1240, [1]), (1560, [1, 1])])
+    return roomy(PORTRAIT, rows(PORTRAIT, 80, 40, [(1640, [1]), (1160, [1, 1])]))
 
 
 def four_squared():
     """Four squares in the middle of the page, which may stand or lie."""
-    return [box(120 + 900 * x, 620 + 900 * y, 860, 860) for y in (0, 1) for x in (0, 1)]
+    return roomy(PORTRAIT, [box(120 + 900 * x, 620 + 900 * y, 860, 860) for y in (0, 1) for x in (0, 1)])
 
 
 def windmills():
     """Six windmills of four photos round a small square one."""
-    gap, wide, high = 24, 564, 350
+    gap, wide, high = 24, 498, 378
     places = []
     for middle_y in (530, 1500, 2470):
         for middle_x in (530, 1470):
-            left, top, side = middle_x - 450, middle_y - 450, 900
-            long_side = side - gap - high
-            places += [box(left, top, long_side, high), box(left + long_side + gap, top, high, long_side),
-                       box(left + high + gap, top + long_side + gap, long_side, high),
-                       box(left, top + high + gap, high, long_side),
+            left, top, side = middle_x - 450, middle_y - 450, wide + gap + high
+            places += [box(left, top, wide, high), box(left + wide + gap, top, high, wide),
+                       box(left + high + gap, top + wide + gap, wide, high), box(left, top + high + gap, high, wide),
                        box(left + high + gap, top + high + gap, side - 2 * high - 2 * gap, side - 2 * high - 2 * gap)]
-    assert wide > high
-    return places
+    return roomy(PORTRAIT, places)
 
 
 def brick_wall():
-    """Nine courses, every other one with halves of bricks at its ends and in the middle."""
+    """Eight courses of four bricks and of five in turn, so that no joint stands above another."""
     places = []
-    for course in range(9):
-        top, bottom = round(course * 3000 / 9), round((course + 1) * 3000 / 9)
-        edges = [0, 500, 1000, 1500, 2000] if course % 2 == 0 else [0, 250, 750, 1000, 1250, 1750, 2000]
-        places += [box(left, top, right - left, bottom - top) for left, right in zip(edges, edges[1:])]
+    for course in range(8):
+        count = 4 + course % 2
+        edges = [round(2000 * at / count) for at in range(count + 1)]
+        places += [box(left, 375 * course, right - left, 375) for left, right in zip(edges, edges[1:])]
     return places
 
 
 def golden_spiral():
     """Squares of the sides 13, 8, 5 and 3, and what is left inside them, two by three."""
-    unit, left, top, gap = 136, 116, 72, 24
+    unit, left, top, gap = 136, 116, 72, 16
     cells = [(0, 0, 13, 13), (5, 13, 8, 8), (0, 16, 5, 5), (0, 13, 3, 3), (3, 13, 2, 3)]
-    return [box(left + x * unit + gap / 2, top + y * unit + gap / 2, w * unit - gap, h * unit - gap) for x, y, w, h in cells]
+    return roomy(PORTRAIT, [box(left + x * unit + gap / 2, top + y * unit + gap / 2, w * unit - gap, h * unit - gap) for x, y, w, h in cells])
 
 
 def raster(size, margin, gap, columns, lines, cells):
@@ -58,52 +55,51 @@ def raster(size, margin, gap, columns, lines, cells):
 
 
 def centre_stage():
-    """A portrait of eight modules by twelve, upright photos at its sides, landscapes above and below."""
-    sides = [(x, y, 2, 3) for x in (0, 10) for y in (3, 6, 9, 12)]
-    ends = [(x, y, 4, 3) for y in (0, 15) for x in (0, 4, 8)]
-    return raster(PORTRAIT, 50, 25, 12, 18, [(2, 3, 8, 12)] + sides + ends)
+    """A large photo of three columns and three rows among small ones, a row more below it than above."""
+    around = [(x, y, 1, 1) for y in range(6) for x in range(5) if not (0 < x < 4 and 0 < y < 4)]
+    return raster(PORTRAIT, 50, 25, 5, 6, [(1, 1, 3, 3)] + around)
 
 
 def checkers():
-    """Large landscapes and pairs of portraits in turn, like the fields of a board."""
+    """Large fields and fields of four small ones in turn, like a board."""
     cells = []
-    for y in range(4):
+    for y in range(3):
         for x in range(4):
             if (x + y) % 2 == 0:
-                cells.append((2 * x, y, 2, 1))
+                cells.append((2 * x, 2 * y, 2, 2))
             else:
-                cells += [(2 * x + at, y, 1, 1) for at in (0, 1)]
-    return raster(LANDSCAPE, 40, 18, 8, 4, cells)
+                cells += [(2 * x + at, 2 * y + down, 1, 1) for down in (0, 1) for at in (0, 1)]
+    return raster(LANDSCAPE, 40, 18, 8, 6, cells)
 
 
 def large_and_small():
-    """Two large portraits that face each other across two pairs of landscapes."""
-    return [box(70, 70, 920, 1415), box(1010, 1515, 920, 1415)] + [
-        box(left, top, 920, 692) for left, first in ((1010, 70), (70, 1515)) for top in (first, first + 723)]
+    """Two large photos in opposite corners and four small ones beside them."""
+    return roomy(PORTRAIT, [box(70, 70, 1140, 1415), box(790, 1515, 1140, 1415)] + [
+        box(left, top, 680, 692) for left, first in ((1250, 70), (70, 1515)) for top in (first, first + 723)])
 
 
 def wall_of_fame():
-    """Nine portraits with room for the name of the team above."""
-    return [box(110 + 610 * x, 480 + 790 * y, 560, 740) for y in range(3) for x in range(3)]
+    """Nine portraits in three rows with room for the name of the team above."""
+    return [box(110 + 610 * x, 480 + 770 * y, 560, 720) for y in range(3) for x in range(3)]
 
 
 def album_page():
-    """A tall photo on the left page; on the right one three portraits between two pairs of landscapes."""
-    pairs = [box(1450 + x * 735, y, 690, 460) for y in (280, 1310) for x in (0, 1)]
-    return [box(170, 280, 1110, 1490)] + pairs + [box(1450 + x * 490, 785, 445, 480) for x in range(3)]
+    """A tall photo on the left page; on the right one three small photos between two pairs."""
+    pairs = [box(1450 + x * 735, y, 690, 520) for y in (240, 1240) for x in (0, 1)]
+    return [box(170, 280, 1110, 1440)] + pairs + [box(1450 + x * 490, 800, 445, 400) for x in range(3)]
 
 
 def headline():
-    return rows(PORTRAIT, 100, 50, [(1200, [1]), (870, [1, 1, 1]), (630, [1, 1])])
+    return roomy(PORTRAIT, rows(PORTRAIT, 100, 50, [(1350, [1]), (690, [1, 1, 1]), (660, [1, 1])]))
 
 
 def bookshelf():
-    """Two books that stand and one that lies on each of four boards."""
-    return rows(PORTRAIT, 70, 20, [(700, [430, 470, 920]), (700, [930, 440, 450]), (700, [450, 920, 450]), (700, [470, 430, 920])])
+    """Three books of different breadth on each of four boards."""
+    return roomy(PORTRAIT, rows(PORTRAIT, 70, 20, [(700, [550, 600, 670]), (700, [680, 560, 580]), (700, [580, 670, 570]), (700, [560, 560, 700])]))
 
 
 def zigzag():
-    return rows(PORTRAIT, 80, 50, [(913, [1270, 600]), (914, [600, 1270]), (913, [1270, 600])])
+    return roomy(PORTRAIT, rows(PORTRAIT, 80, 50, [(913, [1120, 720]), (914, [720, 1120]), (913, [1120, 720])]))
 
 
 def columns(size, margin, gap, orders):
@@ -111,7 +107,7 @@ def columns(size, margin, gap, orders):
     wide = (size[0] - 2 * margin - gap * (len(orders) - 1)) / len(orders)
     places = []
     for index, order in enumerate(orders):
-        wanted = [wide * (1.5 if letter == "P" else 2 / 3) for letter in order]
+        wanted = [wide * (1.25 if letter == "P" else 0.8) for letter in order]
         stretch = (size[1] - 2 * margin - gap * (len(order) - 1)) / sum(wanted)
         left, top = round(margin + index * (wide + gap)), margin
         right = round(margin + index * (wide + gap) + wide)
@@ -122,15 +118,15 @@ def columns(size, margin, gap, orders):
 
 
 def three_columns():
-    return columns(PORTRAIT, 80, 40, ["LPLP", "PLPL", "LPLP"])
+    return roomy(PORTRAIT, columns(PORTRAIT, 80, 40, ["LPLP", "PLPL", "LPLP"]))
 
 
 def four_columns():
-    return columns(PORTRAIT, 60, 30, ["PLPPL", "LPPLP", "PLPLP", "LPLPP"])
+    return columns(PORTRAIT, 60, 30, ["PLPPLL", "LPPLPL", "PLPLLP", "LPLPLP"])
 
 
 def wide_columns():
-    return columns(LANDSCAPE, 80, 40, ["PLL", "PP", "LPL", "PP", "LLP"])
+    return roomy(LANDSCAPE, columns(LANDSCAPE, 80, 40, ["PLL", "LPL", "LLP", "LPL", "PLL"]))
 
 
 def square_tiles():
@@ -146,7 +142,7 @@ def heart_wall():
     """Small portraits in the shape of a heart."""
     lines = [(1, 2, 3, 6, 7, 8), range(0, 10), range(0, 10), range(0, 10), range(0, 10), range(1, 9), range(2, 8), range(3, 7),
              (4, 5)]
-    wide, high, gap = 172, 240, 14
+    wide, high, gap = 178, 232, 14
     left, top = (2000 - 10 * wide - 9 * gap) / 2, (3000 - 9 * high - 8 * gap) / 2
     return [box(left + x * (wide + gap), top + y * (high + gap), wide, high) for y, line in enumerate(lines) for x in line]
 
@@ -158,56 +154,60 @@ def diamond():
         count = 5 - abs(4 - line)
         left = 1000 - (count * 342 + (count - 1) * 26) / 2
         places += [box(left + x * 368, 205 + line * 290, 342, 264) for x in range(count)]
-    return places
+    return roomy(PORTRAIT, places)
 
 
 def soft_clouds():
     """Six photos with soft edges in three rows, each with air around it."""
-    return rows(PORTRAIT, 130, 90, [(800, [1030, 620]), (960, [640, 640]), (800, [620, 1030])])
+    return rows(PORTRAIT, 130, 90, [(830, [920, 730]), (900, [780, 870]), (830, [730, 920])])
 
 
 def soft_portraits():
     """Seven photos with soft edges on a wide page: three above four."""
-    return rows(LANDSCAPE, 130, 90, [(900, [1, 2, 1]), (750, [620, 480, 480, 800])])
+    return rows(LANDSCAPE, 130, 90, [(880, [760, 1040, 760]), (770, [620, 580, 580, 690])])
 
 
 def little_mosaic():
-    return mosaic(PORTRAIT, 250, [(5, 4, 1), (4, 5, 1), (4, 3, 2), (3, 4, 2), (3, 3, 1), (3, 2, 8), (2, 3, 8)], seed=5)
+    return mosaic(PORTRAIT, 8, 15, [(5, 6, 1), (4, 5, 1), (3, 3, 2), (3, 4, 2), (2, 2, 8), (2, 3, 8)], seed=5)
 
 
 def wide_mosaic():
-    return mosaic(LANDSCAPE, 200, [(6, 4, 1), (4, 6, 1), (4, 3, 3), (3, 4, 2), (3, 2, 10), (2, 3, 10)], seed=14)
+    return mosaic(LANDSCAPE, 15, 12, [(6, 6, 1), (5, 6, 1), (4, 4, 3), (3, 4, 2), (3, 3, 10), (2, 3, 10)], seed=14)
+
+
+def banded(size, columns, rows, bands):
+    """Bands of ten rows as (tiles, seed, whether mirrored), each tiled for itself: the whole wall would take the search too long."""
+    cells = []
+    for band, (tiles, seed, mirrored) in enumerate(bands):
+        cells += [(columns - x - wide if mirrored else x, y + 10 * band, wide, high) for x, y, wide, high in tiled(columns, 10, tiles, seed)]
+    return laid(size, columns, rows, shadows_beneath(cells))
 
 
 def many_photos():
-    """Three bands of nineteen, tiled each for itself: the whole wall would take the search too long."""
-    small, unit = [(3, 2, 40), (2, 3, 40), (2, 2, 2)], 125
-    cells = []
-    for band, (large, seed, mirrored) in enumerate((((6, 4, 1), 14, 0), ((4, 6, 1), 5, 0), ((6, 4, 1), 3, 1))):
-        cells += [(16 - x - wide if mirrored else x, y + 8 * band, wide, high)
-                  for x, y, wide, high in tiled(16, 8, [large] + small, seed)]
-    return [box(x * unit, y * unit, wide * unit, high * unit) for x, y, wide, high in shadows_beneath(cells)]
+    small = [(2, 2, 40), (2, 3, 40), (3, 3, 3), (3, 4, 2)]
+    return banded(PORTRAIT, 16, 30, [([(5, 6, 1)] + small, 1, False), ([(6, 6, 1)] + small, 1, False), ([(5, 6, 1)] + small, 1, True)])
 
 
 def forty_wide():
-    return mosaic(LANDSCAPE, 125, [(8, 6, 1), (6, 8, 1), (6, 4, 4), (4, 6, 4), (3, 2, 30), (2, 3, 30)], seed=4)
+    small = [(3, 3, 20), (3, 4, 20), (2, 3, 6)]
+    return banded(LANDSCAPE, 24, 20, [([(6, 7, 1), (5, 5, 1), (4, 5, 3)] + small, 13, False), ([(7, 7, 1), (4, 5, 2), (4, 4, 2)] + small, 1, True)])
 
 
 def ladder():
-    """Four wide rungs between two rails of small photos."""
-    rails = [(x, y, 1, 1) for y in range(8) for x in (0, 5)]
-    return raster(PORTRAIT, 60, 30, 6, 8, [(1, y, 4, 2) for y in (0, 2, 4, 6)] + rails)
+    """Three large rungs between two rails of small photos."""
+    rails = [(x, y, 1, 1) for y in range(6) for x in (0, 4)]
+    return raster(PORTRAIT, 60, 30, 5, 6, [(1, y, 3, 2) for y in (0, 2, 4)] + rails)
 
 
 def window_seat():
-    """A large landscape and a large portrait in opposite corners, small ones beside each."""
-    cells = [(0, 0, 8, 5), (8, 0, 4, 5), (0, 5, 4, 5), (0, 10, 4, 5), (4, 5, 8, 10), (0, 15, 4, 5), (4, 15, 8, 5)]
-    return raster(PORTRAIT, 70, 26, 12, 20, cells)
+    """Two large photos in opposite corners, small ones beside each."""
+    cells = [(0, 0, 4, 4), (4, 0, 2, 2), (4, 2, 2, 2), (0, 4, 2, 2), (0, 6, 2, 2), (2, 4, 4, 4)]
+    return raster(PORTRAIT, 70, 26, 6, 8, cells)
 
 
 def fortnight():
-    """Pairs of landscapes and rows of four portraits in turn: seven photos a week, twice."""
-    return rows(PORTRAIT, 70, 35, [(500, [1, 1]), (610, [1] * 4), (500, [1, 1]), (610, [1] * 4), (500, [1, 1])])
+    """Rows of three and of four in turn: seven photos a week, twice."""
+    return roomy(PORTRAIT, rows(PORTRAIT, 70, 35, [(500, [1] * 4), (620, [1, 1.1, 1]), (1180, [1, 1]), (455, [1, 1.1, 1.1, 1])]))
 
 
 def three_weeks():
@@ -216,7 +216,7 @@ def three_weeks():
 
 
 def quilt():
-    return grid(168, 50, 7, 5, 10, 10, 372, 372)
+    return grid(359, 50, 6, 5, 10, 10, 372, 372)
 
 
 def class_photo():
@@ -225,9 +225,6 @@ def class_photo():
 
 
 def big_window():
-    """A landscape of nine cells; of the others every third is parted into two portraits."""
-    around = [(x, y) for y in range(6) for x in range(6) if not (x in (1, 2, 3) and y in (1, 2, 3))]
-    cells = [(2, 1, 6, 3)]
-    for at, (x, y) in enumerate(around):
-        cells += [(2 * x, y, 1, 1), (2 * x + 1, y, 1, 1)] if at % 3 == 1 else [(2 * x, y, 2, 1)]
-    return raster(LANDSCAPE, 50, 22, 12, 6, cells)
+    """A large photo of nine cells in a wall of small ones."""
+    around = [(x, y, 1, 1) for y in range(5) for x in range(6) if not (x in (1, 2, 3) and y in (1, 2, 3))]
+    return raster(LANDSCAPE, 50, 22, 6, 5, [(1, 1, 3, 3)] + around)

@@ -1,9 +1,9 @@
 """The supplied designs of tilted photos, from number 201 on."""
 from starter_designs import scatters
-from starter_designs.catalogue import ANY_SHAPE, FITTING, design, on
+from starter_designs.catalogue import ANY_SHAPE, design, on
 
-TURNS = {**FITTING, "Turn BG": "Yes"}
-STAYS = {**FITTING, "Turn BG": "No"}
+TURNS = {**ANY_SHAPE, "Turn BG": "Yes"}
+STAYS = {**ANY_SHAPE, "Turn BG": "No"}
 ANY = {**ANY_SHAPE, "Turn BG": "No"}
 CARDS = {**ANY_SHAPE, "Block": "Yes", "Turn BG": "No"}
 
@@ -39,8 +39,6 @@ SCATTERS = [
            "Landscapes and portraits in three rows, a little askew, on wooden boards.", scatters.loose_rows, {**STAYS, **on("walnut_tall")}),
     design(216, "Loose portraits", "Scatter", "Landscape", "Eight photos, a little askew",
            "Two rows of portraits and landscapes, none of them quite straight.", scatters.loose_portraits, {**STAYS, **on("slate_wide"), "Borders": "No"}),
-    design(217, "Whirl", "Scatter", "Portrait", "Two rings of photos about a square one",
-           "Eighteen photos turn about the middle like stars, each ring the other way.", scatters.spiral, {**STAYS, **on("space")}),
     design(218, "Bouquet", "Scatter", "Portrait", "A bunch of portraits round a large one",
            "Four portraits like petals above a large one, and four landscapes for leaves.", scatters.bouquet, {**STAYS, **on("bouquet_paper"), "Flip": "No"}),
     design(219, "Pinboard", "Scatter", "Portrait", "Fifteen photos that don't touch",

@@ -1,7 +1,7 @@
 """Calm pages with a clear order: few photos in broad margins, pages for a year, a team, a journey. All upright, none touching
 another, and with room above for a title where the page is meant to have one."""
 from starter_designs.justified import justified, lying, page, standing
-from starter_designs.place import PORTRAIT, box
+from starter_designs.place import PORTRAIT, box, roomy
 
 
 def squares(area, columns, lines, gap):
@@ -15,41 +15,40 @@ def squares(area, columns, lines, gap):
 
 def title_page():
     """A large photo below a third of the page that is the title's, and four small ones at its foot."""
-    return [box(130, 760, 1740, 1270)] + [box(130 + 445 * at, 2070, 405, 540) for at in range(4)]
+    return [box(130, 700, 1740, 1380)] + [box(130 + 445 * at, 2120, 405, 520) for at in range(4)]
 
 
 def quiet_page():
-    return justified((330, 420, 1670, 2600), 60, ["L", "PP"])
+    return justified((330, 500, 1670, 2480), 60, ["L", "PP"])
 
 
 def gallery_sheet():
-    """One large landscape, three small squares below it."""
-    return [box(230, 560, 1540, 1080)] + [box(230 + 530 * at, 1720, 480, 640) for at in range(3)]
+    """One large photo, three small ones below it."""
+    return [box(230, 480, 1540, 1220)] + [box(230 + 530 * at, 1780, 480, 600) for at in range(3)]
 
 
 def left_column():
-    """A portrait over the height of the page, four landscapes beside it."""
-    return [box(120, 330, 1080, 1680)] + [box(1240, 330 + 427 * at, 640, 399) for at in range(4)] + [
-        box(120 + 600 * at, 2050, 560, 620) for at in range(3)]
+    """A tall photo, three small ones beside it and three below."""
+    return [box(120, 330, 1180, 1560)] + [box(1340, 330 + 533 * at, 540, 494) for at in range(3)] + [box(120 + 600 * at, 1930, 560, 720) for at in range(3)]
 
 
 def contact_strip():
-    """A strip of five squares between two large landscapes."""
-    return [box(120, 300, 1760, 940)] + [box(120 + 356 * at, 1280, 336, 448) for at in range(5)] + [box(120, 1768, 1760, 930)]
+    """A strip of five small photos between two pairs of large ones."""
+    return [box(left, top, 860, 900) for top in (300, 1798) for left in (120, 1020)] + [box(120 + 356 * at, 1279, 336, 440) for at in range(5)]
 
 
 def broadsheet():
     """Columns of a large newspaper."""
-    return page(PORTRAIT, 110, 36, "LP", "PPPP", "LL", "PL")
+    return roomy(PORTRAIT, page(PORTRAIT, 110, 36, "LP", "PLP", "LL", "PPP"))
 
 
 def double_portrait():
-    return standing("PP", "LLL", "LPL")
+    return standing("PP", "PPP", "PLP")
 
 
 def lookbook():
-    """Six portraits of the same size."""
-    return [box(120 + 600 * x, 420 + 1100 * y, 560, 1040) for y in (0, 1) for x in range(3)]
+    """Six photos of the same size in three rows."""
+    return [box(270 + 760 * x, 330 + 800 * y, 700, 740) for y in range(3) for x in (0, 1)]
 
 
 def nine_squares():
@@ -65,8 +64,8 @@ def ten_squares():
 
 
 def long_weekend():
-    """Rows of three in which the portrait changes sides."""
-    return standing("LLP", "PLL", "LPL", "LLP", "PLL")
+    """Rows of three in which the upright place changes sides."""
+    return standing("LLP", "LLL", "PLL", "LLL", "LPL")
 
 
 def twelve_months():
@@ -79,7 +78,7 @@ def twelve_months_wide():
 
 def first_year():
     """A large photo of today above a square for each month."""
-    return [box(130, 300, 1740, 1080)] + squares((130, 1420, 1870, 2700), 4, 3, 30)
+    return [box(280, 300, 1440, 1080)] + squares((130, 1420, 1870, 2700), 4, 3, 30)
 
 
 def first_year_wide():
@@ -88,16 +87,16 @@ def first_year_wide():
 
 def calendar_page():
     """The picture of the month and four weeks below it."""
-    return [box(130, 330, 1740, 1100)] + squares((130, 1470, 1870, 2720), 7, 5, 20)[:31]
+    return [box(330, 320, 1340, 1100)] + squares((130, 1470, 1870, 2720), 7, 5, 20)[:31]
 
 
 def team_page():
     """The whole team above, its members in two rows below."""
-    return [box(130, 300, 1740, 1160)] + [box(130 + 445 * x, 1500 + 605 * y, 405, 565) for y in (0, 1) for x in range(4)]
+    return [box(130, 300, 1740, 1300)] + [box(130 + 445 * x, 1640 + 540 * y, 405, 500) for y in (0, 1) for x in range(4)]
 
 
 def team_page_wide():
-    return [box(140, 290, 1180, 1440)] + [box(1360 + 510 * x, 290 + 735 * y, 480, 705) for y in (0, 1) for x in range(3)]
+    return [box(140, 290, 1180, 1440)] + [box(1360 + 510 * x, 290 + 735 * y, 480, 640) for y in (0, 1) for x in range(3)]
 
 
 def panoramas_four():
@@ -122,30 +121,30 @@ def before_and_after():
 
 def mats_on_charcoal():
     """Five photos in broad frames of one size."""
-    return [box(250, 430, 1500, 1000), box(250, 1590, 680, 940), box(1070, 1590, 680, 400), box(1070, 2130, 680, 400)]
+    return [box(300, 400, 1400, 1120), box(300, 1610, 780, 940), box(1170, 1610, 530, 425), box(1170, 2125, 530, 425)]
 
 
 def black_frames():
     """Five photos in black frames on a wall."""
-    return justified((290, 340, 1710, 2640), 90, ["L", "LP", "PL"])
+    return justified((290, 430, 1710, 2560), 90, ["PL", "LP", "PL"])
 
 
 def triptych():
-    """A landscape poster: three tall photos, the middle one the widest."""
-    return [box(160, 320, 780, 1380), box(1000, 320, 1000, 1380), box(2060, 320, 780, 1380)]
+    """A landscape poster: three tall photos, the middle one the largest."""
+    return [box(160, 480, 790, 1040), box(1000, 330, 1000, 1330), box(2050, 480, 790, 1040)]
 
 
 def story_board():
     """A landscape poster: a large picture and the steps that led to it."""
-    return [box(140, 280, 1750, 980)] + [box(1930, 280 + 505 * at, 930, 475) for at in (0, 1)] + [
-        box(140 + 688 * at, 1300, 656, 430) for at in range(4)]
+    return [box(140, 280, 1200, 980)] + [box(1380 + 500 * at, 280 + 500 * down, 480, 480) for down in (0, 1) for at in range(3)] + [
+        box(140 + 549 * at, 1300, 524, 430) for at in range(5)]
 
 
 def family_row():
-    """A landscape poster: four portraits above a row of landscapes."""
-    return justified((140, 290, 2860, 1730), 40, ["PPPP", "LLLL"])
+    """A landscape poster: four upright photos above a row of five."""
+    return justified((140, 290, 2860, 1730), 40, ["PPPP", "PPPPP"])
 
 
 def travel_notes():
     """A landscape poster in three rows."""
-    return lying("LPLPL", "PLPLP", "LPLPL", gap=36)
+    return lying("LPLPL", "PLPLPL", "LPLPL", gap=36)

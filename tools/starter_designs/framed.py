@@ -46,7 +46,7 @@ def rows_of(size, gap, *rows):
 
 PORTRAIT, LANDSCAPE = (2000, 3000), (3000, 2000)
 T, W = ("T", 440), ("W", 660)
-SMALL_T, SMALL_W = ("T", 380), ("W", 570)
+SMALL_W = ("W", 530)
 
 
 def frames_tall_nine():
@@ -61,12 +61,6 @@ def frames_wide_eight():
 def frames_family():
     """The parents above, the children in pairs below them."""
     return rows_of(PORTRAIT, 90, (("T", 460), ("T", 460)), (("W", 690), ("W", 690)), (T, T, T))
-
-
-def frames_staircase():
-    """Frames that go down in three steps."""
-    return [place for step in range(3) for place in wide(130 + 480 * step, 330 + 720 * step, 640)] + [
-        place for step in range(3) for place in tall((1340, 130, 700)[step], (330, 1040, 1960)[step], (450, 420, 400)[step])]
 
 
 def frames_shelf():
@@ -90,5 +84,5 @@ def frames_tall_eight():
 
 def frames_medley():
     """A landscape poster: small frames in three rows."""
-    row, other = (SMALL_W, ("T", 330), SMALL_W, ("T", 330)), (("T", 330), SMALL_W, ("T", 330), SMALL_W)
+    row, other = (SMALL_W, ("T", 305), SMALL_W, ("T", 305)), (("T", 305), SMALL_W, ("T", 305), SMALL_W)
     return rows_of(LANDSCAPE, 50, row, other, row)

@@ -1,9 +1,11 @@
 """Rows of photos that all end at the same margins, and leave a caption its place above and below."""
 from starter_designs.place import LANDSCAPE, PORTRAIT, box, centred
 
-SHAPES = {"L": 1.5, "P": 2 / 3, "S": 1.0, "W": 3.0, "F": 4 / 3, "T": 0.75}  # width to height: W is a panorama
+# Width to height. A wide place bears an upright photo and an upright one a wide photo, so no design of theirs asks for either; W is
+# a panorama.
+SHAPES = {"L": 1.25, "P": 0.8, "S": 1.0, "W": 3.0}
 STANDING, LYING = (130, 290, 1870, 2700), (140, 270, 2860, 1730)            # left, top, right, bottom
-MOST_STRETCH = 1.2
+MOST_STRETCH = 1.08
 
 
 def row_height(row, width, gap):

@@ -69,7 +69,11 @@ def shadows_beneath(cells):
     return ordered
 
 
-def mosaic(size, module, tiles, seed):
-    columns, rows = size[0] // module, size[1] // module
-    return [box(x * module, y * module, width * module, height * module)
-            for x, y, width, height in shadows_beneath(tiled(columns, rows, tiles, seed))]
+def mosaic(size, columns, rows, tiles, seed):
+    """Modules a little wider than high, so that of tiles of few modules each way none is far from a square."""
+    return laid(size, columns, rows, shadows_beneath(tiled(columns, rows, tiles, seed)))
+
+
+def laid(size, columns, rows, cells):
+    xs, ys = ([round(size[axis] * at / count) for at in range(count + 1)] for axis, count in ((0, columns), (1, rows)))
+    return [box(xs[x], ys[y], xs[x + width] - xs[x], ys[y + height] - ys[y]) for x, y, width, height in cells]

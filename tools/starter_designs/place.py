@@ -9,6 +9,9 @@ PORTRAIT = (2000, 3000)
 LANDSCAPE = (3000, 2000)
 
 
+AT_ENDS, AT_SIDES = 300, 245  # what a caption's place takes of an upright page, and of the page when it is turned
+
+
 @dataclass(frozen=True)
 class Place:
     top: int
@@ -73,3 +76,21 @@ def rows(size, margin, gap, widths_of_rows):
         top += height + gap
     assert top - gap + margin == size[1], (top - gap + margin, size[1])
     return places
+
+
+def roomy(size, places):
+    """The same layout about the middle of the page, so much smaller that a caption finds room on either side of it, turned as well."""
+    right = max(place.left + place.width for place in places)
+    bottom = max(place.top + (place.height or place.width) for place in places)
+    across, down = max(right - size[0] / 2, size[0] / 2 - min(place.left for place in places)), max(bottom - size[1] / 2, size[1] / 2 - min(place.top for place in places))
+    ends, sides = (AT_SIDES, AT_ENDS) if size[0] > size[1] else (AT_ENDS, AT_SIDES)
+    part = min(1, (size[0] / 2 - sides) / across, (size[1] / 2 - ends) / down)
+
+    def nearer(value, middle):
+        return round(middle + (value - middle) * part)
+    found = []
+    for place in places:
+        left, top = nearer(place.left, size[0] / 2), nearer(place.top, size[1] / 2)
+        found.append(replace(place, left=left, top=top, width=nearer(place.left + place.width, size[0] / 2) - left,
+                             height=nearer(place.top + place.height, size[1] / 2) - top if place.height else 0))
+    return found

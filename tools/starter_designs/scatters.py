@@ -112,40 +112,29 @@ def four_friends():
 
 
 def confetti():
-    return scattered(PORTRAIT, (385, 260), TILTS * 4 + [0, -5, 5, 10], seed=49, hang=50)
+    return scattered(PORTRAIT, (353, 282), TILTS * 4 + [0, -5, 5, 10], seed=1, hang=50)
 
 
 def forty():
-    return scattered(PORTRAIT, (485, 325), (TILTS * 3)[:36] + [0, 0, -5, 5], seed=24, hang=50)
+    return scattered(PORTRAIT, (443, 355), (TILTS * 3)[:36] + [0, 0, -5, 5], seed=24, hang=50)
 
 
 def thirty():
-    return scattered(PORTRAIT, (550, 375), (GENTLE * 5), seed=33, hang=60)
+    return scattered(PORTRAIT, (508, 406), (GENTLE * 5), seed=1, hang=60)
 
 
 def twenty_wide():
-    return scattered(PORTRAIT, (700, 475), ([-15, 15, -20, 20] + GENTLE * 3)[:20], seed=13, hang=60)
+    return scattered(PORTRAIT, (646, 516), ([-15, 15, -20, 20] + GENTLE * 3)[:20], seed=13, hang=60)
 
 
 def loose_rows():
-    """Three rows of portraits and landscapes, each a little askew."""
-    return askew(standing("PP", "LPL", "PLP"), (-5, 5, 5, -5, -5))
+    """Three rows of upright and wide photos, each a little askew."""
+    return askew(standing("PP", "LLL", "PL"), (-5, 5, 5, -5, -5))
 
 
 def loose_portraits():
-    """Two rows of portraits and landscapes, none of them quite straight."""
-    return askew(lying("PLP", "PLPLP"), (-5, 5))
-
-
-def spiral():
-    """Eighteen photos in two rings about a square one, each ring leaning the other way."""
-    places = []
-    for count, across, down, first, lean, (long_side, short_side) in ((11, 720, 1090, 8, -10, (400, 290)), (6, 370, 560, 30, 10, (370, 270))):
-        for at in range(count):
-            angle = math.radians(first + 360 * at / count)
-            sides = (long_side, short_side) if at % 2 else (short_side, long_side)
-            places.append(centred(1000 + across * math.sin(angle), 1500 - down * math.cos(angle), *sides, lean))
-    return places + [centred(1000, 1500, 480, 480, -5)]
+    """Two rows of upright and wide photos, none of them quite straight."""
+    return askew(lying("PLP", "LPLPL"), (-5, 5))
 
 
 def bouquet():
@@ -222,13 +211,13 @@ def five_cards():
 def on_the_line():
     """Eight photos in two rows, each a little askew."""
     tilts = [-5, 5, -5, 5, 5, -5, 5, -5]
-    return [centred(400 + 733 * (at % 4), 530 + 940 * (at // 4) + (16, -16)[at % 2], *((470, 660), (620, 450))[(at + at // 4) % 2], tilts[at])
+    return [centred(400 + 733 * (at % 4), 530 + 940 * (at // 4) + (16, -16)[at % 2], *((500, 640), (600, 480))[(at + at // 4) % 2], tilts[at])
             for at in range(8)]
 
 
 def travel_desk():
-    return scattered(PORTRAIT, (800, 535), (GENTLE + [-15, 15] + GENTLE)[:14], seed=14, hang=60)
+    return scattered(PORTRAIT, (731, 585), (GENTLE + [-15, 15] + GENTLE)[:14], seed=14, hang=60)
 
 
 def half_a_hundred():
-    return scattered(PORTRAIT, (415, 280), (TILTS * 4)[:44] + [0, -5, 5, 0, 10, -10], seed=50, hang=50)
+    return scattered(PORTRAIT, (380, 304), (TILTS * 4)[:44] + [0, -5, 5, 0, 10, -10], seed=1, hang=50)
