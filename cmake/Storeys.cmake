@@ -37,6 +37,30 @@ function(storey name)
     endforeach()
 endfunction()
 
+# Has the sources of a folder compiled as one, where headers are read once as well: what templates they share is made once.
+# So no two of them can have helpers of one name.
+function(compiled_by_folder program)
+    if(NOT TESSALOOM_READ_ONCE)
+        return()
+    endif()
+    get_target_property(sources ${program} SOURCES)
+    get_target_property(at ${program} SOURCE_DIR)
+    foreach(source IN LISTS sources)
+        if(NOT source MATCHES "\\.cpp$")
+            continue()
+        endif()
+        cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${at} NORMALIZE)
+        cmake_path(GET source PARENT_PATH folder)
+        cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${CMAKE_SOURCE_DIR})
+        string(MAKE_C_IDENTIFIER ${folder} folder)
+        set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${folder} TARGET_DIRECTORY ${program})
+    endforeach()
+    set_target_properties(${program} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+    # What one source names at its top may be what another calls a variable; and a fixture of a source that is included
+    # looks to GCC as if others saw it.
+    target_compile_options(${program} PRIVATE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endfunction()
+
 # Links each storey to the one below it and has every header compiled alone. A storey without a source file gets an
 # empty one, since an archive needs a member.
 function(finish_storeys)
@@ -52,6 +76,10 @@ function(finish_storeys)
             target_sources(${name} PRIVATE ${CMAKE_BINARY_DIR}/${name}_empty.cpp)
         endif()
         set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+        # Handlers of two windows may be of one name: each of them stays by itself.
+        if(TESSALOOM_BY_FOLDER AND NOT name STREQUAL handlers)
+            compiled_by_folder(${name})
+        endif()
     endforeach()
 endfunction()
 
@@ -61,4 +89,7 @@ function(headers_alone target)
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${folder}/*.h)
     target_sources(${target} PUBLIC FILE_SET house_headers TYPE HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR} FILES ${headers})
     set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    if(TESSALOOM_BY_FOLDER)
+        compiled_by_folder(${target})
+    endif()
 endfunction()

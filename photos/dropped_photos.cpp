@@ -16,7 +16,7 @@
 namespace {
 
 constexpr std::size_t most_selected = 998;  // as many as a selection takes
-constexpr std::size_t most_in_a_box = 20;   // more lines than that leave the screen
+constexpr std::size_t most_named = 20;      // more lines than that leave the screen
 
 std::string without_separator_at_end(std::string path)
 {
@@ -105,7 +105,7 @@ std::string box_text(const dropped_photos & found)
 {
     std::string text = found.photos.empty() ? "Nothing of what you dropped can be used:"
                                             : "This was left out of what you dropped:";
-    const std::size_t shown = std::min(found.left_out.size(), most_in_a_box);
+    const std::size_t shown = std::min(found.left_out.size(), most_named);
     for (std::size_t i = 0; i < shown; ++i)
         text += "\r\n" + found.left_out[i];
     if (found.left_out.size() > shown)

@@ -2,7 +2,7 @@
 
 namespace {
 
-std::string name_of(const control * held)
+std::string control_name(const control * held)
 {
     return held == nullptr ? std::string() : held->name();
 }
@@ -12,10 +12,10 @@ void note_forces(std::vector<recipe_force> & forces, const forced_settings & fro
     for (const forced_setting & each : from.all())
         forces.push_back({.by = by,
                           .kind = static_cast<int>(each.kind),
-                          .control = name_of(each.held),
+                          .control = control_name(each.held),
                           .before = each.before,
                           .forced = each.forced,
-                          .option_before = name_of(each.option_before)});
+                          .option_before = control_name(each.option_before)});
 }
 
 }  // namespace

@@ -73,6 +73,6 @@ void open_flurn(frmMain & main, const std::string & file)
         tell_fault(main, path, fault.what);
     } catch (const platform_error & error) {
         leave_stage(main);
-        tell_fault(main, path, told(error));
+        tell_fault(main, path, error.path == path ? error.what() : told(error));
     }
 }

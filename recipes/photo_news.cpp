@@ -44,9 +44,10 @@ void add_part(std::string & text, const std::string & heading, const std::vector
 
 std::string question_of_gone(const found_photos & found, std::size_t all)
 {
-    return std::to_string(found.gone.size()) + " of the " + std::to_string(all) +
-           " photos of this flurn are not where they were:" + lines_of(shown(found.gone)) +
-           "\r\n\r\nDo you want to look for them in another folder?";
+    const bool is_one = found.gone.size() == 1;
+    return std::to_string(found.gone.size()) + " of the " + std::to_string(all) + " photos of this flurn " +
+           (is_one ? "is not where it was:" : "are not where they were:") + lines_of(shown(found.gone)) +
+           "\r\n\r\nDo you want to look for " + (is_one ? "it" : "them") + " in another folder?";
 }
 
 std::string news_of(const found_photos & found)

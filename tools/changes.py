@@ -32,6 +32,11 @@ def changed_files(base):
         git("ls-files", "--others", "--exclude-standard").splitlines())
 
 
+def touches(patterns, changed):
+    """Whether one of the changed files is of those patterns, as a whole name."""
+    return any(re.fullmatch(pattern, name) for pattern in patterns for name in changed)
+
+
 def parts_of(file, root):
     """The file and what it includes of the house, however far; a made header counts as its template."""
     found, left = set(), [file]

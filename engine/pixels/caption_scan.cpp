@@ -35,7 +35,7 @@ int along(rgb_triple ground, rgb_triple one, rgb_triple other)
 }
 
 // `share` of `whole` parts of the upper colour.
-std::uint8_t blended(int below, int above, int share, int whole)
+std::uint8_t mixed(int below, int above, int share, int whole)
 {
     return static_cast<std::uint8_t>((below * (whole - share) + above * share + whole / 2) / whole);
 }
@@ -46,9 +46,9 @@ pixel lettered(pixel below, pixel seen, const lettering & text)
     const int share = std::clamp(along(text.ground, seen, text.color), 0, whole);
     if (share == 0)
         return below;
-    return rgb_triple{.red = blended(below.red, text.color.red, share, whole),
-                      .green = blended(below.green, text.color.green, share, whole),
-                      .blue = blended(below.blue, text.color.blue, share, whole)};
+    return rgb_triple{.red = mixed(below.red, text.color.red, share, whole),
+                      .green = mixed(below.green, text.color.green, share, whole),
+                      .blue = mixed(below.blue, text.color.blue, share, whole)};
 }
 
 // The caption's columns, `left` further right in the target.

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int long_side = 450, short_side = 300;  // of the photo that the numbers are made for
+constexpr int numbered_width = 450, numbered_height = 300;  // of the photo that the numbers are made for
 
 /// How often `part` holds `whole`, where it is larger.
 double excess(int whole, int part)
@@ -48,8 +48,8 @@ std::string rotation_section(int width, int height, int rotation)
 double reference_factor(int width, int height)
 {
     const bool wide = width > height;
-    return std::max(excess(width, wide ? long_side : short_side),
-                    excess(height, wide ? short_side : long_side));
+    return std::max(excess(width, wide ? numbered_width : numbered_height),
+                    excess(height, wide ? numbered_height : numbered_width));
 }
 
 int preview_divisor(int width, int height)

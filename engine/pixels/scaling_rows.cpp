@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::size_t channels = 3;
+constexpr std::size_t bytes_of_pixel = 3;
 
 std::uint8_t rounded(double value)
 {
@@ -25,13 +25,13 @@ std::size_t index_of(int position)
 
 void sum_up(const scaling_window & window, const std::uint8_t * source, std::uint8_t * into)
 {
-    const std::uint8_t * pixel = source + index_of(window.first) * channels;
+    const std::uint8_t * pixel = source + index_of(window.first) * bytes_of_pixel;
     double blue = 0, green = 0, red = 0;
     for (const double weight : window.weights) {
         blue += weight * pixel[0];
         green += weight * pixel[1];
         red += weight * pixel[2];
-        pixel += channels;
+        pixel += bytes_of_pixel;
     }
     into[0] = rounded(blue);
     into[1] = rounded(green);
@@ -41,7 +41,7 @@ void sum_up(const scaling_window & window, const std::uint8_t * source, std::uin
 void across_one_by_one(const row_scaling & scaling, const row_across & row)
 {
     std::uint8_t * into = row.into;
-    for (int x = scaling.left; x < scaling.right; ++x, into += channels)
+    for (int x = scaling.left; x < scaling.right; ++x, into += bytes_of_pixel)
         sum_up(scaling.weights[x], row.from, into);
 }
 
@@ -89,8 +89,9 @@ bool is_worth_weighing_coarsely(const row_scaling & scaling)
         long long four;
         std::memcpy(&four, &weights[i], sizeof four);
         const __m256i weight = _mm256_set1_epi64x(four);
-        sums = _mm256_add_epi32(sums, _mm256_madd_epi16(channels_apart(first + i * channels), weight));
-        others = _mm256_add_epi32(others, _mm256_madd_epi16(channels_apart(second + i * channels), weight));
+        sums = _mm256_add_epi32(sums, _mm256_madd_epi16(channels_apart(first + i * bytes_of_pixel), weight));
+        others =
+            _mm256_add_epi32(others, _mm256_madd_epi16(channels_apart(second + i * bytes_of_pixel), weight));
     }
     return _mm256_hadd_epi32(sums, others);
 }
@@ -108,10 +109,11 @@ bool is_worth_weighing_coarsely(const row_scaling & scaling)
 
 [[gnu::target("avx2")]] void across_coarsely(const row_scaling & scaling, row_across first, row_across second)
 {
-    for (int x = scaling.left; x < scaling.right; ++x, first.into += channels, second.into += channels) {
+    for (int x = scaling.left; x < scaling.right;
+         ++x, first.into += bytes_of_pixel, second.into += bytes_of_pixel) {
         const coarse_window window = scaling.coarse[x];
         const int one = 1 << window.bits;
-        const std::size_t start = index_of(window.first) * channels;
+        const std::size_t start = index_of(window.first) * bytes_of_pixel;
         const __m256i sums =
             _mm256_add_epi32(coarse_sums(window.weights, first.from + start, second.from + start),
                              _mm256_set1_epi32(one / 2 + window.doubt));
@@ -144,13 +146,13 @@ bool is_worth_weighing_coarsely(const row_scaling & scaling)
 
 [[gnu::target("avx2")]] void across_in_doubles(const row_scaling & scaling, row_across row)
 {
-    for (int x = scaling.left; x < scaling.right; ++x, row.into += channels) {
+    for (int x = scaling.left; x < scaling.right; ++x, row.into += bytes_of_pixel) {
         const scaling_window window = scaling.weights[x];
-        const std::uint8_t * pixel = row.from + index_of(window.first) * channels;
+        const std::uint8_t * pixel = row.from + index_of(window.first) * bytes_of_pixel;
         __m256d sums = _mm256_setzero_pd();
         for (const double & weight : window.weights) {
             sums = _mm256_add_pd(sums, _mm256_mul_pd(_mm256_broadcast_sd(&weight), four_bytes(pixel)));
-            pixel += channels;
+            pixel += bytes_of_pixel;
         }
         store_rounded(sums, row.into);
     }
@@ -208,8 +210,8 @@ void scale_across(const row_scaling & scaling, const row_across & row)
 {
     assert(scaling.left < scaling.right && scaling.right <= scaling.weights.size());
     if (scaling.weights.is_identity()) {
-        std::memcpy(row.into, row.from + index_of(scaling.left) * channels,
-                    index_of(scaling.right - scaling.left) * channels);
+        std::memcpy(row.into, row.from + index_of(scaling.left) * bytes_of_pixel,
+                    index_of(scaling.right - scaling.left) * bytes_of_pixel);
         return;
     }
 #if defined(__x86_64__)

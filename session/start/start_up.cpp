@@ -22,7 +22,7 @@ constexpr std::string_view release_marker = "3_1_install";
 constexpr std::string_view session_lock = "lock", lock_of_filling = "filling";
 constexpr std::array public_folders{"tmp",      "designs",     "descriptions", "samples",
                                     "piclists", "user_images", "frames"};
-constexpr std::array package_folders{"alpha", "puzzle"};
+constexpr std::array folders_of_packages{"alpha", "puzzle"};
 constexpr std::chrono::minutes longest_filling{1};
 constexpr std::chrono::milliseconds filling_pause{20};
 
@@ -148,7 +148,7 @@ bool is_filled(const frmMain & main)
     };
     return file_exists(in_data(main, release_marker)) && file_exists(in_data(main, "designs.ini")) &&
            std::ranges::all_of(public_folders, has_folder) && has_folder("icons") &&
-           std::ranges::none_of(package_folders, lacks);
+           std::ranges::none_of(folders_of_packages, lacks);
 }
 
 void delete_supplied_frames(frmMain & main)
@@ -286,7 +286,7 @@ void supply_package_folders(frmMain & main)
         for (const char * name : {"tmp", "samples", "piclists", "user_images"})
             make_folders(in_data(main, name));
     else
-        for (const char * name : package_folders)
+        for (const char * name : folders_of_packages)
             if (lacks_package_folder(main, name))
                 copy_seed_folder(main, name);
 }

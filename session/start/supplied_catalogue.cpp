@@ -6,14 +6,14 @@
 
 namespace {
 
-std::string in_data(const frmMain & main, std::string_view name)
+std::string kept_file(const frmMain & main, std::string_view name)
 {
     return joined(main.data_folder, name);
 }
 
 text_lines supplied_last(const frmMain & main)
 {
-    const std::string path = in_data(main, supplied_catalogue);
+    const std::string path = kept_file(main, supplied_catalogue);
     return file_exists(path) ? lines_of_file(path) : text_lines();
 }
 
@@ -27,17 +27,18 @@ std::string seed_catalogue_path(const frmMain & main)
 
 text_lines newer_catalogue(const frmMain & main)
 {
-    const text_lines own = lines_of_file(in_data(main, "designs.ini"));
+    const text_lines own = lines_of_file(kept_file(main, "designs.ini"));
     const text_lines now = lines_of_file(seed_catalogue_path(main)), last = supplied_last(main);
     return now == last ? own : with_supplied(own, last, now);
 }
 
 void take_newer_designs(const frmMain & main)
 {
-    const std::string seed = read_file(seed_catalogue_path(main)), noted = in_data(main, supplied_catalogue);
+    const std::string seed = read_file(seed_catalogue_path(main)),
+                      noted = kept_file(main, supplied_catalogue);
     if (file_exists(noted) && read_file(noted) == seed)
         return;
-    const std::string path = in_data(main, "designs.ini");
+    const std::string path = kept_file(main, "designs.ini");
     if (const text_lines newer = newer_catalogue(main); newer != lines_of_file(path))
         replace_file(path, text_of(newer));
     replace_file(noted, seed);

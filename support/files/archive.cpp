@@ -15,7 +15,7 @@
 namespace {
 
 constexpr std::int64_t file_limit = std::int64_t{256} << 20;  // bytes unpacked; ours are below 1 MiB
-constexpr std::size_t chunk_size = 1 << 16;
+constexpr std::size_t block_size = 1 << 16;
 
 struct reader_closer {
     void operator()(archive * opened) const { archive_read_free(opened); }
@@ -59,7 +59,7 @@ archive_reader opened_zip(const std::string & path)
 {
     archive_reader reader(archive_read_new());
     archive_read_support_format_zip(reader.get());
-    if (archive_read_open_filename(reader.get(), path.c_str(), chunk_size) != ARCHIVE_OK)
+    if (archive_read_open_filename(reader.get(), path.c_str(), block_size) != ARCHIVE_OK)
         return nullptr;
     return reader;
 }
@@ -127,7 +127,7 @@ private:
     unpacking::end take_file(const std::string & target)
     {
         std::string bytes;
-        std::string chunk(chunk_size, '\0');
+        std::string chunk(block_size, '\0');
         la_ssize_t got = 0;
         while ((got = archive_read_data(reader, chunk.data(), chunk.size())) > 0) {
             bytes.append(chunk, 0, static_cast<std::size_t>(got));

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::size_t longest_name = 200;
+constexpr std::size_t longest_inner_name = 200;
 constexpr std::size_t longest_shown = 120;
 constexpr int deepest = 8;
 
@@ -48,7 +48,7 @@ bool is_device(std::string_view name)
 
 bool is_plain_name(std::string_view name)
 {
-    if (name.empty() || name.size() > longest_name || name.back() == '.' || name.back() == ' ')
+    if (name.empty() || name.size() > longest_inner_name || name.back() == '.' || name.back() == ' ')
         return false;
     return std::ranges::none_of(name, is_forbidden) && !is_device(name);
 }

@@ -25,15 +25,13 @@ using faults = std::vector<std::string>;
 constexpr int widest_window = 1040, highest_window = 740;
 
 // One session for all: its making takes longer than the looking.
-struct every_window : testing::TestWithParam<int> {
+struct every_window : testing::Test {
     static void SetUpTestSuite()
     {
         kept = std::make_unique<filled_session>();
         kept->desk.room = {.width = widest_window, .height = highest_window};
     }
     static void TearDownTestSuite() { kept.reset(); }
-    every_window() { set_letters(GetParam()); }
-    ~every_window() override { set_letters(smallest_letters); }
 
     template <typename Look>
     void look_at_each(Look look)
@@ -50,23 +48,29 @@ struct every_window : testing::TestWithParam<int> {
 
 std::unique_ptr<filled_session> every_window::kept;
 
-TEST_P(every_window, has_no_two_widgets_that_overlap)
+// In letters of so many pixels.
+struct every_window_in_letters : every_window, testing::WithParamInterface<int> {
+    every_window_in_letters() { set_letters(GetParam()); }
+    ~every_window_in_letters() override { set_letters(smallest_letters); }
+};
+
+TEST_P(every_window_in_letters, has_no_two_widgets_that_overlap)
 {
     look_at_each([](form & held, QWidget & window) { EXPECT_EQ(overlaps(held, window), faults()); });
 }
 
-TEST_P(every_window, keeps_its_widgets_in_their_groups)
+TEST_P(every_window_in_letters, keeps_its_widgets_in_their_groups)
 {
     look_at_each([](form & held, QWidget & window) { EXPECT_EQ(strays(held, window), faults()); });
 }
 
-TEST_P(every_window, cuts_no_text)
+TEST_P(every_window_in_letters, cuts_no_text)
 {
     look_at_each([](form & held, QWidget & window) { EXPECT_EQ(cut_texts(held, window), faults()); });
 }
 
 // Larger letters are for larger screens.
-struct every_window_in_usual_letters : every_window {};
+struct every_window_in_usual_letters : every_window_in_letters {};
 
 TEST_P(every_window_in_usual_letters, is_no_larger_than_a_small_screen)
 {
@@ -76,7 +80,7 @@ TEST_P(every_window_in_usual_letters, is_no_larger_than_a_small_screen)
     });
 }
 
-TEST_P(every_window, gives_the_keyboard_to_nothing_that_does_not_take_it)
+TEST_F(every_window, gives_the_keyboard_to_nothing_that_does_not_take_it)
 {
     look_at_each([](form &, QWidget & window) {
         const QWidget * const focus = window.focusWidget();
@@ -84,22 +88,22 @@ TEST_P(every_window, gives_the_keyboard_to_nothing_that_does_not_take_it)
     });
 }
 
-TEST_P(every_window, lets_the_tab_key_follow_the_eye)
+TEST_P(every_window_in_letters, lets_the_tab_key_follow_the_eye)
 {
     look_at_each([](form & held, QWidget & window) { EXPECT_EQ(tab_order_faults(held, window), faults()); });
 }
 
-TEST_P(every_window, has_a_name_for_each_widget_that_the_keyboard_reaches)
+TEST_F(every_window, has_a_name_for_each_widget_that_the_keyboard_reaches)
 {
     look_at_each([](form & held, QWidget & window) { EXPECT_EQ(names_missing(held, window), faults()); });
 }
 
-TEST_P(every_window, has_no_letter_twice)
+TEST_F(every_window, has_no_letter_twice)
 {
     look_at_each([](form &, QWidget & window) { EXPECT_EQ(shared_letters(window), faults()); });
 }
 
-TEST_P(every_window, is_called_by_its_title_without_the_blanks_between_the_letters)
+TEST_F(every_window, is_called_by_its_title_without_the_blanks_between_the_letters)
 {
     look_at_each([](form &, QWidget & window) {
         EXPECT_FALSE(window.windowTitle().isEmpty());
@@ -107,7 +111,7 @@ TEST_P(every_window, is_called_by_its_title_without_the_blanks_between_the_lette
     });
 }
 
-TEST_P(every_window, has_a_button_for_enter_but_where_there_is_none_at_all)
+TEST_F(every_window, has_a_button_for_enter_but_where_there_is_none_at_all)
 {
     look_at_each([](form &, QWidget & window) {
         const auto buttons = window.findChildren<QPushButton *>();
@@ -117,7 +121,7 @@ TEST_P(every_window, has_a_button_for_enter_but_where_there_is_none_at_all)
 }
 
 // The space bar, pressed unawares, would be taken for the answer.
-TEST_P(every_window, begins_where_its_work_begins)
+TEST_F(every_window, begins_where_its_work_begins)
 {
     look_at_each([](form &, QWidget & window) {
         QApplication::processEvents();
@@ -132,7 +136,7 @@ TEST_P(every_window, begins_where_its_work_begins)
     });
 }
 
-TEST_P(every_window, takes_enter_for_its_ok)
+TEST_F(every_window, takes_enter_for_its_ok)
 {
     look_at_each([](form & held, QWidget & window) {
         for (const char * name : {"cmdOk", "cmdOK"})
@@ -163,7 +167,7 @@ TEST(keys, escape_closes_every_window_that_asks_and_those_of_the_main_window_clo
 INSTANTIATE_TEST_SUITE_P(letters, every_window_in_usual_letters,
                          testing::Values(smallest_letters, roomy_letters),
                          [](const auto & each) { return std::to_string(each.param) + "_pixels"; });
-INSTANTIATE_TEST_SUITE_P(letters, every_window,
+INSTANTIATE_TEST_SUITE_P(letters, every_window_in_letters,
                          testing::Values(9 * 4 / 3, 12 * 4 / 3, 14 * 4 / 3, 16 * 4 / 3),
                          [](const auto & each) { return std::to_string(each.param) + "_pixels"; });
 

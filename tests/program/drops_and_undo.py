@@ -92,7 +92,7 @@ def play(program, source):
 
     begun = Dragged(program, source, *files)
     hovered(program, begun, 'quick collage', 'drop_quick.png')
-    begun.let_go('copied', program.finished)
+    begun.let_go('copied', lambda: program.find('cmdFlurn'))  # a preview of before is there
     program.widget('cmdFlurn')
     check(all(os.path.exists(path) for path in files), 'the photos stay where they are')
     keep(program, 'drop_begun.png')

@@ -134,8 +134,8 @@ TEST(kept_copies, are_gone_by_the_names_of_their_originals)
     session.again->desk.will_answer(answer::no);
     session.again->open(session.file);
     EXPECT_EQ(session.again->desk.questions.front().text,
-              "1 of the 4 photos of this flurn are not where they were:\r\n" + session.phone[1] +
-                  "\r\n\r\nDo you want to look for them in another folder?");
+              "1 of the 4 photos of this flurn is not where it was:\r\n" + session.phone[1] +
+                  "\r\n\r\nDo you want to look for it in another folder?");
     EXPECT_TRUE(tells(session.again->desk.next_message(), "left out:\r\n" + session.phone[1] + "\r\n"));
     EXPECT_EQ(session.again->main.table.last_photo, 2);
 }

@@ -37,8 +37,8 @@ TEST(open_flurn, names_once_what_is_gone_and_lays_out_the_rest)
     session.again->open(session.file);
     ASSERT_EQ(session.again->desk.questions.size(), 1U);
     EXPECT_EQ(session.again->desk.questions.front().text,
-              "1 of the 4 photos of this flurn are not where they were:\r\n" + session.photos[1] +
-                  "\r\n\r\nDo you want to look for them in another folder?");
+              "1 of the 4 photos of this flurn is not where it was:\r\n" + session.photos[1] +
+                  "\r\n\r\nDo you want to look for it in another folder?");
     EXPECT_EQ(session.again->desk.next_message(),
               "These photos of the flurn are not there any more and were left out:\r\n" + session.photos[1] +
                   "\r\n\r\nThe flurn is laid out with the photos as they are now.");
@@ -101,8 +101,10 @@ TEST(open_flurn, tells_the_file_and_the_fault_of_one_that_is_none_and_leaves_all
         EXPECT_TRUE(has(told, fault)) << told;
         EXPECT_TRUE(session.again->main.menus_shown);
     }
-    session.again->open(session.folder.path() + "/nowhere.flurn");
-    EXPECT_TRUE(has(session.again->desk.next_message(), "nowhere.flurn"));
+    const std::string nowhere = session.folder.path() + "/nowhere.flurn";
+    session.again->open(nowhere);
+    EXPECT_EQ(session.again->desk.next_message(),
+              "This flurn can't be opened:\r\n" + nowhere + "\r\n\r\nThere is no such file.");
     session.again->open(session.folder.path());
     EXPECT_TRUE(has(session.again->desk.next_message(), "This flurn can't be opened:"));
 }

@@ -2,12 +2,14 @@
 """What tools/changes.py takes for landed and for changed since."""
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools"
+sys.path.insert(0, str(TOOLS))
 import changes
 
 
@@ -62,6 +64,32 @@ class landed_commit(unittest.TestCase):
         self.commit("third")
         os.environ["TESSALOOM_LANDED"] = second
         self.assertEqual(changes.changed_files(changes.landed()), {"third.cpp"})
+
+    def test_touches_what_a_pattern_names_as_a_whole(self):
+        changed = {"packaging/man/tessaloom.1", "tests/packaging.cpp"}
+        self.assertTrue(changes.touches(["cmake/.*", "packaging/.*"], changed))
+        self.assertFalse(changes.touches(["packaging", "cmake/.*"], changed))
+        self.assertFalse(changes.touches([], changed))
+
+
+class touched(unittest.TestCase):
+    def test_holds_where_nothing_has_landed_or_a_file_is_of_the_pattern(self):
+        with tempfile.TemporaryDirectory() as place:
+            root = pathlib.Path(place)
+            shutil.copytree(TOOLS, root / "tools", ignore=shutil.ignore_patterns("__pycache__", "[!ct]*"))
+            git = ["git", "-C", place, "-c", "user.name=x", "-c", "user.email=x@example.com"]
+            own = {**os.environ, "TESSALOOM_LANDED": ""}
+            ask = lambda *words: subprocess.run([sys.executable, root / "tools" / "touched", *words], env=own).returncode
+            for name in ["first", "second"]:
+                (root / name).write_text("")
+                for step in [["init", "-q"], ["add", "-A"], ["commit", "-q", "-m", name]]:
+                    subprocess.run(git + step, check=True)
+                if name == "first":
+                    self.assertEqual(ask("packaging/.*"), 0)
+                    own["TESSALOOM_LANDED"] = subprocess.run(git + ["rev-parse", "HEAD"], check=True, text=True,
+                                                             capture_output=True).stdout.strip()
+            self.assertEqual(ask("packaging/.*"), 1)
+            self.assertEqual(ask("packaging/.*", "sec.*"), 0)
 
 
 if __name__ == "__main__":

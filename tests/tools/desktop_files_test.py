@@ -202,7 +202,7 @@ whence -w _tessaloom; print -r -- $_comps[tessaloom-batch] $_comps[tessaloom-pac
         space = {"m": "http://www.freedesktop.org/standards/shared-mime-info"}
         self.assertEqual(known.find("m:mime-type", space).get("type"), "application/x-tessaloom-flurn")
         self.assertEqual(known.find(".//m:glob", space).get("pattern"), "*.flurn")
-        first = (ROOT / "recipes" / "recipe_text.cpp").read_text()
+        first = (ROOT / "recipes" / "recipe_rows.h").read_text()
         begins = known.find(".//m:match", space).get("value").replace("\\t", "")
         self.assertIn(f'heading = "{begins}"', first)
         if shutil.which("update-mime-database") and shutil.which("gio"):

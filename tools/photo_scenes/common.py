@@ -20,7 +20,7 @@ def clear_stage():
     scene.render.engine = "CYCLES"
     cycles = scene.cycles
     cycles.device = "CPU"
-    cycles.max_bounces, cycles.diffuse_bounces, cycles.glossy_bounces = 6, 2, 3
+    cycles.diffuse_bounces, cycles.glossy_bounces = 2, 3
     cycles.transmission_bounces, cycles.transparent_max_bounces = 6, 12
     cycles.caustics_reflective = cycles.caustics_refractive = False
     cycles.sample_clamp_indirect = 6

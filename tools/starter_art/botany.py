@@ -2,7 +2,7 @@
 import math
 
 from starter_art.roses import corner
-from starter_art.svg import circle, ellipse, path
+from starter_art.svg import circle, ellipse, path, smooth
 
 
 def leaf_shape(x, y, reach, turn, broad=0.3):
@@ -58,23 +58,28 @@ def garland_of_leaves(chance, pairs, color):
     return [path(f"M0,0V{-90 - 78 * pairs}", fill="none", stroke=color, stroke_width="7", stroke_linecap="round")] + found
 
 
-BRANCHES = ("M0,0C-30,-220 60,-420 20,-640C0,-740 40,-800 60,-860M18,-420C120,-520 160,-560 190,-680M30,-620C-60,-700 -90,-740 -100,-800",
-            "M0,0C40,-200 -50,-400 0,-600C30,-720 -30,-800 -20,-880M-12,-330C-110,-430 -150,-500 -160,-640M0,-560C90,-640 130,-700 150,-790")
+# Each a stem and what parts from it, from (0, 0) upwards.
+BRANCHES = ((((0, 0), (-20, -200), (42, -420), (20, -640), (60, -860)), ((34, -420), (110, -520), (165, -590), (190, -700)),
+             ((22, -620), (-50, -700), (-84, -740), (-100, -810))),
+            (((0, 0), (40, -200), (-46, -400), (0, -600), (-20, -880)), ((-36, -340), (-110, -430), (-152, -510), (-160, -640)),
+             ((-2, -570), (90, -640), (130, -710), (150, -790))))
 
 
 def bough(chance, tones, bark):
-    """A bough in blossom, of about eight hundred: flowers, seen from above or aslant, and buds."""
-    branch = chance.choice(BRANCHES)
-    found = [path(branch, fill="none", stroke=bark, stroke_width="17", stroke_linecap="round"),
-             path(branch, fill="none", stroke="#ffffff", stroke_width="4", stroke_opacity="0.12", stroke_linecap="round", transform="translate(-4,-3)")]
-    for _ in range(38):
-        y = chance.uniform(120, 800)
-        spread = 30 + 110 * (y / 860)
-        x, size, turn, tall = chance.uniform(-spread, spread) + 10, chance.uniform(22, 46), chance.uniform(0, 72), chance.uniform(0.62, 1)
+    """A bough in blossom, of about eight hundred: along its branches flowers, seen from above or aslant, and buds."""
+    branches = chance.choice(BRANCHES)
+    found = [path(smooth(branch), fill="none", stroke=tone, stroke_width=width, stroke_opacity=opacity, stroke_linecap="round", transform=moved)
+             for branch in branches for tone, width, opacity, moved in ((bark, 16, 1, "translate(0,0)"), ("#ffffff", 3, 0.13, "translate(-4,-3)"))]
+    for _ in range(40):
+        branch = chance.choice(branches + branches[:1])
+        at = min(len(branch) - 2, int(chance.uniform(0.15, 1) * (len(branch) - 1)))
+        (x, y), (next_x, next_y), share = branch[at], branch[at + 1], chance.random()
+        x, y = x + share * (next_x - x) + chance.uniform(-24, 24), y + share * (next_y - y) + chance.uniform(-24, 24)
+        size, turn, tall = chance.uniform(22, 46), chance.uniform(0, 72), chance.uniform(0.62, 1)
         if chance.random() < 0.2:
-            found += bud(x, -y, 0.4 * size, chance.uniform(-50, 50), tones[0])
+            found += bud(x, y, 0.4 * size, chance.uniform(-50, 50), tones[0])
             continue
-        found.append(f'<g transform="translate({x:.0f},{-y:.0f}) rotate({turn:.0f}) scale(1 {tall:.2f})">' + "".join(blossom(chance, size, tones)) + "</g>")
+        found.append(f'<g transform="translate({x:.0f},{y:.0f}) rotate({turn:.0f}) scale(1 {tall:.2f})">' + "".join(blossom(chance, size, tones)) + "</g>")
     return found
 
 

@@ -80,7 +80,7 @@ def cork(size, rim=44):
 
 def felt(size):
     """The green cloth of a card table, with its edge of wood."""
-    words = stuff("felt", seed=21, color="#1d6a4b", hairs=["#0f5638", "#4aa67d", "#17694a"])
+    words = stuff("felt", seed=21, color="#275a44", hairs=["#1a4433", "#568f74", "#225440"])
     wide, high = size
     edge = [rectangle(24, 24, wide - 48, high - 48, fill="none", stroke="#4a2b18", stroke_width="48"),
             rectangle(14, 14, wide - 28, high - 28, fill="none", stroke="#6d4326", stroke_width="18"),
@@ -88,7 +88,7 @@ def felt(size):
             rectangle(92, 92, wide - 184, high - 184, fill="none", stroke="#d9c37a", stroke_width="5", stroke_opacity="0.25", rx="40")]
     shade = [path(f"M48,48H{wide - 48}V{48 + reach}H{48 + reach}V{high - 48}H48Z", fill="#000000", fill_opacity="0.07")
              for reach in range(2, 34, 4)]
-    return drawing(*size, [words] + lights(size, "#9fe0bd", 0.16, 0.46) + shade + edge)
+    return drawing(*size, [words] + lights(size, "#e2f0e6", 0.1, 0.46) + shade + edge)
 
 
 def kraft(size):
@@ -107,7 +107,7 @@ CLOVER = [part for turn in (0, 118, 243) for part in (
 def lawn(size):
     """Grass seen from above, with clover in it."""
     chance = random.Random(33)
-    words = stuff("lawn", seed=33, color="#15331c", blades=["#2b5f33", "#3c7343", "#24552e", "#4a8049", "#5a8a4c", "#356b3a"])
+    words = stuff("lawn", seed=33, color="#18301d", blades=["#345f36", "#467144", "#2c5531", "#587d4a", "#6b884f", "#3f6a3c"])
     clover = []
     for _ in range(150):
         turn, scale = chance.uniform(0, 360), chance.uniform(0.5, 0.95)

@@ -1,0 +1,138 @@
+"""Baubles on the boughs of a Christmas tree, its lights and the room behind them melting away."""
+from math import cos, pi, sin
+
+import numpy
+from mathutils import Vector
+
+import materials as m
+import shapes as s
+from common import camera, mesh_object
+from film import Roll
+
+FORMAT = "portrait"
+
+
+def needle_twigs(name, chance, long, material, wood):
+    """A twig with its needles all around, along x."""
+    count = int(long * 1500)
+    t = chance.uniform(0.02, 1.0, count)
+    turn, lean = chance.uniform(0, 2 * pi, count), chance.uniform(0.55, 0.95, count)
+    size = chance.uniform(0.014, 0.021, count) * (1.0 - 0.25 * t)
+    root = numpy.stack([t * long, numpy.zeros(count), -0.10 * long * t * t], axis=1)
+    out = numpy.stack([lean * 0.62, numpy.cos(turn) * 0.8, numpy.sin(turn) * 0.8 + 0.18], axis=1)
+    out /= numpy.linalg.norm(out, axis=1, keepdims=True)
+    aside = numpy.cross(out, chance.normal(0, 1, (count, 3)))
+    aside *= 0.00065 / numpy.linalg.norm(aside, axis=1, keepdims=True)
+    tip, belly = root + out * size[:, None], root + out * (size * 0.55)[:, None]
+    points = numpy.stack([root - aside * 0.6, root + aside * 0.6, belly + aside, tip, belly - aside], axis=1).reshape(-1, 3)
+    faces = (numpy.arange(count)[:, None] * 5 + numpy.arange(5)[None, :])
+    twig = mesh_object(name, points, faces, material)
+    stem = s.tube("stem", [(long * i / 8, 0, -0.10 * long * (i / 8) ** 2) for i in range(9)], 0.0022, wood,
+                  radii=[1 - 0.07 * i for i in range(9)])
+    stem.parent = twig
+    return twig
+
+
+def bough(twigs, root, turn, droop, long, dice, scale=1.0):
+    """A branch with twigs to both sides and upward."""
+    def at(t):
+        return Vector(root) + Vector((cos(turn), sin(turn), 0)) * long * t + Vector((0, 0, -droop * long * t * t))
+    for i in range(15):
+        t = 0.12 + 0.88 * i / 14
+        for side in (-1, 1, 0):
+            if side == 0 and i % 3:
+                continue
+            size = scale * (1.15 - 0.75 * t) * dice.uniform(0.85, 1.1)
+            lean = side * dice.uniform(0.6, 0.95) * (1 - 0.25 * t)
+            place(twigs[dice.randrange(len(twigs))], at(t), (dice.uniform(-0.6, 0.6), droop * t - (0.5 if side == 0 else 0.1),
+                                                             turn + lean), size)
+    place(twigs[0], at(0.93), (0, droop * 1.6, turn), scale * 0.75)
+    for i in range(6):
+        place(twigs[0], at(i / 6.5), (dice.uniform(0, 6), droop * 1.2 * i / 6, turn), scale * 0.9)
+
+
+def place(twig, at, turn, size):
+    made = s.copy(twig, at, turn, size)
+    for child in twig.children:
+        stem = child.copy()
+        made.users_collection[0].objects.link(stem)
+        stem.parent = made
+
+
+def foil(name, colour, rough):
+    return m.plain(name, colour, rough, Metallic=1.0, Clearcoat=1.0, Clearcoat_Roughness=0.02)
+
+
+def glitter(name, colour):
+    """Glued-on glitter: each flake its own mirror."""
+    made, nodes, shader = m.principled(name, colour, 0.22, Metallic=1.0)
+    tilt = m.voronoi(nodes, nodes.place(), 520.0, output="Color")
+    normal = nodes.vector("NORMALIZE", nodes.vector("ADD", nodes.add("ShaderNodeNewGeometry").outputs["Normal"],
+                                                    nodes.vector("MULTIPLY", nodes.vector("SUBTRACT", tilt, (0.5, 0.5, 0.5)),
+                                                                 (0.9, 0.9, 0.9))))
+    m.feed(nodes, shader, Normal=normal)
+    return made
+
+
+def bauble(at, size, material, gold):
+    """A glass ball with its cap and loop, hung from a thread."""
+    s.ball("bauble", size, material, at, 5)
+    cap = s.lathe("cap", [(0.24, 0.93), (0.25, 0.97), (0.24, 1.14), (0.20, 1.18), (0, 1.19)], gold, steps=32)
+    cap.location, cap.scale = at, (size,) * 3
+    loop = s.tube("loop",
+                  [(at[0] + 0.1 * size * cos(a), at[1],
+                    at[2] + size * (1.27 + 0.1 * sin(a))) for a in (2 * pi * i / 16 for i in range(16))], 0.02 * size, gold,
+                  closed=True)
+    s.tube("thread", [(at[0], at[1], at[2] + 1.35 * size), (at[0], at[1] + 0.01, at[2] + 2.6 * size)], 0.0006, gold)
+    return loop
+
+
+def candles_of_light(dice):
+    """The chain of little lamps: some near and sharp, most far behind."""
+    warm = m.glow("lamp", "ffc470", 60)
+    for x, y, z in ((-0.13, 0.02, 0.10), (0.12, 0.05, 0.19), (-0.02, 0.06, 0.27), (0.15, 0.02, -0.10), (-0.17, 0.06, -0.05),
+                    (0.03, 0.08, -0.20), (-0.08, 0.05, 0.36), (0.10, 0.07, 0.39)):
+        bulb = s.ball("lamp", 0.0035, warm, (x, y, z), 2)
+        bulb.scale.z = 2
+        m.lamp("POINT", (x, y, z), (0, 0, 0), 0.10, (1.0, 0.72, 0.4), shadow_soft_size=0.004)
+    tones = [m.glow("far lamp", tone, power) for tone, power in (("ffc064", 30), ("ffb04e", 26), ("ffd590", 30),
+                                                                 ("ff6a4a", 18), ("ffe0b0", 26))]
+    for _ in range(90):
+        s.ball("far lamp", dice.uniform(0.006, 0.011), dice.choice(tones), (dice.uniform(-0.75, 0.75), dice.uniform(0.7, 1.7),
+                                                                            dice.uniform(-0.9, 1.0)), 1)
+
+
+def build():
+    dice, chance = s.dice(19), numpy.random.default_rng(19)
+    needles, nodes, shader = m.principled("needles", "1f4a22", 0.45, Specular=0.4)
+    m.feed(nodes, shader, Base_Color=m.ramp(nodes, nodes.chance(), (0.0, "2c5c2e"), (0.6, "437f42"), (1.0, "65994f")))
+    wood = m.plain("twig", "5a3f28", 0.8)
+    twigs = [needle_twigs("twig", chance, long, needles, wood) for long in (0.11, 0.13, 0.095)]
+    for root, turn, droop, long in (((-0.34, 0.10, 0.25), -0.25, 0.30, 0.42), ((0.36, 0.12, 0.34), pi + 0.25, 0.32, 0.40),
+                                    ((0.02, 0.30, 0.50), -pi / 2, 0.45, 0.36),
+                                    ((-0.38, 0.12, 0.02), -0.12, 0.28, 0.36), ((0.40, 0.14, 0.06), pi + 0.1, 0.30, 0.38),
+                                    ((0.0, 0.34, 0.18), -pi / 2 + 0.3, 0.5, 0.34),
+                                    ((-0.30, 0.16, -0.20), 0.05, 0.25, 0.40), ((0.34, 0.18, -0.16), pi - 0.1, 0.25, 0.36),
+                                    ((-0.22, 0.25, 0.44), -0.6, 0.35, 0.34),
+                                    ((0.24, 0.3, -0.34), pi + 0.4, 0.2, 0.4), ((-0.2, 0.3, -0.42), 0.1, 0.2, 0.45)):
+        bough(twigs, root, turn, droop, long, dice, 1.15)
+    for twig in twigs:
+        s.gone(twig)
+        for child in twig.children:
+            s.gone(child)
+    gold = foil("gold", "e0b04a", 0.18)
+    bauble((-0.055, -0.035, 0.045), 0.056, foil("red", "b80f18", 0.05), gold)
+    bauble((0.105, 0.0, -0.055), 0.046, glitter("gold glitter", "e8b850"), gold)
+    bauble((0.070, 0.02, 0.235), 0.040, foil("matt red", "a8141c", 0.35), gold)
+    bauble((-0.135, 0.03, -0.150), 0.042, foil("champagne", "e8cfa0", 0.08), gold)
+    bauble((-0.140, 0.05, 0.285), 0.036, glitter("silver glitter", "d8dce2"), gold)
+    bauble((0.17, 0.08, 0.10), 0.036, foil("deep", "7a0c22", 0.06), gold)
+    candles_of_light(dice)
+    s.box("tree", (1.5, 0.1, 2.2), m.plain("dark tree", "0b150c", 0.95), 0, (0, 1.9, 0))
+    s.box("room", (6, 0.1, 5), m.plain("room", "4a2c1c", 0.9), 0, (0, 2.6, 0))
+    m.ambient((0.5, 0.36, 0.26), 0.20)
+    m.window_light((-0.9, -0.9, 0.9), (0, 0, 0), 0.7, 30, (1.0, 0.9, 0.78))
+    m.window_light((1.0, -0.4, 0.3), (0, 0, 0), 0.4, 8, (1.0, 0.75, 0.5))
+    eye, target = (0.0, -0.78, 0.09), (0.0, 0, 0.055)
+    camera(eye, target, 56, m.focused(eye, target, (-0.04, -0.07, 0.03)), 3.2)
+    return Roll(samples=16, exposure=0.5, glow=0.10)
