@@ -1,6 +1,7 @@
 #include "desktop/qt_desktop.h"
 
 #include "../temporary_folder.h"
+#include "desktop/looks/letters.h"
 #include "session/windows.h"
 #include "support/platform_error.h"
 #include "tests/desktop/windows_played.h"
@@ -33,6 +34,30 @@ TEST(qt_desktop, a_message_shows_its_text_as_it_stands)
     desk.message("A <b>bold</b> name & more\r\n\r\nEnd", "T e s s");
     EXPECT_EQ(text, "A <b>bold</b> name & more\n\nEnd");
     EXPECT_EQ(title, "T e s s");
+}
+
+// The welcome, whose lines are of very different lengths: none of them leaves a last word alone.
+TEST(qt_desktop, a_message_is_broken_where_the_session_breaks_it_alone)
+{
+    const std::string text =
+        "\r\nWelcome to Tessaloom\r\n\r\n\r\nThis appears to be the first time you have used this "
+        "application "
+        "and we\r\nneed to do a final configuration.\r\n\r\nClick the OK and give us a few seconds to get "
+        "things ready.";
+    for (const int letters : {12, 16, 21}) {
+        set_letters(letters);
+        qt_desktop desk;
+        when_asked<QMessageBox>([letters](QMessageBox & box) {
+            const auto & label = *box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+            const QFontMetrics metrics = label.fontMetrics();
+            const QRect shown = metrics.boundingRect(label.contentsRect(), Qt::TextWordWrap, label.text());
+            EXPECT_EQ(shown.height(), metrics.size(0, label.text()).height()) << letters;
+            EXPECT_LE(shown.height(), label.height()) << letters;
+            box.buttons().front()->click();
+        });
+        desk.message(text, "T e s s");
+    }
+    set_letters(smallest_letters);
 }
 
 TEST(qt_desktop, a_question_gives_the_button_that_was_pressed)

@@ -84,6 +84,20 @@ TEST_F(typed_lists, what_is_beyond_a_list_is_replaced_by_the_next_digit)
     EXPECT_EQ(list.currentText().toStdString(), "7");
 }
 
+TEST_F(typed_lists, the_box_of_the_caption_says_what_it_is_for_while_it_is_empty)
+{
+    auto & box = *window->findChild<QLineEdit *>(QLatin1String("txtCaption"));
+    all.main.txtCaption.set_text("");
+    const QImage empty = box.grab().toImage();
+    const QString told = box.placeholderText();
+    EXPECT_FALSE(told.isEmpty());
+    box.setPlaceholderText({});
+    EXPECT_NE(box.grab().toImage(), empty) << "it isn't seen";
+    box.setPlaceholderText(told);
+    QTest::keyClicks(&box, "S");
+    EXPECT_EQ(all.main.txtCaption.text(), "S");
+}
+
 TEST_F(typed_lists, that_of_the_shapes_takes_its_entries_alone)
 {
     bring_to(all.main, look::quick_circles, shape::portrait);
