@@ -5,6 +5,7 @@
 #include "desktop/text_drawing.h"
 #include "desktop/without_windows.h"
 #include "recipes/recipe_shelf.h"
+#include "support/cores.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -66,6 +67,14 @@ std::string surroundings()
     return told.empty() ? "no desktop" : told;
 }
 
+// Those that this process may use, and where there are more, how many.
+std::string cores_told()
+{
+    const auto usable = static_cast<unsigned>(usable_cores()), there = std::thread::hardware_concurrency();
+    const std::string told = std::to_string(usable);
+    return usable < there ? told + " of " + std::to_string(there) : told;
+}
+
 std::string fonts_told()
 {
     const std::vector<std::string> fonts = installed_fonts();
@@ -116,7 +125,8 @@ std::string room_told(const std::string & folder)
 std::string data_told(const std::string & data)
 {
     if (!folder_exists(data))
-        return row("Data folder is", "not there; the first start makes it");
+        return row("Data folder is", file_exists(data) ? "no folder; a file has its name"
+                                                       : "not there; the first start makes it");
     const bool whole = file_exists(joined(data, "3_1_install")) && file_exists(joined(data, "designs.ini"));
     return row("Data folder is", std::string(whole ? "whole" : "not whole; the next start fills it") +
                                      (can_write(data) ? "" : ", write-protected")) +
@@ -147,7 +157,7 @@ std::string report(const batch_folders & folders)
         folders.data.use_public_folder ? folders.data.public_folder : folders.install_folder;
     return version_told("tessaloom-batch", libraries_in_use()) + row("Built with", compiler()) +
            row("System", system_in_words()) + row("Surroundings", surroundings()) +
-           row("Cores", std::to_string(std::thread::hardware_concurrency())) + row("Fonts", fonts_told()) +
+           row("Cores", cores_told()) + row("Fonts", fonts_told()) +
            row("Program", programs_told(folders.install_folder)) +
            row("Data folder", kind_of_place(folders)) + data_told(data);
 }

@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
 """How long the built program lets no event through while it works, on a virtual display:
-standstill.py [--slow MILLISECONDS] APP PLUGINS PHOTOS [DESIGN...]. Prints the longest time for counting and thumbnails,
-for a change of a setting and for a full run. The thumbnails beside the photos are removed first. With --slow every look at
-a photo's file takes that long, as on a share far away."""
+standstill.py [--slow MILLISECONDS] [--workers N] APP PLUGINS PHOTOS [DESIGN...]. Prints the longest time for counting and
+thumbnails, for a change of a setting and for a full run. The thumbnails beside the photos are removed first. With --slow
+every look at a photo's file takes that long, as on a share far away; with --workers that many work, however few cores
+there are."""
+import argparse
 import os
 import shutil
 import sys
@@ -54,19 +56,30 @@ def measure(program, photos, number):
           flush=True)
 
 
+def given():
+    words = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    words.add_argument('--slow', metavar='MILLISECONDS')
+    words.add_argument('--workers', metavar='N')
+    words.add_argument('app')
+    words.add_argument('plugins')
+    words.add_argument('photos', type=os.path.abspath)
+    words.add_argument('designs', nargs='*', type=int, default=[0, 6])
+    return words.parse_args()
+
+
 def main():
-    words = sys.argv[1:]
-    if words[0] == '--slow':
-        os.environ['TESSALOOM_SLOW_PHOTOS'] = words[1]
-        os.environ['TESSALOOM_SLOW_FOLDER'] = os.path.abspath(words[4])
-        words = words[2:]
-    app, plugins, photos = words[:3]
-    program = Program(app, plugins)
+    words = given()
+    if words.slow:
+        os.environ['TESSALOOM_SLOW_PHOTOS'] = words.slow
+        os.environ['TESSALOOM_SLOW_FOLDER'] = words.photos
+    if words.workers:
+        os.environ['TESSALOOM_TOLD_CORES'] = words.workers
+    program = Program(words.app, words.plugins)
     program.window('QMessageBox')
     program.keys('Return')
     program.window('frmMain')
-    for number in [int(word) for word in words[3:]] or [0, 6]:
-        measure(program, os.path.abspath(photos), number)
+    for number in words.designs:
+        measure(program, words.photos, number)
     program.close()
 
 

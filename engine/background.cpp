@@ -25,36 +25,36 @@ bitmap loaded(const std::string & path)
     return path.empty() ? bitmap{} : load_picture(picture_format::jpeg, path);
 }
 
-// The first of the pictures that can be read. Another core reads it, be it as large as it may.
-bitmap loaded_beside(frmMain & main, const std::vector<std::string> & paths)
+// The first of the pictures that can be read.
+bitmap first_loaded(const std::vector<std::string> & paths)
 {
-    return beside(main.desk, main.workers, [&] {
-        bitmap image;
-        for (const std::string & path : paths)
-            if (!image)
-                image = loaded(path);
-        return image;
-    });
+    for (const std::string & path : paths)
+        if (bitmap image = loaded(path))
+            return image;
+    return {};
 }
 
 // A design's own picture has a small one for previews; where that is missing the picture itself serves.
-bitmap small_own_background(frmMain & main)
+std::vector<std::string> small_backgrounds(const frmMain & main)
 {
+    if (!has_own_background(main))
+        return {main.txtBGimage.text()};
     const std::string & picture = main.design_record.bg_image;
     const bool is_users = is_under(picture, "user_images");
     const std::optional<std::string> path =
         fixed_picture_path(main, is_users ? picture : preview_picture(picture));
-    return loaded_beside(main, {path.value_or(""), main.txtBGimage.text()});
+    return {path.value_or(""), main.txtBGimage.text()};
 }
 
+// Another core reads the picture and brings it to its size, be it as large as it may.
 bitmap small_background(frmMain & main)
 {
-    const bitmap image =
-        has_own_background(main) ? small_own_background(main) : loaded_beside(main, {main.txtBGimage.text()});
-    if (!image)
-        return {};
-    return continued(preview_background(image, selected_shape(main)), main.collage_width,
-                     main.collage_height);
+    return beside(main.desk, main.workers,
+                  [paths = small_backgrounds(main), shape = selected_shape(main), width = main.collage_width,
+                   height = main.collage_height] {
+                      const bitmap image = first_loaded(paths);
+                      return image ? continued(preview_background(image, shape), width, height) : bitmap();
+                  });
 }
 
 bitmap full_background(frmMain & main, picture_size size)

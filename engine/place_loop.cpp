@@ -16,7 +16,19 @@
 
 namespace {
 
-// What a location is filled with.
+// What a location is filled with: a photo of the table, the design's own picture, or a colour, for which a
+// photo is looked at and given back.
+enum class filling { photo, fixed_picture, color };
+
+// A location as it will be drawn. All are settled before the first photo: what is read ahead and what is
+// drawn are then the same.
+struct planned_place {
+    filling by = filling::photo;
+    photo_place at;
+};
+
+using place_plan = std::vector<planned_place>;
+
 struct picked_picture {
     run_photo photo;
     bool found = false;
@@ -29,30 +41,42 @@ bool is_shape(const location & place)
     return place.height == 0 || place.width == 0;
 }
 
-bool is_fixed(const location & place)
+filling filling_of(const frmMain & main, const location & place)
 {
-    return !place.file.empty() && !is_shape(place);
+    if (!is_shape(place))
+        return place.file.empty() ? filling::photo : filling::fixed_picture;
+    const bool is_painted = place.spare != 0 && place.rotation == 0 && !main.chkCaption.ticked();
+    return is_painted ? filling::color : filling::photo;
 }
 
-// A shape that is painted and shows nothing of a photo.
-bool is_painted(const frmMain & main, const location & place)
+// Only a shape has a mask and a colour.
+planned_place planned(const frmMain & main, const location & place)
 {
-    return is_shape(place) && place.spare != 0 && place.rotation == 0 && !main.chkCaption.ticked();
+    return {
+        .by = filling_of(main, place),
+        .at = {.area = {.left = place.left, .top = place.top, .width = place.width, .height = place.height},
+               .rotation = place.rotation,
+               .worn = worn_at(main, place, place.rotation),
+               .mask = place.file,
+               .shape_color = is_shape(place) ? place.spare : 0}};
 }
 
-// The place as it is to be drawn. Only a shape has a mask and a colour.
-photo_place drawn_place(const frmMain & main, const location & place)
+place_plan plan_of(const frmMain & main)
 {
-    return {.area = {.left = place.left, .top = place.top, .width = place.width, .height = place.height},
-            .rotation = place.rotation,
-            .worn = worn_at(main, place, place.rotation),
-            .mask = place.file,
-            .shape_color = is_shape(place) ? place.spare : 0};
+    place_plan plan;
+    for (int i = 0; i <= main.design_locations.count; ++i)
+        plan.push_back(planned(main, main.design_locations[i]));
+    return plan;
 }
 
-place_of_photo fitted_to(const frmMain & main, const location & place)
+picture_size layout_size(const planned_place & place)
 {
-    return [&main, at = drawn_place(main, place)](picture_size own) { return fitted_size(main, at, own); };
+    return {.width = place.at.area.width, .height = place.at.area.height};
+}
+
+place_of_photo fitted_to(const frmMain & main, const planned_place & place)
+{
+    return [&main, &at = place.at](picture_size own) { return fitted_size(main, at, own); };
 }
 
 picked_picture picked(run_photo photo, int index = -1)
@@ -61,18 +85,18 @@ picked_picture picked(run_photo photo, int index = -1)
     return {.photo = std::move(photo), .found = found, .index = index};
 }
 
-picked_picture fixed_picture(frmMain & main, const location & place)
+picked_picture fixed_picture(frmMain & main, const planned_place & place)
 {
-    const std::optional<std::string> path = fixed_picture_path(main, place.file);
+    const std::optional<std::string> path = fixed_picture_path(main, place.at.mask);
     return path ? picked(load_photo(main, *path, fitted_to(main, place))) : picked_picture{};
 }
 
-picked_picture photo_at(frmMain & main, const location & place, int index)
+picked_picture photo_at(frmMain & main, const planned_place & place, int index)
 {
     const std::string & path = main.table[index];
-    // A painted shape needs a photo that could be loaded and nothing of its pixels.
+    // A colour needs a photo that could be loaded and nothing of its pixels.
     picked_picture found =
-        is_painted(main, place)
+        place.by == filling::color
             ? picked_picture{.photo = {}, .found = size_of_photo(main, path).has_value(), .index = index}
             : picked(load_photo(main, path, fitted_to(main, place)), index);
     found.moved_on = true;
@@ -80,7 +104,7 @@ picked_picture photo_at(frmMain & main, const location & place, int index)
 }
 
 // Photos that can't be loaded are passed over, as long as there is another one.
-picked_picture next_photo(frmMain & main, const location & place, int & photo)
+picked_picture next_photo(frmMain & main, const planned_place & place, int & photo)
 {
     for (bool is_any = has_usable_photo(main); is_any;) {
         if (photo > main.table.last_photo) {
@@ -99,10 +123,9 @@ picked_picture next_photo(frmMain & main, const location & place, int & photo)
     return {};
 }
 
-picked_picture matching_photo(frmMain & main, const location & place, int & photo)
+picked_picture matching_photo(frmMain & main, const planned_place & place, int & photo)
 {
-    matched_photo match =
-        pick_matching(main, {.width = place.width, .height = place.height}, fitted_to(main, place));
+    matched_photo match = pick_matching(main, layout_size(place), fitted_to(main, place));
     if (match.photo)
         return picked(std::move(match.photo), match.index);
     main.run.match_active = false;
@@ -110,32 +133,32 @@ picked_picture matching_photo(frmMain & main, const location & place, int & phot
     return next_photo(main, place, photo);
 }
 
-picked_picture picture_for(frmMain & main, const location & place, int & photo)
+picked_picture picture_for(frmMain & main, const planned_place & place, int & photo)
 {
-    if (is_fixed(place))
+    if (place.by == filling::fixed_picture)
         return fixed_picture(main, place);
     return main.run.match_active ? matching_photo(main, place, photo) : next_photo(main, place, photo);
 }
 
-// The locations from this one on that will take photos of the table, as many as are read at once.
-std::vector<const location *> taking_photos(const frmMain & main, int from)
+// The places from this one on that will take photos of the table, as many as are read at once.
+std::vector<const planned_place *> taking_photos(const frmMain & main, const place_plan & plan,
+                                                 std::size_t from)
 {
-    const location_table & table = main.design_locations;
-    std::vector<const location *> places;
-    for (int i = from; i <= table.count && std::ssize(places) < main.workers.count(); ++i)
-        if (!is_fixed(table[i]) && !is_painted(main, table[i]))
-            places.push_back(&table[i]);
+    std::vector<const planned_place *> places;
+    for (std::size_t i = from; i < plan.size() && std::ssize(places) < main.workers.count(); ++i)
+        if (plan[i].by == filling::photo)
+            places.push_back(&plan[i]);
     return places;
 }
 
 // The photos that they will take, as far as can be told.
-std::vector<int> upcoming_photos(frmMain & main, const std::vector<const location *> & places, int photo)
+std::vector<int> upcoming_photos(frmMain & main, const std::vector<const planned_place *> & places, int photo)
 {
     std::vector<int> photos;
     if (main.run.match_active) {
         std::vector<picture_size> sizes;
-        for (const location * place : places)
-            sizes.push_back({.width = place->width, .height = place->height});
+        for (const planned_place * place : places)
+            sizes.push_back(layout_size(*place));
         return photos_to_match(main, sizes);
     }
     for (; photo <= main.table.last_photo && photos.size() < places.size(); ++photo)
@@ -144,9 +167,8 @@ std::vector<int> upcoming_photos(frmMain & main, const std::vector<const locatio
     return photos;
 }
 
-void read_upcoming(frmMain & main, int from, int photo)
+void read_upcoming(frmMain & main, const std::vector<const planned_place *> & places, int photo)
 {
-    const std::vector<const location *> places = taking_photos(main, from);
     const std::vector<int> photos = upcoming_photos(main, places, photo);
     std::vector<wanted_photo> next;
     for (std::size_t i = 0; i < photos.size(); ++i)
@@ -156,45 +178,42 @@ void read_upcoming(frmMain & main, int from, int photo)
     read_ahead(main, next);
 }
 
-void draw_place(frmMain & main, const location & place, picked_picture picked_one, int & photo)
+void draw_place(frmMain & main, const photo_place & at, run_photo photo)
 {
-    const photo_place at = drawn_place(main, place);
     if (main.chkCaption.ticked())
-        lay_card(main, std::move(picked_one.photo), at);
+        lay_card(main, std::move(photo), at);
     else
-        lay_photo(main, std::move(picked_one.photo), at);
-    if (is_painted(main, place) && picked_one.moved_on)
-        --photo;
+        lay_photo(main, std::move(photo), at);
 }
 
 // False for a photo that turns out too long for the place: it is left out of the run.
-bool is_drawn(frmMain & main, const location & place, picked_picture picked_one, int & photo)
+bool is_drawn(frmMain & main, const planned_place & place, picked_picture picked_one)
 {
-    const int index = picked_one.index;
     try {
-        draw_place(main, place, std::move(picked_one), photo);
+        draw_place(main, place.at, std::move(picked_one.photo));
         return true;
     } catch (const photo_too_long &) {
-        if (index < 0)
+        if (picked_one.index < 0)
             throw;
-        leave_out(main, main.table[index], photo_fault::too_long);
+        leave_out(main, main.table[picked_one.index], photo_fault::too_long);
         return false;
     }
 }
 
-// Fills location `i` with the first picture that it can take; false when there is none.
-bool is_filled(frmMain & main, int i, int & photo)
+// Fills place `i` with the first picture that it can take; false when there is none.
+bool is_filled(frmMain & main, const place_plan & plan, std::size_t i, int & photo)
 {
-    const location & place = main.design_locations[i];
+    const planned_place & place = plan[i];
     for (;;) {
         picked_picture next = picture_for(main, place, photo);
         if (!next.found)
             return false;
+        if (place.by == filling::color && next.moved_on)
+            --photo;
+        read_upcoming(main, taking_photos(main, plan, i + 1), photo);
         const int index = next.index;
-        // A painted shape gives its photo back once it is drawn.
-        read_upcoming(main, i + 1, is_painted(main, place) ? photo - 1 : photo);
-        if (is_drawn(main, place, std::move(next), photo)) {
-            if (index >= 0 && !is_painted(main, place))
+        if (is_drawn(main, place, std::move(next))) {
+            if (index >= 0 && place.by == filling::photo)
                 main.run.photos_shown.insert(index);
             return true;
         }
@@ -203,13 +222,13 @@ bool is_filled(frmMain & main, int i, int & photo)
 
 void fill_locations(frmMain & main, const sign_of_life & sign)
 {
-    const location_table & table = main.design_locations;
+    const place_plan plan = plan_of(main);
     int photo = 0;
-    for (int i = 0; i <= table.count && !main.run.cancel_requested; ++i) {
+    for (std::size_t i = 0; i < plan.size() && !main.run.cancel_requested; ++i) {
         fire(sign);
-        if (!is_fixed(table[i]))
+        if (plan[i].by != filling::fixed_picture)
             main.run.image_number = narrow(main.run.image_number + 1);
-        if (!is_filled(main, i, photo))
+        if (!is_filled(main, plan, i, photo))
             break;
     }
 }

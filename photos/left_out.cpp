@@ -1,6 +1,7 @@
 #include "photos/left_out.h"
 
 #include "photos/thumbnails/thumbnail_path.h"
+#include "photos/unfinished_photo.h"
 #include "support/MFreeImage.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
@@ -20,7 +21,7 @@ std::string reason(photo_fault fault)
         case photo_fault::gone:
             return "it isn't there any more";
         case photo_fault::cut_short:
-            return "it was cut short";
+            return "it was cut short or is still being copied";
         case photo_fault::too_large:
             return "it has more than 32767 pixels in one direction";
         case photo_fault::too_long:
@@ -42,7 +43,7 @@ std::string remedy(std::span<const left_out_photo> photos)
     if (any(photo_fault::unreadable))
         text += "\r\nSave what can't be read as a JPEG again.";
     if (any(photo_fault::cut_short))
-        text += "\r\nCopy what was cut short to its place again.";
+        text += "\r\nCopy what was cut short to its place again, or wait until it is there.";
     if (any(photo_fault::too_large))
         text += "\r\nMake what has too many pixels smaller.";
     if (any(photo_fault::too_long))
@@ -80,10 +81,12 @@ photo_fault fault_of(const std::string & photo)
     if (!file_exists(photo))
         return photo_fault::gone;
     try {
-        return jpeg_size(photo) && is_cut_short(photo) ? photo_fault::cut_short : photo_fault::unreadable;
+        jpeg_size(photo);
     } catch (const platform_error &) {
         return photo_fault::too_large;
     }
+    const bool may_come = is_cut_short(photo) || is_unfinished(photo);
+    return may_come ? photo_fault::cut_short : photo_fault::unreadable;
 }
 
 void forget_left_out(frmMain & main)

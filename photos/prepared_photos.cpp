@@ -45,7 +45,7 @@ bool is_done_with_progress(frmMain & main, preparing & work)
                               return false;
                           }));
     show_progress(main, work);
-    while (!work.is_over_within(longest_standstill))
+    while (!work.is_over_within(between_breaths))
         show_progress(main, work);
     return !stopped;
 }

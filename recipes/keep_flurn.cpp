@@ -3,6 +3,7 @@
 #include "engine/output/flurn_file.h"
 #include "recipes/recipe_of.h"
 #include "recipes/recipe_shelf.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -62,7 +63,10 @@ void keep_flurn(frmMain & main)
         return;
     try {
         const recipe & made = *main.recipes.at_hand;
-        with_platform_errors([&] { keep_recipe(main, made, picture_of(main, made)); });
+        // A disk may take its time until it has a file.
+        with_platform_errors([&] {
+            alone_beside(main.desk, main.workers, [&] { keep_recipe(main, made, picture_of(main, made)); });
+        });
     } catch (const platform_error & error) {
         if (std::exchange(main.recipes.told_of_failure, true))
             return;

@@ -31,6 +31,7 @@ drop_targets drops_on(windows & all, change_history & history)
 void start(windows & all, change_history & history)
 {
     all.main.install_folder = program_folder();
+    all.main.workers.give_way();
     connect_all(all);
     prepare_data_folder(all.main, data_folder_choice());
     keep_history(all.main, history);

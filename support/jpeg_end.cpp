@@ -15,7 +15,7 @@ struct looked_through {
     jpeg_decompress_struct photo{};
     jpeg_error_mgr errors{};
     std::jmp_buf refused{};
-    bool has_ended = false, needs_more = false;
+    bool has_ended = false, needs_more = false, was_refused = false;
 
     explicit looked_through(std::FILE * file)
     {
@@ -43,8 +43,10 @@ struct looked_through {
     // A file that can't be decoded at all is left to those who want its pixels.
     void read_all(std::vector<JSAMPLE> & row)
     {
-        if (setjmp(refused) != 0)
+        if (setjmp(refused) != 0) {
+            was_refused = true;
             return;
+        }
         jpeg_read_header(&photo, TRUE);
         photo.scale_num = 1;
         photo.scale_denom = 8;  // the pixels are of no interest
@@ -57,15 +59,22 @@ struct looked_through {
     }
 };
 
+bool has_mark_of_start(std::FILE * file)
+{
+    const int first = std::fgetc(file), second = std::fgetc(file);
+    std::rewind(file);
+    return first == 0xFF && second == 0xD8;
+}
+
 }  // namespace
 
 bool is_cut_short(const std::string & path)
 {
     const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.c_str(), "rb"), std::fclose);
-    if (!file)
+    if (!file || !has_mark_of_start(file.get()))
         return false;
     std::vector<JSAMPLE> row;
     looked_through photo(file.get());
     photo.read_all(row);
-    return photo.has_ended && photo.needs_more;
+    return photo.has_ended && (photo.needs_more || photo.was_refused);
 }

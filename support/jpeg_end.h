@@ -2,6 +2,6 @@
 
 #include <string>
 
-/// True for a JPEG whose data end before its last pixel, as a copy that broke off does. A file without the
-/// mark of its end, but with every pixel, is whole.
+/// True for a JPEG whose data end before its last pixel, or before its first one, as a copy that broke off
+/// does. A file without the mark of its end, but with every pixel, is whole.
 bool is_cut_short(const std::string & path);

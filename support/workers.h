@@ -27,6 +27,10 @@ public:
     /// begun is waited for.
     void set_count(int count);
 
+    /// Workers that begin from now on take a core behind the session's own thread, where there are fewer
+    /// cores than threads: a window that waits for them answers all the same.
+    void give_way() { place = priority::behind; }
+
     /// False while as much is queued or at work as may be: three steps a worker, so that what waits takes
     /// little memory.
     bool has_room() const;
@@ -51,6 +55,7 @@ public:
 
 private:
     enum class turn { in_order, at_once };
+    enum class priority { beside, behind };  // the session's own thread
     struct threads;
 
     template <typename Step>
@@ -66,5 +71,6 @@ private:
     threads & started();
 
     int wanted;
+    priority place = priority::beside;
     std::unique_ptr<threads> running;
 };

@@ -4,6 +4,7 @@
 #include "designs/catalogue/catalogue_lines.h"
 #include "designs/catalogue/last_flurn.h"
 #include "designs/templates/unfinished.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/files/profile.h"
 #include "support/files/text_file.h"
@@ -13,18 +14,26 @@ namespace {
 constexpr int first_listed = 500, end_of_listed = 800;
 constexpr picture_size wide_sample{.width = 450, .height = 300}, high_sample{.width = 300, .height = 450};
 
-design_to_save::part save_sample(const flurn_to_save & flurn, design_to_save & design,
+// The collage in that size; empty when it can't be read.
+std::string small_collage(const std::string & picture, picture_size size)
+{
+    const bitmap collage = load_picture(picture_format::jpeg, picture);
+    return collage ? jpeg_bytes(rescaled(collage, size.width, size.height)) : std::string();
+}
+
+design_to_save::part save_sample(frmMain & main, const flurn_to_save & flurn, design_to_save & design,
                                  const std::string & path)
 {
-    const bitmap collage = load_picture(picture_format::jpeg, flurn.picture);
-    if (!collage) {
+    const bool is_wide = flurn.how.is_landscape;
+    const std::string sample = alone_beside(main.desk, main.workers, [&] {
+        return small_collage(flurn.picture, is_wide ? wide_sample : high_sample);
+    });
+    if (sample.empty()) {
         delete_if_exists(path);
         return design_to_save::part::absent;
     }
-    const bool is_wide = flurn.how.is_landscape;
-    const picture_size size = is_wide ? wide_sample : high_sample;
     design.background = is_wide ? orientation::landscape : orientation::portrait;
-    replace_file(path, jpeg_bytes(rescaled(collage, size.width, size.height)));
+    replace_file(path, sample);
     return design_to_save::part::present;
 }
 
@@ -86,7 +95,7 @@ void save_design(frmMain & main, const std::string & name, const std::string & d
     design_to_save design{.number = main.next_design_number, .name = name, .kind = flurn.how.layout};
     note_unfinished(main, files);
     replace_file(joined(main.data_folder, files[0]), layout);
-    design.sample = save_sample(flurn, design, joined(main.data_folder, files[1]));
+    design.sample = save_sample(main, flurn, design, joined(main.data_folder, files[1]));
     design.description = save_description(description, joined(main.data_folder, files[2]));
     close_catalogue(main);
     const std::string path = catalogue_path(main);

@@ -3,6 +3,7 @@
 #include "engine/output/flurn_file.h"
 #include "engine/output/jpeg_name.h"
 #include "session/window_state.h"
+#include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/platform_error.h"
 
@@ -38,7 +39,11 @@ bool write_picture(frmMain & main, int save_size)
 {
     try {
         const busy pointer(main.desk);
-        with_platform_errors([&] { save_flurn(main.run.canvas, save_size, main.save_image_path); });
+        // Another core encodes it, and waits for the disk.
+        with_platform_errors([&] {
+            alone_beside(main.desk, main.workers,
+                         [&] { save_flurn(main.run.canvas, save_size, main.save_image_path); });
+        });
         return true;
     } catch (const platform_error & error) {
         main.desk.message("The collage could not be saved:\r\n" + main.save_image_path + "\r\n\r\n" +

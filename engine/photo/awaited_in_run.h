@@ -16,7 +16,7 @@ struct run_cancelled {};
 template <typename Result>
 Result awaited_in_run(frmMain & main, std::future<Result> result, std::stop_source && stop = {})
 {
-    while (result.wait_for(longest_standstill) != std::future_status::ready) {
+    while (result.wait_for(between_breaths) != std::future_status::ready) {
         main.desk.breathe();
         if (main.run.ends_at_cancel && main.run.cancel_requested) {
             stop.request_stop();

@@ -20,7 +20,7 @@ struct wanted_photo {
 /// A photo as a worker gives it.
 struct read_photo {
     run_photo photo;
-    std::optional<file_stamp> stamp;  ///< of its file when the reading began
+    std::optional<file_stamp> stamp;  ///< of its file; nothing for one that changed while it was read
 };
 
 /// The photos that will probably be asked for next, which workers read and fit while those before them are

@@ -96,6 +96,8 @@ read_photo read_to_fit(const wanted_photo & wanted, const known_file & known, co
         read.photo = is_small(*own) ? whole_and_fitted(wanted) : fitted_photo(wanted, *own, stop);
     read.photo.path = wanted.path;
     read.photo.place = wanted.place;
+    if (stamp_of(wanted.path) != read.stamp)
+        read.stamp.reset();
     return read;
 }
 

@@ -115,6 +115,16 @@ bitmap turned_ground(const bitmap & canvas, const tilted_photo & work, const pix
     return ground;
 }
 
+void frame_and_shade(bitmap & ground, const rectangle & place, const tilt & how)
+{
+    draw_frame(ground, place, how.worn, how.rotation);
+    draw_shadow(ground, place, how.worn);
+    // From ten degrees on a frame reaches one pixel under its shadow. The library's turn blurs that; a larger
+    // one would show it as a line.
+    if (how.worn.scale > 1)
+        draw_frame(ground, place, how.worn, how.rotation);
+}
+
 /// Photo, frame and shadow, upright, on a ground of the same scale.
 void draw_upright(bitmap & ground, const bitmap & photo, const rectangle & place, const tilt & how)
 {
@@ -124,12 +134,31 @@ void draw_upright(bitmap & ground, const bitmap & photo, const rectangle & place
         return;
     }
     paste_weighed(ground, photo, {.left = place.left * scale, .top = place.top * scale}, opaque);
-    draw_frame(ground, place, how.worn, how.rotation);
-    draw_shadow(ground, place, how.worn);
-    // From ten degrees on a frame reaches one pixel under its shadow. The library's turn blurs that; a larger
-    // one would show it as a line.
-    if (scale > 1)
-        draw_frame(ground, place, how.worn, how.rotation);
+    frame_and_shade(ground, place, how);
+}
+
+struct plain_photo {
+    picture_size size;
+    rgb_triple color;
+};
+
+/// The same for a photo of one colour, of which no bitmap is needed where its edges are hard.
+void draw_upright(bitmap & ground, const plain_photo & photo, const rectangle & place, const tilt & how)
+{
+    const int scale = how.worn.scale;
+    if (how.worn.edges == photo_edges::soft) {
+        bitmap drawn(photo.size.width, photo.size.height);
+        fill(drawn, photo.color);
+        draw_upright(ground, drawn, place, how);
+        return;
+    }
+    blend_rectangle(ground,
+                    {.left = place.left * scale,
+                     .top = place.top * scale,
+                     .width = photo.size.width,
+                     .height = photo.size.height},
+                    photo.color, opaque);
+    frame_and_shade(ground, place, how);
 }
 
 /// The photo's place in a part of the turned area.
@@ -241,10 +270,11 @@ bitmap cover_of(const tilted_photo & work, const rectangle & place, picture_size
     constexpr rgb_triple white{255, 255, 255};
     tilt how = work.how;
     how.worn.frame_color = how.worn.shadow_color = white;
-    bitmap photo(work.photo.width(), work.photo.height());
-    fill(photo, white);
     bitmap cover(sheet.width, sheet.height);
-    draw_upright(cover, photo, place, how);
+    draw_upright(
+        cover,
+        plain_photo{.size = {.width = work.photo.width(), .height = work.photo.height()}, .color = white},
+        place, how);
     return cover;
 }
 

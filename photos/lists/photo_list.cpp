@@ -246,7 +246,9 @@ void count_photos(frmMain & main)
         if (!found)
             continue;
         ++index;
-        if (!found->size)
+        if (is_still_coming(*found))
+            leave_out(main, found->path, photo_fault::cut_short);
+        else if (!found->size)
             leave_out(main, found->path);
         add_photo(counts, counted_orientation(found->size));
     }

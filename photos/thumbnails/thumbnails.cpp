@@ -2,8 +2,10 @@
 
 #include "photos/scaled_jpeg.h"
 #include "photos/thumbnails/thumbnail_mark.h"
+#include "photos/unfinished_photo.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
+#include "support/files/steady_look.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
 
@@ -94,18 +96,37 @@ std::string replaced_thumbnail(const std::string & photo, const std::string & th
     return found == standing::doubtful ? thumbnail : photo;
 }
 
-// What a worker does.
-small_photo found_or_made(const std::string & photo)
+// Its stamp is one that no file has: a run looks anew at what has come of it.
+small_photo still_coming(const std::string & photo)
 {
-    const std::optional<file_stamp> stamp = stamp_of(photo);
-    if (!stamp)
-        return {};
+    tried([&] { delete_file(thumbnail_path(photo)); });  // of what was there before
+    return {.path = photo, .size = {}, .photo = file_stamp{}};
+}
+
+small_photo looked_at(const std::string & photo, const file_stamp & stamp)
+{
     const std::string thumbnail = thumbnail_path(photo);
-    const standing found = standing_of(thumbnail, *stamp);
+    const standing found = standing_of(thumbnail, stamp);
+    if (found != standing::own && is_unfinished(photo))
+        return still_coming(photo);
     const std::string path =
-        found == standing::own ? thumbnail : replaced_thumbnail(photo, thumbnail, *stamp, found);
+        found == standing::own ? thumbnail : replaced_thumbnail(photo, thumbnail, stamp, found);
     return {
         .path = path, .size = usable_jpeg_size(path), .photo = stamp, .was_older = found == standing::older};
+}
+
+// What a worker does. A photo that is replaced meanwhile gets a thumbnail of what is there now.
+small_photo found_or_made(const std::string & photo)
+{
+    std::optional<bool> was_older;  // than the one that was there before all this
+    std::optional<small_photo> found = steady_look(photo, [&](const file_stamp & stamp) {
+        small_photo made = looked_at(photo, stamp);
+        was_older = made.was_older = was_older.value_or(made.was_older);
+        return made;
+    });
+    if (found)
+        return std::move(*found);
+    return file_exists(photo) ? still_coming(photo) : small_photo{};
 }
 
 void swap_for_thumbnail(std::string & entry)
@@ -122,11 +143,16 @@ std::optional<small_photo> found_ahead(frmMain & main, const std::string & photo
     if (!begun)
         return std::nullopt;
     small_photo found = awaited(main.desk, std::move(begun.mapped()));
-    const bool stays = beside(main.desk, main.workers, [&] { return file_exists(photo); });
-    return stays ? found : small_photo{};
+    const auto stamp = beside(main.desk, main.workers, [&] { return stamp_of(photo); });
+    return stamp == found.photo ? std::optional(std::move(found)) : std::nullopt;
 }
 
 }  // namespace
+
+bool is_still_coming(const small_photo & photo)
+{
+    return photo.photo == file_stamp{};
+}
 
 void begin_thumbnails(frmMain & main, int index)
 {

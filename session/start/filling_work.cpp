@@ -37,7 +37,7 @@ void fill_by(frmMain & main, int files, const std::function<void(std::atomic<int
             work.wait();
     });
     const auto begin = std::chrono::steady_clock::now();
-    while (work.wait_for(longest_standstill) != std::future_status::ready) {
+    while (work.wait_for(between_breaths) != std::future_status::ready) {
         if (main.all != nullptr && std::chrono::steady_clock::now() - begin > unnoticed)
             show_progress(main, done, files);
         main.desk.breathe();

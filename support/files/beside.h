@@ -7,8 +7,9 @@
 #include <chrono>
 #include <future>
 
-/// How long a window may stand still, at most.
-inline constexpr std::chrono::milliseconds longest_standstill{20};
+/// How long the session waits for another core before it lets events through. What comes sooner lets none
+/// through, and one place of a collage waits several times: together they may not be felt.
+inline constexpr std::chrono::milliseconds between_breaths{4};
 
 /// True when the result can be had without waiting.
 template <typename Result>
@@ -21,7 +22,7 @@ bool is_there(const std::future<Result> & result)
 template <typename Result>
 void wait_for(desktop & desk, const std::future<Result> & result)
 {
-    while (result.wait_for(longest_standstill) != std::future_status::ready)
+    while (result.wait_for(between_breaths) != std::future_status::ready)
         desk.breathe();
 }
 
@@ -58,7 +59,7 @@ auto alone_beside(desktop & desk, worker_pool & workers, Step step)
         if (result.valid())
             result.wait();
     });
-    while (result.wait_for(longest_standstill) != std::future_status::ready)
+    while (result.wait_for(between_breaths) != std::future_status::ready)
         desk.breathe_alone();
     return result.get();
 }

@@ -1,5 +1,6 @@
 #include "engine/flurn_driver.h"
 #include "engine/preview.h"
+#include "photos/chosen_photos.h"
 #include "photos/thumbnails/thumbnails.h"
 #include "quick/quick_template.h"
 #include "support/files/paths.h"
@@ -259,18 +260,55 @@ TEST(left_out_photos, one_that_was_cut_short_since_it_was_counted_is_named)
             EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nbr\n");
             EXPECT_EQ(run.desk.next_message(),
                       "This photo was left out:\r\n" + cut +
-                          ": it was cut short\r\n\r\nCopy what was cut short to its place again.\r\nThen "
-                          "choose your photos again.");
+                          ": it was cut short or is still being copied\r\n\r\nCopy what was cut short to "
+                          "its place again, or wait until it is there.\r\nThen choose your photos again.");
         }
 }
 
-TEST(left_out_photos, one_that_was_cut_short_when_it_was_counted_is_taken_as_it_is)
+TEST(left_out_photos, one_that_was_cut_short_long_before_it_was_counted_is_taken_as_it_is)
 {
     spoiled_run run;
     const std::string whole = jpeg_bytes(noise(200, 300));
-    run.add_path(run.home.write("photos/cut.jpg", whole.substr(0, whole.size() / 2)));
+    const std::string cut = run.home.write("photos/cut.jpg", whole.substr(0, whole.size() / 2));
+    std::filesystem::last_write_time(cut, std::filesystem::last_write_time(cut) - std::chrono::hours(1));
+    run.add_path(cut);
     run.use_thumbnails();
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     EXPECT_TRUE(run.full_run());
     EXPECT_TRUE(run.desk.messages.empty());
+}
+
+TEST(left_out_photos, one_that_is_still_being_copied_is_named_once_and_shown_when_it_is_there)
+{
+    spoiled_run run;
+    for (const rgb_triple color : {red, green, blue})
+        run.add_photo(color, 20, 30);
+    const std::string whole = jpeg_bytes(plain(200, 300, yellow)),
+                      coming = run.home.write("photos/d.jpg", whole.substr(0, whole.size() / 2));
+    run.add_path(coming);
+    run.main.table.reshuffle_choice = photo_table::reshuffle::no;
+    count_with_progress(run.main);
+    EXPECT_EQ(run.desk.next_message(),
+              "This photo was left out:\r\n" + coming +
+                  ": it was cut short or is still being copied\r\n\r\nCopy what was cut short to its place "
+                  "again, or wait until it is there.\r\nThen choose your photos again.");
+    EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nbr\n") << "as it was when the photos were counted";
+    run.home.write("photos/d.jpg", whole);
+    EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nby\n");
+    count_with_progress(run.main);
+    EXPECT_EQ(run.main.table[3], run.home.at("photos/sample_thumbs/d.jpg"));
+}
+
+TEST(left_out_photos, one_that_was_replaced_since_it_was_counted_is_shown_as_it_is_now)
+{
+    spoiled_run run;
+    for (const rgb_triple color : {red, green, blue, yellow})
+        run.add_photo(color, 20, 30);
+    const std::string last = run.main.table[3];
+    run.use_thumbnails();
+    save_jpeg(plain(30, 45, red), run.home.at("another.jpg"));
+    std::filesystem::rename(run.home.at("another.jpg"), last);
+    EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nbr\n");
+    save_jpeg(plain(40, 60, green), last);
+    EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nbg\n") << "in its place";
 }

@@ -205,10 +205,10 @@ TEST(read_ahead, a_cancel_ends_places_while_their_photo_is_waited_for)
         run.add_path(noisy_photo(run, "a.jpg", 300, 400));
         add_places(run);
         std::optional<all_busy> busy;
-        run.desk.on_breath = [&] { run.main.run.cancel_requested = true; };
         const sign_of_life hold = [&] {
             if (looked_at)
-                file_of(run.main, run.main.table[0]);
+                file_of(run.main, run.main.table[0]);  // which may take its time as well
+            run.desk.on_breath = [&] { run.main.run.cancel_requested = true; };
             busy.emplace(run.main.workers);
         };
         place_loop(run.main, hold);

@@ -90,14 +90,16 @@ TEST_F(left_out_test, that_none_is_left_is_said_unless_this_run_has_named_them_a
     use({"a.jpg", "b.jpg"});
     leave_out(main, "a.jpg", photo_fault::cut_short);
     tell_left_out(main);
-    EXPECT_EQ(
-        desk.next_message(),
-        "This photo was left out:\r\na.jpg: it was cut short\r\n\r\nCopy what was cut short to its place "
-        "again.\r\nThen choose your photos again.");
+    EXPECT_EQ(desk.next_message(),
+              "This photo was left out:\r\na.jpg: it was cut short or is still being copied\r\n\r\nCopy what "
+              "was cut "
+              "short to its place again, or wait until it is there.\r\nThen choose your photos again.");
     leave_out(main, "b.jpg", photo_fault::too_long);
     tell_none_usable(main);
     const std::string all = desk.next_message();
-    EXPECT_TRUE(all.starts_with("None of your photos can be used:\r\na.jpg: it was cut short\r\nb.jpg: "))
+    EXPECT_TRUE(
+        all.starts_with("None of your photos can be used:\r\na.jpg: it was cut short or is still being "
+                        "copied\r\nb.jpg: "))
         << all;
     tell_none_usable(main);
     EXPECT_TRUE(desk.messages.empty());

@@ -48,7 +48,7 @@ class Jobs:
         self.out = os.path.join(p.folder, 'out')
         self.numbers = itertools.count()
         os.makedirs(self.out)
-        self.environment = dict(p.environment, LC_ALL='C.UTF-8', **screen.slow_disk(sys.argv[2]))
+        self.environment = dict(p.environment, LC_ALL='C.UTF-8', **screen.another_machine(sys.argv[2]))
 
     def fresh_photos(self):
         """Photos in a folder that no program has seen yet, so that its thumbnails are still to be made."""

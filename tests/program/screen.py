@@ -23,10 +23,16 @@ def until(what, told):
     raise AssertionError('waited in vain for ' + told)
 
 
-def slow_disk(plugins):
-    """What makes a program wait for its disk, or for that of its photos; nothing where it isn't asked for."""
-    slow = {name: value for name, value in os.environ.items() if name.startswith('TESSALOOM_SLOW_')}
-    return {'LD_PRELOAD': os.path.join(plugins, 'slow_disk.so'), **slow} if slow else {}
+def another_machine(plugins):
+    """What makes a program wait for its disk, or for that of its photos, and take the machine for one of another number
+    of cores; nothing where it isn't asked for."""
+    asked, loaded = {}, []
+    for beginning, stand_in in (('TESSALOOM_SLOW_', 'slow_disk.so'), ('TESSALOOM_TOLD_', 'told_cores.so')):
+        found = {name: value for name, value in os.environ.items() if name.startswith(beginning)}
+        if found:
+            asked.update(found)
+            loaded.append(os.path.join(plugins, stand_in))
+    return {'LD_PRELOAD': ':'.join(loaded), **asked} if loaded else {}
 
 
 def those_of_no_desktop(variables):
@@ -77,7 +83,7 @@ class Program:
         self.process = subprocess.Popen(
             [os.path.join(self.app, 'tessaloom'), *words], stderr=subprocess.DEVNULL,
             env=dict(self.environment, **self.shown_by(), QT_PLUGIN_PATH=plugins, QT_QPA_GENERIC_PLUGINS='probe',
-                     TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8', **slow_disk(plugins)))
+                     TESSALOOM_PROBE=self.socket_path, LC_ALL='C.UTF-8', **another_machine(plugins)))
         self.probe = until(self.reached, 'the program')
         self.answers = self.probe.makefile('r')
         self.focused = None

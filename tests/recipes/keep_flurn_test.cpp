@@ -5,6 +5,8 @@
 #include "tests/recipes/flurn_session.h"
 
 #include <filesystem>
+#include <future>
+#include <utility>
 
 namespace {
 
@@ -167,4 +169,23 @@ TEST(keep_flurn, writes_nothing_of_it_into_the_picture)
     for (const std::string & word : {session.folder.path(), std::string("photos/"), std::string("flurn"),
                                      std::string("Flurn"), name_of(session.photos.front())})
         EXPECT_EQ(bytes.find(word), std::string::npos) << word;
+}
+
+TEST(keep_flurn, lets_the_window_be_drawn_until_the_disk_has_it)
+{
+    flurn_session session;
+    session.begin();
+    session.make();
+    std::promise<void> disk;
+    session.main.workers.begin_at_once([has_it = disk.get_future().share()] { has_it.wait(); });
+    bool was_drawn = false;
+    session.desk.on_breath = [&] {
+        if (!std::exchange(was_drawn, true))
+            disk.set_value();
+    };
+    keep_flurn(session.main);
+    EXPECT_TRUE(was_drawn);
+    EXPECT_EQ(kept_recipes(session.main).size(), 2U);
+    if (!was_drawn)
+        disk.set_value();
 }

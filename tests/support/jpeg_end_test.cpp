@@ -28,6 +28,13 @@ TEST_F(jpeg_end, a_file_that_breaks_off_is_cut_short_of_whatever_kind)
         }
 }
 
+TEST_F(jpeg_end, one_that_breaks_off_before_its_first_pixel_is_cut_short)
+{
+    const std::string whole = jpeg_of({}, 400, 300);
+    for (const std::size_t bytes : {2U, 10U, 20U, 100U, 300U})
+        EXPECT_TRUE(is_cut(whole.substr(0, bytes))) << bytes;
+}
+
 TEST_F(jpeg_end, what_has_all_its_pixels_is_whole)
 {
     const std::string whole = jpeg_of({}, 400, 300);
@@ -40,6 +47,7 @@ TEST_F(jpeg_end, what_is_no_picture_or_damaged_elsewhere_is_not_cut_short)
 {
     EXPECT_FALSE(is_cut(""));
     EXPECT_FALSE(is_cut("a text"));
+    EXPECT_FALSE(is_cut("x"));
     EXPECT_FALSE(is_cut_short(folder.at("none.jpg")));
     EXPECT_FALSE(is_cut_short(folder.path()));
 }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <mutex>
 #include <set>
+#include <sys/resource.h>
 #include <thread>
 
 namespace {
@@ -47,6 +48,18 @@ TEST(worker_pool, has_as_many_threads_as_it_was_told_and_none_is_the_caller_s)
     for (auto & thread : threads)
         seen.insert(thread.get());
     EXPECT_EQ(seen.size(), 4U);
+}
+
+TEST(worker_pool, steps_behind_the_session_where_it_is_told_to)
+{
+    const auto priority_here = [] { return ::getpriority(PRIO_PROCESS, 0); };
+    const int own = priority_here();
+    worker_pool beside(1), behind(1);
+    behind.give_way();
+    EXPECT_EQ(beside.begin(priority_here).get(), own);
+    for (int step = 0; step < 3; ++step)
+        EXPECT_EQ(behind.begin(priority_here).get(), std::min(own + 5, 19));
+    EXPECT_EQ(behind.begin_at_once(priority_here).get(), own) << "the session waits for it";
 }
 
 TEST(worker_pool, takes_no_more_than_fit_its_queue)

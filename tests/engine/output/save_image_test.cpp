@@ -5,6 +5,8 @@
 #include "tests/session/opened_session.h"
 
 #include <filesystem>
+#include <future>
+#include <utility>
 
 namespace {
 
@@ -88,6 +90,22 @@ TEST_F(save_test, the_pointer_is_busy_while_the_file_is_written)
     write_collage(session.main, 45);
     EXPECT_EQ(session.desk.busy_count, 1);
     EXPECT_EQ(session.desk.busy_depth, 0);
+}
+
+TEST_F(save_test, the_window_is_drawn_until_the_disk_has_the_file)
+{
+    std::promise<void> disk;
+    session.main.workers.begin_at_once([has_it = disk.get_future().share()] { has_it.wait(); });
+    bool was_drawn = false;
+    session.desk.on_breath = [&] {
+        if (!std::exchange(was_drawn, true))
+            disk.set_value();
+    };
+    EXPECT_TRUE(write_collage(session.main, 90));
+    EXPECT_TRUE(was_drawn);
+    EXPECT_TRUE(file_exists(target));
+    if (!was_drawn)
+        disk.set_value();
 }
 
 TEST_F(save_test, yes_overwrites_the_file_that_is_there)

@@ -98,3 +98,19 @@ TEST_F(thumbnails_ahead_test, a_photo_that_vanishes_meanwhile_is_left_out)
     EXPECT_EQ(main.table.last_photo, 1);
     EXPECT_TRUE(main.thumbnails.begun.empty());
 }
+
+TEST_F(thumbnails_ahead_test, a_photo_that_is_replaced_meanwhile_gets_one_of_what_is_there_now)
+{
+    fill(many(3, "some/"));
+    begin_thumbnails(main, 0);
+    main.thumbnails.begun.at(folder.at("some/2.jpg")).wait();
+    const fs::file_time_type time = fs::last_write_time(folder.at("some/2.jpg"));
+    save_jpeg(plain(200, 300, {.red = 200, .green = 10, .blue = 10}), folder.at("new.jpg"));
+    fs::last_write_time(folder.at("new.jpg"), time);
+    fs::rename(folder.at("new.jpg"), folder.at("some/2.jpg"));
+    const small_photo found = small_photo_of(main, folder.at("some/2.jpg"));
+    EXPECT_EQ(found.photo, stamp_of(folder.at("some/2.jpg")));
+    ASSERT_EQ(found.size, (picture_size{.width = 150, .height = 200}));
+    EXPECT_EQ(seen(load_picture(picture_format::jpeg, found.path), 75, 100).red, 200);
+    finish_thumbnails(main);
+}

@@ -182,9 +182,29 @@ TEST_F(thumbnails_test, a_photo_that_is_not_a_jpeg_gets_none_but_its_path)
     EXPECT_EQ(chk_sample_thumb(main, folder.at("a.jpg")), thumbnail);
     for (const std::string & bytes : {std::string(), std::string("a text, no picture"), small_png()}) {
         folder.write("a.jpg", bytes);
+        age(folder.at("a.jpg"), 3600);
         EXPECT_EQ(chk_sample_thumb(main, folder.at("a.jpg")), thumbnail);
         EXPECT_FALSE(file_exists(thumbnail));
     }
+}
+
+TEST_F(thumbnails_test, a_photo_that_is_still_being_copied_gets_none_until_it_is_there)
+{
+    const std::string path = photo("a.jpg", 400, 300), thumbnail = folder.at("sample_thumbs/a.jpg");
+    const std::string whole = jpeg_bytes(noise(300, 400));
+    chk_sample_thumb(main, path);
+    for (const std::size_t bytes : {std::size_t{0}, std::size_t{300}, whole.size() / 2}) {
+        write_file(path, whole.substr(0, bytes));
+        const small_photo coming = small_photo_of(main, path);
+        EXPECT_TRUE(is_still_coming(coming));
+        EXPECT_EQ(coming.path, path);
+        EXPECT_EQ(coming.size, std::nullopt);
+        EXPECT_FALSE(file_exists(thumbnail)) << "of what was there before";
+    }
+    write_file(path, whole);
+    EXPECT_FALSE(is_still_coming(small_photo_of(main, path)));
+    EXPECT_EQ(size_of(thumbnail), "150x200");
+    EXPECT_TRUE(desk.messages.empty());
 }
 
 TEST_F(thumbnails_test, in_a_closed_folder_the_photo_stands_in)
