@@ -5,7 +5,7 @@ import sys
 from workplace import Workplace
 
 MADE, NOT_MADE, BAD_ARGUMENTS = 0, 1, 2
-WALL = ['--photos', 'photos', '--design', 'Mosaic wall', '--preview']
+WALL = ['--photos', 'photos', '--design', 'Three of us', '--preview']
 
 
 def prints_help_and_version(place):

@@ -17,7 +17,7 @@ def poster(folder, photos, *more):
     if os.path.exists(out):
         os.remove(out)
     told = subprocess.run([os.path.join(APP, 'tessaloom-batch'), '--data', os.path.join(folder, 'data'), '--photos', *photos, '--design',
-                           'Mosaic wall', '--random', '1', '--preview', '--out', out, *more], capture_output=True, text=True, timeout=120)
+                           'Three of us', '--random', '1', '--preview', '--out', out, *more], capture_output=True, text=True, timeout=120)
     if told.returncode == 0:
         os.rename(out, out + '.' + os.path.basename(photos[0]) + '.jpg')
     return told, out + '.' + os.path.basename(photos[0]) + '.jpg'
@@ -46,7 +46,7 @@ def main(folder):
     told, _ = poster(folder, [turned], '--intake')
     check(told.returncode == 0 and 'broken.heic is left out: it is no picture.' in told.stderr, told)
     told = subprocess.run([os.path.join(APP, 'tessaloom-batch'), '--data', os.path.join(folder, 'data'), '--photos', lying, '--intake',
-                           '--design', 'Mosaic wall', '--out', lying], capture_output=True, text=True, timeout=120)
+                           '--design', 'Three of us', '--out', lying], capture_output=True, text=True, timeout=120)
     check(told.returncode == 2 and 'would be replaced' in told.stderr, told)
     print('turned HEICs: %.1f dB from the upright photos' % found)
 

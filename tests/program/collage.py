@@ -13,7 +13,7 @@ def started(kind=screen.Program):
     program = kind(app, plugins)
     program.photos = os.path.join(program.folder, 'my photos')
     os.makedirs(program.photos)
-    for path in sorted(glob.glob(os.path.join(photos, '*.jpg')))[:12]:
+    for path in sorted(glob.glob(os.path.join(photos, '*.jpg')))[:20]:  # more than the places of the first design
         shutil.copy(path, program.photos)
     return program
 

@@ -35,7 +35,7 @@ ROWS = [
         "a preview is drawn nearer above a small caption"),
     Row("engine/preview.cpp", "nearest(inset * width /", "nearest(inset * height /",
         "the preview of a shaken matrix is cut as if it were upright"),
-    Row("engine/place_loop.cpp", "        if (!is_fixed(table[i]))\n", "", "a fixed picture counts among the photos"),
+    Row("engine/place_loop.cpp", "        if (plan[i].by != filling::fixed_picture)\n", "", "a fixed picture counts among the photos"),
     Row("engine/pixels/draw_rotated_photo.cpp", "const int width = work.how.worn.frame, scale",
         "const int width = work.how.worn.frame / 2, scale", "a wide frame of a tilted photo is too narrow"),
     Row("engine/pixels/caption_scan.cpp", "if (share == 0)", "if (share < whole)", "captions lose their smooth edges"),

@@ -18,7 +18,7 @@ def wedding(size):
     """Ivory paper, two ribbons of satin, roses in two corners."""
     wide, high = size
     return drawing(*size, paper(size, "#f3ece0", seed=302) + rule(size, 26, GOLD, "0.8", False) + [rose_corner(0, 300, 1, 1, 0.42), rose_corner(wide, high - 300, -1, -1, 0.42)]
-                   + ribbons(size, "#3f5a4c", "#d9c79a"))
+                   + ribbons(size, "#374f43", "#d9c79a"))
 
 
 def baby(size):
@@ -124,7 +124,7 @@ def best_wishes(size):
     for x, y, turn in ((70, 330, 135), (wide - 70, high - 330, 315)):
         for at in range(3):
             parts.append(placed(twig_of_leaves(random.Random(at), "#7d946f"), x, y, 0.42, turn - 40 + 40 * at))
-    return drawing(*size, parts + ribbons(size, "#2f5a4a", "#e0d0a0"))
+    return drawing(*size, parts + ribbons(size, "#294e40", "#e0d0a0"))
 
 
 def mothers_day(size):
@@ -237,7 +237,7 @@ def baby_months(size):
     parts = paper(size, "#e6efe6", "#4a6a5a", 338)
     parts += [circle(chance.uniform(0, wide), chance.uniform(290, high - 290), chance.uniform(8, 26), fill=chance.choice(["#ffffff", "#f3d9c4", "#cfe0ea", "#f2e6b8"]), fill_opacity="0.8")
               for _ in range(90)]
-    return drawing(*size, parts + bands(size, "#4a6472", "#f3d9c4"))
+    return drawing(*size, parts + bands(size, "#405763", "#f3d9c4"))
 
 
 def photo_booth(size):
