@@ -50,11 +50,11 @@ def tells_when_standard_output_fails(place):
 def takes_back_what_broke_off(place):
     kept = place.folder / 'kept'
     kept.write_bytes(b'before')
-    limit = 'ulimit -f 20; trap "" XFSZ; exec tessaloom-batch --photos photos --design "Mosaic wall" --preview --out -'
+    limit = 'ulimit -f 20; trap "" XFSZ; exec tessaloom-batch --photos photos --design "Three of us" --preview --out -'
     _, told = place.run(['sh', '-c', f'{limit} >> kept'], status=NOT_MADE)
     assert 'The disk is full' in told, told
     assert kept.read_bytes() == b'before'
-    place.run('tessaloom-batch --photos photos --design "Mosaic wall" --preview --out - >> kept')
+    place.run('tessaloom-batch --photos photos --design "Three of us" --preview --out - >> kept')
     place.batch(*WALL, '--out', 'wall.jpg')
     assert kept.read_bytes() == b'before' + (place.folder / 'wall.jpg').read_bytes()
 
@@ -88,7 +88,7 @@ def ends_with_the_status_that_is_told(place):
 
 
 def reads_jobs_from_standard_input(place):
-    jobs = 'out\tphotos\tdesign\na.jpg\tphotos\tMosaic wall\nb.jpg\tphotos\tMosaic wall\n'
+    jobs = 'out\tphotos\tdesign\na.jpg\tphotos\tThree of us\nb.jpg\tphotos\tThree of us\n'
     for expected in ('2 made, 0 there before, 0 not made', '0 made, 2 there before, 0 not made'):
         _, told = place.batch('--jobs', '-', '--preview', input=jobs.encode())
         assert told.splitlines()[-1] == expected, told

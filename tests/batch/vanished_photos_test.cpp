@@ -257,8 +257,9 @@ protected:
                 EXPECT_EQ(times_told(sound, "left out"), 0) << where << sound.told;
                 for (std::size_t i = match == 1 ? kind % 2 : 1 - kind % 2; i < std::size(photo_changes);
                      i += thumbnails == thumbnail_fate::serve ? std::size(photo_changes) : 2)
-                    expect_survived(where, photo_changes[i], thumbnails, sound,
-                                    [&](const auto & change) { return poster_after(way, change); });
+                    expect_survived(
+                        where, photo_changes[i], thumbnails, sound,
+                        [&way, &after = poster_after](const auto & change) { return after(way, change); });
             }
         }
     }

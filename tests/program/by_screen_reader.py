@@ -134,4 +134,4 @@ def save(program, reader):
 
 if __name__ == '__main__':
     on_own_bus()
-    collage.run(play, HeardProgram)
+    collage.run(play, HeardProgram, photos=48)

@@ -8,12 +8,12 @@ import sys
 import screen
 
 
-def started(kind=screen.Program):
+def started(kind, photos_brought):
     app, plugins, photos = sys.argv[1:4]
     program = kind(app, plugins)
     program.photos = os.path.join(program.folder, 'my photos')
     os.makedirs(program.photos)
-    for path in sorted(glob.glob(os.path.join(photos, '*.jpg')))[:20]:  # more than the places of the first design
+    for path in sorted(glob.glob(os.path.join(photos, '*.jpg')))[:photos_brought]:
         shutil.copy(path, program.photos)
     return program
 
@@ -147,8 +147,9 @@ def ended(program):
     check(program.process.returncode == 0, 'the program ended with %d' % program.process.returncode)
 
 
-def run(play, kind=screen.Program):
-    program = started(kind)
+def run(play, kind=screen.Program, photos=20):
+    # As a rule as many photos as the first design has places, and more: nothing is asked.
+    program = started(kind, photos)
     try:
         play(program)
     except BaseException:

@@ -129,7 +129,7 @@ def play(program, source):
 
 
 def main():
-    program = collage.started()
+    program = collage.started(collage.screen.Program, 12)
     try:
         play(program, os.path.join(sys.argv[2], os.pardir, 'bin', 'drag_source'))
     except BaseException:

@@ -282,4 +282,4 @@ def play(p):
     quit_by_mouse(p)
 
 
-run(play)
+run(play, photos=12)

@@ -201,4 +201,4 @@ def play(program):
     collage.quit_by_mouse(program)
 
 
-run(play)
+run(play, photos=12)

@@ -105,4 +105,4 @@ def play(p):
 
 
 if __name__ == '__main__':
-    run(play)
+    run(play, photos=24)  # though some vanish, as many as the first design has places
