@@ -2,7 +2,7 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/looks/letters.h"
 #include "desktop/qt_desktop.h"
-#include "tests/desktop/stages.h"
+#include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/window_views.h"
 #include "tests/desktop/windows_played.h"
 
@@ -122,30 +122,20 @@ TEST(buttons, of_every_window_stand_in_one_order)
 {
     filled_session session;
     int rows = 0;
-    for (const window_view & view : session.views()) {
-        SCOPED_TRACE(view.name);
-        const shown_view shown(view);
-        EXPECT_EQ(misplaced(shown.window()), faults());
-        rows += row_of_default(shown.window()).size() > 1;
-    }
+    session.look_at_each([&](const window_view &, QWidget & window) {
+        EXPECT_EQ(misplaced(window), faults());
+        rows += row_of_default(window).size() > 1;
+    });
     EXPECT_GE(rows, 20);
 }
 
 TEST(buttons, of_the_main_window_stand_in_that_order_too)
 {
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {});
-    main.load();
-    window->show();
-    for (const look stage : all_looks) {
-        SCOPED_TRACE(name_of(stage, shape::portrait));
-        bring_to(main, stage, shape::portrait);
-        QApplication::processEvents();
-        EXPECT_EQ(misplaced(*window), faults());
-        EXPECT_EQ(row_of_default(*window).size(), stage == look::choosing ? 0U : 3U);
-    }
+    shown_main_window shown;
+    shown.in_each_stage({shape::portrait}, [&](look stage) {
+        EXPECT_EQ(misplaced(*shown.window), faults());
+        EXPECT_EQ(row_of_default(*shown.window).size(), stage == look::choosing ? 0U : 3U);
+    });
 }
 
 TEST(buttons, that_enter_presses_look_alike_in_every_window_and_stand_out)

@@ -223,12 +223,10 @@ TEST(lists, of_every_window_are_left_alone_by_a_wheel_that_passes)
 {
     filled_session session;
     int looked_at = 0;
-    for (const window_view & view : session.views()) {
-        SCOPED_TRACE(view.name);
-        const shown_view shown(view);
-        looked_at += left_alone<QComboBox>(shown.window(), &QComboBox::currentIndex);
-        looked_at += left_alone<QAbstractSlider>(shown.window(), &QAbstractSlider::value);
-    }
+    session.look_at_each([&](const window_view &, QWidget & window) {
+        looked_at += left_alone<QComboBox>(window, &QComboBox::currentIndex);
+        looked_at += left_alone<QAbstractSlider>(window, &QAbstractSlider::value);
+    });
     EXPECT_GT(looked_at, 20);
 }
 

@@ -1,7 +1,5 @@
-#include "desktop/binder/binder.h"
-#include "desktop/binder/windows_made.h"
 #include "desktop/looks/letters.h"
-#include "tests/desktop/stages.h"
+#include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/window_views.h"
 
 #include <QApplication>
@@ -90,6 +88,15 @@ titles_seen titles_of(QWidget & window)
     return seen;
 }
 
+// How many they are.
+int unstruck_titles(QWidget & window)
+{
+    const titles_seen seen = titles_of(window);
+    EXPECT_EQ(seen.struck, faults());
+    EXPECT_EQ(seen.without_line, faults()) << "no line was found where there is one";
+    return seen.count;
+}
+
 struct group_titles : testing::TestWithParam<int> {
     group_titles() { set_letters(GetParam()); }
     ~group_titles() override { set_letters(smallest_letters); }
@@ -99,36 +106,15 @@ TEST_P(group_titles, of_all_windows_are_struck_by_no_line)
 {
     filled_session session;
     int titles = 0;
-    for (const window_view & view : session.views()) {
-        SCOPED_TRACE(view.name);
-        const shown_view shown(view);
-        const titles_seen seen = titles_of(shown.window());
-        EXPECT_EQ(seen.struck, faults());
-        EXPECT_EQ(seen.without_line, faults()) << "no line was found where there is one";
-        titles += seen.count;
-    }
+    session.look_at_each([&](const window_view &, QWidget & window) { titles += unstruck_titles(window); });
     EXPECT_GT(titles, 5);
 }
 
 TEST_P(group_titles, of_the_main_window_are_struck_by_no_line)
 {
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {});
-    main.load();
-    window->show();
+    shown_main_window shown;
     int titles = 0;
-    for (const look stage : all_looks)
-        for (const shape poster : all_shapes) {
-            SCOPED_TRACE(name_of(stage, poster));
-            bring_to(main, stage, poster);
-            QApplication::processEvents();
-            const titles_seen seen = titles_of(*window);
-            EXPECT_EQ(seen.struck, faults());
-            EXPECT_EQ(seen.without_line, faults()) << "no line was found where there is one";
-            titles += seen.count;
-        }
+    shown.in_each_stage(all_shapes, [&](look) { titles += unstruck_titles(*shown.window); });
     EXPECT_GT(titles, 50);
 }
 

@@ -4,7 +4,7 @@
 #include "desktop/binder/windows_made.h"
 #include "session/windows.h"
 #include "tests/desktop/bound_form.h"
-#include "tests/desktop/stages.h"
+#include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/told_widgets.h"
 #include "tests/desktop/window_views.h"
 
@@ -60,31 +60,20 @@ TEST(screen_readers, are_told_every_widget_of_every_window_as_it_is)
 {
     filled_session session;
     int widgets = 0;
-    for (const window_view & view : session.views()) {
-        SCOPED_TRACE(view.name);
-        const shown_view shown(view);
-        EXPECT_EQ(told_otherwise(*view.window, shown.window()), std::vector<std::string>());
-        EXPECT_EQ(told(shown.window()).text(QAccessible::Name), unspaced(shown.window().windowTitle()));
-        widgets += told_widgets(*view.window, shown.window());
-    }
+    session.look_at_each([&](const window_view & view, QWidget & window) {
+        EXPECT_EQ(told_otherwise(*view.window, window), std::vector<std::string>());
+        EXPECT_EQ(told(window).text(QAccessible::Name), unspaced(window.windowTitle()));
+        widgets += told_widgets(*view.window, window);
+    });
     EXPECT_GT(widgets, 500);
 }
 
 TEST(screen_readers, are_told_every_widget_of_the_main_window_as_it_is)
 {
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {});
-    main.load();
-    window->show();
-    for (const look stage : all_looks)
-        for (const shape poster : all_shapes) {
-            SCOPED_TRACE(name_of(stage, poster));
-            bring_to(main, stage, poster);
-            QApplication::processEvents();
-            EXPECT_EQ(told_otherwise(main, *window), std::vector<std::string>());
-        }
+    shown_main_window shown;
+    shown.in_each_stage(all_shapes, [&](look) {
+        EXPECT_EQ(told_otherwise(shown.main, *shown.window), std::vector<std::string>());
+    });
 }
 
 TEST(screen_readers, would_be_told_of_another_value_another_state_and_a_name_that_is_spelt)

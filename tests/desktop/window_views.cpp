@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -258,6 +259,15 @@ std::vector<window_view> filled_session::views()
             views.push_back({.name = each->name(), .window = each, .prepare = {}, .fill = {}});
     }
     return views;
+}
+
+void filled_session::look_at_each(const std::function<void(const window_view &, QWidget &)> & look)
+{
+    for (const window_view & view : views()) {
+        SCOPED_TRACE(view.name);
+        const shown_view shown(view);
+        look(view, shown.window());
+    }
 }
 
 shown_view::shown_view(const window_view & wanted, std::optional<QSize> room)

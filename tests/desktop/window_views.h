@@ -26,6 +26,8 @@ struct filled_session {
     filled_session();
     /// Every window but the main one, in one state or several.
     std::vector<window_view> views();
+    /// Shows each of these and looks at it.
+    void look_at_each(const std::function<void(const window_view &, QWidget &)> & look);
 
     std::string collage;  ///< a finished one to show, if there is one
     temporary_folder folder;

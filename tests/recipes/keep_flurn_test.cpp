@@ -3,10 +3,9 @@
 #include "recipes/read_recipe.h"
 #include "support/files/text_file.h"
 #include "tests/recipes/flurn_session.h"
+#include "tests/waiting_disk.h"
 
 #include <filesystem>
-#include <future>
-#include <utility>
 
 namespace {
 
@@ -176,16 +175,8 @@ TEST(keep_flurn, lets_the_window_be_drawn_until_the_disk_has_it)
     flurn_session session;
     session.begin();
     session.make();
-    std::promise<void> disk;
-    session.main.workers.begin_at_once([has_it = disk.get_future().share()] { has_it.wait(); });
-    bool was_drawn = false;
-    session.desk.on_breath = [&] {
-        if (!std::exchange(was_drawn, true))
-            disk.set_value();
-    };
+    const waiting_disk disk(session.main, session.desk);
     keep_flurn(session.main);
-    EXPECT_TRUE(was_drawn);
+    EXPECT_TRUE(disk.window_was_let_through());
     EXPECT_EQ(kept_recipes(session.main).size(), 2U);
-    if (!was_drawn)
-        disk.set_value();
 }

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -113,6 +114,29 @@ int for_page(const QImage & page, float per_square)
                             per_square);  // squares of 500
 }
 
+/// Hairs or strokes of a brush, by how far they rise, how long and how wide they are.
+struct nap {
+    float height, length, width;
+};
+
+/// Bumps of one size, by how far they rise and how wide and high they are.
+struct bumps {
+    float height, wide, high;
+    int octaves;
+    unsigned seed;  // beyond that of the whole
+};
+
+/// How high the stuff rises at a place; 0.5 in the mean.
+auto surface(nap hairs, std::array<bumps, 2> under, unsigned seed)
+{
+    return [=](float x, float y) {
+        float height = 0.5F + hairs.height * hairs_at(x, y, hairs.length, hairs.width, seed);
+        for (const bumps & one : under)
+            height += one.height * (cloudy(x / one.wide, y / one.high, one.octaves, seed + one.seed) - 0.5F);
+        return height;
+    };
+}
+
 }  // namespace
 
 void paint_cork(const stuff_words & words, QImage & page)
@@ -124,37 +148,24 @@ void paint_cork(const stuff_words & words, QImage & page)
 void paint_felt(const stuff_words & words, QImage & page)
 {
     const unsigned seed = words.seed();
-    const auto height = [&](float x, float y) {
-        return 0.5F + 0.55F * hairs_at(x, y, 15, 1.7F, seed) +
-               0.5F * (cloudy(x / 3, y / 3, 2, seed + 50) - 0.5F) +
-               0.9F * (cloudy(x / 60, y / 60, 3, seed + 90) - 0.5F);
-    };
-    fill_lit(page, height, words.colours("color").front(), 0.26F);
+    fill_lit(page, surface({0.55F, 15, 1.7F}, {{{0.5F, 3, 3, 2, 50}, {0.9F, 60, 60, 3, 90}}}, seed),
+             words.colours("color").front(), 0.26F);
     strew(page, words.colours("hairs"), {for_page(page, 260), 34, 1.6F, 0.5F, 0.25F}, seed + 7);
 }
 
 void paint_paper(const stuff_words & words, QImage & page)
 {
     const unsigned seed = words.seed();
-    const auto height = [&](float x, float y) {
-        return 0.5F + 0.4F * hairs_at(x, y, 34, 2.4F, seed) +
-               0.5F * (cloudy(x / 5, y / 4, 2, seed + 50) - 0.5F) +
-               0.6F * (cloudy(x / 160, y / 120, 3, seed + 70) - 0.5F);
-    };
-    fill_lit(page, height, words.colours("color").front(), 0.2F);
+    fill_lit(page, surface({0.4F, 34, 2.4F}, {{{0.5F, 5, 4, 2, 50}, {0.6F, 160, 120, 3, 70}}}, seed),
+             words.colours("color").front(), 0.2F);
     if (words.has("flecks"))
         strew(page, words.colours("flecks"), {for_page(page, 90), 40, 2.2F, 0.6F, 0.5F}, seed + 7);
 }
 
 void paint_wall(const stuff_words & words, QImage & page)
 {
-    const unsigned seed = words.seed();
-    const auto height = [&](float x, float y) {
-        return 0.5F + 0.9F * hairs_at(x, y, 95, 5, seed) +
-               0.8F * (cloudy(x / 34, y / 34, 4, seed + 50) - 0.5F) +
-               0.9F * (cloudy(x / 300, y / 300, 3, seed + 70) - 0.5F);
-    };
-    fill_lit(page, height, words.colours("color").front(), 0.3F);
+    fill_lit(page, surface({0.9F, 95, 5}, {{{0.8F, 34, 34, 4, 50}, {0.9F, 300, 300, 3, 70}}}, words.seed()),
+             words.colours("color").front(), 0.3F);
 }
 
 void paint_lawn(const stuff_words & words, QImage & page)

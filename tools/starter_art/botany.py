@@ -5,20 +5,22 @@ from starter_art.roses import corner
 from starter_art.svg import circle, ellipse, path, smooth
 
 
+def turned_about(x, y, turn):
+    """The place of a point that is given across and along a direction from (x, y); 0 is upwards."""
+    c, s = math.cos(math.radians(turn)), math.sin(math.radians(turn))
+    return lambda across, along: f"{x + across * c + along * s:.0f},{y + across * s - along * c:.0f}"
+
+
 def leaf_shape(x, y, reach, turn, broad=0.3):
     """A leaf that begins at (x, y) and points that way; 0 is upwards."""
-    c, s = math.cos(math.radians(turn)), math.sin(math.radians(turn))
-    def at(across, along):
-        return f"{x + across * c + along * s:.0f},{y + across * s - along * c:.0f}"
+    at = turned_about(x, y, turn)
     return (f"M{x:.0f},{y:.0f}C{at(-broad * reach, 0.3 * reach)} {at(-0.8 * broad * reach, 0.75 * reach)} {at(0, reach)}"
             f"C{at(0.8 * broad * reach, 0.75 * reach)} {at(broad * reach, 0.3 * reach)} {x:.0f},{y:.0f}Z")
 
 
 def half_leaf(x, y, reach, turn, broad=0.3):
     """The half of that leaf that looks away from its own left."""
-    c, s = math.cos(math.radians(turn)), math.sin(math.radians(turn))
-    def at(across, along):
-        return f"{x + across * c + along * s:.0f},{y + across * s - along * c:.0f}"
+    at = turned_about(x, y, turn)
     return (f"M{x:.0f},{y:.0f}Q{at(0.05 * reach, 0.5 * reach)} {at(0, reach)}"
             f"C{at(0.8 * broad * reach, 0.75 * reach)} {at(broad * reach, 0.3 * reach)} {x:.0f},{y:.0f}Z")
 

@@ -3,10 +3,9 @@
 #include "support/files/text_file.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
+#include "tests/waiting_disk.h"
 
 #include <filesystem>
-#include <future>
-#include <utility>
 
 namespace {
 
@@ -94,18 +93,10 @@ TEST_F(save_test, the_pointer_is_busy_while_the_file_is_written)
 
 TEST_F(save_test, the_window_is_drawn_until_the_disk_has_the_file)
 {
-    std::promise<void> disk;
-    session.main.workers.begin_at_once([has_it = disk.get_future().share()] { has_it.wait(); });
-    bool was_drawn = false;
-    session.desk.on_breath = [&] {
-        if (!std::exchange(was_drawn, true))
-            disk.set_value();
-    };
+    const waiting_disk disk(session.main, session.desk);
     EXPECT_TRUE(write_collage(session.main, 90));
-    EXPECT_TRUE(was_drawn);
+    EXPECT_TRUE(disk.window_was_let_through());
     EXPECT_TRUE(file_exists(target));
-    if (!was_drawn)
-        disk.set_value();
 }
 
 TEST_F(save_test, yes_overwrites_the_file_that_is_there)
