@@ -81,7 +81,7 @@ struct finishing_stage {
 const char * const upright = "Mosaic wall";
 const char * const tilted = "Snapshots";
 const char * const over_a_background = "At the seaside";
-const char * const shapes = "Flower garden";
+const char * const shapes = "Heart of hearts";
 
 template <typename Change>
 void time_change(benchmark::State & state, const char * design, Change change)
