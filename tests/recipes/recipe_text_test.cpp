@@ -11,18 +11,22 @@ namespace {
 const known_folders text_folders{
     .here = "/home/anna/holiday", .program = "/opt/tessaloom", .data = "/home/anna/data"};
 
+control_state odd_caption()
+{
+    return {.caption = "tab\there",
+            .tool_tip = "two\r\nlines",
+            .tag = "100",
+            .value = "back\\slash \\t and \xC3\xBC",
+            .place = {.left = -3, .top = 4, .width = 5, .height = 6},
+            .back_color = 0xFFFFFF,
+            .fore_color = 1,
+            .visible = false,
+            .enabled = true,
+            .font = {.name = "Sans", .size = 10.1, .bold = true, .underline = true}};
+}
+
 recipe some_recipe()
 {
-    control_state caption{.caption = "tab\there",
-                          .tool_tip = "two\r\nlines",
-                          .tag = "100",
-                          .value = "back\\slash \\t and \xC3\xBC",
-                          .place = {.left = -3, .top = 4, .width = 5, .height = 6},
-                          .back_color = 0xFFFFFF,
-                          .fore_color = 1,
-                          .visible = false,
-                          .enabled = true,
-                          .font = {.name = "Sans", .size = 10.1, .bold = true, .underline = true}};
     control_state background;
     background.value = "/home/anna/data/user_images/x.jpg";
     return {
@@ -43,7 +47,8 @@ recipe some_recipe()
                                                 .changed = -7,
                                                 .moves_along = true}}},
         .settings = {{.name = "one", .value = ""}, {.name = "two", .value = "a=b\tc"}},
-        .controls = {{.name = "txtCaption", .state = caption}, {.name = "txtBGimage", .state = background}},
+        .controls = {{.name = "txtCaption", .state = odd_caption()},
+                     {.name = "txtBGimage", .state = background}},
         .forces = {{.by = recipe_force::source::style,
                     .kind = 2,
                     .control = "optNone",
