@@ -16,13 +16,13 @@ constexpr char end_of_request = '\0';
 constexpr qint64 longest_request = 8192;  // twice the longest path
 
 // Names of that kind are open to all users of the computer.
-bool is_own(const QLocalSocket & visitor)
+bool is_of_user(uid_t user, const QLocalSocket & visitor)
 {
     ucred other{};
     socklen_t size = sizeof other;
     return ::getsockopt(static_cast<int>(visitor.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &other,
                         &size) == 0 &&
-           other.uid == ::geteuid();
+           other.uid == user;
 }
 
 // Who didn't wait for the answer is gone, with what was asked.
@@ -39,10 +39,10 @@ void answer(QLocalSocket & visitor, const open_window::visit & visited)
     visitor.disconnectFromServer();
 }
 
-void receive(QLocalSocket & visitor, const open_window::visit & visited)
+void receive(QLocalSocket & visitor, uid_t user, const open_window::visit & visited)
 {
     QObject::connect(&visitor, &QLocalSocket::disconnected, &visitor, &QObject::deleteLater);
-    if (!is_own(visitor))
+    if (!is_of_user(user, visitor))
         return visitor.abort();
     QObject::connect(&visitor, &QLocalSocket::readyRead, &visitor,
                      [&visitor, visited] { answer(visitor, visited); });
@@ -61,13 +61,14 @@ QString name_of_open_window(const std::string & data_folder)
     return QStringLiteral("tessaloom-%1-%2").arg(::geteuid()).arg(QString::fromLatin1(hash.toHex().left(32)));
 }
 
-open_window::open_window(const std::string & data_folder, visit visited)
+open_window::open_window(const std::string & data_folder, visit visited, uid_t user)
 {
     server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
-    QObject::connect(&server, &QLocalServer::newConnection, &server, [this, visited = std::move(visited)] {
-        while (QLocalSocket * const visitor = server.nextPendingConnection())
-            receive(*visitor, visited);
-    });
+    QObject::connect(&server, &QLocalServer::newConnection, &server,
+                     [this, user, visited = std::move(visited)] {
+                         while (QLocalSocket * const visitor = server.nextPendingConnection())
+                             receive(*visitor, user, visited);
+                     });
     server.listen(name_of_open_window(data_folder));
 }
 

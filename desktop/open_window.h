@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <unistd.h>
 
 /// The way to a window that is open on a data folder already, for a program that was started a second time.
 
@@ -21,12 +22,12 @@ enum class window_answer : std::uint8_t {
 /// with the program.
 QString name_of_open_window(const std::string & data_folder);
 
-/// Listens as long as it lives, and asks `visited` when another program of the same user asks for the window:
-/// with the path of a flurn that is to be opened, or an empty text.
+/// Listens as long as it lives, and asks `visited` when another program of that user asks for the window:
+/// with the path of a flurn that is to be opened, or an empty text. Programs of other users are cut off.
 class open_window {
 public:
     using visit = std::function<window_answer(const std::string & flurn)>;
-    open_window(const std::string & data_folder, visit visited);
+    open_window(const std::string & data_folder, visit visited, uid_t user = ::geteuid());
 
 private:
     QLocalServer server;

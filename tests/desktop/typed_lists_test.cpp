@@ -89,11 +89,8 @@ TEST_F(typed_lists, the_box_of_the_caption_says_what_it_is_for_while_it_is_empty
     auto & box = *window->findChild<QLineEdit *>(QLatin1String("txtCaption"));
     all.main.txtCaption.set_text("");
     const QImage empty = box.grab().toImage();
-    const QString told = box.placeholderText();
-    EXPECT_FALSE(told.isEmpty());
     box.setPlaceholderText({});
-    EXPECT_NE(box.grab().toImage(), empty) << "it isn't seen";
-    box.setPlaceholderText(told);
+    EXPECT_NE(box.grab().toImage(), empty) << "no hint is seen";
     QTest::keyClicks(&box, "S");
     EXPECT_EQ(all.main.txtCaption.text(), "S");
 }
