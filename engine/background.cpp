@@ -5,6 +5,7 @@
 #include "engine/photo/fixed_picture.h"
 #include "engine/pixels/background_fit.h"
 #include "engine/pixels/rectangles.h"
+#include "photos/scaled_jpeg.h"
 #include "session/window_state.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
@@ -20,18 +21,19 @@ bool has_own_background(const frmMain & main)
     return !value.empty() && value != "None" && value != "Solid" && value != "Either";
 }
 
-bitmap loaded(const std::string & path)
+// The picture as it is loaded and rescaled, read by rows where that gives the same.
+bitmap loaded_at(const std::string & path, picture_size size)
 {
-    return path.empty() ? bitmap{} : load_picture(picture_format::jpeg, path);
+    photo_memory memory;
+    std::optional<bitmap> read = read_rescaled_jpeg(path, size, memory);
+    return read ? std::move(*read)
+                : rescaled(load_picture(picture_format::jpeg, path), size.width, size.height);
 }
 
-// The first of the pictures that can be read.
-bitmap first_loaded(const std::vector<std::string> & paths)
+bitmap loaded_for_preview(const std::string & path, poster_shape shape)
 {
-    for (const std::string & path : paths)
-        if (bitmap image = loaded(path))
-            return image;
-    return {};
+    const picture_size own = usable_jpeg_size(path).value_or(picture_size{});
+    return preview_background(loaded_at(path, preview_background_size(own, shape)), shape);
 }
 
 // A design's own picture has a small one for previews; where that is missing the picture itself serves.
@@ -46,15 +48,36 @@ std::vector<std::string> small_backgrounds(const frmMain & main)
     return {path.value_or(""), main.txtBGimage.text()};
 }
 
-// Another core reads the picture and brings it to its size, be it as large as it may.
-bitmap small_background(frmMain & main)
+std::vector<small_ground_key> keys_of(const std::vector<std::string> & paths, poster_shape shape)
 {
-    return beside(main.desk, main.workers,
-                  [paths = small_backgrounds(main), shape = selected_shape(main), width = main.collage_width,
-                   height = main.collage_height] {
-                      const bitmap image = first_loaded(paths);
-                      return image ? continued(preview_background(image, shape), width, height) : bitmap();
-                  });
+    std::vector<small_ground_key> keys;
+    for (const std::string & path : paths)
+        if (const std::optional<file_stamp> stamp = stamp_of(path))
+            keys.push_back({.path = path, .stamp = *stamp, .shape = shape});
+    return keys;
+}
+
+// Another core looks at the files and reads the picture, be it as large as it may. The first that can be read
+// is kept for the next previews; nullptr when none can. Good until the next one is kept.
+const bitmap * small_background(frmMain & main)
+{
+    const auto keys = beside(
+        main.desk, main.workers,
+        [paths = small_backgrounds(main), shape = selected_shape(main)] { return keys_of(paths, shape); });
+    for (const small_ground_key & key : keys) {
+        if (const bitmap * const kept = main.run.grounds.find(key))
+            return kept;
+        if (bitmap read =
+                beside(main.desk, main.workers, [&] { return loaded_for_preview(key.path, key.shape); }))
+            return &main.run.grounds.keep(key, std::move(read));
+    }
+    return nullptr;
+}
+
+bitmap preview_ground(frmMain & main)
+{
+    const bitmap * const small = small_background(main);
+    return small != nullptr ? continued(*small, main.collage_width, main.collage_height) : bitmap();
 }
 
 bitmap full_background(frmMain & main, picture_size size)
@@ -62,9 +85,9 @@ bitmap full_background(frmMain & main, picture_size size)
     const std::string path = full_size_picture(main.txtBGimage.text());
     const bool is_square = main.optSquare.selected();
     return beside(main.desk, main.workers, [=] {
-        bitmap image = loaded(path);
-        if (is_square)
-            image = squared(image);
+        if (!is_square)
+            return loaded_at(path, size);
+        const bitmap image = squared(load_picture(picture_format::jpeg, path));
         return rescaled(image, size.width, size.height);
     });
 }
@@ -85,7 +108,7 @@ void lay_background(frmMain & main, run_size size)
         return;
     const int scale = main.run.drawn_at.canvas();
     const bitmap image = size == run_size::preview
-                             ? small_background(main)
+                             ? preview_ground(main)
                              : full_background(main, {.width = main.collage_width * scale,
                                                       .height = main.collage_height * scale});
     const int margin = main.run.collage_margin * scale;

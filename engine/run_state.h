@@ -2,6 +2,7 @@
 
 #include "engine/photo/known_files.h"
 #include "engine/photo/photo_ahead.h"
+#include "engine/photo/small_grounds.h"
 #include "engine/photo/small_photos.h"
 #include "engine/pixels/mask_shelf.h"
 #include "engine/render_scale.h"
@@ -41,6 +42,7 @@ struct run_state {
     std::shared_ptr<kept_canvas> kept;  ///< of the last preview, with its photos and without its caption
     known_files known;                  ///< outlives the run as well
     small_photos small;                 ///< likewise
+    small_grounds grounds;              ///< likewise
     int16 first_cell_height = 0, first_cell_width = 0;  ///< in a grid its rows and columns
     int16 caption_height = 0;                           ///< pixels, of the prepared caption
 };

@@ -1,5 +1,6 @@
 #include "tests/jpeg_files.h"
 
+#include <array>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -60,20 +61,35 @@ void set_kind(jpeg_compress_struct & made, const jpeg_kind & kind)
     set_coding(made, kind.coding);
 }
 
-std::vector<JSAMPLE> row_of(int y, int width, int components)
-{
-    static std::uint32_t state = 1;
-    if (y == 0)
-        state = 1;
-    std::vector<JSAMPLE> row;
-    for (int x = 0; x < width; ++x)
-        for (int channel = 0; channel < components; ++channel) {
+/// Waves with noise, row by row from the top; the waves across are the same in each row.
+class waves {
+public:
+    waves(int width, int components) : components(components)
+    {
+        for (int x = 0; x < width; ++x)
+            for (int channel = 0; channel < components; ++channel)
+                across.push_back(127 * std::sin(x * 0.13 + channel));
+    }
+
+    std::vector<JSAMPLE> row(int y)
+    {
+        std::array<double, 4> down{};
+        for (int channel = 0; channel < components; ++channel)
+            down[static_cast<std::size_t>(channel)] = std::cos(y * 0.07 + 2 * channel);
+        std::vector<JSAMPLE> samples(across.size());
+        for (std::size_t i = 0; i < samples.size(); ++i) {
             state = state * 1664525 + 1013904223;
-            const double wave = 127 * std::sin(x * 0.13 + channel) * std::cos(y * 0.07 + 2 * channel);
-            row.push_back(static_cast<JSAMPLE>(128 + 0.8 * wave + (state >> 24) * 0.09 - 11));
+            const double wave = across[i] * down[i % static_cast<std::size_t>(components)];
+            samples[i] = static_cast<JSAMPLE>(128 + 0.8 * wave + (state >> 24) * 0.09 - 11);
         }
-    return row;
-}
+        return samples;
+    }
+
+private:
+    int components;
+    std::vector<double> across;
+    std::uint32_t state = 1;
+};
 
 }  // namespace
 
@@ -93,8 +109,9 @@ std::string jpeg_of(const jpeg_kind & kind, int width, int height)
     for (const jpeg_marker & marker : kind.markers)
         jpeg_write_marker(&made, marker.code, reinterpret_cast<const JOCTET *>(marker.bytes.data()),
                           static_cast<unsigned>(marker.bytes.size()));
+    waves picture(width, made.input_components);
     for (int y = 0; y < height; ++y) {
-        std::vector<JSAMPLE> row = row_of(y, width, made.input_components);
+        std::vector<JSAMPLE> row = picture.row(y);
         JSAMPROW start = row.data();
         jpeg_write_scanlines(&made, &start, 1);
     }

@@ -8,15 +8,6 @@ namespace {
 
 constexpr int short_side = 300, long_side = 450;
 
-bitmap preview_square(const bitmap & image)
-{
-    if (image.width() > image.height())
-        return copied(rescaled(image, long_side, short_side), 112, 0, 412, short_side);
-    if (image.width() < image.height())
-        return copied(rescaled(image, short_side, long_side), 0, 112, short_side, 412);
-    return rescaled(image, short_side, short_side);
-}
-
 }  // namespace
 
 int blend_alpha(double percent)
@@ -78,10 +69,21 @@ bitmap continued(const bitmap & image, int width, int height)
     return larger;
 }
 
-bitmap preview_background(const bitmap & image, poster_shape shape)
+picture_size preview_background_size(picture_size picture, poster_shape shape)
 {
-    if (shape == poster_shape::square)
-        return preview_square(image);
-    return shape == poster_shape::portrait ? rescaled(image, short_side, long_side)
-                                           : rescaled(image, long_side, short_side);
+    if (shape == poster_shape::square && picture.width == picture.height)
+        return {.width = short_side, .height = short_side};
+    const bool is_wide =
+        shape == poster_shape::square ? picture.width > picture.height : shape == poster_shape::landscape;
+    return is_wide ? picture_size{.width = long_side, .height = short_side}
+                   : picture_size{.width = short_side, .height = long_side};
+}
+
+bitmap preview_background(bitmap scaled, poster_shape shape)
+{
+    constexpr int left_out = 112, end = 412;
+    if (shape != poster_shape::square || scaled.width() == scaled.height())
+        return scaled;
+    return scaled.width() > scaled.height() ? copied(scaled, left_out, 0, end, short_side)
+                                            : copied(scaled, 0, left_out, short_side, end);
 }

@@ -22,9 +22,12 @@ std::string preview_picture(std::string_view picture);
 /// Cut to the rectangle in the middle, the longer side evenly.
 bitmap squared(const bitmap & image);
 
-/// The picture in the size of a preview's collage: 300 by 450, 450 by 300, or for a square one the middle of
-/// the picture, 300 by 300.
-bitmap preview_background(const bitmap & image, poster_shape shape);
+/// The size to which a picture is scaled for a preview's collage: 300 by 450, 450 by 300, and for a square
+/// one the way round of the picture, whose middle is wanted.
+picture_size preview_background_size(picture_size picture, poster_shape shape);
+
+/// What a preview's collage shows of a picture scaled to that size: for a square one the middle, 300 by 300.
+bitmap preview_background(bitmap scaled, poster_shape shape);
 
 /// The picture mirrored beyond its right and lower edge up to that size, twice its own at most: a preview's
 /// collage is larger than the picture behind it. A picture that is as large comes back as it is.

@@ -2,10 +2,15 @@
 
 #include "engine/canvas.h"
 #include "session/connect_all.h"
+#include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
+#include "tests/jpeg_files.h"
 #include "tests/pictures.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -144,4 +149,36 @@ TEST(lay_background, the_users_own_design_picture_lies_with_the_data)
     run.main.collage.bg_from_design = true;
     run.main.cmbBlend.set_text("100");
     EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'g');
+}
+
+// Whatever reads it, by rows or whole: the bytes are those of the picture loaded and rescaled.
+TEST(lay_background, shows_each_kind_of_picture_as_it_is_loaded_and_rescaled)
+{
+    collage_fixture run;
+    run.main.optBGimage.select();
+    run.main.cmbBlend.set_text("100");
+    const std::string path = run.home.at("ground.jpg");
+    run.main.txtBGimage.set_text(path);
+    for (const jpeg_colors colors : {jpeg_colors::ycc, jpeg_colors::grey, jpeg_colors::cmyk})
+        for (const picture_size own :
+             {picture_size{640, 500}, picture_size{300, 450}, picture_size{70, 40}}) {
+            write_file(path, jpeg_of({.colors = colors}, own.width, own.height));
+            const bitmap loaded = load_picture(picture_format::jpeg, path);
+            EXPECT_TRUE(same(background_of(run, 300, 450, run_size::preview), rescaled(loaded, 300, 450)));
+            EXPECT_TRUE(same(background_of(run, 400, 600, run_size::full), rescaled(loaded, 400, 600)));
+        }
+}
+
+TEST(lay_background, a_picture_that_is_kept_gives_way_to_the_one_that_takes_its_place)
+{
+    collage_fixture run;
+    run.main.optBGimage.select();
+    run.main.cmbBlend.set_text("100");
+    run.main.txtBGimage.set_text(run.picture("sea.jpg", blue, 60, 90));
+    EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'b');
+    EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'b');
+    run.picture("sea.jpg", green, 60, 90);
+    EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), 'g');
+    fs::remove(run.home.at("sea.jpg"));
+    EXPECT_EQ(letter_at(background_of(run, 333, 500, run_size::preview), 100, 100), '.');
 }

@@ -52,14 +52,16 @@ TEST(background_fit, the_longer_side_is_cut_evenly)
 TEST(background_fit, a_preview_picture_has_fixed_sizes)
 {
     const bitmap wide = graded(200, 100), high = graded(100, 200), even = graded(100, 100);
-    const auto size_of = [](const bitmap & image) { return std::pair{image.width(), image.height()}; };
-    EXPECT_EQ(size_of(preview_background(wide, poster_shape::portrait)), (std::pair{300, 450}));
-    EXPECT_EQ(size_of(preview_background(high, poster_shape::landscape)), (std::pair{450, 300}));
-    EXPECT_TRUE(same(preview_background(wide, poster_shape::square),
-                     copied(rescaled(wide, 450, 300), 112, 0, 412, 300)));
-    EXPECT_TRUE(same(preview_background(high, poster_shape::square),
-                     copied(rescaled(high, 300, 450), 0, 112, 300, 412)));
-    EXPECT_TRUE(same(preview_background(even, poster_shape::square), rescaled(even, 300, 300)));
+    const auto scaled = [](const bitmap & image, poster_shape shape) {
+        const picture_size size =
+            preview_background_size({.width = image.width(), .height = image.height()}, shape);
+        return preview_background(rescaled(image, size.width, size.height), shape);
+    };
+    EXPECT_TRUE(same(scaled(wide, poster_shape::portrait), rescaled(wide, 300, 450)));
+    EXPECT_TRUE(same(scaled(high, poster_shape::landscape), rescaled(high, 450, 300)));
+    EXPECT_TRUE(same(scaled(wide, poster_shape::square), copied(rescaled(wide, 450, 300), 112, 0, 412, 300)));
+    EXPECT_TRUE(same(scaled(high, poster_shape::square), copied(rescaled(high, 300, 450), 0, 112, 300, 412)));
+    EXPECT_TRUE(same(scaled(even, poster_shape::square), rescaled(even, 300, 300)));
 }
 
 TEST(background_fit, a_picture_goes_on_to_the_edges_of_a_larger_preview)
@@ -78,5 +80,6 @@ TEST(background_fit, a_picture_goes_on_to_the_edges_of_a_larger_preview)
 TEST(background_fit, no_picture_stays_none)
 {
     EXPECT_FALSE(squared({}));
+    EXPECT_FALSE(preview_background({}, poster_shape::portrait));
     EXPECT_FALSE(preview_background({}, poster_shape::square));
 }
