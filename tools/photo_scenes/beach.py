@@ -3,11 +3,11 @@ import math
 
 import numpy
 
-from common import camera, daylight, mesh_object, tube, turned
+from common import camera, daylight, tube, turned
 from film import Roll
 from growth import Soup
 from land import ground, noise, sea
-from nodes import leafy, material, plain, surface
+from nodes import material, plain, surface
 from palm_beach import lagoon, sand, shore
 
 FORMAT = "landscape"

@@ -24,6 +24,14 @@ class Soup:
         self.kinds.append(numpy.full(len(faces), kind))
         self.count += rows * columns
 
+    def quads(self, corners, kind=0):
+        """Single faces (n x 4 x 3) that share no points: needles, leaves, grains."""
+        count = len(corners)
+        self.points.append(corners.reshape(-1, 3))
+        self.faces.append(self.count + numpy.arange(4 * count).reshape(count, 4))
+        self.kinds.append(numpy.full(count, kind))
+        self.count += 4 * count
+
     def made(self, name, materials, smooth=True):
         made = mesh_object(name, numpy.concatenate(self.points), numpy.concatenate(self.faces), smooth=smooth)
         for one in materials:
@@ -143,9 +151,10 @@ def petal(soup, root, out, length, width, rise=0.5, curl=-0.6, cup=0.3, kind=0, 
     """A petal from its root outwards: rise lifts it, curl bends its end up or down, cup lifts its edges."""
     out = unit(numpy.asarray(out, dtype=float))
     aside = numpy.cross([0, 0, 1], out)
-    t = numpy.linspace(0, 1, rows)
-    line = bent_line(numpy.asarray(root, dtype=float), out + [0, 0, rise], length, [0, 0, curl], rows)
+    t = 1 - (1 - numpy.linspace(0, 1, rows)) ** 1.5  # closer towards the tip, which is round
+    line = numpy.asarray(root, dtype=float) + length * (unit(out + [0, 0, rise]) * t[:, None] + numpy.array([0, 0, curl]) * (t * t / 2)[:, None])
     shape = width / 2 * (numpy.sin(math.pi * numpy.clip(t * (1 - 0.12) + 0.06, 0, 1)) ** 0.7) * (1 - (1 - tip) * t ** 6) * (0.55 + 0.45 * t)
+    shape = shape * numpy.sqrt(1 - 0.985 * t ** 9)
     across = numpy.linspace(-1, 1, 7)[None, :, None]
     up = numpy.array([0, 0, 1.0])
     soup.raster(line[:, None] + aside * across * shape[:, None, None] + up * cup * across ** 2 * shape[:, None, None], kind)

@@ -39,9 +39,7 @@ def scoop(radius, material, seed):
             skirt = max(0.0, 1 - abs(t - 2.25 - 0.06 * ragged) / 0.22) ** 1.2 * (0.11 + 0.06 * ragged)
             r = radius * (1 + skirt)
             points.append((r * sin(t) * cos(a), r * sin(t) * sin(a), r * cos(t) * (0.94 if t < pi / 2 else 0.86)))
-    faces = [(r * around + k, (r + 1) * around + k, (r + 1) * around + (k + 1) % around, r * around + (k + 1) % around)
-             for r in range(rows) for k in range(around)]
-    made = s.mesh("scoop", points, faces, material)
+    made = s.net("scoop", points, around, material)
     s.subdivided(made, 1)
     s.wrinkled(made, radius * 0.10, radius * 0.28)
     return s.wrinkled(made, radius * 0.05, radius * 0.08)
@@ -70,9 +68,7 @@ def cone(tall, wide):
             r = wide * (0.05 + 0.95 * t) + 0.0016 * ridge * min(1, 4 * t) + lap
             points.append((r * cos(a), r * sin(a), tall * (t - 1) + (0.004 * sin(a + 1) if row == rows else 0)))
             raised.append(ridge)
-    faces = [(r * around + k, r * around + (k + 1) % around, (r + 1) * around + (k + 1) % around, (r + 1) * around + k)
-             for r in range(rows) for k in range(around)]
-    made = s.mesh("cone", points, [f[::-1] for f in faces], waffle())
+    made = s.net("cone", points, around, waffle())
     made.data.attributes.new("ridge", "FLOAT", "POINT").data.foreach_set("value", raised)
     thick = made.modifiers.new("thick", "SOLIDIFY")
     thick.thickness = 0.0022
@@ -112,6 +108,5 @@ def build():
     beach()
     daylight(40, -128, strength=0.15, dust=0.5, sun_size=2.0)
     m.window_light((0.5, -0.5, 0.1), (0, 0, 0), 0.6, 2.2, (1.0, 0.95, 0.88))
-    eye, target = (0.0, -0.52, 0.035), (0.002, 0, 0.021)
-    camera(eye, target, 78, m.focused(eye, target, (0, -0.027, 0.03)), 4.0)
+    camera((0.0, -0.52, 0.035), (0.002, 0, 0.021), 78, (0, -0.027, 0.03), 4.0)
     return Roll(samples=14, exposure=-0.2)

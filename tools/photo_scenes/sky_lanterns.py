@@ -72,9 +72,7 @@ def hills():
     for far, tall, seed in ((190, 5, 1), (240, 9, 2)):
         line = [(x, far, tall * (0.5 + 0.3 * sin(x / 41 + seed) + 0.2 * sin(x / 17 + 2 * seed) + 0.06 * sin(x / 3.1)))
                 for x in range(-160, 161, 2)]
-        points = line + [(x, y, -0.3) for x, y, _ in line]
-        count = len(line)
-        s.mesh("hill", points, [(i, i + 1, count + i + 1, count + i) for i in range(count - 1)], dark)
+        s.ridge(line, -0.3, dark)
 
 
 def night():

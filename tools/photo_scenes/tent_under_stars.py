@@ -3,7 +3,7 @@ import math
 
 import numpy
 
-from common import camera, mesh_object, random_turns, scatter, tube
+from common import camera, random_turns, scatter, tube
 from film import Roll
 from growth import Soup, fir, tuft
 from land import ground, layered, noise, seeded_places

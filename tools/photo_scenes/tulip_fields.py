@@ -6,7 +6,6 @@ import numpy
 from common import camera, daylight, joined, mesh_object, random_turns, scatter, tube, turned
 from film import Roll
 from flowers import tulip
-from growth import tuft
 from land import ground, layered, noise
 from nodes import leafy, plain
 from surfaces import soil
