@@ -4,10 +4,12 @@
 #include "support/files/file_steps.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 #include "tests/session/undo/undo_session.h"
 
 #include <cerrno>
+#include <filesystem>
 
 TEST(undo, has_nothing_to_do_at_the_beginning_of_a_collage)
 {
@@ -354,4 +356,30 @@ TEST(moment, how_far_a_run_has_come_is_no_part_of_it)
     session.main.barDoing.tell(3, 4);
     session.main.barDoing.show(!session.main.barDoing.visible());
     EXPECT_TRUE(moment_of(session.main, before) == before);
+}
+
+TEST(undo, brings_no_photo_back_that_is_gone_and_names_none_again)
+{
+    undo_session session;
+    frmMain & main = session.main;
+    save_jpeg(plain(15, 20, {.red = 20, .green = 200, .blue = 30}), session.photos[0]);
+    main.optHuge.select();
+    const std::string with_it = session.seen().picture;
+    main.optLarge.select();
+    std::filesystem::remove(session.photos[0]);
+    main.optMedium.select();
+    const sight without = session.seen();
+    EXPECT_TRUE(session.desk.next_message().starts_with("This photo was left out:\r\n" + session.photos[0]));
+    EXPECT_TRUE(session.undo());
+    EXPECT_TRUE(session.undo());
+    EXPECT_FALSE(session.seen().picture == with_it);
+    EXPECT_TRUE(session.undo());
+    EXPECT_FALSE(session.undo()) << "drawing anew is no step";
+    EXPECT_TRUE(session.redo());
+    EXPECT_TRUE(session.redo());
+    EXPECT_TRUE(session.redo());
+    EXPECT_TRUE(session.seen() == without);
+    EXPECT_FALSE(session.main.mnuRedo.enabled());
+    main.optHuge.select();
+    EXPECT_TRUE(session.desk.messages.empty());
 }
