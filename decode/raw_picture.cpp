@@ -4,6 +4,7 @@
 #include "intake/exif.h"
 #include "intake/jpeg_header.h"
 
+#include <array>
 #include <ctime>
 #include <libraw/libraw.h>
 #include <memory>
@@ -32,19 +33,12 @@ void expect_ok(int told)
                                                                        : decode_fault::damaged;
 }
 
-// The library says how the picture is to be turned in quarter turns of its own count.
+// The library says how the picture is to be turned by bits: 1 mirrors it from left to right, 2 from top to
+// bottom, 4 swaps rows and columns before that.
 int orientation_of(int flip)
 {
-    switch (flip) {
-        case 3:
-            return 3;
-        case 5:
-            return 8;
-        case 6:
-            return 6;
-        default:
-            return 1;
-    }
+    constexpr std::array<int, 8> orientations{1, 2, 4, 3, 5, 8, 6, 7};
+    return flip >= 0 && flip < std::ssize(orientations) ? orientations.at(static_cast<std::size_t>(flip)) : 1;
 }
 
 // The time is the camera's own clock; the library has taken it for local time.

@@ -6,7 +6,6 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
-#include <fstream>
 
 namespace {
 
@@ -18,14 +17,6 @@ bool was_changed_just_now(const file_stamp & stamp)
     return std::abs(now - stamp.changed) < nanoseconds(minutes(1)).count();
 }
 
-// Sooner told than by decoding; what a camera adds behind it makes nothing worse than that.
-bool has_mark_of_end(const std::string & photo)
-{
-    std::ifstream file(photo, std::ios::binary);
-    file.seekg(-2, std::ios::end);
-    return file.get() == 0xFF && file.get() == 0xD9;
-}
-
 }  // namespace
 
 bool is_unfinished(const std::string & photo)
@@ -33,5 +24,6 @@ bool is_unfinished(const std::string & photo)
     const std::optional<file_stamp> stamp = stamp_of(photo);
     if (!stamp || !was_changed_just_now(*stamp))
         return false;
+    // The mark is sooner told than the end of the data; what a camera adds behind it makes nothing worse.
     return stamp->bytes == 0 || (!has_mark_of_end(photo) && is_cut_short(photo));
 }

@@ -2,6 +2,7 @@
 
 #include <csetjmp>
 #include <cstdio>
+#include <fstream>
 #include <jerror.h>
 #include <jpeglib.h>
 #include <memory>
@@ -77,4 +78,11 @@ bool is_cut_short(const std::string & path)
     looked_through photo(file.get());
     photo.read_all(row);
     return photo.has_ended && (photo.needs_more || photo.was_refused);
+}
+
+bool has_mark_of_end(const std::string & path)
+{
+    std::ifstream file(path, std::ios::binary);
+    file.seekg(-2, std::ios::end);
+    return file.get() == 0xFF && file.get() == 0xD9;
 }

@@ -218,9 +218,10 @@ std::optional<run_photo> photo_from_shelf(frmMain & main, const wanted_photo & w
 std::optional<wanted_photo> wanted_at(frmMain & main, const std::string & path,
                                       const place_of_photo & place_of)
 {
-    const std::optional<picture_size> own = size_of_photo(main, path);
+    const known_file & known = file_of(main, path);
+    const std::string & file = known.stand_in.empty() ? path : known.stand_in;
     try {
-        return own ? std::optional(wanted_for(main, path, place_of(*own))) : std::nullopt;
+        return known.size ? std::optional(wanted_for(main, file, place_of(*known.size))) : std::nullopt;
     } catch (const platform_error &) {
         return std::nullopt;  // it will be told when it is the photo's turn
     }
@@ -249,6 +250,8 @@ run_photo load_photo(frmMain & main, const std::string & path, const place_of_ph
     constexpr int most_tries = 3;  // a file that changes all the time is taken as it is then
     for (int tries = 1;; ++tries) {
         const known_file known = file_of(main, path);
+        if (!known.stand_in.empty())
+            return load_photo(main, known.stand_in, place_of);
         if (!known.size) {
             run_photo none;
             none.path = path;

@@ -7,6 +7,7 @@
 #include "photos/photo_orientation.h"
 #include "photos/photo_shuffle.h"
 #include "photos/prepared_photos.h"
+#include "photos/thumbnails/found_thumbnail.h"
 #include "photos/thumbnails/thumbnails.h"
 #include "session/windows.h"
 #include "support/files/beside.h"

@@ -17,9 +17,6 @@ std::string chk_sample_thumb(frmMain & main, const std::string & photo);
 /// without a size, until it is looked at again.
 small_photo small_photo_of(frmMain & main, const std::string & photo);
 
-/// True for what was given for one that is still being copied.
-bool is_still_coming(const small_photo & photo);
-
 /// Has workers look at the photos from `index` of the table on, and make thumbnails for those that have none;
 /// returns at once. What comes of it is given when it is their turn.
 void begin_thumbnails(frmMain & main, int index);

@@ -1,6 +1,9 @@
 #include "session/undo/keep_history.h"
 
+#include "session/main_window/redraw.h"
 #include "support/for_now.h"
+
+#include <tuple>
 
 namespace {
 
@@ -72,6 +75,19 @@ bool is_at_rest(const frmMain & main, const change_history & history)
     return history.actions == 0 && !main.run.run_active && !main.menus_shown;
 }
 
+// A photo that is gone since is missing from what comes back, too.
+void redraw_without_the_lost(frmMain & main, change_history & history)
+{
+    if (std::get<left_out_photos>(history.steps.present().beside_controls).photos == main.left_out.photos)
+        return;
+    const for_now inside(history.actions, 1);
+    {
+        const for_now kept(main.collage.keeps_turns, true);
+        redraw_sample(main);
+    }
+    history.steps.amend(moment_of(main, history.steps.present()));
+}
+
 // What changed without an action of the user's goes with where it stands.
 void go(frmMain & main, change_history & history, const moment * (step_history<moment>::*where)() const,
         void (step_history<moment>::*step)())
@@ -86,6 +102,7 @@ void go(frmMain & main, change_history & history, const moment * (step_history<m
     shown.loads = main.picSample.load_count();
     steps.amend(std::move(shown));
     history.typed_in = nullptr;
+    redraw_without_the_lost(main, history);
     show_steps(main, history);
 }
 

@@ -158,7 +158,11 @@ void put_back(frmMain & main, const moment & wanted, const moment & present)
         take_files_back(main, present);
         throw;
     }
+    const left_out_photos known = main.left_out;
     held_beside_controls(main) = wanted.beside_controls;
+    // What has become of the photos meanwhile isn't undone.
+    if (is_same(wanted.photos, present.photos))
+        main.left_out = known;
     put_photos_back(main.table, *wanted.photos);
     put_controls_back(main, wanted.controls);
     main.resize(wanted.width, wanted.height);  // which looks at the orientation

@@ -60,5 +60,6 @@ struct moment {
 moment moment_of(frmMain & main, const moment & before);
 
 /// Brings the window from `present` back to `wanted`. No handler fires and nothing is drawn. The files come
-/// first: raises 61, 70, 75, 76, and then all is as it was.
+/// first: raises 61, 70, 75, 76, and then all is as it was. Where the photos are the same, those that were
+/// left out since stay so.
 void put_back(frmMain & main, const moment & wanted, const moment & present);

@@ -61,8 +61,8 @@ struct way_of_run {
     int match = 1;  // what stands in the box
 };
 
-// The thumbnails of the photos that change: a poster has no use for them, a preview is made of them.
-enum class thumbnail_fate { stay, serve, gone };
+// The thumbnails of the photos that change: a preview is made of them.
+enum class thumbnail_fate { stay, gone };
 
 struct poster {
     bool shown = false;
@@ -256,7 +256,7 @@ protected:
                 EXPECT_TRUE(sound.shown) << where;
                 EXPECT_EQ(times_told(sound, "left out"), 0) << where << sound.told;
                 for (std::size_t i = match == 1 ? kind % 2 : 1 - kind % 2; i < std::size(photo_changes);
-                     i += thumbnails == thumbnail_fate::serve ? std::size(photo_changes) : 2)
+                     i += 2)
                     expect_survived(
                         where, photo_changes[i], thumbnails, sound,
                         [&way, &after = poster_after](const auto & change) { return after(way, change); });
@@ -276,8 +276,7 @@ protected:
                     delete_file(thumbnail_path(photo(number)));
             }
         });
-        expect_filled_and_named(where + change.what, sound, spoiled,
-                                thumbnails == thumbnail_fate::serve ? "" : change.reason);
+        expect_filled_and_named(where + change.what, sound, spoiled, change.reason);
     }
 
     void expect_none_left(const std::string & name, const kind_of_poster & poster_after,
@@ -297,15 +296,14 @@ TEST_F(vanished_in_any_style, leave_no_place_of_the_poster_empty_and_are_named_o
     expect_changes_survived(run_size::full, thumbnail_fate::stay);
 }
 
-TEST_F(vanished_in_any_style, without_thumbnails_leave_no_place_of_the_preview_empty_and_are_named_once)
+TEST_F(vanished_in_any_style, leave_no_place_of_the_preview_empty_and_are_named_once)
 {
-    expect_changes_survived(run_size::preview, thumbnail_fate::gone);
+    expect_changes_survived(run_size::preview, thumbnail_fate::stay);
 }
 
-// A preview is made of the thumbnails: it doesn't look at each photo.
-TEST_F(vanished_in_any_style, are_in_the_preview_as_long_as_their_thumbnails_are_there)
+TEST_F(vanished_in_any_style, with_their_thumbnails_leave_no_place_of_the_preview_empty_and_are_named_once)
 {
-    expect_changes_survived(run_size::preview, thumbnail_fate::serve);
+    expect_changes_survived(run_size::preview, thumbnail_fate::gone);
 }
 
 TEST_F(vanished_in_any_style, with_their_folder_make_no_poster_and_are_named)

@@ -1,6 +1,7 @@
 #include "engine/kept_canvas.h"
 
 #include "engine/preview.h"
+#include "photos/thumbnails/thumbnail_path.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
@@ -79,6 +80,7 @@ TEST(kept_canvas, is_not_used_when_a_photo_or_its_file_is_another)
     EXPECT_FALSE(
         both.is_used_after([](four_photos & run) { save_jpeg(plain(150, 200, yellow), run.main.table[0]); }));
     EXPECT_FALSE(both.is_used_after([](four_photos & run) { delete_file(run.main.table[3]); }));
+    EXPECT_FALSE(both.is_used_after([](four_photos & run) { delete_file(photo_path(run.main.table[3])); }));
 }
 
 TEST(kept_canvas, is_not_used_when_the_ground_or_a_place_is_another)

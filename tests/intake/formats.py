@@ -129,16 +129,19 @@ def rgb_colors_come_as_their_profiles_say(intake, photos):
     lossless = ['-quality', '100', '-sampling-factor', '1x1']
     for name, profile in (('wide', WIDE), ('screen', SCREEN)):
         icc = icc_file(intake, name, profile)
-        for ending, more in (('plain.png', ['-define', 'png:color-type=2']), ('deep.png', ['-define', 'png:bit-depth=16']), ('page.tif', []), ('photo.jpg', lossless)):
+        for ending, more in (('plain.png', ['-define', 'png:color-type=2']), ('deep.png', ['-define', 'png:bit-depth=16']), ('page.tif', []), ('photo.jpg', lossless),
+                             ('web.webp', ['-define', 'webp:lossless=true'])):
             patches(photos, name + '_' + ending, [f'rgb{color}' for color in RGB], '-profile', icc, *more)
-        heic(in_folder(photos, name + '_plain.png'), in_folder(photos, name + '_phone.heic'), '-q', '100', '-p', 'chroma=444')
+        for ending, more in (('phone.heic', []), ('later.avif', ['-A'])):
+            heic(in_folder(photos, name + '_plain.png'), in_folder(photos, name + '_' + ending), *more, '-q', '100', '-p', 'chroma=444')
     ready = intake.take(photos)
-    check(len(ready) == 10, intake.table)
+    check(len(ready) == 14, intake.table)
     for name in ('wide', 'screen'):
-        phone = in_folder(intake.folder, name + '_phone.png')
-        run('heif-convert', in_folder(photos, name + '_phone.heic'), phone)
-        for ending in ('plain.png', 'deep.png', 'page.tif', 'photo.jpg', 'phone.heic'):
-            source = phone if ending == 'phone.heic' else in_folder(photos, name + '_' + ending)
+        for ending in ('plain.png', 'deep.png', 'page.tif', 'photo.jpg', 'web.webp', 'phone.heic', 'later.avif'):
+            source = in_folder(photos, name + '_' + ending)
+            if ending in ('phone.heic', 'later.avif'):
+                source = in_folder(intake.folder, name + '_' + ending + '.png')
+                run('heif-convert', in_folder(photos, name + '_' + ending), source)
             values = [color_at(source, 16 * i + 8, 8) for i in range(len(RGB))]
             expected = as_told_by_transicc(in_folder(intake.folder, name + '.icc'), values)
             check(any(abs(a - b) > 4 for a, b in zip(expected[0], values[0])), 'the profile changes nothing')

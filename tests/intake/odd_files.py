@@ -12,7 +12,8 @@ import subprocess
 import time
 
 from photo_files import check, drawn, heic, play, run, with_turn
-from whole_way import in_folder, made_raw
+from raw_files import made_raw
+from whole_way import in_folder
 
 COUNT = 500
 

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Photos that go and come while the built program is open: the poster without them, no poster without any, and "Ok" in the
+"""Photos that go and come while the built program is open: the preview and the poster without them, no poster without any, and "Ok" in the
 choice of photos, which looks at the folder again."""
 import os
 import shutil
 import subprocess
 
 import screen
-from collage import check, check_saved, folder_by_mouse, quit_by_mouse, run, welcomed
+from collage import changed_preview, check, check_saved, folder_by_mouse, quit_by_mouse, run, welcomed
 from collage_by_mouse import choose_design, make_full_size, save
 
 
@@ -30,6 +30,27 @@ def black_share(path):
     told = subprocess.run(['convert', path, '-fuzz', '2%', '-fill', 'white', '+opaque', 'black', '-format', '%[fx:100*(1-mean)]', 'info:'],
                           check=True, capture_output=True, text=True).stdout
     return float(told)
+
+
+def one_vanishes_from_the_preview(p, photo):
+    """The preview that follows lacks it and one box names it; no other change names it again, nor does an undo show it."""
+    os.rename(photo, photo + '.away')
+    p.click('optSmall')
+    told = message(p)
+    check(told.count(photo + ": it isn't there any more") == 1, told)
+    confirmed(p, 'vanished_preview')
+    p.window('frmMain')
+    p.widget('cmdFlurn')
+    changed_preview(p, lambda: p.click('optLarge'), 'a change after a photo has gone')
+    keep(p, 'vanished_preview_without')
+    changed_preview(p, lambda: p.keys('ctrl+z'), 'an undo after a photo has gone')
+    p.widget('cmdFlurn')
+    os.rename(photo + '.away', photo)
+    changed_preview(p, lambda: p.click('optMedium'), 'a change after the photo has come back')
+    shutil.rmtree(os.path.join(p.photos, 'sample_thumbs'))
+    changed_preview(p, lambda: p.click('optNone'), 'a change after the thumbnails have gone')
+    check(os.path.isdir(os.path.join(p.photos, 'sample_thumbs')), 'there are no thumbnails')
+    p.widget('cmdFlurn')
 
 
 def some_vanish(p, photos):
@@ -97,6 +118,7 @@ def play(p):
     p.window('frmMain')
     p.widget('cmdFlurn')
     screen.until(p.finished, 'the first preview')
+    one_vanishes_from_the_preview(p, os.path.join(p.photos, photos[4]))
     some_vanish(p, photos)
     all_vanish(p)
     new_ones_come(p, kept, os.path.join(p.photos, photos[2]))

@@ -238,6 +238,5 @@ def build():
     window(dice)
     shade_of_leaves(dice)
     daylight(42, -142, strength=0.14, dust=0.6, sun_size=0.8)
-    eye, target = (0.14, -4.3, 1.20), (0.14, 0, 0.96)
-    camera(eye, target, 45, m.focused(eye, target, Vector((-0.3, 0, 0.7))), 5.6)
+    camera((0.14, -4.3, 1.20), (0.14, 0, 0.96), 45, Vector((-0.3, 0, 0.7)), 5.6)
     return Roll(samples=12, exposure=-0.6, saturation=1.0)

@@ -35,12 +35,10 @@ def rosette(radius, material):
         t = row / rows
         wide = radius * (1 - t) ** 0.75 * (1.0 + 0.18 * sin(pi * min(t * 2.2, 1)))
         for k in range(around):
-            a = 2 * pi * k / around
+            a = -2 * pi * k / around
             ridge = 1 + 0.16 * (abs(sin(4 * a)) ** 0.7 - 0.5)
             points.append((wide * ridge * cos(a + 2.0 * t), wide * ridge * sin(a + 2.0 * t), radius * 1.35 * t ** 0.9))
-    faces = [(r * around + k, r * around + (k + 1) % around, (r + 1) * around + (k + 1) % around, (r + 1) * around + k)
-             for r in range(rows) for k in range(around)]
-    return s.mesh("rosette", points, faces, material)
+    return s.net("rosette", points, around, material)
 
 
 def strawberry(material, seeds, green):
@@ -180,6 +178,5 @@ def build():
     m.ambient((0.35, 0.28, 0.30), 0.12)
     m.window_light((-1.1, -0.5, 1.0), (0, 0, 0.15), 0.6, 15, (1.0, 0.9, 0.8))
     m.window_light((1.0, -0.2, 0.6), (0, 0, 0.15), 0.5, 4, (1.0, 0.75, 0.5))
-    eye, target = (0.05, -0.92, 0.40), (0.0, 0, 0.19)
-    camera(eye, target, 66, m.focused(eye, target, (0, -0.075, 0.22)), 2.8)
+    camera((0.05, -0.92, 0.40), (0.0, 0, 0.19), 66, (0, -0.075, 0.22), 2.8)
     return Roll(samples=20, exposure=0.6, clean=1.5)

@@ -1,6 +1,4 @@
 """Cherry blossom against the sky, a few clusters sharp, the others dissolved."""
-import math
-
 import numpy
 
 from common import camera, daylight, scatter

@@ -7,6 +7,7 @@ import materials as m
 import shapes as s
 from common import camera, world
 from film import Roll
+from skies import veiled
 from town import facade
 
 FORMAT = "landscape"
@@ -16,12 +17,8 @@ BANK = 760.0
 def night():
     """A clear night whose foot glows over the town; thin cloud catches the glow."""
     nodes = world()
-    ray = nodes.place("Generated")
-    height = nodes.add("ShaderNodeSeparateXYZ", ray).outputs[2]
-    veil = nodes.noise(nodes.vector("MULTIPLY", ray, (1.5, 1.0, 5.0)), 2.4, detail=8.0, distortion=0.4)
-    base = nodes.ramp(height, (0.0, (0.115, 0.070, 0.065)), (0.05, (0.062, 0.046, 0.062)), (0.15, (0.022, 0.027, 0.058)),
-                      (0.5, (0.006, 0.011, 0.034)))
-    tone = nodes.mix(nodes.math("MULTIPLY", nodes.rise(veil, 0.48, 0.8), 0.5), base, (0.075, 0.055, 0.072))
+    tones = ((0.0, (0.115, 0.070, 0.065)), (0.05, (0.062, 0.046, 0.062)), (0.15, (0.022, 0.027, 0.058)), (0.5, (0.006, 0.011, 0.034)))
+    tone = veiled(nodes, nodes.place("Generated"), tones, (0.075, 0.055, 0.072), (1.5, 1.0, 5.0), 2.4, 0.48)
     nodes.add("ShaderNodeOutputWorld", nodes.add("ShaderNodeBackground", tone, 1.0))
 
 
@@ -101,9 +98,7 @@ def boat():
 def hills():
     dark = m.plain("hill", "0a0c12", 1.0)
     line = [(x, 2600, 70 + 120 * noise.fractal(Vector((x / 700, 3, 0)), 1.0, 2.1, 6)) for x in range(-1600, 1601, 20)]
-    points = line + [(x, y, -5) for x, y, _ in line]
-    count = len(line)
-    s.mesh("hill", points, [(i, i + 1, count + i + 1, count + i) for i in range(count - 1)], dark)
+    s.ridge(line, -5, dark)
 
 
 def build():

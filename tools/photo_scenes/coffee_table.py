@@ -55,16 +55,14 @@ def croissant():
         step = layer - int(layer)
         thick = 0.031 * (1 - 0.86 * abs(along) ** 1.5) * (0.86 + 0.2 * (1 - step) ** 0.6)
         for k in range(around):
-            angle = 2 * pi * k / around
+            angle = -2 * pi * k / around
             lean = 0.10 * sin(angle * 2 + along * 9)
             shift = (0.012 * cos(angle)) * (1 if along > 0 else -1)
             reach = 0.058 + thick * cos(angle) * 1.05
             points.append((reach * sin(bow + shift) , reach * cos(bow + shift) - 0.05,
                            max(thick * sin(angle) * (0.95 + lean) + 0.024, 0.001)))
             baked.append(0.25 + 0.55 * (1 - step) * max(sin(angle), 0) + 0.35 * abs(along) ** 4)
-    faces = [(r * around + k, r * around + (k + 1) % around, (r + 1) * around + (k + 1) % around,
-              (r + 1) * around + k) for r in range(rows) for k in range(around)]
-    made = s.mesh("croissant", points, faces, crust())
+    made = s.net("croissant", points, around, crust())
     made.data.attributes.new("baked", "FLOAT", "POINT").data.foreach_set("value", baked)
     return s.subdivided(made, 1)
 
@@ -162,6 +160,5 @@ def build():
     m.ambient((0.55, 0.62, 0.75), 0.16)
     m.window_light((-0.75, 0.55, 0.65), (0.05, 0, 0), 0.7, 28)
     m.window_light((0.9, -0.3, 0.8), (0.1, 0, 0), 1.0, 3.0, (0.85, 0.9, 1.0))
-    eye, target = (0.06, -0.47, 0.36), (0.082, -0.002, 0.02)
-    camera(eye, target, 58, m.focused(eye, target, (0.0, -0.02, 0.06)), 5.0)
+    camera((0.06, -0.47, 0.36), (0.082, -0.002, 0.02), 58, (0.0, -0.02, 0.06), 5.0)
     return Roll(samples=14, exposure=0.1)

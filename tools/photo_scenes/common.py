@@ -28,15 +28,15 @@ def clear_stage():
 
 
 def camera(place, target, lens=35, focus=None, f_stop=None):
-    """A camera for 36 mm film. Focus: the distance that is sharp, or a place; without f_stop everything is."""
+    """A camera for 36 mm film. Focus: the distance that is sharp, or a place in the sharp plane; without f_stop all is."""
     data = bpy.data.cameras.new("camera")
     held = bpy.data.objects.new("camera", data)
     bpy.context.collection.objects.link(held)
     held.location = place
     held.rotation_euler = (Vector(target) - Vector(place)).to_track_quat("-Z", "Y").to_euler()
-    data.lens, data.clip_end = lens, 100000
+    data.lens, data.clip_start, data.clip_end = lens, 0.01, 100000
     if f_stop:
-        far = focus if isinstance(focus, (int, float)) else (Vector(focus or target) - Vector(place)).length
+        far = focus if isinstance(focus, (int, float)) else (Vector(focus or target) - Vector(place)).dot((Vector(target) - Vector(place)).normalized())
         data.dof.use_dof, data.dof.focus_distance, data.dof.aperture_fstop = True, far, f_stop
         data.dof.aperture_blades = 9
     bpy.context.scene.camera = held
@@ -114,6 +114,30 @@ def sheet(name, points, made_of=None, closed=False):
         index = numpy.hstack([index, index[:, :1]])
     faces = numpy.stack([index[:-1, :-1], index[:-1, 1:], index[1:, 1:], index[1:, :-1]], axis=-1).reshape(-1, 4)
     return mesh_object(name, points.reshape(-1, 3), faces, made_of)
+
+
+def unwrapped(made, places):
+    """Gives each point of an object its place (n x 2) in a texture: the "UV" of its material."""
+    corners = numpy.empty(len(made.data.loops), dtype=numpy.int32)
+    made.data.loops.foreach_get("vertex_index", corners)
+    made.data.uv_layers.new(name="places").data.foreach_set("uv", places[corners].astype(numpy.float32).ravel())
+    return made
+
+
+def smooth(points, count=28):
+    """A curve through points: cubic pieces between them."""
+    points = numpy.asarray(points, dtype=float)
+    ends = numpy.vstack([2 * points[0] - points[1], points, 2 * points[-1] - points[-2]])
+    where = numpy.linspace(0, len(points) - 1.0001, count)
+    n, t = where.astype(int), (where - where.astype(int))[:, None]
+    a, b, c, d = ends[n], ends[n + 1], ends[n + 2], ends[n + 3]
+    return 0.5 * (2 * b + (c - a) * t + (2 * a - 5 * b + 4 * c - d) * t ** 2 + (3 * b - a - 3 * c + d) * t ** 3)
+
+
+def limb(line, radii, made_of, sides=16):
+    """A tube through points with radii, both as smooth curves."""
+    both = smooth([(*place, radius) for place, radius in zip(line, radii)])
+    return tube("limb", both[:, :3], numpy.maximum(both[:, 3], 0.004), made_of, sides)
 
 
 def turned(name, profile, made_of=None, steps=48):

@@ -2,9 +2,11 @@
 import math
 
 import bpy
-from mathutils import Matrix, Vector, noise
+import numpy
+from mathutils import Matrix, Vector
 
 import shapes
+from common import joined, limb, sheet, smooth
 
 
 def body(name, joints, bones, material, finer=2):
@@ -22,12 +24,6 @@ def body(name, joints, bones, material, finer=2):
     return shapes.subdivided(made, finer)
 
 
-PERSON = [("hips", "waist"), ("waist", "chest"), ("chest", "neck"), ("neck", "chin"),
-          ("chest", "shoulder_l"), ("shoulder_l", "elbow_l"), ("elbow_l", "wrist_l"),
-          ("chest", "shoulder_r"), ("shoulder_r", "elbow_r"), ("elbow_r", "wrist_r"),
-          ("hips", "hip_l"), ("hip_l", "knee_l"), ("knee_l", "calf_l"), ("calf_l", "ankle_l"),
-          ("hips", "hip_r"), ("hip_r", "knee_r"), ("knee_r", "calf_r"), ("calf_r", "ankle_r")]
-
 STANDING = {"hips": (0, 0, 0.94, (0.15, 0.11)), "waist": (0, 0, 1.10, (0.125, 0.095)), "chest": (0, 0, 1.32, (0.16, 0.105)),
             "neck": (0, 0, 1.49, 0.052), "chin": (0, 0.01, 1.58, 0.048), "crown": (0, 0, 1.68, 0.06),
             "shoulder_l": (-0.185, 0, 1.42, 0.062), "elbow_l": (-0.24, 0.02, 1.14, 0.042),
@@ -42,63 +38,113 @@ STANDING = {"hips": (0, 0, 0.94, (0.15, 0.11)), "waist": (0, 0, 1.10, (0.125, 0.
 FINGERS = ((-0.026, 0.070), (-0.009, 0.082), (0.009, 0.078), (0.027, 0.060))  # aside, length
 
 
+ARM = ((0, 0.052), (0.12, 0.062), (0.3, 0.056), (0.6, 0.047), (0.9, 0.039))  # share of the way to the elbow, thickness
+FOREARM = ((0.05, 0.038), (0.3, 0.043), (0.7, 0.034), (0.95, 0.026), (1.05, 0.025))
+THIGH = ((-0.1, 0.06), (0.08, 0.092), (0.35, 0.084), (0.7, 0.064), (0.95, 0.054))
+CALF = ((0.08, 0.054), (0.3, 0.058), (0.5, 0.051), (0.75, 0.038), (1.0, 0.033))
+TRUNK = (("hips", -0.11, 0.03, 0.03), ("hips", -0.06, 0.125, 0.095), ("hips", 0.01, 0.165, 0.115), ("waist", 0, 0.133, 0.096), ("chest", -0.05, 0.155, 0.11),
+         ("chest", 0.05, 0.160, 0.106), ("chest", 0.115, 0.125, 0.082), ("neck", 0.0, 0.066, 0.060), ("neck", 0.05, 0.04, 0.04))  # joint, above it, wide, deep
+
+
 def person(name, material, moved=None, slim=1.0):
     """A grown person who faces -y, 1.78 m tall, feet at 0; `moved` gives joints another place (x, y, z)."""
-    joints = {}
-    for joint, (x, y, z, thick) in STANDING.items():
-        thick = tuple(t * slim for t in thick) if isinstance(thick, tuple) else thick * slim
-        joints[joint] = (*(moved or {}).get(joint, (x, y, z)), thick)
+    joints = standing(moved)
+    parts = [trunk(joints, slim, material), yoke(joints, slim, material)] + skull(joints, material)
     for side in "lr":
-        knee, ankle = Vector(joints["knee_" + side][:3]), Vector(joints["ankle_" + side][:3])
-        joints["calf_" + side] = (*(knee.lerp(ankle, 0.32) + Vector((0, 0.012, 0))), 0.060 * slim)
-    made = body(name, {joint: at for joint, at in joints.items() if joint[:4] not in ("hand", "toe_", "crow")}, PERSON,
-                material)
-    for part in [head(joints, material)] + [part for side in "lr" for part in (hand(joints, side, material),
-                                                                               shoe(joints, side, material))]:
-        part.parent = made
+        shoulder, elbow, wrist, hip, knee, ankle = (joints[f"{one}_{side}"] for one in ("shoulder", "elbow", "wrist", "hip", "knee", "ankle"))
+        bend = numpy.array([0, 0.014, 0])
+        parts += [fleshed([(shoulder, elbow, ARM), (elbow, wrist, FOREARM)], slim, material),
+                  fleshed([(hip, knee, THIGH), (knee, ankle + bend, CALF)], slim, material), foot(knee, ankle, joints["toe_" + side], material)]
+        parts += hand(wrist, joints["hand_" + side], side, material)
+    made = blended(name, parts)
+    scalp(joints, material).parent = made
     return made
 
 
-def head(joints, material):
-    """A head with short hair that stands off a little."""
-    middle = (Vector(joints["chin"][:3]) + Vector(joints["crown"][:3])) / 2 + Vector((0, 0, 0.02))
-    made = shapes.ball("head", 0.105, material, middle, 4)
-    made.scale = (0.80, 0.98, 1.20)
-    for vertex in made.data.vertices:
-        up = max(0.0, vertex.co.z / 0.105)
-        tuft = noise.noise(vertex.co * 38 + middle * 9)
-        vertex.co *= 1 + 0.10 * up + 0.09 * up * tuft
+def standing(moved=None):
+    """The places of the joints of one who stands, but for those that are moved."""
+    return {joint: numpy.array((moved or {}).get(joint, at[:3]), dtype=float) for joint, at in STANDING.items()}
+
+
+def blended(name, parts, grain=0.006):
+    """One skin over parts that reach into each other."""
+    for part in parts:
+        shapes.weld(part, closed=True)  # what is open or inside out would be cut away
+    made = joined(name, parts)
+    skin = made.modifiers.new("skin", "REMESH")
+    skin.mode, skin.voxel_size, skin.use_smooth_shade = "VOXEL", grain, True
+    soft = made.modifiers.new("soft", "SMOOTH")
+    soft.factor, soft.iterations = 0.5, 12
+    return shapes.baked(made)
+
+
+def trunk(joints, slim, material):
+    """From the hips to the neck, deeper than wide nowhere."""
+    rows = smooth([(*(joints[joint] + [0, 0, up]), wide * slim, deep * slim) for joint, up, wide, deep in TRUNK], 40)
+    turn = numpy.linspace(0, 2 * math.pi, 32, endpoint=False)[None, :]
+    return sheet("trunk", numpy.stack([rows[:, :1] + rows[:, 3:4] * numpy.cos(turn), rows[:, 1:2] + rows[:, 4:] * numpy.sin(turn),
+                                       rows[:, 2:3] + 0 * turn], axis=-1), material, closed=True)
+
+
+def yoke(joints, slim, material):
+    """From shoulder to shoulder, over the root of the neck."""
+    left, right, root = joints["shoulder_l"], joints["shoulder_r"], joints["neck"] - [0, 0, 0.035]
+    line = [left + 0.03 * (left - root), left, left + 0.5 * (root - left), root, right + 0.5 * (root - right), right, right + 0.03 * (right - root)]
+    return limb(line, [0.03, 0.055 * slim, 0.064 * slim, 0.062 * slim, 0.064 * slim, 0.055 * slim, 0.03], material)
+
+
+def fleshed(bones, slim, material):
+    """A limb over bones: (from, to, thickness along it)."""
+    line = [(first + (last - first) * share, thick * slim) for first, last, flesh in bones for share, thick in flesh]
+    ends = [(line[0][0], 0.01), *line, (line[-1][0] + 0.3 * (line[-1][0] - line[-2][0]), 0.01)]
+    return limb([place for place, _ in ends], [thick for _, thick in ends], material)
+
+
+def oval(place, radii, material):
+    made = shapes.ball("oval", 1.0, material, detail=4)
+    made.data.transform(Matrix.Translation(place) @ Matrix.Diagonal((*radii, 1)))
     return made
 
 
-def along(made, place, way, turn=0.0):
-    """Turns a thing whose length is z into a way, at a place."""
-    turned = Vector(way).to_track_quat("Z", "Y").to_matrix().to_4x4()
-    made.matrix_world = Matrix.Translation(place) @ turned @ Matrix.Rotation(turn, 4, "Z")
+def head_of(joints):
+    return (joints["chin"] + joints["crown"]) / 2
+
+
+def skull(joints, material):
+    """Head and neck."""
+    middle = head_of(joints)
+    return [oval(middle + [0, 0.012, 0.032], (0.082, 0.102, 0.096), material), oval(middle + [0, -0.026, -0.05], (0.059, 0.072, 0.072), material),
+            limb([joints["neck"] - [0, 0, 0.05], joints["neck"], middle + [0, 0.01, -0.06], middle], [0.05, 0.058, 0.052, 0.05], material)]
+
+
+def scalp(joints, material):
+    """Short hair."""
+    made = oval(head_of(joints) + [0, 0.026, 0.048], (0.081, 0.092, 0.084), material)
+    shapes.hair(made, 3500, 0.014, material, seed=int(1000 * abs(joints["crown"][0])) + 1, brownian_factor=0.005, root_radius=1.0, tip_radius=0.2,
+                radius_scale=0.0022, length_random=0.5, factor_random=0.01, display_step=2, render_step=2, hair_step=3)
     return made
 
 
-def hand(joints, side, material):
-    """An open hand from the wrist on, fingers a little spread."""
-    bones, places = [("wrist", "palm")], {"wrist": (0, 0, -0.01, 0.025), "palm": (0, 0, 0.055, (0.036, 0.016)),
-                                          "thumb": (-0.046, 0, 0.075, 0.012), "tip": (-0.070, 0, 0.112, 0.009)}
-    bones += [("palm", "thumb"), ("thumb", "tip")]
-    for k, (aside, long) in enumerate(FINGERS):
-        places[f"knuckle_{k}"], places[f"tip_{k}"] = (aside, 0, 0.098, 0.0115), (aside * 1.65, 0, 0.098 + long, 0.008)
-        bones += [("palm", f"knuckle_{k}"), (f"knuckle_{k}", f"tip_{k}")]
-    wrist, end = Vector(joints["wrist_" + side][:3]), Vector(joints["hand_" + side][:3])
-    made = body("hand", places, bones, material)
-    made.data.transform(Matrix.Scale(1.12, 4))
-    return along(made, wrist, end - wrist, 0 if side == "r" else math.pi)
+def hand(wrist, end, side, material):
+    """An open hand, fingers a little spread, its palm square to y; the thumb towards the body."""
+    along = (end - wrist) / numpy.linalg.norm(end - wrist)
+    across = numpy.cross(along, [0, 1, 0])
+    across /= numpy.linalg.norm(across) + 1e-9
+    across *= -1 if (across[0] > 0) == (side == "r") else 1
+
+    def at(aside, far, back=0.0):
+        return wrist + across * aside + along * far + [0, back, 0]
+    parts = [limb([at(0, -0.03), at(0, 0.0), at(0.004, 0.04), at(0, 0.085), at(0, 0.1)], [0.02, 0.027, 0.036, 0.037, 0.02], material)]
+    for aside, long in FINGERS:
+        parts.append(limb([at(aside, 0.08), at(aside * 1.3, 0.08 + 0.5 * long, 0.004), at(aside * 1.55, 0.085 + long, -0.004), at(aside * 1.58, 0.092 + long)], [0.0105, 0.0100, 0.0085, 0.003], material))
+    return parts + [limb([at(0.018, 0.02), at(0.048, 0.055), at(0.064, 0.088), at(0.068, 0.096)], [0.018, 0.0135, 0.0095, 0.003], material)]
 
 
-def shoe(joints, side, material):
+def foot(knee, ankle, toe, material):
     """A shoe from the heel to the toe."""
-    ankle, toe = Vector(joints["ankle_" + side][:3]), Vector(joints["toe_" + side][:3])
-    way = toe - ankle
-    made = shapes.ball("shoe", 0.5, material, detail=3)
-    made.data.transform(Matrix.Diagonal((0.088, 0.085, 0.285, 1)))
-    return along(made, ankle + way * 0.42, way)
+    down, way = (ankle - knee) / numpy.linalg.norm(ankle - knee), toe - ankle
+    line = [ankle + 0.035 * down - 0.42 * way, ankle + 0.035 * down - 0.30 * way, ankle + 0.03 * down + 0.1 * way, ankle + 0.6 * way, toe + 0.1 * way, toe + 0.3 * way]
+    return limb(line, [0.012, 0.040, 0.046, 0.042, 0.036, 0.012], material)
 
 
 def sleeve(wearer, joints, ends, share, radii, material):
@@ -113,11 +159,11 @@ def sleeve(wearer, joints, ends, share, radii, material):
 
 def dressed(wearer, moved, material, wind=0.0):
     """A loose shirt with short sleeves and short trousers, blown a little to one side."""
-    joints = {joint: (moved or {}).get(joint, at[:3]) for joint, at in STANDING.items()}
+    joints = standing(moved)
     for side in "lr":
-        sleeve(wearer, joints, ("shoulder_" + side, "elbow_" + side), 0.55, (0.064, 0.066), material)
-        sleeve(wearer, joints, ("hip_" + side, "knee_" + side), 0.72, (0.104, 0.090), material)
-    shirt = shapes.lathe("shirt", [(0.05, 1.50), (0.13, 1.46), (0.185, 1.40), (0.185, 1.25), (0.165, 1.10), (0.172, 0.96),
+        sleeve(wearer, joints, ("shoulder_" + side, "elbow_" + side), 0.50, (0.066, 0.064), material)
+        sleeve(wearer, joints, ("hip_" + side, "knee_" + side), 0.72, (0.100, 0.086), material)
+    shirt = shapes.lathe("shirt", [(0.05, 1.50), (0.10, 1.478), (0.155, 1.445), (0.182, 1.395), (0.178, 1.25), (0.165, 1.10), (0.172, 0.96),
                                    (0.195, 0.84), (0.18, 0.84), (0.1, 1.3)], material, steps=48)
     for vertex in shirt.data.vertices:
         low = max(0.0, 1.12 - vertex.co.z) / 0.28

@@ -55,7 +55,7 @@ def bunch(hand, dice):
 def girl(cloth):
     """From behind, on her toes, one arm up."""
     figure = person("girl", cloth, {
-        "shoulder_r": (0.16, 0, 1.43), "elbow_r": (0.27, 0.0, 1.62), "wrist_r": (0.31, 0.0, 1.86), "hand_r": (0.315, 0, 1.96),
+        "shoulder_r": (0.15, 0, 1.44), "elbow_r": (0.25, 0.0, 1.64), "wrist_r": (0.30, 0.0, 1.86), "hand_r": (0.315, 0, 1.96),
         "elbow_l": (-0.27, 0.03, 1.17), "wrist_l": (-0.36, 0.0, 0.97), "hand_l": (-0.40, 0.0, 0.89),
                                     "shoulder_l": (-0.15, 0, 1.41),
         "knee_l": (-0.10, 0, 0.48), "ankle_l": (-0.13, -0.02, 0.10), "toe_l": (-0.22, 0.05, 0.04),
@@ -92,6 +92,5 @@ def build():
     daylight(3.2, 9, strength=0.16, dust=2.0, ozone=2.5, sun_size=1.2, sun=0.55,
              clouds=dict(low=0.50, high=0.78, scale=0.9, light=(9.0, 5.2, 3.2), shade=(3.0, 2.1, 2.3), stretch=(0.5, 1.0)))
     m.window_light((-4, -5, 5), (0, 0, 2.5), 2.0, 110, (1.0, 0.9, 0.8))
-    eye, target = (0, -7.2, 0.95), (0, 0, 1.72)
-    camera(eye, target, 62, (0, 0, 1.5), 2.8)
+    camera((0, -7.2, 0.95), (0, 0, 1.72), 62, (0, 0, 1.5), 2.8)
     return Roll(samples=16, exposure=0.25, warmth=0.02, glow=0.08)

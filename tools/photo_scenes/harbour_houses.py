@@ -206,9 +206,7 @@ def build():
     boat((-3.6, -14.0, 0), 0.35, 0.8, ("d9a83c", "4a3222"), False)
     green = m.plain("hill", "47583a", 0.95)
     line = [(x, 90, 9 + 15 * noise.fractal(Vector((x / 45, 1, 0)), 0.9, 2.1, 7)) for x in range(-130, 131, 1)]
-    points = line + [(x, y, 0) for x, y, _ in line]
-    count = len(line)
-    s.mesh("hill", points, [(i, i + 1, count + i + 1, count + i) for i in range(count - 1)], green)
+    s.ridge(line, 0, green)
     daylight(26, -152, strength=0.16, dust=1.0, sun_size=1.0,
              clouds=dict(low=0.5, high=0.75, scale=1.1, light=(7.5, 7.5, 7.6), shade=(4.6, 5.0, 5.8)))
     camera((-2.0, -36, 3.4), (0.5, 0, 4.0), 35)

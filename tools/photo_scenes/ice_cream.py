@@ -39,9 +39,7 @@ def scoop(radius, material, seed):
             skirt = max(0.0, 1 - abs(t - 2.25 - 0.06 * ragged) / 0.22) ** 1.2 * (0.11 + 0.06 * ragged)
             r = radius * (1 + skirt)
             points.append((r * sin(t) * cos(a), r * sin(t) * sin(a), r * cos(t) * (0.94 if t < pi / 2 else 0.86)))
-    faces = [(r * around + k, (r + 1) * around + k, (r + 1) * around + (k + 1) % around, r * around + (k + 1) % around)
-             for r in range(rows) for k in range(around)]
-    made = s.mesh("scoop", points, faces, material)
+    made = s.net("scoop", points, around, material)
     s.subdivided(made, 1)
     s.wrinkled(made, radius * 0.10, radius * 0.28)
     return s.wrinkled(made, radius * 0.05, radius * 0.08)
@@ -54,6 +52,19 @@ def waffle():
     tone = nodes.math("MULTIPLY_ADD", nodes.math("SUBTRACT", nodes.noise(where, 42.0), 0.5), 0.7, ridge)
     m.feed(nodes, shader, Base_Color=m.ramp(nodes, tone, (0.0, "bd6f22"), (0.45, "d08a35"), (0.8, "dd9d48"), (1.0, "b06a24")),
            Normal=m.relief(nodes, nodes.noise(where, 240.0), 0.0008, 0.6))
+    return made
+
+
+def biscuit():
+    """A thin wafer: a fine lattice pressed into it, browner where it stands up."""
+    made, nodes, shader = m.principled("biscuit", "cf9550", 0.7, Specular=0.2)
+    apart = nodes.add("ShaderNodeSeparateXYZ", nodes.place())
+    lines = [nodes.math("ABSOLUTE", nodes.math("SINE", nodes.math("MULTIPLY", apart.outputs[k], 1150.0))) for k in (0, 2)]
+    lattice = nodes.rise(nodes.math("MINIMUM", *lines), 0.1, 0.5)
+    baked = nodes.noise(nodes.place(), 90.0, detail=5.0)
+    tone = nodes.math("MULTIPLY_ADD", lattice, -0.25, baked)
+    m.feed(nodes, shader, Base_Color=m.ramp(nodes, tone, (0.15, "efc98a"), (0.45, "d99f58"), (0.75, "b06f30")),
+           Normal=m.relief(nodes, lattice, -0.0009, 0.8))
     return made
 
 
@@ -70,9 +81,7 @@ def cone(tall, wide):
             r = wide * (0.05 + 0.95 * t) + 0.0016 * ridge * min(1, 4 * t) + lap
             points.append((r * cos(a), r * sin(a), tall * (t - 1) + (0.004 * sin(a + 1) if row == rows else 0)))
             raised.append(ridge)
-    faces = [(r * around + k, r * around + (k + 1) % around, (r + 1) * around + (k + 1) % around, (r + 1) * around + k)
-             for r in range(rows) for k in range(around)]
-    made = s.mesh("cone", points, [f[::-1] for f in faces], waffle())
+    made = s.net("cone", points, around, waffle())
     made.data.attributes.new("ridge", "FLOAT", "POINT").data.foreach_set("value", raised)
     thick = made.modifiers.new("thick", "SOLIDIFY")
     thick.thickness = 0.0022
@@ -106,12 +115,11 @@ def build():
     lower.location = (0, 0, 0.019)
     upper = scoop(0.0295, ice("vanilla", "f7e6bd", "edd093", "5b3a1c"), 8)
     upper.location, upper.rotation_euler = (0.003, 0.001, 0.063), (0.12, -0.1, 1.3)
-    wafer = s.box("wafer", (0.019, 0.0028, 0.062), m.wood("wafer", "a8682c", "d3a05a", "e3bb7c", 0.6, 30), 0.0005,
+    wafer = s.box("wafer", (0.019, 0.0028, 0.062), biscuit(), 0.0005,
                   (0.021, 0.006, 0.104))
     wafer.rotation_euler = (0.1, 0.42, 0.3)
     beach()
     daylight(40, -128, strength=0.15, dust=0.5, sun_size=2.0)
     m.window_light((0.5, -0.5, 0.1), (0, 0, 0), 0.6, 2.2, (1.0, 0.95, 0.88))
-    eye, target = (0.0, -0.52, 0.035), (0.002, 0, 0.021)
-    camera(eye, target, 78, m.focused(eye, target, (0, -0.027, 0.03)), 4.0)
+    camera((0.0, -0.52, 0.035), (0.002, 0, 0.021), 78, (0, -0.027, 0.03), 4.0)
     return Roll(samples=14, exposure=-0.2)

@@ -5,7 +5,7 @@ from common import camera, daylight, random_turns, scatter
 from film import Roll
 from flowers import lavender
 from growth import branches, Soup
-from land import ground, layered, noise
+from land import ground, layered
 from nodes import leafy, plain
 from surfaces import soil
 

@@ -184,6 +184,5 @@ def build():
     street()
     daylight(38, -118, strength=0.16, dust=0.8, sun_size=1.5)
     m.window_light((0.8, -2.4, 2.2), (0, 0.3, 0.8), 1.6, 26, (1.0, 0.97, 0.92))
-    eye, target = (-0.32, -1.38, 1.66), (0.0, 0.30, 0.84)
-    camera(eye, target, 40, m.focused(eye, target, (0, 0.06, 0.85)), 4.5)
+    camera((-0.32, -1.38, 1.66), (0.0, 0.30, 0.84), 40, (0, 0.06, 0.85), 4.5)
     return Roll(samples=12, exposure=-0.85)

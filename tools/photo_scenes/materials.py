@@ -4,7 +4,7 @@ import math
 import bpy
 from mathutils import Vector
 
-from nodes import material, surface
+from nodes import material, no_lamp, surface
 
 
 def rgb(text):
@@ -107,12 +107,6 @@ def lamp(kind, place, target, power, colour=(1, 1, 1), **settings):
 def window_light(place, target, size, power, colour=(1.0, 0.94, 0.85)):
     """The soft light of a window, square."""
     return lamp("AREA", place, target, power, colour, size=size)
-
-
-def focused(place, target, point):
-    """How far before a camera at `place` that looks at `target` the plane lies in which `point` is sharp."""
-    place, target, point = Vector(place), Vector(target), Vector(point)
-    return (point - place).dot((target - place).normalized())
 
 
 def degrees(*angles):

@@ -1,9 +1,7 @@
 """Northern lights over a fjord: curtains of light, their image in the water, snow and firs."""
-import math
-
 import numpy
 
-from common import camera, random_turns, scatter
+from common import camera, random_turns, scatter, unwrapped
 from film import Roll
 from growth import Soup, fir
 from land import ground, layered, noise, ridged, sea
@@ -45,11 +43,7 @@ def curtain(start, end, waves, tall, strength, seed):
     soup.raster(line[None] + rows * numpy.array([0.05, -0.12, 1.0]) * tall)
     made = soup.made("curtain", [curtain_light(strength, seed * 3.7)])
     made.visible_shadow = False
-    layer = made.data.uv_layers.new(name="band")
-    uv = numpy.stack(numpy.broadcast_arrays(t[None], rows[..., 0]), axis=-1).reshape(-1, 2)
-    corners = numpy.empty(len(made.data.loops), dtype=numpy.int32)
-    made.data.loops.foreach_get("vertex_index", corners)
-    layer.data.foreach_set("uv", uv[corners].astype(numpy.float32).ravel())
+    unwrapped(made, numpy.stack(numpy.broadcast_arrays(t[None], rows[..., 0]), axis=-1).reshape(-1, 2))
 
 
 def peaks(x, y):

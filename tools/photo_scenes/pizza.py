@@ -67,9 +67,7 @@ def pie(radius):
                 share, z = 0, max(0.0055 + puff * sin(turn) * (1.0 if turn < pi else 0.3), 0.0012)
             points.append((r * cos(a), r * sin(a), z))
             cheese.append(share)
-    faces = [(r * around + k, (r + 1) * around + k, (r + 1) * around + (k + 1) % around, r * around + (k + 1) % around)
-             for r in range(rows) for k in range(around)]
-    made = s.mesh("pizza", points, faces, topping)
+    made = s.net("pizza", points, around, topping)
     made.data.materials.append(bottom)
     made.data.attributes.new("cheese", "FLOAT", "POINT").data.foreach_set("value", cheese)
     for index, polygon in enumerate(made.data.polygons):
@@ -177,6 +175,5 @@ def build():
     m.ambient((0.7, 0.75, 0.85), 0.14)
     m.window_light((-0.75, 0.75, 0.75), (0, 0, 0), 0.6, 30)
     m.window_light((0.8, -0.3, 0.8), (0, 0, 0), 0.9, 3.0, (0.9, 0.94, 1.0))
-    eye, target = (0.02, -0.56, 0.62), (0.0, -0.012, 0.01)
-    camera(eye, target, 61, m.focused(eye, target, (0, -0.06, 0.025)), 3.6)
+    camera((0.02, -0.56, 0.62), (0.0, -0.012, 0.01), 61, (0, -0.06, 0.025), 3.6)
     return Roll(samples=18, exposure=0.1)

@@ -165,4 +165,4 @@ def build():
     light_of_window()
     m.ambient((0.75, 0.8, 0.9), 0.34)
     camera((0.12, -3.15, 1.12), (0.04, 0, 0.88), 38, (0, -0.1, 0.7), 4.0)
-    return Roll(samples=12, exposure=0.75, clean=1.5)
+    return Roll(samples=24, exposure=0.75, clean=1.5)

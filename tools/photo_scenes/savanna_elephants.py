@@ -3,9 +3,9 @@ import math
 
 import numpy
 
-from common import camera, joined, mesh_object, tube, world
+from common import camera, joined, limb, mesh_object, smooth, world
 from film import Roll
-from growth import Soup, blade, branches
+from growth import Soup, blade, branches, stem
 from land import layered, noise
 from nodes import material, no_lamp, surface
 
@@ -24,8 +24,8 @@ def evening():
     tone = nodes.mix(round_, tone, (1.5, 0.62, 0.12))
     bars = nodes.noise(nodes.vector("MULTIPLY", ray, (9.0, 9.0, 210.0)), 1.0, detail=5.0)
     tone = nodes.mix(nodes.math("MULTIPLY", nodes.rise(bars, 0.5, 0.85), 0.35), tone, (0.34, 0.09, 0.035))
-    disk = nodes.rise(off, 0.0132, 0.0124)
-    lower = nodes.rise(height, 0.010, 0.038)
+    disk = nodes.rise(off, 0.0106, 0.0100)
+    lower = nodes.rise(height, 0.012, 0.036)
     tone = nodes.mix(disk, tone, nodes.mix(lower, (3.2, 1.15, 0.22), (7.0, 4.2, 1.5)))
     nodes.add("ShaderNodeOutputWorld", nodes.add("ShaderNodeBackground", tone, 1.0))
 
@@ -35,25 +35,6 @@ def ball(centre, reach, dark):
     soup = Soup()
     soup.raster(numpy.stack([numpy.cos(v) * numpy.cos(u), numpy.cos(v) * numpy.sin(u), numpy.sin(v)], axis=-1) * reach + centre, closed=True)
     return soup.made("ball", [dark])
-
-
-def smooth(points, count=28):
-    """A curve through points, by joining them with cubic pieces."""
-    points = numpy.asarray(points, dtype=float)
-    ends = numpy.vstack([2 * points[0] - points[1], points, 2 * points[-1] - points[-2]])
-    where = numpy.linspace(0, len(points) - 1.0001, count)
-    found = []
-    for at in where:
-        n, t = int(at), at - int(at)
-        a, b, c, d = ends[n:n + 4]
-        found.append(0.5 * (2 * b + (c - a) * t + (2 * a - 5 * b + 4 * c - d) * t ** 2 + (3 * b - a - 3 * c + d) * t ** 3))
-    return numpy.array(found)
-
-
-def limb(line, radii, dark, sides=14):
-    """A tube through points with radii, both as smooth curves."""
-    both = smooth([(*place, radius) for place, radius in zip(line, radii)])
-    return tube("limb", both[:, :3], numpy.maximum(both[:, 3], 0.005), dark, sides)
 
 
 def elephant(dark, step=0.0, tusks=1.0, trunk=0.0):
@@ -87,14 +68,13 @@ def acacia(chance, dark, tall):
     soup, twigs = Soup(), []
     for turn in (0.2, 2.5, 3.6, 5.4):
         branches(soup, chance, (0, 0, tall * 0.18), (0.62 * math.cos(turn), 0.62 * math.sin(turn), 1), tall * 0.42, 0.022 * tall, 3, twigs, 0.62, 0.3, 0.1, fork=(3, 5))
-    branches(soup, chance, (0, 0, -0.5), (0.08, 0, 1), tall * 0.3, 0.034 * tall, 0, [], 0.5)
+    stem(soup, numpy.array([(-0.02 * tall, 0, -0.06 * tall), (0, 0, 0.04 * tall), (0.01 * tall, 0, 0.12 * tall), (0, 0, 0.2 * tall)]), numpy.array([0.05, 0.034, 0.03, 0.03]) * tall)
     top = max(place[2] for place, _, _ in twigs)
     for place, _, _ in twigs:
-        at = place * [1.1, 1.1, 0.45] + [0, 0, 0.55 * top]
-        for _ in range(150):
-            spot = at + chance.normal(0, 1, 3) * [0.06 * tall, 0.06 * tall, 0.011 * tall]
-            out, aside = 0.0045 * tall * chance.standard_normal(3), 0.0045 * tall * chance.standard_normal(3)
-            soup.raster(numpy.array([[spot - out - aside, spot + out - aside], [spot - out + aside, spot + out + aside]]))
+        at = place * [1.1, 1.1, 0.62] + [0, 0, 0.38 * top]
+        spot = at + chance.normal(0, 1, (700, 3)) * [0.05 * tall, 0.05 * tall, 0.009 * tall]
+        out, aside = 0.0030 * tall * chance.standard_normal((2, 700, 3))
+        soup.quads(numpy.stack([spot - out, spot - 0.35 * aside, spot + out, spot + 0.35 * aside], axis=1))
     return soup.made("acacia", [dark])
 
 
@@ -130,10 +110,10 @@ def build():
     plain_edge(far, 500, 5.6, 14, 0)
     for x, size, turn, step, trunk in ((-7.6, 1.0, 0.08, 0.34, 0.1), (-0.6, 0.84, -0.1, -0.3, -0.15), (4.3, 0.46, 0.05, 0.3, 0.2), (9.4, 0.92, 0.04, -0.34, 0.0)):
         one = elephant(middle, step, 1.0 if size > 0.6 else -0.5, trunk)
-        one.location, one.scale, one.rotation_euler = (x, 0, 0.0), (size, size, 1.1 * size), (0, 0, turn)
+        one.location, one.scale, one.rotation_euler = (x, 0, -0.15), (size, size, 1.1 * size), (0, 0, turn)
     tree = acacia(chance, dusty(0.05), 8.5)
     tree.location = (-12.6, 30, -0.2)
     distant = acacia(chance, far, 8.0)
     distant.location, distant.scale = (31, 480, 5.5), (1.5, 1.5, 1.5)
     camera((0, -330, 1.0), (0.2, 0, 4.8), lens=420)
-    return Roll(samples=10, bounces=4, exposure=0.05, warmth=0.07, glow=0.12, grain=0.014, saturation=1.2)
+    return Roll(samples=14, bounces=4, exposure=0.05, warmth=0.07, glow=0.12, grain=0.014, saturation=1.2)

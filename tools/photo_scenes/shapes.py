@@ -24,6 +24,20 @@ def put(name, data, material=None):
     return made
 
 
+def net(name, points, around, material=None):
+    """A closed net: points row by row, `around` of them in each; faces look outward where rows rise and points turn left."""
+    rows = len(points) // around - 1
+    corners = [(row * around + k, row * around + (k + 1) % around) for row in range(rows) for k in range(around)]
+    return mesh(name, points, [(a, a + around, b + around, b) for a, b in corners], material)
+
+
+def ridge(line, foot, material):
+    """Hills as their outline: a sheet from a line of points down to the height `foot`."""
+    count = len(line)
+    points = line + [(x, y, foot) for x, y, _ in line]
+    return mesh("hill", points, [(i, i + 1, count + i + 1, count + i) for i in range(count - 1)], material)
+
+
 def lathe(name, profile, material=None, steps=96, finer=1):
     """Turns a profile of (radius, height) about the z axis; a radius of 0 closes an end."""
     points, faces, count = [], [], len(profile)
@@ -40,12 +54,14 @@ def lathe(name, profile, material=None, steps=96, finer=1):
     return made
 
 
-def weld(thing, distance=1e-5):
-    """Joins points that lie on one another, and turns all faces outward."""
+def weld(thing, distance=1e-5, closed=False):
+    """Joins points that lie on one another, turns all faces outward, and may put a lid on what is open."""
     import bmesh
     work = bmesh.new()
     work.from_mesh(thing.data)
     bmesh.ops.remove_doubles(work, verts=work.verts, dist=distance)
+    if closed:
+        bmesh.ops.holes_fill(work, edges=work.edges)
     bmesh.ops.recalc_face_normals(work, faces=work.faces)
     work.to_mesh(thing.data)
     work.free()

@@ -1,4 +1,4 @@
-"""Night skies."""
+"""Night skies, and skies behind thin cloud."""
 import math
 
 from common import world
@@ -17,6 +17,13 @@ def stars(nodes, ray, density=1.0):
         nodes.put(light.node.inputs["Scale"], nodes.math("MULTIPLY", spot, level))
         total = light if total is None else nodes.vector("ADD", total, light)
     return total
+
+
+def veiled(nodes, ray, tones, veil, stretch, scale=2.5, thin=0.5):
+    """A sky whose tones, (height, colour), change with height, behind thin cloud of one colour; `stretch` draws it out."""
+    height = nodes.add("ShaderNodeSeparateXYZ", ray).outputs[2]
+    cloud = nodes.noise(nodes.vector("MULTIPLY", ray, stretch), scale, detail=8.0, distortion=0.45)
+    return nodes.mix(nodes.math("MULTIPLY", nodes.rise(cloud, thin, 0.8), 0.5), nodes.ramp(height, *tones), veil)
 
 
 def night(low, high, milky_way=None, strength=1.0, star_light=1.0):

@@ -61,7 +61,7 @@ def people(cloth):
     for x, y, size, pose, low in ((-1.05, 0.4, 1.0, raised, 0.80), (-0.30, 0.3, 0.66, up, 0.62), (0.30, 0.5, 0.95, up, 0.58),
                                   (1.45, 0.8, 1.0, up, 0.85)):
         made = person("guest", cloth, pose)
-        made.location, made.scale, made.rotation_euler.z = (x, y - 2.6, 0.0), (size,) * 3, pi + 0.3 * sin(5 * x)
+        made.location, made.scale, made.rotation_euler.z = (x, y - 2.6, -0.03 - 0.05 * (y + 0.4) ** 1.6), (size,) * 3, pi + 0.3 * sin(5 * x)
         coat(made, cloth, low)
         if low < 0.7:
             long_hair(made, cloth)
@@ -72,9 +72,7 @@ def hills():
     for far, tall, seed in ((190, 5, 1), (240, 9, 2)):
         line = [(x, far, tall * (0.5 + 0.3 * sin(x / 41 + seed) + 0.2 * sin(x / 17 + 2 * seed) + 0.06 * sin(x / 3.1)))
                 for x in range(-160, 161, 2)]
-        points = line + [(x, y, -0.3) for x, y, _ in line]
-        count = len(line)
-        s.mesh("hill", points, [(i, i + 1, count + i + 1, count + i) for i in range(count - 1)], dark)
+        s.ridge(line, -0.3, dark)
 
 
 def night():

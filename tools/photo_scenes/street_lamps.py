@@ -42,10 +42,8 @@ def umbrella(at):
             r = 0.56 * sin(t * pi / 2 * 0.95) * (1 - 0.07 * t * scallop)
             points.append((r * cos(a), r * sin(a),
                            0.26 * cos(t * pi / 2 * 1.0) - 0.012 * scallop * sin(pi * t) + 0.03 * t * t * scallop))
-    faces = [(r * around + k, (r + 1) * around + k, (r + 1) * around + (k + 1) % around,
-              r * around + (k + 1) % around) for r in range(rows) for k in range(around)]
     dark = m.plain("stick", "15130f", 0.3)
-    parts = [s.mesh("cloth", points, faces, made), s.tube("stick", [(0, 0, 0.33), (0, 0, -0.52)], 0.007, dark)]
+    parts = [s.net("cloth", points, around, made), s.tube("stick", [(0, 0, 0.33), (0, 0, -0.52)], 0.007, dark)]
     for k in range(8):
         a = 2 * pi * k / 8
         rib = [(0.56 * sin(t * pi / 2 * 0.95) * cos(a), 0.56 * sin(t * pi / 2 * 0.95) * sin(a),
@@ -135,6 +133,5 @@ def build():
     rain(dice)
     m.lamp("AREA", (-2.2, 1.6, 3.2), (0, 0, 1.4), 60, (1.0, 0.8, 0.55), size=0.5)
     m.lamp("AREA", (2.4, 2.0, 2.6), (0, 0, 1.2), 45, (0.6, 0.8, 1.0), size=0.5)
-    eye = (0.25, -5.2, 1.15)
-    camera(eye, (0.0, 0, 1.28), 52, 5.15, 1.6)
+    camera((0.25, -5.2, 1.15), (0.0, 0, 1.28), 52, 5.15, 1.6)
     return Roll(samples=16, exposure=0.4, glow=0.12)

@@ -1,7 +1,7 @@
 """A field of sunflowers that look into the evening sun; one near the camera is sharp."""
 import numpy
 
-from common import camera, daylight, random_turns, scatter
+from common import camera, daylight, scatter
 from film import Roll
 from flowers import sunflower
 from land import ground, layered, seeded_places

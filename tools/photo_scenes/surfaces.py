@@ -1,5 +1,8 @@
 """Surfaces that several scenes share."""
-from nodes import material, surface
+import numpy
+
+from common import sheet, unwrapped
+from nodes import material, no_lamp, surface
 
 
 def water(deep=(0.004, 0.022, 0.035), ripple=0.25, fine=2.0, roughness=0.06, haze=None):
@@ -45,3 +48,18 @@ def glowing(colour, strength):
     made, nodes = material("glowing")
     surface(nodes, nodes.add("ShaderNodeEmission", colour, strength))
     return made
+
+
+def puff(place, wide, tall, level, light):
+    """Spray or dust in the air: an upright sheet across y, thickest in its middle, as wide and tall to either side; level
+    is how much of what lies behind it hides there."""
+    made, nodes = material("puff")
+    no_lamp(nodes)
+    spot = nodes.place("UV")
+    off = nodes.vector("LENGTH", nodes.vector("SUBTRACT", nodes.vector("MULTIPLY", spot, (2, 2, 0)), (1, 1, 0)))
+    cloud = nodes.noise(nodes.vector("ADD", nodes.vector("MULTIPLY", spot, (2.5, 2.5, 0)), place), 1.0, detail=5.0)
+    share = nodes.math("MULTIPLY", nodes.math("MULTIPLY", nodes.rise(off, 1.0, 0.0), nodes.rise(cloud, 0.2, 0.75)), level)
+    glow = nodes.add("ShaderNodeEmission", light, 1.0)
+    surface(nodes, nodes.add("ShaderNodeMixShader", share, nodes.add("ShaderNodeBsdfTransparent"), glow))
+    corners = numpy.array([[(x, 0, z) for x in (-wide, wide)] for z in (-tall, tall)]) + place
+    unwrapped(sheet("puff", corners, made), numpy.array([(0, 0), (1, 0), (0, 1), (1, 1)])).visible_shadow = False

@@ -3,11 +3,13 @@ import math
 
 import numpy
 
-from common import camera, daylight, joined, tube
+from common import camera, daylight
+from figures import person
 from film import Roll
 from growth import Soup
 from land import ground, layered, noise, sea
 from nodes import material, plain, surface
+from shapes import parent
 
 FORMAT = "landscape"
 
@@ -54,28 +56,24 @@ def breakers(x, y):
     return total - 0.12
 
 
-def limb(line, radii, dark):
-    return tube("limb", numpy.array(line, dtype=float), radii, dark, 14)
+STRIDE = {"elbow_r": (0.31, 0.03, 1.16), "wrist_r": (0.30, -0.08, 0.93), "hand_r": (0.26, -0.13, 0.86), "elbow_l": (-0.23, 0.10, 1.15), "wrist_l": (-0.24, 0.0, 0.93),
+          "hand_l": (-0.24, -0.03, 0.84), "knee_r": (0.10, 0.12, 0.49), "ankle_r": (0.10, 0.40, 0.17), "toe_r": (0.10, 0.33, 0.04), "knee_l": (-0.09, -0.21, 0.50),
+          "ankle_l": (-0.09, -0.32, 0.09), "toe_l": (-0.10, -0.47, 0.05), "chin": (0, -0.01, 1.57), "crown": (0, -0.03, 1.67)}
 
 
 def surfer(dark, board):
-    """Walks to the left, seen from behind and aside; 1.8 m; the board under the right arm."""
-    parts = [limb([(0, 0, 0.86), (0, 0, 0.95), (0.0, 0, 1.05), (-0.015, 0, 1.2), (-0.03, 0, 1.36), (-0.035, 0, 1.45), (-0.04, 0, 1.5)], [0.13, 0.15, 0.135, 0.155, 0.18, 0.13, 0.06], dark),
-             limb([(-0.04, 0, 1.46), (-0.05, 0, 1.54), (-0.06, 0, 1.58), (-0.065, 0, 1.66), (-0.065, 0, 1.75), (-0.06, 0, 1.81), (-0.055, 0, 1.835)], [0.06, 0.055, 0.075, 0.1, 0.103, 0.07, 0.01], dark),
-             limb([(-0.02, 0.07, 0.92), (-0.17, 0.08, 0.68), (-0.23, 0.08, 0.48), (-0.27, 0.08, 0.25), (-0.36, 0.08, 0.07), (-0.47, 0.08, 0.02)], [0.105, 0.085, 0.06, 0.055, 0.038, 0.02], dark),
-             limb([(0.02, -0.07, 0.92), (0.08, -0.08, 0.68), (0.13, -0.08, 0.5), (0.27, -0.08, 0.27), (0.38, -0.08, 0.1), (0.33, -0.08, 0.03)], [0.105, 0.085, 0.06, 0.055, 0.036, 0.02], dark),
-             limb([(-0.03, -0.17, 1.42), (0.03, -0.24, 1.22), (-0.02, -0.27, 1.04), (-0.13, -0.25, 0.9), (-0.16, -0.24, 0.84)], [0.062, 0.05, 0.04, 0.035, 0.03], dark),
-             limb([(-0.03, 0.17, 1.42), (0.1, 0.22, 1.2), (0.04, 0.24, 1.02), (-0.04, 0.24, 0.92)], [0.062, 0.05, 0.04, 0.03], dark)]
+    """Walks to the left, seen from aside; the board under the arm that is nearer."""
+    figure = person("surfer", dark, STRIDE)
+    figure.rotation_euler.z = -math.pi / 2
     t = numpy.linspace(0, 1, 40)
     half = 0.255 * numpy.sin(math.pi * t ** 0.85) ** 0.62
     soup = Soup()
     across = numpy.linspace(-1, 1, 9)
     long = 2.0 * (t - 0.48)
     for side in (-1, 1):
-        soup.raster(numpy.stack([numpy.broadcast_to(long[:, None], (40, 9)), side * 0.03 * (1 - across ** 2) * numpy.sin(math.pi * t)[:, None] + 0 * across - 0.16 + 0.08 * ((t - 0.5) ** 2)[:, None],
+        soup.raster(numpy.stack([numpy.broadcast_to(long[:, None], (40, 9)), side * 0.03 * (1 - across ** 2) * numpy.sin(math.pi * t)[:, None] + 0 * across - 0.23 + 0.08 * ((t - 0.5) ** 2)[:, None],
                                  0.98 + half[:, None] * across + 0.09 * long[:, None]], axis=-1))
-    parts.append(soup.made("board", [board]))
-    return joined("surfer", parts)
+    return parent([figure, soup.made("board", [board])], "surfer and board")
 
 
 def build():

@@ -1,5 +1,6 @@
 #include "photos/thumbnails/thumbnails.h"
 
+#include "photos/thumbnails/found_thumbnail.h"
 #include "photos/thumbnails/thumbnail_mark.h"
 #include "support/files/file_steps.h"
 #include "support/files/paths.h"
@@ -100,7 +101,7 @@ TEST_F(thumbnails_test, one_without_a_mark_is_used_where_no_other_can_be_made)
 {
     const std::string path = photo("a.jpg", 400, 300);
     age(path, 10);
-    const std::string thumbnail = folder.write("sample_thumbs/a.jpg", "mine");
+    const std::string thumbnail = photo("sample_thumbs/a.jpg", 20, 10);
     ::chmod(folder.at("sample_thumbs").c_str(), 0555);
     const as_ordinary_user user;
     EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
@@ -158,10 +159,24 @@ TEST(thumbnail_mark, is_read_back_from_the_beginning)
 TEST_F(thumbnails_test, one_of_the_same_age_is_not_outdated)
 {
     const std::string path = photo("a.jpg", 400, 300);
-    const std::string thumbnail = folder.write("sample_thumbs/a.jpg", "mine");
+    const std::string thumbnail = photo("sample_thumbs/a.jpg", 20, 10);
     same_age(thumbnail, path);
     chk_sample_thumb(main, path);
-    EXPECT_EQ(read_file(thumbnail), "mine");
+    EXPECT_EQ(size_of(thumbnail), "20x10");
+}
+
+TEST_F(thumbnails_test, one_that_was_cut_short_or_damaged_is_made_anew_without_a_word)
+{
+    const std::string path = photo("a.jpg", 400, 300), thumbnail = chk_sample_thumb(main, path);
+    const std::string whole = read_file(thumbnail);
+    for (const std::string & bytes : {std::string(), whole.substr(0, 10), whole.substr(0, whole.size() / 2),
+                                      whole.substr(0, whole.size() - 1), std::string("no picture")}) {
+        write_file(thumbnail, bytes);
+        same_age(thumbnail, path);
+        EXPECT_EQ(chk_sample_thumb(main, path), thumbnail);
+        EXPECT_TRUE(read_file(thumbnail) == whole) << bytes.size();
+    }
+    EXPECT_TRUE(desk.messages.empty());
 }
 
 TEST_F(thumbnails_test, an_outdated_one_is_told_and_made_anew)

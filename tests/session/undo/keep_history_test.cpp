@@ -4,10 +4,13 @@
 #include "support/files/file_steps.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 #include "tests/session/undo/undo_session.h"
 
 #include <cerrno>
+#include <filesystem>
+#include <functional>
 
 TEST(undo, has_nothing_to_do_at_the_beginning_of_a_collage)
 {
@@ -153,6 +156,42 @@ TEST(undo, keeps_a_hundred_steps)
     while (session.undo())
         ++steps;
     EXPECT_EQ(steps, step_history<moment>::most_steps);
+}
+
+TEST(undo, leads_through_the_previews_of_a_hundred_steps_byte_by_byte)
+{
+    undo_session session;
+    frmMain & main = session.main;
+    const std::function<void(int)> changes[] = {
+        [&](int round) { main.cmbFrame.choose(1 + round % 5); },
+        [&](int round) { (round % 2 == 0 ? main.optHuge : main.optTiny).select(); },
+        [&](int round) { (round % 2 == 0 ? main.optLandscape : main.optPortrait).select(); },
+        [&](int) {
+            for (const std::vector<std::string> before = session.seen().photos;
+                 before == session.seen().photos;)
+                main.cmdShuffle.click();
+        },
+        [&](int round) {
+            main.txtCaption.set_text(std::string(static_cast<std::size_t>(1 + round % 3), 'x'));
+        }};
+    std::vector<sight> sights{session.seen()};
+    constexpr int steps = step_history<moment>::most_steps + 1;
+    for (int step = 0; step < steps; ++step) {
+        changes[static_cast<std::size_t>(step) % std::size(changes)](step /
+                                                                     static_cast<int>(std::size(changes)));
+        ASSERT_FALSE(sights.back() == session.seen()) << step;
+        sights.push_back(session.seen());
+    }
+    for (auto at = sights.rbegin() + 1; at + 1 != sights.rend(); ++at) {
+        ASSERT_TRUE(session.undo());
+        ASSERT_TRUE(*at == session.seen()) << at - sights.rbegin() << " steps back";
+    }
+    EXPECT_FALSE(session.undo()) << "the oldest of a hundred and one steps";
+    for (auto at = sights.begin() + 2; at != sights.end(); ++at) {
+        ASSERT_TRUE(session.redo());
+        ASSERT_TRUE(*at == session.seen()) << at - sights.begin();
+    }
+    EXPECT_FALSE(session.redo());
 }
 
 TEST(undo, takes_a_run_of_typing_as_one_step)
@@ -354,4 +393,30 @@ TEST(moment, how_far_a_run_has_come_is_no_part_of_it)
     session.main.barDoing.tell(3, 4);
     session.main.barDoing.show(!session.main.barDoing.visible());
     EXPECT_TRUE(moment_of(session.main, before) == before);
+}
+
+TEST(undo, brings_no_photo_back_that_is_gone_and_names_none_again)
+{
+    undo_session session;
+    frmMain & main = session.main;
+    save_jpeg(plain(15, 20, {.red = 20, .green = 200, .blue = 30}), session.photos[0]);
+    main.optHuge.select();
+    const std::string with_it = session.seen().picture;
+    main.optLarge.select();
+    std::filesystem::remove(session.photos[0]);
+    main.optMedium.select();
+    const sight without = session.seen();
+    EXPECT_TRUE(session.desk.next_message().starts_with("This photo was left out:\r\n" + session.photos[0]));
+    EXPECT_TRUE(session.undo());
+    EXPECT_TRUE(session.undo());
+    EXPECT_FALSE(session.seen().picture == with_it);
+    EXPECT_TRUE(session.undo());
+    EXPECT_FALSE(session.undo()) << "drawing anew is no step";
+    EXPECT_TRUE(session.redo());
+    EXPECT_TRUE(session.redo());
+    EXPECT_TRUE(session.redo());
+    EXPECT_TRUE(session.seen() == without);
+    EXPECT_FALSE(session.main.mnuRedo.enabled());
+    main.optHuge.select();
+    EXPECT_TRUE(session.desk.messages.empty());
 }
