@@ -28,7 +28,7 @@ struct finishing_stage {
     explicit finishing_stage(const char * design)
     {
         desk.keeps_messages = true;
-        std::filesystem::copy(BUILT_SEED, folder.path(), std::filesystem::copy_options::recursive);
+        stage_program(BUILT_SEED, folder.path());
         copy_photos();
         frmMain & main = all.main;
         main.install_folder = folder.path();

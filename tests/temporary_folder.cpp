@@ -30,6 +30,17 @@ fs::path place_of_folders()
 }
 }  // namespace
 
+void stage_program(const std::string & from, const std::string & to)
+{
+    for (const fs::directory_entry & entry : fs::directory_iterator(from)) {
+        const fs::path place = fs::path(to) / entry.path().filename();
+        if (entry.path().filename() == "images")
+            fs::create_directory_symlink(fs::absolute(entry.path()), place);
+        else
+            fs::copy(entry.path(), place, fs::copy_options::recursive);
+    }
+}
+
 temporary_folder::temporary_folder()
 {
     std::string pattern =

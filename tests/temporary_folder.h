@@ -21,6 +21,9 @@ private:
     std::string folder;
 };
 
+/// Puts a program folder there as `from` has it; what is large and only read, the pictures, by a link.
+void stage_program(const std::string & from, const std::string & to);
+
 /// An ordinary user while it lives, so that write protection counts for a suite that runs as root. Folders of
 /// the test that this user has to reach have to be opened to everyone first.
 class as_ordinary_user {

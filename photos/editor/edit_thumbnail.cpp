@@ -2,6 +2,7 @@
 
 #include "photos/editor/photo_cells.h"
 #include "photos/image_file.h"
+#include "photos/scaled_jpeg.h"
 #include "support/files/beside.h"
 #include "support/files/paths.h"
 #include "support/platform_error.h"
@@ -29,18 +30,49 @@ bool written(int format, const bitmap & small, const std::string & thumbnail)
     }
 }
 
-edit_thumbnail made(int format, const std::string & photo)
+picture_size cell_of(orientation shape)
 {
-    if (!file_exists(photo))
-        throw platform_error(error_number::file_not_found, "File not found", photo);
+    const box place = cell_place(0, shape);
+    return {.width = place.width, .height = place.height};
+}
+
+struct small_picture {
+    bitmap picture;
+    orientation shape = orientation::portrait;
+};
+
+// Nothing where the photo has to be loaded.
+std::optional<small_picture> read_by_rows(const std::string & photo)
+{
+    const std::optional<picture_size> own = usable_jpeg_size(photo);
+    if (!own)
+        return std::nullopt;
+    const orientation shape = own->width > own->height ? orientation::landscape : orientation::portrait;
+    photo_memory memory;
+    std::optional<bitmap> read = read_thumbnail(photo, cell_of(shape), memory);
+    return read ? std::optional(small_picture{std::move(*read), shape}) : std::nullopt;
+}
+
+small_picture small_of(int format, const std::string & photo)
+{
+    if (format == static_cast<int>(picture_format::jpeg))
+        if (std::optional<small_picture> read = read_by_rows(photo))
+            return std::move(*read);
     const bitmap full = loaded(format, photo);
     if (!full)
         throw platform_error(error_number::invalid_call, "The picture can't be loaded.", photo);
     const orientation shape = shape_of(full);
-    const box place = cell_place(0, shape);
+    const picture_size cell = cell_of(shape);
+    return {rescaled(full, cell.width, cell.height), shape};
+}
+
+edit_thumbnail made(int format, const std::string & photo)
+{
+    if (!file_exists(photo))
+        throw platform_error(error_number::file_not_found, "File not found", photo);
+    const small_picture small = small_of(format, photo);
     const std::string thumbnail = edit_thumbnail_path(photo);
-    const bool kept = written(format, rescaled(full, place.width, place.height), thumbnail);
-    return {.file = kept ? thumbnail : photo, .shape = shape};
+    return {.file = written(format, small.picture, thumbnail) ? thumbnail : photo, .shape = small.shape};
 }
 
 }  // namespace

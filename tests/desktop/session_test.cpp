@@ -45,7 +45,7 @@ void copy_photos(const std::string & to)
 struct session_test : testing::Test {
     session_test()
     {
-        std::filesystem::copy(BUILT_SEED, folder.path(), std::filesystem::copy_options::recursive);
+        stage_program(BUILT_SEED, folder.path());
         copy_photos(folder.at("photos"));
         all.main.install_folder = folder.path();
         when_asked<QMessageBox>([this](QMessageBox & box) {

@@ -59,7 +59,7 @@ std::string square_of(const filled_session & session, const std::string & pictur
 filled_session::filled_session()
 {
     desk.keeps_messages = true;
-    std::filesystem::copy(BUILT_SEED, folder.path(), std::filesystem::copy_options::recursive);
+    stage_program(BUILT_SEED, folder.path());
     std::filesystem::copy(SAMPLE_PHOTOS, folder.at("photos"));
     all.main.install_folder = folder.path();
     prepare_data_folder(all.main, {});

@@ -1,6 +1,8 @@
 #include "photos/editor/edit_thumbnail.h"
 
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
+#include "tests/jpeg_files.h"
 #include "tests/pictures.h"
 #include "tests/session/opened_session.h"
 
@@ -41,6 +43,25 @@ TEST(edit_thumbnail, is_68_by_51_for_landscape_and_51_by_68_for_the_rest)
         EXPECT_EQ(made.shape, width > height ? orientation::landscape : orientation::portrait);
         std::filesystem::remove_all(session.folder.at("p"));
     }
+}
+
+// However it is read: its file is that of the photo loaded, scaled and saved.
+TEST(edit_thumbnail, of_any_jpeg_is_the_photo_rescaled)
+{
+    thumbnails session;
+    const std::string by_hand = session.folder.at("by_hand.jpg");
+    for (const jpeg_colors colors : {jpeg_colors::ycc, jpeg_colors::grey, jpeg_colors::cmyk})
+        for (const picture_size own : {picture_size{700, 500}, picture_size{68, 51}, picture_size{30, 40}}) {
+            const std::string photo = session.folder.write(
+                "p/a.jpg",
+                jpeg_of({.colors = colors, .markers = {{0xFE, "of a camera"}}}, own.width, own.height));
+            const bool wide = own.width > own.height;
+            save_picture(picture_format::jpeg,
+                         rescaled(load_picture(picture_format::jpeg, photo), wide ? 68 : 51, wide ? 51 : 68),
+                         by_hand);
+            EXPECT_EQ(read_file(session.of(photo).file), read_file(by_hand)) << own.width;
+            std::filesystem::remove_all(session.folder.at("p"));
+        }
 }
 
 TEST(edit_thumbnail, lies_in_a_folder_beside_the_photo_and_is_made_once)
