@@ -45,10 +45,11 @@ QSize way_in_row(const start_sizes & sizes, QSize room)
 start_places shrunk(const start_sizes & sizes, QSize room, QSize way)
 {
     const int most = room.height() - way.height() - 2 * edge;
-    const double scale = std::min({1.0, double(most) / sizes.art, room.width() / 2 / double(sizes.center)});
+    const int half = room.width() / 2;
+    const double scale = std::min({1.0, double(most) / sizes.art, double(half) / sizes.center});
     const QSize picture = sizes.picture.size() * scale;
     const int art = qRound(sizes.art * scale), top = (room.height() - art - way.height()) / 2;
-    const int left = room.width() / 2 - qRound(sizes.center * scale);
+    const int left = half - qRound(sizes.center * scale);
     const QPoint corner((room.width() - width_of_row(sizes.count, way.width())) / 2, top + art);
     return {{QPoint(left, top), picture}, row_of(sizes.count, corner, way)};
 }

@@ -101,7 +101,7 @@ public:
     {
         for (const way & each : ways)
             if (auto * const action = splash.window()->findChild<QAction *>(QLatin1String(each.action)))
-                buttons.push_back(new begin_button(*action, each.picture, *splash.parentWidget()));
+                add(*action, each.picture);
         splash.installEventFilter(this);
         splash.parentWidget()->installEventFilter(this);
         follow();
@@ -119,6 +119,13 @@ public:
     }
 
 private:
+    void add(QAction & action, motif picture)
+    {
+        auto * const button = new begin_button(action, picture, *splash.parentWidget());
+        buttons.push_back(button);
+        connect(&action, &QAction::triggered, this, [this, button] { last_used = button; });
+    }
+
     start_sizes sizes() const
     {
         QSize usual, least;
@@ -138,15 +145,27 @@ private:
         splash.setGeometry(places.picture);
         for (std::size_t i = 0; i < buttons.size(); ++i) {
             buttons[i]->setGeometry(places.ways[i]);
-            buttons[i]->setVisible(!splash.isHidden());
             buttons[i]->raise();
         }
+        if (buttons.front()->isHidden() != splash.isHidden())
+            show_or_hide();
         following = false;
+    }
+
+    // Each that goes passes the keyboard on to the next one, which is not where the user left it.
+    void show_or_hide()
+    {
+        const bool shown = !splash.isHidden();
+        for (begin_button * each : buttons)
+            each->setVisible(shown);
+        if (shown && last_used)
+            last_used->setFocus(Qt::OtherFocusReason);
     }
 
     QWidget & splash;
     QRect drawn;  // where the form has the start picture
     std::vector<begin_button *> buttons;
+    begin_button * last_used = nullptr;  // by the button, the menu or its letter
     bool following = false;
 };
 

@@ -67,6 +67,19 @@ TEST_F(ways_to_begin, come_and_go_with_the_start_picture)
         EXPECT_TRUE(way(name)->isVisible()) << name;
 }
 
+TEST_F(ways_to_begin, have_the_keyboard_where_they_were_left_when_the_start_picture_comes_back)
+{
+    window->activateWindow();
+    QApplication::processEvents();
+    for (const char * name : {"mnuMatrix", "mnuQuick", "mnuPuzzle"}) {
+        QTest::keyClick(way(name), Qt::Key_Space);
+        bring_to(main, look::designed, shape::portrait);
+        window->findChild<QWidget *>(QLatin1String("cmdFlurn"))->setFocus();
+        bring_to(main, look::choosing, shape::portrait);
+        EXPECT_EQ(window->focusWidget()->objectName(), way(name)->objectName());
+    }
+}
+
 TEST_F(ways_to_begin, stand_in_the_window_beside_each_other_and_each_has_its_picture)
 {
     for (const int pixels : {smallest_letters, roomy_letters, 21}) {
