@@ -207,8 +207,15 @@ void picture_view::paintEvent(QPaintEvent *)
         return;
     const int width =
         can_be_dragged && hasFocus() ? 3 : 1;  // among sixty pictures a thin line is easily missed
-    painter.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), width));
-    painter.drawRect(rect().adjusted(width / 2, width / 2, -1 - width / 2, -1 - width / 2));
+    draw_edge(painter, palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), width);
+}
+
+// A pen of whole pixels would leave the edge on a screen of another density.
+void picture_view::draw_edge(QPainter & painter, const QColor & color, int thickness) const
+{
+    const QRect inside = rect().adjusted(thickness, thickness, -thickness, -thickness);
+    for (const QRect & band : QRegion(rect()).subtracted(inside))
+        painter.fillRect(band, color);
 }
 
 void picture_view::set_draggable(bool draggable)

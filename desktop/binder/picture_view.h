@@ -74,4 +74,5 @@ private:
     QPointer<QLabel> ghost;  // what follows the mouse
 
     QRect whole_place() const;
+    void draw_edge(QPainter & painter, const QColor & color, int thickness) const;
 };

@@ -31,10 +31,14 @@ QSize bar_of(const QWidget & window)
     return main->menuBar()->sizeHint();
 }
 
+bool is_laid_out(const QWidget & content)
+{
+    return content.layout() && !qobject_cast<const QMainWindow *>(&content);
+}
+
 QSize least_of(const QWidget & content)
 {
-    const bool is_main = qobject_cast<const QMainWindow *>(&content);
-    return content.layout() && !is_main ? content.layout()->totalMinimumSize() : QSize(0, 0);
+    return is_laid_out(content) ? content.layout()->totalMinimumSize() : QSize(0, 0);
 }
 
 // Direct children that were never hidden come back with their new parent.
@@ -137,6 +141,15 @@ QScrollArea * made_view(QWidget & window)
     return view;
 }
 
+// What leads the content where it is shown, and makes do with less than its form gives; none in most windows.
+const QWidget * shrinking_widget(const QWidget & window)
+{
+    const QByteArray name = window.property("shrinks").toByteArray();
+    const auto * const found =
+        name.isEmpty() ? nullptr : window.findChild<QWidget *>(QString::fromUtf8(name));
+    return found && !found->isHidden() ? found : nullptr;
+}
+
 // What the lowest of its visible widgets needs; the growing one may be folded.
 int least_height(const QWidget & content, const QWidget * folded)
 {
@@ -153,8 +166,7 @@ int least_height(const QWidget & content, const QWidget * folded)
 window_room::window_room(QWidget & kept_window, std::function<QSize()> its_room)
     : window(kept_window), room(std::move(its_room))
 {
-    if (room)
-        window.installEventFilter(this);
+    window.installEventFilter(this);
 }
 
 bool window_room::has_room(QSize wanted) const
@@ -165,16 +177,34 @@ bool window_room::has_room(QSize wanted) const
 
 void window_room::fix(QSize wanted)
 {
-    const QSize foot_room(0, foot_height());
-    wanted = wanted.expandedTo({bar_of(window).width(), 0})
-                 .expandedTo(least_of(content ? *content : window) + foot_room);
-    if (!view && has_room(wanted)) {
+    told = wanted;
+    settle();
+}
+
+// A layout takes the room off what can do with less.
+QSize window_room::shrunk(QSize wanted) const
+{
+    const QWidget & laid_out = content ? *content : window;
+    const bool shrinks =
+        is_laid_out(laid_out) && laid_out.layout()->sizeConstraint() != QLayout::SetFixedSize;
+    return shrinks && has_room(least_of(laid_out) + QSize(0, foot_height())) && room
+               ? wanted.boundedTo(room())
+               : wanted;
+}
+
+// Before it is shown, a window may still ask for less.
+void window_room::settle()
+{
+    if (told.isEmpty())
+        return;
+    const QSize foot_room(0, foot_height()), least = least_of(content ? *content : window) + foot_room;
+    const QSize wanted = shrunk(told.expandedTo({bar_of(window).width(), 0}).expandedTo(least));
+    if (!view && (has_room(wanted) || !window.isVisible())) {
         window.setFixedSize(wanted);
         return;
     }
     take_content(wanted.height());
     whole = wanted - QSize(0, bar_of(window).height() + foot_height());
-    content->setFixedSize(whole);
     fit();
 }
 
@@ -243,20 +273,26 @@ void window_room::follow_focus()
                      [show](QWidget *, QWidget * now) { show(now); });
 }
 
-void window_room::fold(int most)
+void window_room::fold(QSize most)
 {
-    QWidget * const folded = growing_widget(window);
-    if (!folded || whole.isEmpty())
+    if (whole.isEmpty())
         return;
-    const int height = std::max(std::min(whole.height(), most), least_height(*content, folded));
-    end_above(*folded, height);
-    content->setFixedSize(content->width(), height);
+    if (const QWidget * const shrinking = shrinking_widget(window)) {
+        content->setFixedSize(whole.boundedTo(most.expandedTo(shrinking->property("leastRoom").toSize())));
+        return;
+    }
+    int height = whole.height();
+    if (QWidget * const folded = growing_widget(window)) {
+        height = std::max(std::min(height, most.height()), least_height(*content, folded));
+        end_above(*folded, height);
+    }
+    content->setFixedSize(whole.width(), height);
 }
 
 void window_room::fit()
 {
     const QSize bar(0, bar_of(window).height() + foot_height()), most = room() - bar;
-    fold(most.height());
+    fold(most);
     const int thickness = view->verticalScrollBar()->sizeHint().width();
     QSize shown = content->size();
     if (shown.height() > most.height())
@@ -288,6 +324,9 @@ void window_room::stay_on_screen()
 // A window that its layout makes too large: its content keeps the size that it had.
 void window_room::scroll()
 {
+    settle();
+    if (!view)
+        window.resize(shrunk(window.size()));
     if (!view && !has_room(window.size())) {
         const QSize shown = window.size();
         take_content(shown.height());
@@ -296,7 +335,7 @@ void window_room::scroll()
         content->adjustSize();
         fit();
     }
-    if (window.isVisible())
+    if (room && window.isVisible())
         stay_on_screen();
 }
 
@@ -309,7 +348,8 @@ bool window_room::eventFilter(QObject * watched, QEvent * event)
         fit();
     if (is_window && type == QEvent::Show)
         scroll();
-    if (is_window && type == QEvent::Resize && window.isVisible())
+    const bool asks_anew = type == QEvent::LayoutRequest && watched == (view ? content.data() : &window);
+    if (window.isVisible() && (asks_anew || (is_window && type == QEvent::Resize)))
         QMetaObject::invokeMethod(
             this, [this] { scroll(); }, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);

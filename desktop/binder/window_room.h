@@ -6,9 +6,11 @@
 
 #include <functional>
 
-/// Keeps a window on its screen. One that has room there is as large as its form and its content ask for; of
-/// one that hasn't, first the growing widget gives up the height it doesn't need, then the content is
-/// scrolled; the row of buttons that a dialog ends with stays below it.
+/// Keeps a window on its screen. One that has room there is as large as its form and its content ask for; one
+/// that hasn't is as small as its layout can be, the growing widget gives up the height it doesn't need, the
+/// shrinking one (the window's property `shrinks` names it, its own property `leastRoom` says how far) makes
+/// do with what there is; then the content is scrolled, and the row of buttons that a dialog ends with stays
+/// below it.
 class window_room : public QObject {
 public:
     /// `its_room` gives the pixels that the screen has for the window inside its frame; without it there is
@@ -24,13 +26,15 @@ public:
 
 private:
     bool has_room(QSize wanted) const;
+    QSize shrunk(QSize wanted) const;
+    void settle();
     void take_content(int whole_height);
     void take_foot(int whole_height);
     void place_foot();
     int foot_height() const;
     void follow_focus();
     void fit();
-    void fold(int most);
+    void fold(QSize most);
     void scroll();
     void stay_on_screen();
 
@@ -40,5 +44,6 @@ private:
     QPointer<QWidget> content;   ///< what it scrolls
     QPointer<QWidget> foot;      ///< the buttons below it; none where they are scrolled with all else
     int placed_foot = 0;         ///< its height with the air around it, where the form places it
-    QSize whole;                 ///< of the content where a form tells it
+    QSize told;                  ///< by the form
+    QSize whole;                 ///< of the content where a form tells its size
 };

@@ -1,5 +1,6 @@
 #include "desktop/looks/indicator_style.h"
 
+#include <QAbstractItemView>
 #include <QDialogButtonBox>
 #include <QMenuBar>
 #include <QPainter>
@@ -97,6 +98,10 @@ int indicator_style::styleHint(StyleHint hint, const QStyleOption * option, cons
 void indicator_style::drawPrimitive(PrimitiveElement element, const QStyleOption * option, QPainter * painter,
                                     const QWidget * widget) const
 {
+    // Inside a row that is marked as a whole it would be a seam beside the text.
+    if (element == PE_FrameFocusRect && option->state & State_Selected &&
+        qobject_cast<const QAbstractItemView *>(widget))
+        return;
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;

@@ -1,6 +1,7 @@
 #include "desktop/looks/looks.h"
 
 #include "desktop/binder/captions.h"
+#include "desktop/looks/cut_lines.h"
 #include "desktop/looks/indicator_style.h"
 #include "desktop/looks/letters.h"
 #include "desktop/looks/screen_readers.h"
@@ -110,5 +111,6 @@ void apply_looks(QApplication & application)
     application.setStyleSheet(sheet());
     application.setWindowIcon(application_icon());
     tell_screen_readers();
+    mark_cut_lines(application);
     application.installEventFilter(new focus_shower(&application));
 }

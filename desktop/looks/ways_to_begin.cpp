@@ -1,6 +1,7 @@
 #include "desktop/looks/ways_to_begin.h"
 
 #include "desktop/looks/motifs.h"
+#include "desktop/looks/start_page.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -14,9 +15,9 @@
 namespace {
 
 // In pixels. The row stands on the black below the name of the program.
-constexpr int row_top = 384, least_width = 128, picture_width = 72, picture_height = 48, air = 6, gap = 8,
-              least_left = 16;
-constexpr int art_center = 480;  // in the start picture, which is black left of its art
+constexpr int row_top = 384, usual_width = 128, air = 6;
+constexpr int usual_picture = 48, least_picture = 20;  // rows; half as many again across
+constexpr int art_center = 480;                        // in the start picture, which is black left of its art
 
 struct way {
     const char * action;
@@ -50,8 +51,13 @@ public:
 
     QSize sizeHint() const override
     {
-        const int text = fontMetrics().horizontalAdvance(caption_of(action)) + 2 * air;
-        return {std::max(least_width, text), picture_height + fontMetrics().height() + 3 * air};
+        return QSize(usual_width, usual_picture + below_picture())
+            .expandedTo(minimumSizeHint() + QSize(air, 0));
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        return {fontMetrics().horizontalAdvance(caption_of(action)) + air, least_picture + below_picture()};
     }
 
 protected:
@@ -63,14 +69,18 @@ protected:
         painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(QColor("#3f444a")));
         painter.setBrush(lit ? palette().color(QPalette::Button) : palette().color(QPalette::Base));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
-        draw_motif(painter, picture,
-                   QRectF((width() - picture_width) / 2.0, air, picture_width, picture_height));
+        const int high = std::min(usual_picture, height() - below_picture());
+        const double wide = 1.5 * high, top = (height() - high - below_picture()) / 2.0 + air;
+        draw_motif(painter, picture, QRectF((width() - wide) / 2, top, wide, high));
         painter.setPen(
             palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-        painter.drawText(rect().adjusted(0, picture_height + air, 0, 0), Qt::AlignCenter, caption_of(action));
+        painter.drawText(QRectF(0, top + high, width(), below_picture() - air), Qt::AlignCenter,
+                         caption_of(action));
     }
 
 private:
+    int below_picture() const { return fontMetrics().height() + 3 * air; }
+
     void follow()
     {
         setAccessibleName(caption_of(action));
@@ -83,44 +93,80 @@ private:
     motif picture;
 };
 
-// Keeps the row where the start picture is.
+// Keeps the ways below the start picture, and both inside what holds them.
 class begin_row : public QObject {
 public:
-    explicit begin_row(QWidget & start_picture) : QObject(&start_picture), splash(start_picture)
+    explicit begin_row(QWidget & start_picture)
+        : QObject(&start_picture), splash(start_picture), drawn(start_picture.geometry())
     {
         for (const way & each : ways)
             if (auto * const action = splash.window()->findChild<QAction *>(QLatin1String(each.action)))
-                buttons.push_back(new begin_button(*action, each.picture, *splash.parentWidget()));
+                add(*action, each.picture);
         splash.installEventFilter(this);
+        splash.parentWidget()->installEventFilter(this);
         follow();
     }
 
     bool eventFilter(QObject * watched, QEvent * event) override
     {
         const QEvent::Type type = event->type();
-        if (type == QEvent::ShowToParent || type == QEvent::HideToParent || type == QEvent::Move ||
-            type == QEvent::Resize || type == QEvent::FontChange)
+        if (watched != &splash
+                ? type == QEvent::Resize
+                : type == QEvent::ShowToParent || type == QEvent::HideToParent || type == QEvent::Move ||
+                      type == QEvent::Resize || type == QEvent::FontChange)
             follow();
         return QObject::eventFilter(watched, event);
     }
 
 private:
+    void add(QAction & action, motif picture)
+    {
+        auto * const button = new begin_button(action, picture, *splash.parentWidget());
+        buttons.push_back(button);
+        connect(&action, &QAction::triggered, this, [this, button] { last_used = button; });
+    }
+
+    start_sizes sizes() const
+    {
+        QSize usual, least;
+        for (const begin_button * each : buttons) {
+            usual = usual.expandedTo(each->sizeHint());
+            least = least.expandedTo(each->minimumSizeHint());
+        }
+        return {drawn, row_top, art_center, usual, least, static_cast<int>(buttons.size())};
+    }
+
     void follow()
     {
-        int width = -gap;
-        for (const begin_button * each : buttons)
-            width += each->sizeHint().width() + gap;
-        int left = std::max(least_left, splash.x() + art_center - width / 2);
-        for (begin_button * each : buttons) {
-            each->setGeometry({{left, splash.y() + row_top}, each->sizeHint()});
-            each->setVisible(!splash.isHidden());
-            each->raise();
-            left += each->width() + gap;
+        if (std::exchange(following, true))
+            return;
+        splash.setProperty("leastRoom", least_start(sizes()));
+        const start_places places = placed_start(sizes(), splash.parentWidget()->size());
+        splash.setGeometry(places.picture);
+        for (std::size_t i = 0; i < buttons.size(); ++i) {
+            buttons[i]->setGeometry(places.ways[i]);
+            buttons[i]->raise();
         }
+        if (buttons.front()->isHidden() != splash.isHidden())
+            show_or_hide();
+        following = false;
+    }
+
+    // Each that goes passes the keyboard on to the next one, which is not where the user left it.
+    void show_or_hide()
+    {
+        const bool shown = !splash.isHidden();
+        for (begin_button * each : buttons)
+            each->setVisible(shown);
+        if (shown && last_used)
+            last_used->setFocus(Qt::OtherFocusReason);
     }
 
     QWidget & splash;
+    QRect drawn;  // where the form has the start picture
     std::vector<begin_button *> buttons;
+    begin_button * last_used = nullptr;  // by the button, the menu or its letter
+    bool following = false;
 };
 
 }  // namespace

@@ -119,6 +119,27 @@ TEST(picture_view, without_a_picture_shows_its_back_colour)
     EXPECT_EQ(seen_view(view).pixelColor(5, 5), green);
 }
 
+// At one and a half times the usual density as well.
+TEST(picture_view, has_its_edge_on_all_four_sides_where_it_can_be_clicked)
+{
+    picture_view view;
+    view.setFocusPolicy(Qt::StrongFocus);
+    view.resize(41, 23);
+    view.set_back_color(QColor(250, 240, 230));
+    const QColor edge = view.palette().color(QPalette::Mid);
+    for (const double density : {1.0, 1.5, 2.0}) {
+        QPixmap drawn(view.size() * density);
+        drawn.setDevicePixelRatio(density);
+        view.render(&drawn);
+        const QImage pixels = drawn.toImage();
+        const int right = pixels.width() - 1, bottom = pixels.height() - 1;
+        for (const QPoint at : {QPoint(0, bottom / 2), QPoint(right, bottom / 2), QPoint(right / 2, 0),
+                                QPoint(right / 2, bottom), QPoint(0, 0), QPoint(right, bottom)})
+            EXPECT_EQ(pixels.pixelColor(at), edge) << density << ": " << at.x() << ", " << at.y();
+        EXPECT_EQ(pixels.pixelColor(right - 3, bottom - 3), view.back_color()) << density;
+    }
+}
+
 TEST(picture_view, a_path_may_be_any_bytes)
 {
     const temporary_folder folder;

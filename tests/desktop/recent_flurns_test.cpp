@@ -73,6 +73,27 @@ TEST_F(recent_flurns_window, shows_a_small_picture_beside_each_and_is_used_by_ke
     EXPECT_TRUE(file_exists(*chosen));
 }
 
+// The mark of the row is one colour from edge to edge, but for picture and letters.
+TEST_F(recent_flurns_window, marks_the_row_without_a_seam_beside_the_text)
+{
+    keep_three();
+    int looked_at = 0, others = 0;
+    when_asked<QDialog>([&](QDialog & window) {
+        QListWidget & list = list_in(window);
+        QTest::keyClick(&list, Qt::Key_Down);
+        EXPECT_TRUE(list.currentItem()->isSelected());
+        const QImage seen = list.viewport()->grab(list.visualItemRect(list.currentItem())).toImage();
+        const int above_letters = seen.height() / 6;
+        const QRgb usual = seen.pixel(seen.width() / 2, above_letters);
+        for (int x = seen.width() / 6; x < seen.width() - 4; ++x, ++looked_at)
+            others += seen.pixel(x, above_letters) == usual ? 0 : 1;
+        QTest::keyClick(&list, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(ask(desk, all.recent));
+    EXPECT_GT(looked_at, 300);
+    EXPECT_EQ(others, 0);
+}
+
 TEST_F(recent_flurns_window, keeps_the_pictures_beside_their_entries_when_one_goes)
 {
     keep_three();

@@ -49,4 +49,5 @@ def play(p):
     quit_by_mouse(p)
 
 
-run(play)
+if __name__ == '__main__':
+    run(play)

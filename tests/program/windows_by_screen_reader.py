@@ -6,10 +6,11 @@ import os
 import collage
 from by_screen_reader import checked, group_of
 from collage import check, folder_by_mouse, name_by_keys
-from designs import bitmap, entry, told
+from designs import bitmap, entry, in_finishing_stage
 from reader import HeardProgram, Reader, on_own_bus
 from screen import until
 
+WAYS = ('Quick flurn', 'Designed flurn', 'Matrix flurn', 'Lettering flurn', 'Puzzle flurn')
 BUTTONS, BOXES = {'push button'}, {'text'}
 ROLES = {'cmd': BUTTONS, 'OKB': BUTTONS, 'Can': BUTTONS, 'chk': {'check box'}, 'opt': {'radio button'}, 'cmb': {'combo box'},
          'txt': {'text', 'label'}, 'lbl': {'text', 'label'}, 'lst': {'list'}, 'Scr': {'slider'},
@@ -198,6 +199,43 @@ def recent(p, reader):
     reader.press(main, 'push button', 'Cancel')
 
 
+def designed(p, reader):
+    """From the picture on the first page: the ways to begin are buttons that do what their menus do."""
+    p.window('frmMain')
+    main = reader.window('Flurns')
+    for way in WAYS:
+        one = reader.find(main, 'push button', way)
+        check({'Press'} <= set(one.actions) and {'focusable', 'showing', 'sensitive'} <= one.states, way + ' is no button')
+    reader.press(main, 'push button', 'Designed flurn')
+    p.window('frmThemes')
+    p.keys('Return')
+    p.window('frmSelectPhotos')
+    folder_by_mouse(p)
+    in_finishing_stage(p)
+    looked_at(p, reader, 'frmMain')
+    group = p.widget('frmCaption')
+    p.tool('mousemove', '--sync', str(group['x'] + group['width'] - 12), str(group['y'] + group['height'] - 12))
+    p.tool('click', '1')
+    looked_at(p, reader, 'frmCaptionText')
+    p.keys('Escape')
+    p.window('frmMain')
+    p.click('cmdCancel')
+
+
+def asked(p, reader):
+    """A question: its box, its text and its answers are told without spaced letters, and the keyboard is on an answer."""
+    box = p.window('QMessageBox')
+    window = reader.window(unspaced(box['title']))
+    checked(window)
+    texts = [one.name for one in window.inside() if one.role == 'label']
+    check(box['message'] in texts, 'the text is told as %r' % texts)
+    answers = [one for one in window.inside() if one.role == 'push button']
+    check({'Yes', 'No'} <= {one.name for one in answers}, 'the answers are %s' % [one.name for one in answers])
+    check(any('focused' in one.states for one in answers), 'the keyboard is on no answer')
+    reader.press(window, 'push button', 'No')
+    reader.gone(window.name)
+
+
 def own_designs(p, reader):
     p.window('frmMain')
     entry(p, 'mnuDesign', 'mnuSaveDesign')
@@ -207,6 +245,10 @@ def own_designs(p, reader):
     p.window('frmMain')
     entry(p, 'mnuDesign', 'mnuEditDesigns')
     looked_at(p, reader, 'frmDesigns')
+    p.keys('Home', 'space')
+    p.click('cmdDelete')
+    asked(p, reader)
+    p.window('frmDesigns')
     p.click('cmdDone')
     p.window('frmMain')
     entry(p, 'mnuHelp', 'mnuHelpAbout')
@@ -221,9 +263,11 @@ def play(p):
     p.keys('Return')
     p.window('frmMain')
     checked(reader.window('Flurns'))
+    looked_at(p, reader, 'frmMain')
     lists(p, reader)
     designers(p, reader)
     frames(p, reader)
+    designed(p, reader)
     collages(p, reader)
     own_designs(p, reader)
     recent(p, reader)

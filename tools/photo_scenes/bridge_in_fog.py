@@ -8,12 +8,12 @@ import materials as m
 import shapes as s
 from common import camera, random_turns, scatter, sheet, world
 from film import Roll
-from growth import fir
+from growth import fir, tuft
 from land import layered
 from skies import veiled
 
 FORMAT = "landscape"
-HAZE = ((0.60, 0.42, 0.30), 2500.0)
+HAZE = ((0.50, 0.33, 0.22), 2600.0)
 EYE, AIM = (-285.0, -215.0, 74.0), (30.0, 300.0, 60.0)
 SUN = (0.452, 0.884, 0.118)
 SPAN, DECK, TOP = 620.0, 34.0, 118.0
@@ -119,7 +119,7 @@ def fog(height, density, thickness, seed):
 
 def hills():
     """Headlands behind, paler the farther they are."""
-    for far, tall, wide, tone in ((1500, 210, 2600, (0.19, 0.15, 0.17)), (2400, 330, 4200, (0.36, 0.27, 0.25))):
+    for far, tall, wide, tone in ((1500, 210, 4800, (0.19, 0.15, 0.17)), (2400, 330, 7600, (0.36, 0.27, 0.25))):
         made, nodes = m.material("hill")
         warm = warmth(nodes, looked_along(nodes))[0]
         m.no_lamp(nodes)
@@ -150,13 +150,16 @@ def headland():
     right = numpy.array([on[1], -on[0], 0])
 
     def place(far, aside):
-        fall = 7.5 + 0.11 * far + 0.0016 * far ** 2 + 0.055 * (aside + 22) * (aside > -22) + 2.2 * layered(aside / 17, far / 17, 4, 5)
+        fall = 6.2 + 0.11 * far + 0.0016 * far ** 2 + 0.055 * (aside + 22) * (aside > -22) + 2.2 * layered(aside / 17, far / 17, 4, 5)
         return numpy.array(EYE) + far[..., None] * on + aside[..., None] * right - fall[..., None] * [0, 0, 1.0]
 
     far, aside = numpy.meshgrid(numpy.linspace(6, 130, 160), numpy.linspace(-110, 110, 260), indexing="ij")
     sheet("headland", place(far, aside), m.plain("heath", "2a2618", 0.9))
     chance = numpy.random.default_rng(39)
-    spots = [(58, -34, 1.15), (50, -27.5, 0.72), (66, -29, 0.95), (47, -35, 0.8), (72, -37, 1.25), (60, -22.5, 0.45), (78, 33, 0.5), (70, 38, 0.8), (84, 41, 0.95), (64, 34, 0.33), (56, -18, 0.25)]
+    grass = [tuft(chance, [m.plain("grass", "2b2613", 0.9)], 22, 0.75, 0.012, 0.6, 0.9) for _ in range(3)]
+    near = numpy.column_stack([chance.uniform(20, 90, 9000), chance.uniform(-55, 55, 9000)])
+    scatter(grass, place(near[:, 0], near[:, 1]), random_turns(chance, 9000, 0.15), chance.uniform(0.4, 1.3, 9000))
+    spots = [(58, -34, 1.15), (50, -27.5, 0.72), (66, -29, 0.95), (47, -35, 0.8), (72, -37, 1.25), (60, -22.5, 0.45), (78, 33, 0.5), (70, 38, 0.8), (84, 41, 0.95), (64, 34, 0.33), (56, -18, 0.25), (52, -24.5, 0.5), (63, -37.5, 1.0), (74, -25.5, 0.6), (81, 37, 0.62)]
     trees = [fir(chance, m.plain("bark", "1c1612", 0.9), m.plain("needles", "141a12", 0.9), 17, 34, name="tree") for _ in range(3)]
     spots = numpy.array(spots)
     scatter(trees, place(spots[:, 0], spots[:, 1]) - [0, 0, 0.5], random_turns(chance, len(spots), 0.03), spots[:, 2])

@@ -6,7 +6,7 @@ from mathutils import Vector
 import materials as m
 import shapes as s
 from common import camera, world
-from figures import body, person
+from figures import ARM, blended, body, fleshed, oval, person, skull, standing, trunk, yoke
 from film import Roll
 
 FORMAT = "landscape"
@@ -108,17 +108,28 @@ def arm(cloth, spread):
     return body("arm", joints, HAND, cloth)
 
 
+# What covers a head: balls (place, radii), from short hair to long, a bun, a cap with its shade turned back.
+HAIR = (
+    [((0, 0.024, 1.672), (0.086, 0.096, 0.090))],
+    [((0, 0.026, 1.675), (0.094, 0.104, 0.096)), ((0, 0.055, 1.58), (0.096, 0.062, 0.12)), ((0, 0.075, 1.46), (0.088, 0.045, 0.12))],
+    [((0, 0.024, 1.672), (0.086, 0.096, 0.090)), ((0, 0.085, 1.755), (0.048, 0.046, 0.042))],
+    [((0, 0.015, 1.690), (0.089, 0.102, 0.078)), ((0, 0.110, 1.675), (0.062, 0.055, 0.014))],
+    [((0, 0.026, 1.680), (0.112, 0.112, 0.104)), ((-0.05, 0.04, 1.60), (0.062, 0.075, 0.08)), ((0.05, 0.04, 1.60), (0.062, 0.075, 0.08))],
+)
+
+
+def guest(cloth, hair):
+    """Down to the elbows, facing -y."""
+    joints = standing()
+    parts = [trunk(joints, 1.08, cloth), yoke(joints, 1.12, cloth)] + skull(joints, cloth) + [oval(*ball, cloth) for ball in hair]
+    parts += [fleshed([(joints["shoulder_" + side], joints["elbow_" + side], ARM)], 1.2, cloth) for side in "lr"]
+    return blended("guest", parts, 0.010)
+
+
 def crowd(dice):
     """Heads and shoulders, row behind row, every second one with a hand or two up; some hold a telephone."""
     dark = m.plain("crowd", "0a0a0c", 0.8)
-    heads = []
-    for k in range(3):
-        profile = [(0, 0.30), (0.055, 0.29), (0.086, 0.22), (0.088, 0.14), (0.062, 0.06), (0.055, 0.0), (0.12, -0.06),
-                   (0.215, -0.10), (0.24, -0.2), (0.245, -0.55)]
-        made = s.lathe("guest", [(r * (1 + 0.04 * k) if z > 0 else r, z) for r, z in profile], dark, steps=28)
-        made.scale.y = 0.75
-        s.baked(made)
-        heads.append(made)
+    heads = [guest(dark, hair) for hair in HAIR]
     arms = [s.baked(arm(dark, spread)) for spread in (0.1, 0.6, 0.9)]
     screen = m.glow("screen", "a8c4ff", 2.5)
     for row in range(11):
@@ -128,8 +139,7 @@ def crowd(dice):
             z = 1.44 + dice.gauss(0, 0.07)
             if row < 2 and abs(x) < 0.45:
                 z -= 0.12
-            made = s.copy(dice.choice(heads), (x, y, z), (0, 0, dice.uniform(-0.4, 0.4)))
-            made.scale.y = 0.75
+            s.copy(dice.choice(heads), (x, y, z - 1.44), (0, 0, pi + dice.uniform(-0.5, 0.5)), dice.uniform(0.97, 1.02))
             if dice.random() < 0.42:
                 for side in ((-1, 1) if dice.random() < 0.4 else (dice.choice((-1, 1)),)):
                     lift = dice.uniform(-0.12, 0.16)
@@ -139,6 +149,7 @@ def crowd(dice):
                 s.box("telephone", (0.15, 0.01, 0.075), screen, 0.004, (x + 0.15, y - 0.02, z + 0.52))
     for thing in heads + arms:
         s.gone(thing)
+    s.sheet("floor", (60, 30), (2, 2), lambda x, y: 0.9, dark).location.y = 14  # below the elbows nothing is seen but the dark
 
 
 def build():

@@ -9,6 +9,7 @@ from growth import Soup, bent_line, blade, stem, strip, tuft
 from land import ground, layered, seeded_places
 from nodes import leafy, material, plain, surface
 from surfaces import soil
+from trees import far_tree
 
 FORMAT = "landscape"
 AIR = ((0.95, 0.64, 0.36), 210.0)
@@ -99,12 +100,7 @@ def grass(chance):
 def wood_edge(chance):
     """Trees at the end of the meadow, soft with distance."""
     leaves = leafy("wood", (0.035, 0.05, 0.012), (0.10, 0.10, 0.03), 0.4, haze=AIR)
-    soup = Soup()
-    heart = chance.normal(0, 1, (60, 3)) * [1.7, 1.7, 1.9] + [0, 0, 4.2]
-    spot = numpy.repeat(heart, 120, axis=0) + chance.normal(0, 0.5, (60 * 120, 3))
-    out, aside = 0.16 * chance.standard_normal((2, len(spot), 3))
-    soup.quads(numpy.stack([spot - out, spot - 0.5 * aside, spot + out, spot + 0.5 * aside], axis=1))
-    tree = soup.made("crown", [leaves])
+    tree = far_tree(chance, leaves)
     x = chance.uniform(-42, 42, 70)
     y = chance.uniform(48, 66, 70) + 0.3 * numpy.clip(6 - numpy.abs(x + 7), 0, 6) * 4
     places = numpy.column_stack([x, y, meadow(x, y) - 1.2])
@@ -114,7 +110,7 @@ def wood_edge(chance):
 def midges(chance):
     """Insects and seeds in the air that catch the sun."""
     count = 90
-    y = chance.uniform(2.2, 11, count)
+    y = chance.uniform(4.0, 12, count)
     spot = numpy.column_stack([chance.uniform(-0.5, 0.45, count) * y, y, chance.uniform(0.3, 0.55, count) + 0.16 * y * chance.random(count)])
     size = chance.uniform(0.0012, 0.0030, count)[:, None]
     soup = Soup()
@@ -134,4 +130,4 @@ def build():
     midges(chance)
     camera((0, 0, 0.62), (0, 3.4, 0.50), lens=62, focus=3.32, f_stop=2.0)
     daylight(11, -14, strength=0.13, dust=1.4, ozone=1.6, sun=1.3, low=((6.0, 4.1, 2.4), 0.25))
-    return Roll(samples=18, bounces=5, exposure=0.3, look="High Contrast", glow=0.12, saturation=1.1, warmth=0.03)
+    return Roll(samples=22, bounces=5, exposure=0.3, look="High Contrast", glow=0.12, saturation=1.1, warmth=0.03)

@@ -48,17 +48,22 @@ TRUNK = (("hips", -0.11, 0.03, 0.03), ("hips", -0.06, 0.125, 0.095), ("hips", 0.
 
 def person(name, material, moved=None, slim=1.0):
     """A grown person who faces -y, 1.78 m tall, feet at 0; `moved` gives joints another place (x, y, z)."""
-    joints = {joint: numpy.array((moved or {}).get(joint, at[:3]), dtype=float) for joint, at in STANDING.items()}
+    joints = standing(moved)
     parts = [trunk(joints, slim, material), yoke(joints, slim, material)] + skull(joints, material)
     for side in "lr":
         shoulder, elbow, wrist, hip, knee, ankle = (joints[f"{one}_{side}"] for one in ("shoulder", "elbow", "wrist", "hip", "knee", "ankle"))
         bend = numpy.array([0, 0.014, 0])
-        parts += [fleshed([(shoulder, elbow, ARM), (elbow, wrist, FOREARM)], slim, material),
+        parts += [oval(shoulder, (0.06 * slim,) * 3, material), fleshed([(shoulder, elbow, ARM), (elbow, wrist, FOREARM)], slim, material),
                   fleshed([(hip, knee, THIGH), (knee, ankle + bend, CALF)], slim, material), foot(knee, ankle, joints["toe_" + side], material)]
         parts += hand(wrist, joints["hand_" + side], side, material)
     made = blended(name, parts)
     scalp(joints, material).parent = made
     return made
+
+
+def standing(moved=None):
+    """The places of the joints of one who stands, but for those that are moved."""
+    return {joint: numpy.array((moved or {}).get(joint, at[:3]), dtype=float) for joint, at in STANDING.items()}
 
 
 def blended(name, parts, grain=0.006):
@@ -69,7 +74,7 @@ def blended(name, parts, grain=0.006):
     skin = made.modifiers.new("skin", "REMESH")
     skin.mode, skin.voxel_size, skin.use_smooth_shade = "VOXEL", grain, True
     soft = made.modifiers.new("soft", "SMOOTH")
-    soft.factor, soft.iterations = 0.5, 6
+    soft.factor, soft.iterations = 0.5, 12
     return shapes.baked(made)
 
 
@@ -84,8 +89,8 @@ def trunk(joints, slim, material):
 def yoke(joints, slim, material):
     """From shoulder to shoulder, over the root of the neck."""
     left, right, root = joints["shoulder_l"], joints["shoulder_r"], joints["neck"] - [0, 0, 0.035]
-    line = [left + 0.06 * (left - root), left, left + 0.5 * (root - left), root, right + 0.5 * (root - right), right, right + 0.06 * (right - root)]
-    return limb(line, [0.01, 0.055 * slim, 0.064 * slim, 0.062 * slim, 0.064 * slim, 0.055 * slim, 0.01], material)
+    line = [left + 0.03 * (left - root), left, left + 0.5 * (root - left), root, right + 0.5 * (root - right), right, right + 0.03 * (right - root)]
+    return limb(line, [0.03, 0.055 * slim, 0.064 * slim, 0.062 * slim, 0.064 * slim, 0.055 * slim, 0.03], material)
 
 
 def fleshed(bones, slim, material):
@@ -102,21 +107,22 @@ def oval(place, radii, material):
 
 
 def head_of(joints):
-    return (joints["chin"] + joints["crown"]) / 2 + [0, 0, 0.02]
+    return (joints["chin"] + joints["crown"]) / 2
 
 
 def skull(joints, material):
     """Head and neck."""
     middle = head_of(joints)
-    return [oval(middle + [0, 0.012, 0.032], (0.077, 0.098, 0.092), material), oval(middle + [0, -0.026, -0.05], (0.055, 0.068, 0.070), material),
+    return [oval(middle + [0, 0.012, 0.032], (0.082, 0.102, 0.096), material), oval(middle + [0, -0.026, -0.05], (0.059, 0.072, 0.072), material),
             limb([joints["neck"] - [0, 0, 0.05], joints["neck"], middle + [0, 0.01, -0.06], middle], [0.05, 0.058, 0.052, 0.05], material)]
 
 
 def scalp(joints, material):
     """Short hair."""
-    made = oval(head_of(joints) + [0, 0.026, 0.048], (0.076, 0.088, 0.080), material)
-    shapes.hair(made, 3500, 0.022, material, seed=int(1000 * abs(joints["crown"][0])) + 1, brownian_factor=0.008, root_radius=1.0, tip_radius=0.2,
-                radius_scale=0.0022, length_random=0.5, factor_random=0.01, display_step=2, render_step=2, hair_step=3)
+    made = oval(head_of(joints) + [0, 0.026, 0.048], (0.081, 0.092, 0.084), material)
+    shapes.hair(made, 4500, 0.014, material, seed=int(1000 * abs(joints["crown"][0])) + 1, brownian_factor=0.003, root_radius=1.0, tip_radius=0.2,
+                radius_scale=0.0022, length_random=0.5, factor_random=0.004, normal_factor=0.006, object_align_factor=(0, 0.006, -0.010),
+                display_step=2, render_step=2, hair_step=3)
     return made
 
 
@@ -154,7 +160,7 @@ def sleeve(wearer, joints, ends, share, radii, material):
 
 def dressed(wearer, moved, material, wind=0.0):
     """A loose shirt with short sleeves and short trousers, blown a little to one side."""
-    joints = {joint: (moved or {}).get(joint, at[:3]) for joint, at in STANDING.items()}
+    joints = standing(moved)
     for side in "lr":
         sleeve(wearer, joints, ("shoulder_" + side, "elbow_" + side), 0.50, (0.066, 0.064), material)
         sleeve(wearer, joints, ("hip_" + side, "knee_" + side), 0.72, (0.100, 0.086), material)

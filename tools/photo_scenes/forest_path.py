@@ -7,7 +7,7 @@ from growth import tuft
 from land import ground, layered, noise, seeded_places
 from nodes import leafy
 from surfaces import bark, soil
-from trees import crown, leaf, litter, trunk_and_twigs
+from trees import crown, leaf, litter, trunk_and_twigs, wood_edge
 
 FORMAT = "portrait"
 AIR = ((0.56, 0.62, 0.36), 190.0)
@@ -50,6 +50,7 @@ def build():
     kept = (off > 1.0) & (layered(x / 3, y / 3, 12, 3) > -0.25)
     x, y = x[kept], y[kept]
     scatter(ferns, numpy.column_stack([x, y, height(x, y)]), random_turns(chance, len(x), 0.1), chance.uniform(0.4, 1.0, len(x)))
+    wood_edge(chance, leafy("far", (0.05, 0.11, 0.015), (0.13, 0.20, 0.03), 0.5, haze=AIR), 110, 72, 130, 75)
     camera((path(0) + 0.2, 0, 1.6), (0.4, 16, 3.6), lens=30, focus=9, f_stop=4)
     daylight(24, 14, strength=0.22, dust=1.0, low=((4.6, 4.8, 3.6), 0.6), sun_size=1.5)
     return Roll(samples=10, bounces=4, exposure=0.3, look="High Contrast", glow=0.12, saturation=1.05)

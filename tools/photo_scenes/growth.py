@@ -117,34 +117,69 @@ def tuft(chance, materials, blades=14, height=0.35, width=0.005, reach=0.12, lea
     return soup.made(name, materials)
 
 
-def fir(chance, bark, needles, height=12.0, layers=26, snow=None, name="fir"):
-    """A fir: whorls of drooping boughs with sprays of needles on either side; snow lies on the boughs as a strip of its own."""
+def needles(soup, chance, line, reach):
+    """Little twigs to both sides of a line, full of needles."""
+    along = unit(line[-1] - line[0])
+    aside = unit(numpy.cross(along, [0, 0, 1]))
+    count = 64
+    at = chance.uniform(0.05, 1.0, count)
+    spot = numpy.column_stack([numpy.interp(at, numpy.linspace(0, 1, len(line)), line[:, k]) for k in range(3)])
+    side = chance.choice([-1, 1], count)
+    spread = chance.uniform(0, 0.32, count) * reach * (1.1 - at)
+    spot = spot + side[:, None] * spread[:, None] * aside + along * 0.6 * spread[:, None] - [0, 0, 0.25] * spread[:, None]
+    way = along + side[:, None] * aside * chance.uniform(0.2, 1.2, (count, 1)) + chance.normal(0, 0.35, (count, 3))
+    way *= (chance.uniform(0.04, 0.075, count) / numpy.linalg.norm(way, axis=1))[:, None]
+    broad = numpy.cross(way, chance.normal(0, 1, (count, 3)) + [0, 0, 0.8])
+    broad *= (0.007 / (numpy.linalg.norm(broad, axis=1) + 1e-9))[:, None]
+    soup.quads(numpy.stack([spot - broad, spot + broad, spot + way + 0.4 * broad, spot + way - 0.4 * broad], axis=1), 1)
+
+
+def burden(soup, chance, line, wide, tall):
+    """Snow that lies along a line: an arch in section, lumpy."""
+    count = len(line)
+    along = unit(line[-1] - line[0])
+    aside = unit(numpy.cross(along, [0, 0, 1]))
+    angle = numpy.linspace(-0.35, math.pi + 0.35, 8)[None, :, None]
+    taper = numpy.sqrt(numpy.clip(numpy.sin(numpy.linspace(0.04, math.pi - 0.04, count)), 0, 1))
+    lump = (taper * chance.uniform(0.75, 1.25, count))[:, None, None] * chance.uniform(0.85, 1.15, (count, 8, 1))
+    soup.raster(line[:, None] + lump * (aside * numpy.cos(angle) * wide + numpy.array([0, 0, 1.0]) * numpy.sin(angle) * tall), 2)
+
+
+def bough(soup, chance, root, turn, reach, loaded):
+    """A bough with twigs to both sides; loaded is the share of twigs on which snow lies."""
+    out = numpy.array([math.cos(turn), math.sin(turn), 0])
+    aside = numpy.array([-out[1], out[0], 0])
+    droop = [0, 0, -1.25]
+    line = bent_line(root, out + [0, 0, 0.2], reach, droop, 9)
+    stem(soup, line, 0.012 * reach * numpy.linspace(1.2, 0.3, 9), 0, 4)
+    for at in numpy.linspace(0.14, 1, 10):
+        place = bent_line(root, out + [0, 0, 0.2], reach * at, numpy.multiply(droop, at), 2)[-1]
+        length = (reach * 0.40 * (1.15 - at) + 0.10) * chance.uniform(0.75, 1.2)
+        for side in (-1, 1):
+            way = out * 0.85 + aside * side * chance.uniform(0.7, 1.1) + [0, 0, chance.uniform(-0.5, -0.15)]
+            twig = bent_line(place, way, length, [0, 0, -0.55], 6)
+            needles(soup, chance, twig, length)
+            if chance.random() < loaded:
+                wide = chance.uniform(0.035, 0.075) + 0.05 * length
+                burden(soup, chance, twig[chance.integers(0, 2):] + [0, 0, 0.01], wide, 0.8 * wide)
+    if loaded:
+        burden(soup, chance, line[1:] + [0, 0, 0.02], 0.05 + 0.045 * reach, 0.06 + 0.03 * reach)
+
+
+def fir(chance, bark, needle, height=12.0, layers=26, snow=None, name="fir"):
+    """A fir: whorls of drooping boughs full of needles, none like the next; snow lies on them where it is given."""
     soup = Soup()
-    axis = numpy.column_stack([numpy.zeros(6), numpy.zeros(6), numpy.linspace(0, height, 6)])
+    axis = numpy.column_stack([numpy.zeros(6), numpy.zeros(6), numpy.linspace(-0.5, height, 6)])
     stem(soup, axis, height * numpy.linspace(0.016, 0.002, 6), 0, 7)
     for layer in range(layers):
         share = (layer + chance.uniform(0, 0.6)) / layers
-        reach = height * 0.22 * (1 - share) ** 0.8 * chance.uniform(0.8, 1.15) + 0.12
-        for number in range(9 - int(3 * share)):
-            turn = number * 2 * math.pi / (9 - int(3 * share)) + layer * 0.9 + chance.uniform(-0.3, 0.3)
-            bough(soup, chance, numpy.array([0, 0, height * (0.07 + 0.92 * share)]), turn, reach * chance.uniform(0.7, 1.1), snow is not None)
-    return soup.made(name, [bark, needles] + ([snow] if snow else []))
-
-
-def bough(soup, chance, root, turn, reach, snowy):
-    out = numpy.array([math.cos(turn), math.sin(turn), 0])
-    aside = numpy.array([-out[1], out[0], 0])
-    line = bent_line(root, out + [0, 0, 0.25], reach, [0, 0, -0.9], 6)
-    for at in numpy.linspace(0.12, 1, 9):
-        place = bent_line(root, out + [0, 0, 0.25], reach * at, [0, 0, -0.9 * at], 2)[-1]
-        length = reach * 0.42 * (1.15 - at) + 0.1
-        for side in (-1, 1):
-            way = out * 0.75 + aside * side + [0, 0, chance.uniform(-0.45, -0.1)]
-            spray = bent_line(place, way, length * chance.uniform(0.7, 1.2), [0, 0, -0.3], 4)
-            strip(soup, spray, length * numpy.array([0.10, 0.2, 0.16, 0.02]), numpy.cross(way, [0, 0, 1]), 1, chance.uniform(-0.5, -0.1))
-    if snowy and chance.random() < 0.8:
-        width = reach * chance.uniform(0.16, 0.26) * numpy.array([0.35, 0.8, 1, 0.95, 0.7, 0.15])
-        strip(soup, line + [0, 0, 0.03 * reach + 0.03], width, aside, 2, -0.35)
+        reach = height * 0.185 * (1 - share) ** 0.75 * chance.uniform(0.85, 1.12) + 0.16
+        count = 9 - int(4 * share)
+        for number in range(count):
+            turn = number * 2 * math.pi / count + layer * 0.9 + chance.uniform(-0.3, 0.3)
+            root = numpy.array([0, 0, height * (0.05 + 0.93 * share + chance.uniform(-0.012, 0.012))])
+            bough(soup, chance, root, turn, reach * chance.uniform(0.6, 1.15), 0.62 if snow else 0.0)
+    return soup.made(name, [bark, needle] + ([snow] if snow else []))
 
 
 def petal(soup, root, out, length, width, rise=0.5, curl=-0.6, cup=0.3, kind=0, tip=0.2, rows=7):

@@ -55,6 +55,19 @@ def waffle():
     return made
 
 
+def biscuit():
+    """A thin wafer: a fine lattice pressed into it, browner where it stands up."""
+    made, nodes, shader = m.principled("biscuit", "cf9550", 0.7, Specular=0.2)
+    apart = nodes.add("ShaderNodeSeparateXYZ", nodes.place())
+    lines = [nodes.math("ABSOLUTE", nodes.math("SINE", nodes.math("MULTIPLY", apart.outputs[k], 1150.0))) for k in (0, 2)]
+    lattice = nodes.rise(nodes.math("MINIMUM", *lines), 0.1, 0.5)
+    baked = nodes.noise(nodes.place(), 90.0, detail=5.0)
+    tone = nodes.math("MULTIPLY_ADD", lattice, -0.25, baked)
+    m.feed(nodes, shader, Base_Color=m.ramp(nodes, tone, (0.15, "efc98a"), (0.45, "d99f58"), (0.75, "b06f30")),
+           Normal=m.relief(nodes, lattice, -0.0009, 0.8))
+    return made
+
+
 def cone(tall, wide):
     """A rolled wafer with crossing ridges and a rim."""
     rows, around, points, raised = 260, 300, [], []
@@ -102,7 +115,7 @@ def build():
     lower.location = (0, 0, 0.019)
     upper = scoop(0.0295, ice("vanilla", "f7e6bd", "edd093", "5b3a1c"), 8)
     upper.location, upper.rotation_euler = (0.003, 0.001, 0.063), (0.12, -0.1, 1.3)
-    wafer = s.box("wafer", (0.019, 0.0028, 0.062), m.wood("wafer", "a8682c", "d3a05a", "e3bb7c", 0.6, 30), 0.0005,
+    wafer = s.box("wafer", (0.019, 0.0028, 0.062), biscuit(), 0.0005,
                   (0.021, 0.006, 0.104))
     wafer.rotation_euler = (0.1, 0.42, 0.3)
     beach()

@@ -3,7 +3,7 @@ import math
 
 import numpy
 
-from common import camera, daylight, joined, tube
+from common import camera, daylight, joined, limb, tube
 from film import Roll
 from growth import Soup
 from land import sea
@@ -57,8 +57,9 @@ def sloop(paint, cloth, stripe):
              tube("stay", [(0, 4.7, 1.2), (0, 0.5, 13.3)], 0.012, metal), tube("backstay", [(0, -4.6, 1.1), (0, 0.5, 13.3)], 0.012, metal),
              tube("cabin", [(0, -0.9, 1.15), (0, -0.6, 1.3), (0, 2.0, 1.3), (0, 3.0, 1.05)], [0.5, 0.62, 0.6, 0.3], plain("cabin", (0.85, 0.85, 0.82), 0.3), 12)]
     for y, coat in ((-2.6, red), (-3.4, dark)):
-        parts += [tube("sailor", [(-0.55, y, 0.9), (-0.6, y, 1.35), (-0.62, y, 1.6)], [0.2, 0.22, 0.1], coat, 10),
-                  tube("head", [(-0.62, y, 1.62), (-0.63, y, 1.72), (-0.63, y, 1.84), (-0.63, y, 1.9)], [0.06, 0.11, 0.1, 0.02], dark, 10)]
+        parts += [limb([(-0.55, y, 0.8), (-0.6, y, 1.15), (-0.62, y - 0.03, 1.42), (-0.62, y, 1.52)], [0.19, 0.21, 0.19, 0.06], coat),
+                  limb([(-0.62, y, 1.5), (-0.62, y, 1.58), (-0.63, y, 1.67), (-0.63, y, 1.76)], [0.07, 0.10, 0.10, 0.02], dark),
+                  limb([(-0.62, y + 0.05, 1.42), (-0.35, y + 0.25, 1.25), (-0.1, y + 0.5, 1.3)], [0.08, 0.07, 0.05], coat)]
     return joined("sloop", parts)
 
 
@@ -74,10 +75,10 @@ def build():
         height=0.95, longest=24.0, shortest=0.7, wind=1.1, count=90)
     cloth = leafy("cloth", (0.86, 0.85, 0.81), (0.86, 0.85, 0.81), 0.45, 0.7)
     white, blue = plain("white", (0.82, 0.82, 0.8), 0.15), plain("blue", (0.02, 0.05, 0.14), 0.15)
-    at_sea(sloop(blue, cloth, None), (-5, 62, 0.1), 112, 15)
-    at_sea(sloop(white, cloth, None), (34, 170, 0.1), 118, 13)
-    at_sea(sloop(white, cloth, None), (-62, 330, 0.1), 105, 14)
+    at_sea(sloop(blue, cloth, None), (-5, 62, -0.28), 112, 15)
+    at_sea(sloop(white, cloth, None), (34, 170, -0.25), 118, 13)
+    at_sea(sloop(white, cloth, None), (-62, 330, -0.25), 105, 14)
     camera((0, 0, 3.2), (0, 60, 5.6), lens=62)
     daylight(32, -125, strength=0.12, dust=0.3, ozone=2.0, low=((5.0, 6.0, 7.0), 0.12),
              clouds=dict(low=0.5, high=0.72, scale=0.55, light=(11, 11, 11), shade=(6.5, 7, 7.8), thick=0.9, seed=8.0, stretch=(0.7, 1.1)))
-    return Roll(samples=24, exposure=0.0, saturation=1.2)
+    return Roll(samples=18, exposure=0.0, saturation=1.2)

@@ -71,7 +71,7 @@ def acacia(chance, dark, tall):
     stem(soup, numpy.array([(-0.02 * tall, 0, -0.06 * tall), (0, 0, 0.04 * tall), (0.01 * tall, 0, 0.12 * tall), (0, 0, 0.2 * tall)]), numpy.array([0.05, 0.034, 0.03, 0.03]) * tall)
     top = max(place[2] for place, _, _ in twigs)
     for place, _, _ in twigs:
-        at = place * [1.1, 1.1, 0.45] + [0, 0, 0.55 * top]
+        at = place * [1.1, 1.1, 0.62] + [0, 0, 0.38 * top]
         spot = at + chance.normal(0, 1, (700, 3)) * [0.05 * tall, 0.05 * tall, 0.009 * tall]
         out, aside = 0.0030 * tall * chance.standard_normal((2, 700, 3))
         soup.quads(numpy.stack([spot - out, spot - 0.35 * aside, spot + out, spot + 0.35 * aside], axis=1))
@@ -116,4 +116,4 @@ def build():
     distant = acacia(chance, far, 8.0)
     distant.location, distant.scale = (31, 480, 5.5), (1.5, 1.5, 1.5)
     camera((0, -330, 1.0), (0.2, 0, 4.8), lens=420)
-    return Roll(samples=10, bounces=4, exposure=0.05, warmth=0.07, glow=0.12, grain=0.014, saturation=1.2)
+    return Roll(samples=14, bounces=4, exposure=0.05, warmth=0.07, glow=0.12, grain=0.014, saturation=1.2)

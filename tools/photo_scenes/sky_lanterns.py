@@ -61,7 +61,7 @@ def people(cloth):
     for x, y, size, pose, low in ((-1.05, 0.4, 1.0, raised, 0.80), (-0.30, 0.3, 0.66, up, 0.62), (0.30, 0.5, 0.95, up, 0.58),
                                   (1.45, 0.8, 1.0, up, 0.85)):
         made = person("guest", cloth, pose)
-        made.location, made.scale, made.rotation_euler.z = (x, y - 2.6, 0.0), (size,) * 3, pi + 0.3 * sin(5 * x)
+        made.location, made.scale, made.rotation_euler.z = (x, y - 2.6, -0.03 - 0.05 * (y + 0.4) ** 1.6), (size,) * 3, pi + 0.3 * sin(5 * x)
         coat(made, cloth, low)
         if low < 0.7:
             long_hair(made, cloth)

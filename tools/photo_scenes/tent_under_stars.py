@@ -33,7 +33,8 @@ def cloth():
 
 def tent():
     """A dome over two crossed poles, longer than wide, with a door."""
-    across, along = numpy.meshgrid(numpy.linspace(-1, 1, 41), numpy.linspace(-1, 1, 41))
+    fine = numpy.sin(numpy.linspace(-math.pi / 2, math.pi / 2, 161))  # closer at the foot, where the cloth stands steep
+    across, along = numpy.meshgrid(fine, fine)
     # A square drawn to a rounded square; the cloth sags between the poles, which run over the diagonals.
     reach = numpy.maximum(numpy.abs(across), numpy.abs(along))
     sag = numpy.abs(numpy.abs(across) - numpy.abs(along))

@@ -41,3 +41,24 @@ def litter(chance, leaves, x, y, z, size=(0.7, 1.2)):
     turns = random_turns(chance, len(x), 0.35)
     turns[:, 1] += numpy.where(chance.random(len(x)) < 0.5, math.pi, 0)
     scatter(leaves, numpy.column_stack([x, y, z + 0.015]), turns, chance.uniform(*size, len(x)))
+
+
+def clump(chance, made_of, hearts, count, reach, size):
+    """A crown seen from far, or a bush: so many leaves around each heart (n x 3)."""
+    spot = numpy.repeat(hearts, count, axis=0) + chance.normal(0, reach, (len(hearts) * count, 3))
+    out, aside = size * chance.standard_normal((2, len(spot), 3))
+    soup = Soup()
+    soup.quads(numpy.stack([spot - out, spot - 0.5 * aside, spot + out, spot + 0.5 * aside], axis=1))
+    return soup.made("clump", [made_of])
+
+
+def wood_edge(chance, made_of, count, near, far, wide, size=(0.8, 1.5)):
+    """Trees side by side at the end of a meadow."""
+    trees = [far_tree(chance, made_of) for _ in range(3)]
+    places = numpy.column_stack([chance.uniform(-wide, wide, count), chance.uniform(near, far, count), numpy.full(count, -1.0)])
+    scatter(trees, places, random_turns(chance, count, 0.05), chance.uniform(*size, count))
+
+
+def far_tree(chance, made_of):
+    """The crown of a tree of 8 m, down to the ground."""
+    return clump(chance, made_of, chance.normal(0, 1, (60, 3)) * [1.7, 1.7, 1.9] + [0, 0, 4.2], 120, 0.5, 0.16)

@@ -6,9 +6,10 @@ import numpy
 from common import camera, daylight, joined, mesh_object, random_turns, scatter, tube, turned
 from film import Roll
 from flowers import tulip
-from land import ground, layered, noise
+from land import ground, noise
 from nodes import leafy, plain
 from surfaces import soil
+from trees import far_tree
 
 FORMAT = "landscape"
 AIR = ((0.66, 0.70, 0.76), 2600.0)
@@ -76,7 +77,10 @@ def build():
     rows(chance, plants, 70, 210, 0.5, 1.7)
     ground("earth", lambda x, y: 0 * x, soil((0.035, 0.028, 0.015), (0.06, 0.075, 0.03), 3.0), near=0.5, far=4000, spread=42, rows=120, columns=60)
     trees = leafy("trees", (0.025, 0.05, 0.02), (0.055, 0.08, 0.03), 0.2, haze=AIR)
-    ground("wood", lambda x, y: (numpy.clip(30 * noise(x / 60, y / 200, 5) + 6, -9, 7) + 4.5 * layered(x / 8, y / 8, 4, 6, 0.65)) * numpy.clip((y - 331) / 3, 0, 1), trees, near=330, far=380, spread=34, rows=60, columns=1300)
+    x, y = chance.uniform(-270, 270, 900), chance.uniform(332, 375, 900)
+    stands = noise(x / 60, y / 200, 5) > -0.12
+    x, y = x[stands], y[stands]
+    scatter([far_tree(chance, trees) for _ in range(4)], numpy.column_stack([x, y, 0 * x - 1]), random_turns(chance, len(x), 0.05), chance.uniform(0.9, 1.9, len(x)))
     windmill((-31, 225, 0))
     camera((0.6, 0, 1.55), (0, 60, 2.6), lens=35, focus=7, f_stop=8)
     daylight(24, -128, strength=0.15, dust=0.5, ozone=1.5, low=((5.0, 5.6, 6.2), 0.13),

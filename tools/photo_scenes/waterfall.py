@@ -10,6 +10,7 @@ from land import layered, ridged
 from materials import lamp
 from nodes import leafy, material, no_lamp, surface
 from surfaces import puff
+from trees import clump
 
 FORMAT = "portrait"
 AIR = ((0.42, 0.50, 0.44), 190.0)
@@ -156,12 +157,7 @@ def fern(chance, made_of, fronds=9):
 
 def bush(chance, made_of):
     """A cloud of leaves, 1.6 m across."""
-    soup = Soup()
-    heart = chance.normal(0, 0.33, (26, 3)) * [1, 1, 0.75]
-    spot = numpy.repeat(heart, 46, axis=0) + chance.normal(0, 0.14, (26 * 46, 3))
-    out, aside = 0.034 * chance.standard_normal((2, len(spot), 3))
-    soup.quads(numpy.stack([spot - out, spot - 0.5 * aside, spot + out, spot + 0.5 * aside], axis=1))
-    return soup.made("bush", [made_of])
+    return clump(chance, made_of, chance.normal(0, 0.33, (26, 3)) * [1, 1, 0.75], 46, 0.14, 0.034)
 
 
 def greenery(chance):

@@ -10,6 +10,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <functional>
 
 TEST(undo, has_nothing_to_do_at_the_beginning_of_a_collage)
 {
@@ -155,6 +156,42 @@ TEST(undo, keeps_a_hundred_steps)
     while (session.undo())
         ++steps;
     EXPECT_EQ(steps, step_history<moment>::most_steps);
+}
+
+TEST(undo, leads_through_the_previews_of_a_hundred_steps_byte_by_byte)
+{
+    undo_session session;
+    frmMain & main = session.main;
+    const std::function<void(int)> changes[] = {
+        [&](int round) { main.cmbFrame.choose(1 + round % 5); },
+        [&](int round) { (round % 2 == 0 ? main.optHuge : main.optTiny).select(); },
+        [&](int round) { (round % 2 == 0 ? main.optLandscape : main.optPortrait).select(); },
+        [&](int) {
+            for (const std::vector<std::string> before = session.seen().photos;
+                 before == session.seen().photos;)
+                main.cmdShuffle.click();
+        },
+        [&](int round) {
+            main.txtCaption.set_text(std::string(static_cast<std::size_t>(1 + round % 3), 'x'));
+        }};
+    std::vector<sight> sights{session.seen()};
+    constexpr int steps = step_history<moment>::most_steps + 1;
+    for (int step = 0; step < steps; ++step) {
+        changes[static_cast<std::size_t>(step) % std::size(changes)](step /
+                                                                     static_cast<int>(std::size(changes)));
+        ASSERT_FALSE(sights.back() == session.seen()) << step;
+        sights.push_back(session.seen());
+    }
+    for (auto at = sights.rbegin() + 1; at + 1 != sights.rend(); ++at) {
+        ASSERT_TRUE(session.undo());
+        ASSERT_TRUE(*at == session.seen()) << at - sights.rbegin() << " steps back";
+    }
+    EXPECT_FALSE(session.undo()) << "the oldest of a hundred and one steps";
+    for (auto at = sights.begin() + 2; at != sights.end(); ++at) {
+        ASSERT_TRUE(session.redo());
+        ASSERT_TRUE(*at == session.seen()) << at - sights.begin();
+    }
+    EXPECT_FALSE(session.redo());
 }
 
 TEST(undo, takes_a_run_of_typing_as_one_step)

@@ -1,0 +1,57 @@
+#!/usr/bin/env python3
+"""A collage printed from the built program by keyboard alone: each window has the keyboard where Enter leads on, and Escape leads
+back without a sheet. Runs beside a print server of its own."""
+import os
+
+from collage import check, folder_by_keys, quit_by_keys, run, welcomed
+from designs import in_finishing_stage
+from print_by_mouse import has_come
+from screen import until
+
+
+def printed_sheets():
+    return sorted(os.listdir(os.environ['PRINTED']))
+
+
+def play(p):
+    before = printed_sheets()
+    welcomed(p)
+    p.shortcut('mnuQuick')
+    folder_by_keys(p)
+    in_finishing_stage(p)
+    p.shortcut('cmdFlurn')
+    p.window('frmImage')
+    p.shortcut('cmdPrint')
+    p.window('print_preview')
+    p.keys('Escape')
+    p.window('frmImage')
+    p.shortcut('cmdPrint')
+    p.window('print_preview')
+    p.keys('Return')
+    p.window('QPrintDialog')
+    p.keys('Escape')
+    until(lambda: p.look().get('class') != 'QPrintDialog', 'the dialog to go')
+    check(printed_sheets() == before, 'Escape printed a sheet')
+    if p.look().get('window') != 'frmImage':
+        p.keys('Escape')
+    p.window('frmImage')
+    p.shortcut('cmdPrint')
+    p.window('print_preview')
+    p.keys('Return')
+    p.window('QPrintDialog')
+    p.keys('Return')
+    told = p.window('QMessageBox')['message']
+    check(told.startswith('The collage was sent to the printer paper_'), told)
+    printed = os.path.join(os.environ['PRINTED'], told.split()[-1].rstrip('.') + '.pdf')
+    until(lambda: has_come(printed), 'the printed sheet')
+    p.keys('Return')
+    p.window('frmImage')
+    p.keys('Escape')
+    p.window('frmMain')
+    p.shortcut('cmdCancel')
+    until(lambda: p.find('mnuQuick'), 'the choosing stage')
+    quit_by_keys(p)
+
+
+if __name__ == '__main__':
+    run(play)
