@@ -102,6 +102,7 @@ TEST(bring_back, shows_the_preview_and_makes_the_poster_of_then_byte_by_byte)
         EXPECT_TRUE(again.preview() == preview);
         EXPECT_EQ(differences(sight_of(again.main), seen), "");
         EXPECT_FALSE(again.main.menus_shown);
+        EXPECT_FALSE(again.main.txtDoing.visible()) << "nothing is being done";
         EXPECT_TRUE(again.make() == poster);
     }
 }
