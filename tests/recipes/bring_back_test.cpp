@@ -176,6 +176,21 @@ TEST(bring_back, keeps_every_control_and_setting_by_value)
     EXPECT_EQ(then.chance, kept.chance);
 }
 
+// Recipes of earlier programs have these names.
+TEST(bring_back, knows_the_fields_of_a_design_by_their_names)
+{
+    flurn_session session;
+    session.begin();
+    const recipe held = recipe_of(session.main, "now");
+    for (const char * name :
+         {"section",       "name",        "file",         "style",    "design",      "background",
+          "ratio",         "distort",     "sample",       "help_tip", "description", "system",
+          "count",         "turn_bg",     "bg_image",     "bg_color", "match",       "resize",
+          "caption",       "frames",      "shadows",      "block",    "soft_edge",   "caption_color",
+          "caption_clear", "frame_color", "shadow_color", "flip",     "borders",     "quick_shape"})
+        EXPECT_NE(setting_in(held, std::string("design.") + name), nullptr) << name;
+}
+
 TEST(bring_back, gives_back_what_the_style_had_forced_with_the_next_one)
 {
     flurn_session session;
