@@ -5,9 +5,11 @@ import numpy
 
 import materials as m
 import shapes as s
-from common import camera, daylight
+from common import camera, daylight, random_turns, scatter
 from film import Roll
+from nodes import leafy
 from town import facade
+from trees import far_tree
 
 FORMAT = "landscape"
 
@@ -89,12 +91,22 @@ def town(dice):
     """Houses and towers along the road, thinning out of sight."""
     walls = [facade("wall", tone, i) for i, tone in enumerate(("6a6e78", "8a7a6c", "5d6470"))]
     for _ in range(190):
-        y = dice.uniform(120, 900)
+        y = dice.uniform(240, 1000)
         x = bend(y) + dice.choice((-1, 1)) * (34 + dice.random() ** 1.5 * 330)
-        tall = dice.uniform(10, 26) if dice.random() < 0.75 else dice.uniform(30, 80) * min(1, y / 400)
+        tall = dice.uniform(10, 24) if dice.random() < 0.7 else dice.uniform(26, 78) * min(1, y / 500)
         wide = dice.uniform(12, 24)
         made = s.box("house", (wide, dice.uniform(12, 26), tall), dice.choice(walls), at=(x, y, tall / 2 - 1))
         made.rotation_euler.z = dice.choice((0, 0, -0.2))
+
+
+def verge(chance):
+    """Trees and bushes along the road, nearly black."""
+    leaves = leafy("leaves", (0.006, 0.009, 0.004), (0.014, 0.018, 0.008), 0.3)
+    y = 30 + 620 * chance.random(520) ** 1.3
+    off = 19 + 70 * chance.random(520) ** 1.5
+    x = numpy.array([bend(at) for at in y]) + off * chance.choice([-1, 1], 520)
+    trees = [far_tree(chance, leaves) for _ in range(4)]
+    scatter(trees, numpy.column_stack([x, y, 0 * x - 1.2]), random_turns(chance, 520, 0.06), chance.uniform(0.35, 1.15, 520))
 
 
 def build():
@@ -112,6 +124,7 @@ def build():
     trails(dice)
     lanterns()
     town(dice)
+    verge(numpy.random.default_rng(19))
     daylight(-2.4, 8, strength=1.2, dust=2.5, ozone=5.0,
              clouds=dict(low=0.48, high=0.75, scale=0.7, light=(0.075, 0.045, 0.055), shade=(0.022, 0.024, 0.045),
                          stretch=(0.35, 1.0)))

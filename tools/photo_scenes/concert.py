@@ -149,6 +149,7 @@ def crowd(dice):
                 s.box("telephone", (0.15, 0.01, 0.075), screen, 0.004, (x + 0.15, y - 0.02, z + 0.52))
     for thing in heads + arms:
         s.gone(thing)
+    s.sheet("floor", (60, 30), (2, 2), lambda x, y: 0.9, dark).location.y = 14  # below the elbows nothing is seen but the dark
 
 
 def build():

@@ -53,7 +53,7 @@ def person(name, material, moved=None, slim=1.0):
     for side in "lr":
         shoulder, elbow, wrist, hip, knee, ankle = (joints[f"{one}_{side}"] for one in ("shoulder", "elbow", "wrist", "hip", "knee", "ankle"))
         bend = numpy.array([0, 0.014, 0])
-        parts += [fleshed([(shoulder, elbow, ARM), (elbow, wrist, FOREARM)], slim, material),
+        parts += [oval(shoulder, (0.06 * slim,) * 3, material), fleshed([(shoulder, elbow, ARM), (elbow, wrist, FOREARM)], slim, material),
                   fleshed([(hip, knee, THIGH), (knee, ankle + bend, CALF)], slim, material), foot(knee, ankle, joints["toe_" + side], material)]
         parts += hand(wrist, joints["hand_" + side], side, material)
     made = blended(name, parts)
@@ -120,8 +120,9 @@ def skull(joints, material):
 def scalp(joints, material):
     """Short hair."""
     made = oval(head_of(joints) + [0, 0.026, 0.048], (0.081, 0.092, 0.084), material)
-    shapes.hair(made, 3500, 0.014, material, seed=int(1000 * abs(joints["crown"][0])) + 1, brownian_factor=0.005, root_radius=1.0, tip_radius=0.2,
-                radius_scale=0.0022, length_random=0.5, factor_random=0.01, display_step=2, render_step=2, hair_step=3)
+    shapes.hair(made, 4500, 0.014, material, seed=int(1000 * abs(joints["crown"][0])) + 1, brownian_factor=0.003, root_radius=1.0, tip_radius=0.2,
+                radius_scale=0.0022, length_random=0.5, factor_random=0.004, normal_factor=0.006, object_align_factor=(0, 0.006, -0.010),
+                display_step=2, render_step=2, hair_step=3)
     return made
 
 

@@ -57,4 +57,4 @@ def build():
     camera((0, 0, 2.4), (0, 100, 9.5), lens=32)
     daylight(3.6, 122, strength=0.32, dust=0.8, ozone=1.5, sun=1.5, low=((1.15, 0.72, 0.66), 0.5),
              clouds=dict(low=0.5, high=0.85, scale=1.1, stretch=(0.4, 1.2), light=(1.5, 0.75, 0.66), shade=(0.5, 0.4, 0.5), thick=0.8, seed=3.0))
-    return Roll(samples=20, exposure=1.75, look="High Contrast", saturation=1.2, warmth=0.05)
+    return Roll(samples=20, exposure=1.9, look="High Contrast", saturation=1.25, warmth=0.05)

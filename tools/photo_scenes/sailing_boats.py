@@ -81,4 +81,4 @@ def build():
     camera((0, 0, 3.2), (0, 60, 5.6), lens=62)
     daylight(32, -125, strength=0.12, dust=0.3, ozone=2.0, low=((5.0, 6.0, 7.0), 0.12),
              clouds=dict(low=0.5, high=0.72, scale=0.55, light=(11, 11, 11), shade=(6.5, 7, 7.8), thick=0.9, seed=8.0, stretch=(0.7, 1.1)))
-    return Roll(samples=24, exposure=0.0, saturation=1.2)
+    return Roll(samples=18, exposure=0.0, saturation=1.2)

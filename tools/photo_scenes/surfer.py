@@ -81,7 +81,7 @@ def build():
     ground("sand", lambda x, y: 0.018 * (13 - y) + 0.02 * layered(x / 3, y / 3, 3, 4), wet_sand(), near=1.2, far=24, spread=44, rows=200, columns=200)
     sea("surf", surf(), chance, near=12.5, far=9000, spread=32, rows=900, columns=700, shift=breakers, height=0.22, longest=9.0, shortest=0.6, wind=3.1, count=60)
     one = surfer(plain("dark", (0.015, 0.015, 0.018), 0.55), plain("board", (0.30, 0.28, 0.25), 0.25))
-    one.location, one.scale = (-1.15, 9.2, 0.06), (1.0,) * 3
+    one.location, one.scale = (-1.15, 9.2, 0.025), (1.0,) * 3
     camera((0, 0, 1.25), (0, 12, 1.42), lens=40, focus=9.2, f_stop=4)
     daylight(4.5, 13, strength=0.20, dust=2.0, ozone=2.0, low=((3.3, 1.75, 0.95), 0.25),
              clouds=dict(low=0.48, high=0.8, scale=0.8, stretch=(0.35, 1.3), light=(4.2, 2.3, 1.5), shade=(1.3, 0.95, 1.0), thick=0.85, seed=17.0))

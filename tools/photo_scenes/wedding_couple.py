@@ -176,4 +176,4 @@ def build():
     ribbon(chance)
     lights(chance)
     camera((0.006, -0.165, 0.070), (0.003, 0.05, 0.032), lens=58, focus=(0.003, -0.004, 0.008), f_stop=9.0)
-    return Roll(samples=28, bounces=7, exposure=0.6, glow=0.09, saturation=1.05, warmth=0.02)
+    return Roll(samples=32, bounces=6, exposure=1.15, clean=1.6, glow=0.09, saturation=1.1, warmth=0.02)
