@@ -1,5 +1,6 @@
 #include "support/platform_error.h"
 #include "tests/batch/recipe_program.h"
+#include "tests/sweep_stride.h"
 
 #include <filesystem>
 
@@ -50,7 +51,9 @@ const std::vector<flurn_row> & flurns()
 
 TEST_F(recipe_program, brings_each_kind_of_flurn_back_byte_by_byte_in_a_window_and_without_one)
 {
-    for (const flurn_row & each : flurns()) {
+    const auto & kinds = flurns();
+    for (std::size_t i = 0; i < kinds.size(); i += sweep_stride) {
+        const flurn_row & each = kinds[i];
         SCOPED_TRACE(each.name);
         const made_flurn flurn = made(each.begin);
         ASSERT_FALSE(flurn.file.empty());
