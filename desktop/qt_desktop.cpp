@@ -129,6 +129,8 @@ answer qt_desktop::ask(const question & asked)
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     if (asked.offered == answers::yes_no_cancel)
         box.addButton(QMessageBox::Cancel);
+    // Else the keyboard stands on the button at the left.
+    box.setDefaultButton(asked.on_enter == answer::yes ? QMessageBox::Yes : QMessageBox::No);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return answer::yes;

@@ -1,6 +1,7 @@
 #include "recipes/bring_back.h"
 
 #include "designs/catalogue/last_flurn.h"
+#include "engine/image_number.h"
 #include "engine/preview.h"
 #include "photos/chosen_photos.h"
 #include "photos/lists/photo_list.h"
@@ -96,6 +97,7 @@ void enter_stage(frmMain & main)
     show_menus(main, false);
     show_work_controls(main, true);
     start_enable_true(main);
+    hide_image_number(main);  // with a preview that was kept, no run is there to do it
     main.cmdFlurn.enable(true);
     main.cmdHelp.enable(true);
     main.photo_choice_cancelled = false;

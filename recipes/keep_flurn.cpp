@@ -42,7 +42,8 @@ bool may_replace(const frmMain & main, const std::string & file)
     return !file_exists(file) || main.desk.ask({.title = "",
                                                 .text = "You already have a flurn named:  \r\n" + file +
                                                         "\r\n\r\nDo you want to overwrite that file?",
-                                                .offered = answers::yes_no}) == answer::yes;
+                                                .offered = answers::yes_no,
+                                                .on_enter = answer::no}) == answer::yes;
 }
 
 }  // namespace

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "designs/catalogue/design_lines.h"
 #include "session/frmMain.h"
 #include "session/undo/moment.h"
+#include "support/files/paths.h"
 
+#include <algorithm>
 #include <limits>
+#include <string>
 #include <tuple>
 
 /// What the finishing stage holds beside its controls, under the names that a recipe has for it: all that
@@ -44,39 +48,20 @@ void visit_collage(collage & of, const Visit & visit)
     visit("collage.frame_set_name", of.frame_set_name);
 }
 
+// "design.turn_bg" for "Turn BG=".
+inline std::string setting_name_of(const design_key & key)
+{
+    std::string name = "design." + lower_case(key.text.substr(0, key.text.size() - 1));
+    std::ranges::replace(name, ' ', '_');
+    return name;
+}
+
 template <typename Visit>
 void visit_record(design_record & of, const Visit & visit)
 {
     visit("design.section", of.section);
-    visit("design.name", of.name);
-    visit("design.file", of.file);
-    visit("design.style", of.style);
-    visit("design.design", of.design);
-    visit("design.background", of.background);
-    visit("design.ratio", of.ratio);
-    visit("design.distort", of.distort);
-    visit("design.sample", of.sample);
-    visit("design.help_tip", of.help_tip);
-    visit("design.description", of.description);
-    visit("design.system", of.system);
-    visit("design.count", of.count);
-    visit("design.turn_bg", of.turn_bg);
-    visit("design.bg_image", of.bg_image);
-    visit("design.bg_color", of.bg_color);
-    visit("design.match", of.match);
-    visit("design.resize", of.resize);
-    visit("design.caption", of.caption);
-    visit("design.frames", of.frames);
-    visit("design.shadows", of.shadows);
-    visit("design.block", of.block);
-    visit("design.soft_edge", of.soft_edge);
-    visit("design.caption_color", of.caption_color);
-    visit("design.caption_clear", of.caption_clear);
-    visit("design.frame_color", of.frame_color);
-    visit("design.shadow_color", of.shadow_color);
-    visit("design.flip", of.flip);
-    visit("design.borders", of.borders);
-    visit("design.quick_shape", of.quick_shape);
+    for (const design_key & key : design_keys())
+        visit(setting_name_of(key).c_str(), of.*key.value);
 }
 
 template <typename Visit>

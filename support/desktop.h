@@ -18,6 +18,7 @@ struct question {
     std::string title;
     std::string text;
     answers offered = answers::yes_no;
+    answer on_enter = answer::yes;  ///< where the keyboard stands: at no where a yes takes something away
 };
 
 struct file_request {

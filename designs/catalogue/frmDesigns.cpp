@@ -14,7 +14,8 @@ void cmdDelete_click(windows & all)
     const listed_design design = window.designs.at(static_cast<std::size_t>(index));
     if (all.main.desk.ask({.title = "D e l e t e   D e s i g n",
                            .text = "Deleting the " + design.shown + " design... Ok?",
-                           .offered = answers::yes_no}) != answer::yes)
+                           .offered = answers::yes_no,
+                           .on_enter = answer::no}) != answer::yes)
         return;
     if (!delete_design(all.main, design)) {
         all.main.desk.message("Didn't find the design to be deleted.  Might be a problem?");

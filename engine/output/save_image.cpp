@@ -17,7 +17,8 @@ bool may_write(frmMain & main)
             main.desk.ask({.title = "",
                            .text = "You already have an image named:  \r\n" + main.save_image_path +
                                    "\r\n\r\nDo you want to overwrite that file?",
-                           .offered = answers::yes_no_cancel});
+                           .offered = answers::yes_no_cancel,
+                           .on_enter = answer::no});
         if (given == answer::yes)
             return true;
         if (given == answer::cancel)

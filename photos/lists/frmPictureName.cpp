@@ -20,7 +20,8 @@ bool keeps_old_list(windows & all, const std::string & path)
     return file_exists(path) &&
            all.main.desk.ask({.title = "",
                               .text = "Do you want to overwrite the existing \r\n" + path + " file?",
-                              .offered = answers::yes_no_cancel}) == answer::no;
+                              .offered = answers::yes_no_cancel,
+                              .on_enter = answer::no}) == answer::no;
 }
 
 // The list that is overwritten goes when the new one is written, not before: it survives a disk that is full.

@@ -17,7 +17,7 @@
 #include <gtest/gtest.h>
 
 // One order of the buttons in all windows: help first, then what else the window does, then the way out, and
-// last, at the right edge, what Enter presses.
+// last, at the right edge, what Enter presses; a question whose yes takes something away stands on its no.
 
 namespace {
 
@@ -181,6 +181,22 @@ TEST(buttons, of_questions_and_messages_stand_in_that_order_too)
     });
     EXPECT_EQ(desk.choose_color(0xFF), std::nullopt);
     EXPECT_EQ(order, (faults{"Cancel", "Ok"}));
+}
+
+TEST(buttons, of_a_question_stand_on_yes_unless_that_would_take_something_away)
+{
+    qt_desktop desk;
+    for (const answers offered : {answers::yes_no, answers::yes_no_cancel})
+        for (const answer on_enter : {answer::yes, answer::no}) {
+            when_asked<QMessageBox>([&](QMessageBox & box) {
+                const auto buttons = box.findChildren<QPushButton *>();
+                EXPECT_EQ(std::ranges::count_if(buttons, &QPushButton::isDefault), 1);
+                EXPECT_TRUE(QTest::qWaitFor([&box] { return box.focusWidget() != nullptr; }));
+                QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+            });
+            EXPECT_EQ(desk.ask({.title = "File", .text = "?", .offered = offered, .on_enter = on_enter}),
+                      on_enter);
+        }
 }
 
 // Where the system's texts don't fix it.

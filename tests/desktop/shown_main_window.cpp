@@ -2,8 +2,10 @@
 
 #include "desktop/binder/binder.h"
 #include "desktop/binder/windows_made.h"
+#include "session/connect_all.h"
 
 #include <QApplication>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -24,4 +26,25 @@ void shown_main_window::in_each_stage(const std::vector<shape> & shapes,
             QApplication::processEvents();
             look_at(stage);
         }
+}
+
+finishing_window::finishing_window()
+{
+    all.main.data_folder = folder.path();
+    all.main.install_folder = folder.path();
+    connect_all(all);
+}
+
+void finishing_window::bind_at(look stage)
+{
+    window = make_window("frmMain");
+    bind(all.main, *window, {});
+    bring_to(all.main, stage, shape::portrait);
+}
+
+void finishing_window::show_active() const
+{
+    window->show();
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "../scripted_desktop.h"
+#include "session/windows.h"
 #include "tests/desktop/stages.h"
+#include "tests/temporary_folder.h"
 
 #include <QWidget>
 
@@ -17,5 +19,19 @@ struct shown_main_window {
 
     scripted_desktop desk;
     frmMain main;
+    std::unique_ptr<QWidget> window;
+};
+
+/// The main window with all its handlers.
+struct finishing_window {
+    finishing_window();
+    /// Binds it and brings it to a finishing stage of an upright poster.
+    void bind_at(look stage);
+    /// Shows it with the keyboard in it.
+    void show_active() const;
+
+    temporary_folder folder;
+    scripted_desktop desk;
+    windows all{desk, seeded_random(7)};
     std::unique_ptr<QWidget> window;
 };

@@ -1,10 +1,5 @@
-#include "../scripted_desktop.h"
-#include "desktop/binder/binder.h"
-#include "desktop/binder/windows_made.h"
-#include "session/connect_all.h"
 #include "session/window_state.h"
-#include "tests/desktop/stages.h"
-#include "tests/temporary_folder.h"
+#include "tests/desktop/shown_main_window.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -17,23 +12,16 @@
 namespace {
 
 // The main window in its finishing stage with all its handlers; the preview is off.
-struct typed_lists : testing::Test {
+struct typed_lists : testing::Test, finishing_window {
     typed_lists()
     {
-        all.main.data_folder = folder.path();
-        all.main.install_folder = folder.path();
-        connect_all(all);
-        window = make_window("frmMain");
-        bind(all.main, *window, {});
-        bring_to(all.main, look::quick_scatter, shape::portrait);
+        bind_at(look::quick_scatter);
         show_menus(all.main, false);
         {
             const updating quiet(all.main);
             all.main.optSample.select();
         }
-        window->show();
-        window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        show_active();
     }
 
     QComboBox & emptied(const char * name)
@@ -45,11 +33,6 @@ struct typed_lists : testing::Test {
             QTest::keyClick(&list, Qt::Key_Backspace);
         return list;
     }
-
-    temporary_folder folder;
-    scripted_desktop desk;
-    windows all{desk, seeded_random(7)};
-    std::unique_ptr<QWidget> window;
 };
 
 TEST_F(typed_lists, take_the_digits_that_follow_the_emptying_as_they_are)

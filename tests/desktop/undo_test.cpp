@@ -1,11 +1,6 @@
-#include "../scripted_desktop.h"
-#include "desktop/binder/binder.h"
-#include "desktop/binder/windows_made.h"
-#include "session/connect_all.h"
 #include "session/undo/keep_history.h"
 #include "session/window_state.h"
-#include "tests/desktop/stages.h"
-#include "tests/temporary_folder.h"
+#include "tests/desktop/shown_main_window.h"
 
 #include <QAction>
 #include <QApplication>
@@ -19,24 +14,22 @@
 
 namespace {
 
+// It outlives the window.
+struct held_history {
+    change_history history;
+};
+
 // The main window in its finishing stage, with the preview off: what is looked at are the keys.
-struct undo_test : testing::Test {
+struct undo_test : testing::Test, held_history, finishing_window {
     undo_test()
     {
-        all.main.data_folder = folder.path();
-        all.main.install_folder = folder.path();
-        connect_all(all);
         keep_history(all.main, history);
-        window = make_window("frmMain");
-        bind(all.main, *window, {});
-        bring_to(all.main, look::quick_block, shape::portrait);
+        bind_at(look::quick_block);
         all.main.optNone.select();
         all.main.txtCaption.set_text("");
         show_menus(all.main, false);
         all.main.optTiny.select();  // where the history begins
-        window->show();
-        window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        show_active();
     }
 
     template <typename Widget>
@@ -50,12 +43,6 @@ struct undo_test : testing::Test {
         QWidget * const focus = QApplication::focusWidget();
         QTest::keySequence(focus ? focus : window.get(), keys);
     }
-
-    temporary_folder folder;
-    scripted_desktop desk;
-    change_history history;
-    windows all{desk, seeded_random(7)};
-    std::unique_ptr<QWidget> window;
 };
 
 TEST_F(undo_test, the_keys_go_back_and_forth_in_the_whole_window)

@@ -17,6 +17,15 @@
 
 namespace {
 
+struct told_fault {
+    std::string reason, remedy;
+};
+
+const told_fault too_long{"it is too long for its width", "Cut what is too long in two."};
+const told_fault unreadable{"it can't be read as a JPEG photo", "Save what can't be read as a JPEG again."};
+const told_fault cut_short{"it was cut short or is still being copied",
+                           "Copy what was cut short to its place again, or wait until it is there."};
+
 struct spoiled_run : collage_fixture {
     spoiled_run() { use_template(quarters()); }
 
@@ -34,11 +43,11 @@ struct spoiled_run : collage_fixture {
     // The window of the finished collage would not be expected.
     void run_without_poster() { make_flurn(main, make_quick_template); }
     std::string seen_run() { return sampled(full_run(), 500, 1000); }
-    void expect_too_long(const std::string & photo, const std::string & before = {})
+    // The one box, and what else may stand in it.
+    void expect_left_out(const std::string & photo, const told_fault & fault, const std::string & before = {})
     {
-        EXPECT_EQ(desk.next_message(), before + "This photo was left out:\r\n" + photo +
-                                           ": it is too long for its width\r\n\r\nCut what is too long in "
-                                           "two.\r\nThen choose your photos again.");
+        EXPECT_EQ(desk.next_message(), before + "This photo was left out:\r\n" + photo + ": " + fault.reason +
+                                           "\r\n\r\n" + fault.remedy + "\r\nThen choose your photos again.");
     }
 };
 
@@ -61,7 +70,7 @@ TEST(left_out_photos, a_strip_gives_its_place_to_the_next_photo)
             if (matched)
                 EXPECT_TRUE(run.main.left_out.photos.empty()) << "no place lies as the strip does";
             else
-                run.expect_too_long(strip);
+                run.expect_left_out(strip, too_long);
             expect_usable(run.main);
         }
 }
@@ -74,7 +83,7 @@ TEST(left_out_photos, a_strip_gives_its_tilted_place_to_the_next_photo)
     const std::string strip = run.add_strip();
     run.add_photo(green);
     run.full_run();
-    run.expect_too_long(strip);
+    run.expect_left_out(strip, too_long);
     EXPECT_TRUE(run.main.left_out.in_this_run.contains(strip));
     EXPECT_FALSE(run.main.left_out.in_this_run.contains(photo_path(run.main.table[1])));
 }
@@ -89,7 +98,7 @@ TEST(left_out_photos, a_strip_gives_its_cell_to_the_next_photo)
         run.add_photo(color);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     EXPECT_EQ(run.seen_run(), "rg\nby\nby\n");
-    run.expect_too_long(strip);
+    run.expect_left_out(strip, too_long);
 }
 
 TEST(left_out_photos, a_matched_grid_whose_only_fitting_photo_is_a_strip_goes_on_without_matching)
@@ -103,7 +112,7 @@ TEST(left_out_photos, a_matched_grid_whose_only_fitting_photo_is_a_strip_goes_on
     run.add_photo(blue, 30, 20);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     EXPECT_EQ(run.seen_run(), "rb\nrb\nrb\n");
-    run.expect_too_long(strip, "You don't have any photos that match this design.\r\n\r\n");
+    run.expect_left_out(strip, too_long, "You don't have any photos that match this design.\r\n\r\n");
     EXPECT_TRUE(run.desk.messages.empty()) << "one cause, one box";
 }
 
@@ -187,10 +196,7 @@ TEST(left_out_photos, are_named_by_the_first_preview_and_not_again)
     run.use_thumbnails();
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     gen_sample(run.main);
-    EXPECT_EQ(run.desk.next_message(),
-              "This photo was left out:\r\n" + text +
-                  ": it can't be read as a JPEG photo\r\n\r\nSave what can't be read as a JPEG "
-                  "again.\r\nThen choose your photos again.");
+    run.expect_left_out(text, unreadable);
     gen_sample(run.main);
     EXPECT_EQ(run.seen_run(), "rg\nrg\nrg\n");
     EXPECT_TRUE(run.desk.messages.empty());
@@ -258,10 +264,7 @@ TEST(left_out_photos, one_that_was_cut_short_since_it_was_counted_is_named)
             write_file(cut, whole.substr(0, whole.size() / 2));
             run.main.table.reshuffle_choice = photo_table::reshuffle::no;
             EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nbr\n");
-            EXPECT_EQ(run.desk.next_message(),
-                      "This photo was left out:\r\n" + cut +
-                          ": it was cut short or is still being copied\r\n\r\nCopy what was cut short to "
-                          "its place again, or wait until it is there.\r\nThen choose your photos again.");
+            run.expect_left_out(cut, cut_short);
         }
 }
 
@@ -288,10 +291,7 @@ TEST(left_out_photos, one_that_is_still_being_copied_is_named_once_and_shown_whe
     run.add_path(coming);
     run.main.table.reshuffle_choice = photo_table::reshuffle::no;
     count_with_progress(run.main);
-    EXPECT_EQ(run.desk.next_message(),
-              "This photo was left out:\r\n" + coming +
-                  ": it was cut short or is still being copied\r\n\r\nCopy what was cut short to its place "
-                  "again, or wait until it is there.\r\nThen choose your photos again.");
+    run.expect_left_out(coming, cut_short);
     EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nbr\n") << "as it was when the photos were counted";
     run.home.write("photos/d.jpg", whole);
     EXPECT_EQ(run.seen_run().substr(0, 6), "rg\nby\n");

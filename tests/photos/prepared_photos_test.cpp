@@ -55,6 +55,7 @@ TEST_F(prepared_photos_test, asks_once_with_the_numbers_of_the_folder)
     ASSERT_EQ(desk.questions.size(), 1U);
     EXPECT_EQ(desk.questions[0].text,
               "3 of the 4 photos are turned or in another format. Prepare copies that fit?");
+    EXPECT_EQ(desk.questions[0].on_enter, answer::yes);
 }
 
 TEST_F(prepared_photos_test, speaks_of_one_photo_as_one)

@@ -158,6 +158,29 @@ TEST(spacing, the_list_is_drawn_from_end_to_end)
     EXPECT_TRUE(draws_anew(session, [&] { main.cmbSpace.choose(24); }));
 }
 
+TEST(spacing, of_the_end_of_the_list_makes_posters_of_many_photos_too)
+{
+    quick_session session;
+    for (const char * name : {"quick_block.ini", "block_templates"})
+        session.folder.write(std::string("install/") + name, supplied(name));
+    session.desk.keeps_messages = true;
+    session.start(45, 15);
+    frmMain & main = session.main;
+    int posters_made = 0;
+    for (option_button * poster : main.orientation_options)
+        for (option_button * style : {&main.optBlock, &main.optShapes}) {
+            poster->select();
+            style->select();
+            main.cmbSpace.choose(0);
+            EXPECT_TRUE(draws_anew(session, [&] { main.cmbSpace.choose(24); })) << style->name();
+            session.desk.on_modal<frmImage>([&](frmImage &) { ++posters_made; });
+            main.cmdFlurn.click();
+        }
+    EXPECT_EQ(posters_made, 6);
+    for (const std::string & each : session.desk.messages)
+        EXPECT_EQ(each.find("CAUGHT AN ERROR"), std::string::npos) << each;
+}
+
 TEST(spacing, beyond_the_list_is_cut_into_its_range)
 {
     quick_session session;

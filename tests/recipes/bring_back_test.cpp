@@ -102,6 +102,7 @@ TEST(bring_back, shows_the_preview_and_makes_the_poster_of_then_byte_by_byte)
         EXPECT_TRUE(again.preview() == preview);
         EXPECT_EQ(differences(sight_of(again.main), seen), "");
         EXPECT_FALSE(again.main.menus_shown);
+        EXPECT_FALSE(again.main.txtDoing.visible()) << "nothing is being done";
         EXPECT_TRUE(again.make() == poster);
     }
 }
@@ -174,6 +175,21 @@ TEST(bring_back, keeps_every_control_and_setting_by_value)
     EXPECT_EQ(then.templates, kept.templates);
     EXPECT_EQ(then.photos, kept.photos);
     EXPECT_EQ(then.chance, kept.chance);
+}
+
+// Recipes of earlier programs have these names.
+TEST(bring_back, knows_the_fields_of_a_design_by_their_names)
+{
+    flurn_session session;
+    session.begin();
+    const recipe held = recipe_of(session.main, "now");
+    for (const char * name :
+         {"section",       "name",        "file",         "style",    "design",      "background",
+          "ratio",         "distort",     "sample",       "help_tip", "description", "system",
+          "count",         "turn_bg",     "bg_image",     "bg_color", "match",       "resize",
+          "caption",       "frames",      "shadows",      "block",    "soft_edge",   "caption_color",
+          "caption_clear", "frame_color", "shadow_color", "flip",     "borders",     "quick_shape"})
+        EXPECT_NE(setting_in(held, std::string("design.") + name), nullptr) << name;
 }
 
 TEST(bring_back, gives_back_what_the_style_had_forced_with_the_next_one)

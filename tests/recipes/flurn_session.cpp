@@ -81,3 +81,8 @@ std::string made_in(frmMain & main, scripted_desktop & desk,
     main.cmdFlurn.click();
     return bytes;
 }
+
+std::string laid_out_anew(const std::string & news)
+{
+    return news + "\r\n\r\nThe flurn is laid out with the photos as they are now.";
+}

@@ -35,6 +35,9 @@ struct started_again {
     frmMain & main;
 };
 
+/// What is told once the photos of a flurn are not all as they were then: the news, and what was done.
+std::string laid_out_anew(const std::string & news);
+
 /// Clicks "Flurn" and gives the bytes of the picture that the image window shows; `while_shown` plays its
 /// user.
 std::string made_in(frmMain & main, scripted_desktop & desk,

@@ -137,6 +137,7 @@ TEST(keep_flurn, asks_before_it_replaces_a_recipe)
     session.desk.will_answer(answer::no);
     made_in(session.main, session.desk, [&](frmImage &) { save_in(session, path, true); });
     EXPECT_EQ(read_file(beside), "another's");
+    EXPECT_EQ(session.desk.questions.back().on_enter, answer::no);
     delete_file(path);
     session.desk.will_answer(answer::yes);
     made_in(session.main, session.desk, [&](frmImage &) { save_in(session, path, true); });

@@ -160,8 +160,7 @@ TEST(kept_copies, of_an_original_that_was_changed_are_prepared_anew_and_named)
     write_file(session.phone[0], on_its_side(60));
     session.again->open(session.file);
     EXPECT_EQ(session.again->desk.next_message(),
-              "These photos have changed since the flurn was made:\r\n" + session.phone[0] +
-                  "\r\n\r\nThe flurn is laid out with the photos as they are now.");
+              laid_out_anew("These photos have changed since the flurn was made:\r\n" + session.phone[0]));
     EXPECT_EQ(session.again->main.table.last_photo, 3);
 }
 
@@ -172,8 +171,8 @@ TEST(kept_copies, that_can_not_be_made_any_more_are_named_with_the_reason)
     write_file(session.phone[0], "no picture any more");
     session.again->open(session.file);
     EXPECT_EQ(session.again->desk.next_message(),
-              "No copy can be made any more of these photos; they were left out:\r\n" + session.phone[0] +
-                  ": it is no picture\r\n\r\nThe flurn is laid out with the photos as they are now.");
+              laid_out_anew("No copy can be made any more of these photos; they were left out:\r\n" +
+                            session.phone[0] + ": it is no picture"));
     EXPECT_EQ(session.again->main.table.last_photo, 2);
 }
 

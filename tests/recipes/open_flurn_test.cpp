@@ -39,9 +39,10 @@ TEST(open_flurn, names_once_what_is_gone_and_lays_out_the_rest)
     EXPECT_EQ(session.again->desk.questions.front().text,
               "1 of the 4 photos of this flurn is not where it was:\r\n" + session.photos[1] +
                   "\r\n\r\nDo you want to look for it in another folder?");
+    EXPECT_EQ(session.again->desk.questions.front().on_enter, answer::yes) << "a look takes nothing away";
     EXPECT_EQ(session.again->desk.next_message(),
-              "These photos of the flurn are not there any more and were left out:\r\n" + session.photos[1] +
-                  "\r\n\r\nThe flurn is laid out with the photos as they are now.");
+              laid_out_anew("These photos of the flurn are not there any more and were left out:\r\n" +
+                            session.photos[1]));
     EXPECT_FALSE(session.again->main.menus_shown);
     EXPECT_EQ(session.again->main.table.last_photo, 2);
     EXPECT_FALSE(session.again->make().empty());
@@ -54,8 +55,7 @@ TEST(open_flurn, names_what_has_changed)
     delete_file(thumbnail_path(session.photos[0]));
     session.again->open(session.file);
     EXPECT_EQ(session.again->desk.next_message(),
-              "These photos have changed since the flurn was made:\r\n" + session.photos[0] +
-                  "\r\n\r\nThe flurn is laid out with the photos as they are now.");
+              laid_out_anew("These photos have changed since the flurn was made:\r\n" + session.photos[0]));
     EXPECT_EQ(session.again->main.table.last_photo, 3);
 }
 

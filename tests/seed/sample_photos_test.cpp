@@ -86,9 +86,9 @@ std::string contents(const std::filesystem::path & path)
 
 }  // namespace
 
-TEST(sample_photos, are_the_rendered_ones_where_there_are)
+TEST(sample_photos, are_the_rendered_ones)
 {
-    int rendered = 0;
+    std::size_t rendered = 0;
     for (const auto & entry : std::filesystem::directory_iterator(SEED_FOLDER "/photos")) {
         const auto built = std::filesystem::path(SAMPLE_PHOTOS) / entry.path().filename();
         ASSERT_TRUE(std::filesystem::exists(built)) << entry.path() << " is no sample photo";
@@ -96,7 +96,8 @@ TEST(sample_photos, are_the_rendered_ones_where_there_are)
         EXPECT_LE(entry.file_size(), 400'000u) << entry.path();
         ++rendered;
     }
-    EXPECT_GE(rendered, 1);
+    EXPECT_EQ(rendered, 48u);
+    EXPECT_EQ(photos().size(), rendered);
 }
 
 TEST(sample_photos, are_many_and_half_of_them_stand_upright)

@@ -1,4 +1,4 @@
-"""A beach in the afternoon: a parasol, a towel, a bucket, footprints towards the water."""
+"""A beach in the afternoon: a parasol, a towel, a bucket, footprints to the water."""
 import math
 
 import numpy
@@ -33,8 +33,7 @@ def walked(x, y):
         middle = start + drift * y + 0.09 * numpy.where(numpy.floor(step) % 2 == 0, 1, -1)
         along = (step - numpy.floor(step) - 0.5) * 0.62
         print_ = ((x - middle) / 0.055) ** 2 + (along / 0.13) ** 2
-        dry = numpy.clip(8.5 - y, 0, 1)  # the wet sand has closed over them
-        z = z + dry * (0.012 * numpy.exp(-((print_ - 2.2) / 0.9) ** 2) - 0.035 * numpy.exp(-print_ ** 2))
+        z = z - 0.035 * numpy.exp(-print_ ** 2) + 0.012 * numpy.exp(-((print_ - 2.2) / 0.9) ** 2)
     return z
 
 

@@ -133,4 +133,4 @@ def build():
     m.window_light((-0.75, 0.55, 0.6), (0, 0, 0), 0.5, 26)
     m.window_light((0.8, -0.2, 0.7), (0, 0, 0), 0.8, 2.0, (0.9, 0.95, 1.0))
     camera((0.012, -0.46, 0.38), (0.004, -0.006, 0.018), 72, (-0.01, -0.07, 0.035), 4.5)
-    return Roll(samples=14, exposure=0.4)
+    return Roll(samples=16, exposure=0.4)

@@ -161,4 +161,4 @@ def build():
     m.window_light((-0.75, 0.55, 0.65), (0.05, 0, 0), 0.7, 28)
     m.window_light((0.9, -0.3, 0.8), (0.1, 0, 0), 1.0, 3.0, (0.85, 0.9, 1.0))
     camera((0.06, -0.47, 0.36), (0.082, -0.002, 0.02), 58, (0.0, -0.02, 0.06), 5.0)
-    return Roll(samples=14, exposure=0.1)
+    return Roll(samples=26, exposure=0.1)

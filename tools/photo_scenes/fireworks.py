@@ -60,7 +60,11 @@ def ribbon(name, ways, age, width, material):
 def shell(chance, middle, size, tones, count=150, life=(0.12, 1.0), droop=0.16, power=3.4):
     """One burst, and the faint smoke that it lights."""
     ways, age = paths(chance, middle, size, count, life, droop)
-    ribbon("shell", ways, age, 0.24, spark("spark", tones, power))
+    burning = spark("spark", tones, power)
+    ribbon("shell", ways, age, 0.12, burning)
+    late = chance.random(count) < 0.5  # these crackle as they die
+    embers = numpy.repeat(ways[late, -6:].reshape(-1, 1, 3), 2, axis=1) + chance.normal(0, 0.35, (6 * late.sum(), 2, 3))
+    ribbon("embers", embers, numpy.array([0.3, 0.5]), 0.16, burning)
     m.lamp("POINT", middle, (0, 0, 0), 6e5, m.rgb(tones[1][1]), shadow_soft_size=10)
 
 
@@ -69,7 +73,7 @@ def rising(foot, top):
     t = numpy.linspace(0, 1, 26)
     way = numpy.array(foot) + (numpy.array(top) - numpy.array(foot)) * (1 - (1 - t) ** 1.6)[:, None]
     way[:, 0] += 1.2 * numpy.sin(5 * t + foot[0])
-    ribbon("track", way[None], 1 - t * 0.8, 0.22, spark("track", [(0.0, "ffd9a0"), (1.0, "c06a28")], 0.7))
+    ribbon("track", way[None], 1 - t * 0.8, 0.14, spark("track", [(0.0, "ffd9a0"), (1.0, "c06a28")], 0.9))
 
 
 def smoke():
@@ -122,12 +126,12 @@ def build():
     blue = [(0.0, "f0f4ff"), (0.2, "6a9aff"), (0.8, "3a5ae0")]
     green = [(0.0, "f4fff0"), (0.2, "6ae08a"), (0.8, "2aa050")]
     violet = [(0.0, "fff0ff"), (0.2, "e070e8"), (0.8, "9a3ac0")]
-    shell(chance, (-10, 400, 196), 62, gold, 190, (0.10, 1.25), 0.20, 3.0)
-    shell(chance, (-62, 410, 126), 37, red, 130)
-    shell(chance, (52, 405, 140), 40, blue, 140)
-    shell(chance, (-60, 420, 222), 32, violet, 110)
-    shell(chance, (66, 415, 226), 30, green, 110)
-    shell(chance, (12, 395, 104), 26, [(0.0, "ffffff"), (0.3, "fff0dc"), (0.8, "ffd0a0")], 100)
+    shell(chance, (-10, 400, 196), 70, gold, 420, (0.04, 1.35), 0.24, 6.5)
+    shell(chance, (-60, 410, 128), 41, red, 300, (0.03, 1.0), 0.15, 7.5)
+    shell(chance, (54, 405, 144), 44, blue, 320, (0.25, 1.15), 0.17, 8.0)
+    shell(chance, (-66, 420, 226), 36, violet, 260, (0.5, 1.3), 0.22, 5.0)
+    shell(chance, (70, 415, 232), 30, green, 240, (0.02, 0.75), 0.10, 7.0)
+    shell(chance, (14, 395, 100), 24, [(0.0, "ffffff"), (0.3, "fff0dc"), (0.8, "ffd0a0")], 260, (0.02, 0.9), 0.16, 6.0)
     for foot, top in (((-8, 400, 6), (-10, 400, 194)), ((-40, 410, 6), (-62, 410, 124)), ((30, 405, 6), (52, 405, 138)),
                       ((5, 395, 6), (12, 395, 102))):
         rising(foot, top)
@@ -135,4 +139,4 @@ def build():
     town(dice)
     s.sheet("river", (900, 700), (2, 2), lambda x, y: 0.0, water()).location.y = 300
     camera((0, 0, 9), (0, 400, 108), 42)
-    return Roll(samples=12, exposure=0.4, glow=0.10)
+    return Roll(samples=12, exposure=0.4, glow=0.15)

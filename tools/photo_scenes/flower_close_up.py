@@ -103,5 +103,5 @@ def build():
     mesh_object("ground", [(-3, -1, -0.6), (3, -1, -0.6), (3, 5, -0.6), (-3, 5, -0.6)], [(0, 1, 2, 3)], plain("ground", (0.03, 0.06, 0.012)))
     mesh_object("hedge", [(-3, 1.6, -1), (3, 1.6, -1), (3, 1.6, 0.75), (-3, 1.6, 0.75)], [(0, 1, 2, 3)], plain("hedge", (0.02, 0.055, 0.014)))
     camera((0.004, -0.31, head[2] + 0.08), (0.004, 0, head[2] - 0.022), lens=70, focus=0.312, f_stop=6.3)
-    daylight(38, -62, strength=0.15, dust=0.6, sun_size=1.5)
-    return Roll(samples=14, bounces=4, exposure=0.35, saturation=1.12, glow=0.06)
+    daylight(40, -108, strength=0.13, dust=0.6, sun_size=1.5)
+    return Roll(samples=16, bounces=4, exposure=0.15, saturation=1.12, glow=0.06)

@@ -71,9 +71,9 @@ def wood(name, dark, middle, light, rough=0.45, scale=1.0):
     where = nodes.vector("ADD", stretched(nodes, (0.35 * scale, 3 * scale, 3 * scale)),
                          nodes.add("ShaderNodeCombineXYZ", apart, apart, apart))
     rings = nodes.noise(where, 2.2, detail=3.0, distortion=1.2)
-    lines = waves(nodes, where, 1.3, 7.0, "Y", 3.0)
+    lines = nodes.noise(nodes.vector("MULTIPLY", where, (0.55, 7.0, 7.0)), 1.6, detail=9.0, roughness=0.68, distortion=0.35)
     pores = nodes.noise(nodes.vector("MULTIPLY", where, (2, 26, 26)), 3.0, detail=3.0)
-    tone = nodes.math("ADD", nodes.math("MULTIPLY", rings, 0.62), nodes.math("MULTIPLY", lines, 0.28))
+    tone = nodes.math("ADD", nodes.math("MULTIPLY", rings, 0.40), nodes.math("MULTIPLY", lines, 0.55))
     tone = nodes.math("MULTIPLY_ADD", nodes.math("SUBTRACT", pores, 0.5), 0.55, tone)
     tone = nodes.math("MULTIPLY_ADD", nodes.math("SUBTRACT", nodes.chance(), 0.5), 0.22, tone)
     feed(nodes, shader, Base_Color=ramp(nodes, tone, (0.18, dark), (0.45, middle), (0.78, light)),

@@ -65,10 +65,24 @@ def walker():
     coat(made, cloth, 0.55)
 
 
+def shop_window(tone, power):
+    """A lit window full of goods, which the lens melts into spots; brighter above, where the lamps are."""
+    made, nodes = m.material("shop")
+    where = nodes.place()
+    goods = nodes.noise(m.stretched(nodes, (1, 1.6, 1.9)), 1.3, detail=4.0, distortion=0.6)
+    lamps = nodes.rise(m.voronoi(nodes, where, 0.9), 0.32, 0.08)
+    up = nodes.add("ShaderNodeSeparateXYZ", where).outputs[2]
+    level = nodes.math("MULTIPLY", nodes.math("ADD", m.ramp(nodes, goods, (0.36, 0.06), (0.62, 1.0)), nodes.math("MULTIPLY", lamps, 3.0)), nodes.rise(up, -1.4, 0.9))
+    colour = nodes.mix(nodes.rise(nodes.noise(where, 0.8), 0.45, 0.65), m.rgb(tone), m.rgb("ff8a4a"))
+    m.no_lamp(nodes)
+    m.surface(nodes, nodes.add("ShaderNodeEmission", colour, nodes.math("MULTIPLY", level, power)))
+    return made
+
+
 def street(dice):
     """House fronts on both sides with shop windows, kerbs, parked cars, lamps that shrink into the distance."""
     walls = [facade("front", tone, i) for i, tone in enumerate(("7a6e62", "5f646e", "84705e"))]
-    shops = [m.glow("shop", tone, power) for tone, power in (("ffc477", 3.2), ("ffe2b8", 3.6), ("7fc0ff", 2.2),
+    shops = [shop_window(tone, power) for tone, power in (("ffc477", 3.2), ("ffe2b8", 3.6), ("7fc0ff", 2.2),
                                                              ("ff8f5a", 2.4), ("ffd28a", 3.0))]
     signs = [m.glow("sign", tone, 9) for tone in ("ff3a4a", "46c8ff", "7aff9a", "ffcf3a", "ff6ad0")]
     kerb = m.plain("kerb", "5a5855", 0.35)

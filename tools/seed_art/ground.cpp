@@ -1,6 +1,6 @@
 #include "ground.h"
 
-#include "../sample_photos/noise.h"
+#include "noise.h"
 #include "textures.h"
 
 #include <QFile>

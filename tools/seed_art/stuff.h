@@ -1,6 +1,6 @@
 #pragma once
-#include "../sample_photos/canvas.h"
-#include "../sample_photos/noise.h"
+#include "colour.h"
+#include "noise.h"
 
 #include <QImage>
 #include <QMap>

@@ -55,6 +55,7 @@ TEST(edit_designs, deletes_the_section_and_its_files)
     session.erase("One");
     EXPECT_EQ(session.desk.questions[0].title, "D e l e t e   D e s i g n");
     EXPECT_EQ(session.desk.questions[0].text, "Deleting the One design... Ok?");
+    EXPECT_EQ(session.desk.questions[0].on_enter, answer::no) << "it would be gone";
     EXPECT_EQ(session.read("designs.ini"),
               "[Design001]\r\nName=Low\r\nSystem=No\r\n[Design510]\r\nName=Supplied\r\nSystem=Yes\r\n"
               "[Design601]\r\nName=Two\r\nFile=saved601\r\nSample=not_yet.jpg\r\n"

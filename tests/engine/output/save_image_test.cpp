@@ -107,6 +107,7 @@ TEST_F(save_test, yes_overwrites_the_file_that_is_there)
     EXPECT_EQ(session.desk.questions.front().text, "You already have an image named:  \r\n" + target +
                                                        "\r\n\r\nDo you want to overwrite that file?");
     EXPECT_EQ(session.desk.questions.front().offered, answers::yes_no_cancel);
+    EXPECT_EQ(session.desk.questions.front().on_enter, answer::no);
     EXPECT_EQ(jpeg_size(target)->height, 45);
 }
 

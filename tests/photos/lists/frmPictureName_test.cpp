@@ -72,6 +72,7 @@ TEST(frmPictureName, no_to_overwriting_stays_and_yes_and_even_cancel_go_on)
         EXPECT_EQ(session.desk.questions.front().text,
                   "Do you want to overwrite the existing \r\n" + path + " file?");
         EXPECT_EQ(session.desk.questions.front().offered, answers::yes_no_cancel);
+        EXPECT_EQ(session.desk.questions.front().on_enter, answer::no);
     }
 }
 
