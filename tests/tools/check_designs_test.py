@@ -264,6 +264,9 @@ class CheckDesigns(unittest.TestCase):
     def test_a_fixed_shadow_unlike_the_frame(self):
         self.assert_one("designs.ini", "BG Image=sky.jpg", "BG Image=sky.jpg\nFrames=10\nShadows=15", "Tilted: a fixed shadow")
 
+    def test_a_fixed_frame_about_a_fixed_picture(self):
+        self.assert_one("designs.ini", "BG Image=sky.jpg", "BG Image=sky.jpg\nFrames=10\nShadows=10", "Tilted: a fixed frame would go round")
+
     def test_a_caption_that_would_be_printed(self):
         self.assert_one("designs.ini", "BG Image=sky.jpg", "BG Image=sky.jpg\nCaption=None", "Tilted: the caption would be printed")
 

@@ -168,8 +168,8 @@ def recipe(size):
 def book_list(size):
     """Cards on a pale shelf, a line below each for what is written on its back."""
     wide, high = size
-    spots = [(220 + 560 * x, 350 + 790 * y, 440, 560) for y in range(3) for x in range(3)] if high > wide else [
-        (205 + 545 * x, 340 + 690 * y, 410, 500) for y in range(2) for x in range(5)]
+    spots = [(190 + 560 * x, 340 + 790 * y, 500, 600) for y in range(3) for x in range(3)] if high > wide else [
+        (165 + 545 * x, 330 + 690 * y, 490, 530) for y in range(2) for x in range(5)]
     lines = "".join(f"M{left},{top + tall + gap}h{across}" for left, top, across, tall in spots for gap in (66, 124))
     return drawing(*size, paper(size, "#efe8da", seed=332) + bands(size, "#4a3226", "#c9a06a") + [path(lines, stroke="#8a7358", stroke_width="5", stroke_opacity="0.6", fill="none")])
 

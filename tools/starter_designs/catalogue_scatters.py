@@ -42,7 +42,7 @@ SCATTERS = [
     design(218, "Bouquet", "Scatter", "Portrait", "A bunch of portraits round a large one",
            "Four portraits like petals above a large one, and four landscapes for leaves.", scatters.bouquet, {**STAYS, **on("bouquet_paper"), "Flip": "No"}),
     design(219, "Pinboard", "Scatter", "Portrait", "Fifteen photos that don't touch",
-           "Fifteen photos on a board of cork, none of them touching another.", scatters.pinboard, {**STAYS, **on("cork_tall")}),
+           "Fifteen photos taped to a board of cork, none of them touching another.", scatters.pinboard, {**STAYS, **on("cork_tall")}),
     design(220, "Garlands", "Scatter", "Portrait", "Four strings of photos",
            "Four strings of lights that sag from edge to edge, with four photos on each.", scatters.garlands, {**STAYS, **on("strung_lights"), "Flip": "No"}),
     design(221, "Windy day", "Scatter", "Portrait", "All photos blown the same way",

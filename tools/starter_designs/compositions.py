@@ -1,4 +1,4 @@
-"""Compositions: one large photo and few small ones, prints that lap over each other, rings, stairs, strips, spreads.
+"""Compositions: one large photo and few small ones, prints that lap over each other, rings, strips, spreads.
 
 No place is longer than four to three, unless it is meant for a panorama, so that each bears an upright photo as well as a wide one,
 and a design takes the photos in their order: none is shown twice while another stays out. Each is there for an upright page and for
@@ -81,17 +81,6 @@ def ring(wide, count, print_size, heroes, lean=0.0, radii=None):
         travelled += length
     many, width, height = heroes
     return found + [centred(middle[0] + (at - (many - 1) / 2) * (width + 40), middle[1], width, height, 0) for at in range(many)]
-
-
-def stairs(wide):
-    """Photos that grow from step to step, each overlapping the one before it by a corner, and one on either side of the flight."""
-    found = []
-    for at in range(4):
-        share = at / 3
-        x, y = (400 + 2060 * share, 540 + 700 * share) if wide else (400 + 1090 * share, 560 + 1680 * share)
-        side = 450 + 370 * share
-        found.append(centred(x, y, side * 1.12, side, 0))
-    return found + (prints((2350, 520, 520, 420, 0), (560, 1420, 560, 460, 0)) if wide else prints((1560, 560, 560, 480, 0), (420, 2330, 560, 500, 0)))
 
 
 def columns_that_hang(wide, counts, drops, gap=44, inset=0):

@@ -46,7 +46,7 @@ def rows_of(size, gap, *rows):
 
 PORTRAIT, LANDSCAPE = (2000, 3000), (3000, 2000)
 T, W = ("T", 440), ("W", 660)
-SMALL_W = ("W", 530)
+SMALL_W = ("W", 680)
 
 
 def frames_tall_nine():

@@ -3,7 +3,7 @@ import math
 
 from starter_designs.cover import scattered
 from starter_designs.justified import askew, lying, standing
-from starter_designs.place import PORTRAIT, centred
+from starter_designs.place import PORTRAIT, centred, taped
 
 TILTS = [tilt for tilt in range(-35, 40, 5) if tilt]
 GENTLE = [-10, -5, 5, 10, -5, 5]
@@ -87,7 +87,7 @@ def pile():
     """Nine large photos, one on the other, all still to be seen."""
     spots = [(560, 560, 1, -15), (1440, 520, 0, 10), (420, 1280, 0, 10), (1560, 1250, 1, -5), (560, 2350, 1, 15), (1420, 2480, 0, -10),
              (1590, 1900, 1, 10), (470, 1860, 1, -10), (1000, 1520, 0, 5)]
-    return [centred(x, y, *((780, 560) if wide else (560, 780)), tilt) for x, y, wide, tilt in spots]
+    return [centred(x, y, *((840, 620) if wide else (620, 840)), tilt) for x, y, wide, tilt in spots]
 
 
 def card_table():
@@ -107,8 +107,8 @@ def big_five():
 
 def four_friends():
     """Two portraits and two landscapes about the middle, like the sails of a mill."""
-    return [centred(*spot) for spot in ((570, 900, 780, 1080, -5), (1430, 720, 840, 600, 5), (1430, 2010, 780, 1080, 5),
-                                        (570, 2210, 840, 600, -5))]
+    return [centred(*spot) for spot in ((560, 930, 800, 1120, -5), (1440, 760, 840, 740, 5), (1440, 2030, 800, 1120, 5),
+                                        (560, 2200, 840, 740, -5))]
 
 
 def confetti():
@@ -153,9 +153,9 @@ def pinboard():
     places = []
     for at in range(15):
         column, line = at % 3, at // 3
-        size = (350, 460) if (column + line) % 2 == 0 else (510, 360)
-        places.append(centred(355 + 645 * column, 500 + 500 * line, *size, tilts[at]))
-    return places
+        size = (385, 470) if (column + line) % 2 == 0 else (550, 385)
+        places.append(centred(345 + 655 * column, 520 + 495 * line, *size, tilts[at]))
+    return taped(places, 150)
 
 
 def garlands():
@@ -211,7 +211,7 @@ def five_cards():
 def on_the_line():
     """Eight photos in two rows, each a little askew."""
     tilts = [-5, 5, -5, 5, 5, -5, 5, -5]
-    return [centred(400 + 733 * (at % 4), 530 + 940 * (at // 4) + (16, -16)[at % 2], *((500, 640), (600, 480))[(at + at // 4) % 2], tilts[at])
+    return [centred(450 + 700 * (at % 4), 540 + 920 * (at // 4) + (16, -16)[at % 2], *((550, 710), (640, 570))[(at + at // 4) % 2], tilts[at])
             for at in range(8)]
 
 

@@ -1,9 +1,9 @@
 """Layouts for the pages of the occasions: one for an upright poster and one for a wide one, neither the other's turn.
 Each leaves the caption its place above and below."""
 from starter_designs.compositions import (bleeding, cards, cascade, column_page, columns_that_hang, corner_hero, field, hero_above, pairs, panes, prints,
-                                          ring, salon, spread, stairs, strips)
+                                          ring, salon, spread, strips)
 from starter_designs.justified import askew, justified, lying, standing
-from starter_designs.place import PORTRAIT, box, roomy, shape
+from starter_designs.place import PORTRAIT, box, TAPES, roomy, shape, taped
 
 
 def within(inset, *rows, wide=False, gap=40):
@@ -12,6 +12,7 @@ def within(inset, *rows, wide=False, gap=40):
     return justified((left, top, right, bottom), gap, rows)
 
 
+CREAM = TAPES[:1]
 PAGES = {
     # Laid by hand: no two alike beside each other in the catalogue.
     "birthday": (cards(False), cards(True)),
@@ -23,13 +24,14 @@ PAGES = {
                       (660, 2300, 860, 700, -5), (1470, 2330, 640, 740, 5)),
                prints((520, 640, 720, 600, -5), (1240, 700, 620, 720, 5), (2020, 640, 760, 620, -5), (2600, 880, 520, 620, 10),
                       (620, 1330, 760, 620, 5), (1480, 1370, 740, 600, -10), (2270, 1350, 720, 600, 5))),
-    "winter": (stairs(False), stairs(True)),
+    "winter": (within(150, "PPPP", "LPL", "L"), within(230, "LPPL", "LPL", wide=True)),
     "christmas": (askew(within(170, "L", "PPP", "PLPL")), askew(within(260, "PPP", "PLPLP", wide=True))),
-    "travel": (cascade(False, 6, ((820, 660), (660, 790)), (-5, 5, -10, 5, 5, -5)), cascade(True, 6, ((760, 610), (600, 740)), (-5, 5, 5, -10, 5, -5))),
+    "travel": (taped(cascade(False, 6, ((820, 660), (660, 790)), (-5, 5, -10, 5, 5, -5)), 240), taped(cascade(True, 6, ((760, 610), (600, 740)), (-5, 5, 5, -10, 5, -5)), 220)),
     "garden": (within(210, "LP", "L", "LLLL"), within(320, "LLP", "PPPP", wide=True)),
     "sports": (hero_above(False, 6, 0.6), hero_above(True, 6, 0.56)),
     "music": (askew(within(210, "PP", "PL", "PLP")), askew(within(320, "LL", "PLLP", wide=True))),
-    "school": (askew(field((170, 330, 1830, 2670), 60, [1.2, 1], [1, 1, 1])), askew(field((230, 330, 2770, 1680), 70, [1, 1.15, 1.15, 1], [1, 1]))),
+    "school": (taped(askew(field((170, 350, 1830, 2670), 76, [1.2, 1], [1, 1, 1])), 240, CREAM),
+               taped(askew(field((230, 350, 2770, 1680), 84, [1, 1.15, 1.15, 1], [1, 1])), 210, CREAM)),
     "space": (ring(False, 8, (470, 440), (1, 800, 960), 15, radii=(640, 940)), ring(True, 10, (460, 400), (2, 620, 500), 10, radii=(1100, 470))),
     "pets": (corner_hero(False, inset=50), corner_hero(True, inset=80)),
     "valentine": (within(170, "L", "PLL", "PLP"), within(200, "LLP", "PLLP", wide=True)),
@@ -53,8 +55,8 @@ PAGES = {
     "open_sea": (hero_above(False, 4, 0.8), hero_above(True, 2, 0.67)),
     "recipe": ([box(170, 340, 1020, 940)] + [box(1230, 340 + 470 * at, 600, 450) for at in range(5)],
                [box(170, 330, 1060, 960), box(170, 1330, 510, 380), box(720, 1330, 510, 380)] + [box(2330, 330 + 465 * at, 500, 430) for at in range(3)]),
-    "book_list": ([box(220 + 560 * x, 350 + 790 * y, 440, 560) for y in range(3) for x in range(3)],
-                  [box(205 + 545 * x, 340 + 690 * y, 410, 500) for y in range(2) for x in range(5)]),
+    "book_list": ([box(190 + 560 * x, 340 + 790 * y, 500, 600) for y in range(3) for x in range(3)],
+                  [box(165 + 545 * x, 330 + 690 * y, 490, 530) for y in range(2) for x in range(5)]),
     "cover_story": ([box(0, 960, 1420, 1740)] + [box(1460, 960 + 593 * at, 540, 553) for at in range(3)],
                     [box(0, 600, 1450, 1110), box(1490, 600, 850, 1110), box(2380, 600, 620, 535), box(2380, 1175, 620, 535)]),
     "before_after": (pairs(False, 3), pairs(True, 4)),
@@ -64,7 +66,8 @@ PAGES = {
     "year_in_review": ([box(570, 935, 860, 1130)] + [place for place in field((120, 350, 1880, 2650), 40, [1] * 4, [1] * 4)
                                                        if not (570 <= place.left < 1400 and 900 < place.top < 2000)],
                        [box(130, 310, 1060, 1390)] + field((1230, 310, 2870, 1700), 40, [1] * 4, [1] * 3)),
-    "baby_months": (ring(False, 12, (380, 380), (1, 820, 1060), radii=(670, 990)), ring(True, 12, (370, 340), (2, 680, 500), radii=(1170, 500))),
+    "baby_months": (ring(False, 12, (380, 380), (1, 820, 1060), radii=(670, 990)), field((130, 310, 1000, 1700), 32, [1] * 2, [1] * 3) + field((1040, 310, 1960, 1700), 40, [1], [1] * 2)
+                    + field((2000, 310, 2870, 1700), 32, [1] * 2, [1] * 3)),
     "photo_booth": (strips(False, [4, 4, 4], 480), strips(True, [3, 3, 3, 3, 3], 440, lean=0)),
     "window": (panes(False), panes(True)),
     "magazine": (column_page(), spread()),
@@ -80,10 +83,10 @@ PAGES = {
     "cinema": ([box(left, 322 + 476 * at, 602, 452) for left in (259, 1139) for at in range(5)],
                [box(146 + 949 * at, top, 808, 606) for top in (322, 1072) for at in range(3)]),
     # Four grandparents, two parents, one child: the lines between them are the page's.
-    "family_tree": ([box(x - 190, 290, 380, 450) for x in (310, 770, 1230, 1690)] + [box(x - 230, 1010, 460, 550) for x in (540, 1460)]
-                    + [box(480, 1830, 1040, 850)],
-                    [box(x - 190, 270, 380, 420) for x in (480, 1140, 1860, 2520)] + [box(x - 270, 880, 540, 640) for x in (810, 2190)]
-                    + [box(1190, 820, 620, 760)]),
+    "family_tree": ([box(x - 210, 290, 420, 450) for x in (310, 770, 1230, 1690)] + [box(x - 365, 900, 730, 660) for x in (540, 1460)]
+                    + [box(380, 1760, 1240, 930)],
+                    [box(x - 290, 290, 580, 440) for x in (480, 1140, 1860, 2520)] + [box(x - 360, 860, 720, 840) for x in (750, 2250)]
+                    + [box(1160, 820, 680, 880)]),
 }
 
 
