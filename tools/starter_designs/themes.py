@@ -12,6 +12,13 @@ def within(inset, *rows, wide=False, gap=40):
     return justified((left, top, right, bottom), gap, rows)
 
 
+def about_one():
+    """Ten small photos round a large one on an upright page, none of them on another."""
+    ends = [(x, 1500 + 890 * down, 500, 430, 0) for down in (-1, 1) for x in (440, 1000, 1560)]
+    beside = [(1000 + 700 * side, 1500 + 320 * down, 430, 540, 0) for side in (-1, 1) for down in (-1, 1)]
+    return prints(*ends, *beside, (1000, 1500, 860, 1180, 0))
+
+
 def about_two(size, lean):
     """Ten small photos round two large ones on a wide page, none of them on another; the outer ones lean."""
     inner = [(x, y, *size, 0) for x in (1225, 1775) for y in (488, 1522)]
@@ -25,7 +32,7 @@ PAGES = {
     # Laid by hand: no two alike beside each other in the catalogue.
     "birthday": (cards(False), cards(True)),
     "wedding": (hero_above(False, 3, 0.76, inset=110), hero_above(True, 4, 0.54, inset=150)),
-    "baby": (ring(False, 10, (440, 420), (1, 780, 1120), radii=(690, 960)), about_two((530, 356), 0)),
+    "baby": (about_one(), about_two((530, 356), 0)),
     "graduation": (within(210, "L", "PLL", "PLP"), within(320, "LL", "LLPL", wide=True)),
     "spring": (columns_that_hang(False, [3, 3], [0, 230], inset=60), columns_that_hang(True, [2, 2, 2, 2], [0, 150, 0, 150], inset=60)),
     "summer": (prints((640, 700, 880, 720, -5), (1430, 900, 640, 760, 10), (520, 1500, 700, 840, 5), (1350, 1640, 800, 660, -5),
