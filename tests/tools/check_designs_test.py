@@ -267,6 +267,14 @@ class CheckDesigns(unittest.TestCase):
     def test_a_fixed_frame_about_a_fixed_picture(self):
         self.assert_one("designs.ini", "BG Image=sky.jpg", "BG Image=sky.jpg\nFrames=10\nShadows=10", "Tilted: a fixed frame would go round")
 
+    def test_photos_that_leave_their_tape(self):
+        self.change("design_list", "images/card.jpg", "images/tape_cream.jpg")
+        self.assert_found("Tilted: photos of a scatter may turn away")
+        self.assert_found("Tilted: tape would lie on the lower edges")
+        self.change("designs.ini", "Design=Scatter", "Design=Theme")
+        self.change("designs.ini", "BG Image=sky.jpg", "BG Image=sky.jpg\nFlip=No")
+        self.assertFalse([problem for problem in self.problems() if "tape" in problem and "missing" not in problem])
+
     def test_a_caption_that_would_be_printed(self):
         self.assert_one("designs.ini", "BG Image=sky.jpg", "BG Image=sky.jpg\nCaption=None", "Tilted: the caption would be printed")
 

@@ -38,7 +38,7 @@ OCCASIONS = [
     pair(301, "Birthday", "birthday", "Lights, confetti and photos of the feast", "Photos of the feast among soft lights and falling confetti."),
     pair(302, "Wedding", "wedding", "Ivory paper, roses and few large photos", "Few large photos on ivory paper between two ribbons, with roses in two corners.",
          PRINTS),
-    pair(303, "Baby", "baby", "Small photos in the clouds about large ones", "Small photos in an oval about large ones, in a pale sky under the stars."),
+    pair(303, "Baby", "baby", "Small photos in the clouds about large ones", "Small photos about large ones, in a pale sky under the stars."),
     pair(304, "Graduation", "graduation", "Laurel, gold and photos of the day", "Photos of the day on deep blue, with laurel in the corners."),
     pair(305, "Spring", "spring", "Columns of photos between boughs in blossom", "Columns that hang at different heights between boughs in blossom, whose petals are in the air."),
     pair(306, "Summer", "summer", "Prints on the sand", "Prints that the wind has spread on a beach, between the sea and the pier."),

@@ -59,7 +59,8 @@ STUCK_ON = (0, 5, -5)  # by how much more or less than its photo a strip is tilt
 
 def taped(places, length, tapes=TAPES):
     """The same photos, each with a strip of tape over the middle of its upper edge, in the given kinds in turn. The strips come last,
-    so that they lie on the photos. Not for a design that fixes the size of frames: its strips would wear them, too."""
+    so that they lie on the photos. Not for a design that fixes the size of
+    frames (its strips would wear them), that may be flipped or that is a scatter, whose photos may turn: they would leave their strips."""
     strips = []
     for at, place in enumerate(places):
         (left, top), (right, lower) = place.corners()[:2]

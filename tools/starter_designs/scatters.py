@@ -19,7 +19,7 @@ def fan():
     places = []
     for tilt in range(-30, 35, 10):
         angle = math.radians(tilt)
-        places.append(centred(1500 + 2150 * math.sin(angle), 3120 - 2150 * math.cos(angle), 560, 720, tilt))
+        places.append(centred(1500 + 2150 * math.sin(angle), 3120 - 2150 * math.cos(angle), 560, 820, tilt))
     return places
 
 
@@ -29,8 +29,8 @@ def two_fans():
     for middle, sign in ((2500, 1), (500, -1)):
         for tilt in range(-20, 25, 10):
             angle = math.radians(tilt)
-            places.append(centred(1000 + 1800 * math.sin(angle), middle - sign * 1700 * math.cos(angle), 490, 640, tilt * sign))
-    return places + [centred(1000, 1500, 560, 560, -5)]
+            places.append(centred(1000 + 1800 * math.sin(angle), middle - sign * 1700 * math.cos(angle), 490, 710, tilt * sign))
+    return places + [centred(1000, 1500, 660, 660, -5)]
 
 
 def waves():
@@ -78,7 +78,7 @@ def ring():
     places = []
     for at in range(12):
         angle = math.radians(30 * at)
-        size = (430, 310) if at % 2 == 0 else (310, 430)
+        size = (470, 350) if at % 2 == 0 else (350, 470)
         places.append(centred(1000 + 730 * math.sin(angle), 1500 - 1040 * math.cos(angle), *size, five(16 * math.sin(2 * angle))))
     return places + [centred(1000, 1500, 780, 1080, 5)]
 
@@ -198,7 +198,7 @@ def carousel():
 def round_table():
     """Six large photos on a wide page, three above and three below."""
     tilts = [-5, 5, -10, 5, -5, 5]
-    return [centred(540 + 960 * (at % 3), 540 + 920 * (at // 3) + (20, -20)[at % 2], *((820, 560) if at % 2 == 0 else (560, 780)), tilts[at])
+    return [centred(540 + 960 * (at % 3), 540 + 920 * (at // 3) + (20, -20)[at % 2], *((900, 640) if at % 2 == 0 else (600, 820)), tilts[at])
             for at in range(6)]
 
 

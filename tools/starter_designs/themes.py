@@ -12,12 +12,27 @@ def within(inset, *rows, wide=False, gap=40):
     return justified((left, top, right, bottom), gap, rows)
 
 
+def about_one():
+    """Ten small photos round a large one on an upright page, none of them on another."""
+    ends = [(x, 1500 + 890 * down, 500, 430, 0) for down in (-1, 1) for x in (440, 1000, 1560)]
+    beside = [(1000 + 700 * side, 1500 + 320 * down, 430, 540, 0) for side in (-1, 1) for down in (-1, 1)]
+    return prints(*ends, *beside, (1000, 1500, 860, 1180, 0))
+
+
+def about_two(size, lean):
+    """Ten small photos round two large ones on a wide page, none of them on another; the outer ones lean."""
+    inner = [(x, y, *size, 0) for x in (1225, 1775) for y in (488, 1522)]
+    outer = [(1500 + 920 * side, 1005 + 478 * down, *size, lean * side * down) for side in (-1, 1) for down in (-1, 1)]
+    beside = [(1500 + 1070 * side, 1005, *size, 0) for side in (-1, 1)]
+    return prints(*inner, *outer, *beside, (1140, 1005, 680, 600, 0), (1860, 1005, 680, 600, 0))
+
+
 CREAM = TAPES[:1]
 PAGES = {
     # Laid by hand: no two alike beside each other in the catalogue.
     "birthday": (cards(False), cards(True)),
     "wedding": (hero_above(False, 3, 0.76, inset=110), hero_above(True, 4, 0.54, inset=150)),
-    "baby": (ring(False, 10, (420, 420), (1, 780, 980), radii=(660, 960)), ring(True, 10, (420, 380), (2, 660, 500), radii=(1140, 490))),
+    "baby": (about_one(), about_two((530, 356), 0)),
     "graduation": (within(210, "L", "PLL", "PLP"), within(320, "LL", "LLPL", wide=True)),
     "spring": (columns_that_hang(False, [3, 3], [0, 230], inset=60), columns_that_hang(True, [2, 2, 2, 2], [0, 150, 0, 150], inset=60)),
     "summer": (prints((640, 700, 880, 720, -5), (1430, 900, 640, 760, 10), (520, 1500, 700, 840, 5), (1350, 1640, 800, 660, -5),
@@ -32,7 +47,7 @@ PAGES = {
     "music": (askew(within(210, "PP", "PL", "PLP")), askew(within(320, "LL", "PLLP", wide=True))),
     "school": (taped(askew(field((170, 350, 1830, 2670), 76, [1.2, 1], [1, 1, 1])), 240, CREAM),
                taped(askew(field((230, 350, 2770, 1680), 84, [1, 1.15, 1.15, 1], [1, 1])), 210, CREAM)),
-    "space": (ring(False, 8, (470, 440), (1, 800, 960), 15, radii=(640, 940)), ring(True, 10, (460, 400), (2, 620, 500), 10, radii=(1100, 470))),
+    "space": (ring(False, 8, (480, 430), (1, 760, 1120), 10, radii=(690, 930)), about_two((525, 350), 5)),
     "pets": (corner_hero(False, inset=50), corner_hero(True, inset=80)),
     "valentine": (within(170, "L", "PLL", "PLP"), within(200, "LLP", "PLLP", wide=True)),
     "mountains": (standing("PP", "LLL", "PL"), lying("LPPL", "PLL")),
@@ -83,7 +98,7 @@ PAGES = {
     "cinema": ([box(left, 322 + 476 * at, 602, 452) for left in (259, 1139) for at in range(5)],
                [box(146 + 949 * at, top, 808, 606) for top in (322, 1072) for at in range(3)]),
     # Four grandparents, two parents, one child: the lines between them are the page's.
-    "family_tree": ([box(x - 210, 290, 420, 450) for x in (310, 770, 1230, 1690)] + [box(x - 365, 900, 730, 660) for x in (540, 1460)]
+    "family_tree": ([box(x - 200, 290, 400, 450) for x in (310, 770, 1230, 1690)] + [box(x - 365, 900, 730, 660) for x in (540, 1460)]
                     + [box(380, 1760, 1240, 930)],
                     [box(x - 290, 290, 580, 440) for x in (480, 1140, 1860, 2520)] + [box(x - 360, 860, 720, 840) for x in (750, 2250)]
                     + [box(1160, 820, 680, 880)]),
