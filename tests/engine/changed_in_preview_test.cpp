@@ -52,25 +52,33 @@ struct changed_in_preview : four_photos {
 };
 
 // Each of the ways in which a loop comes to its photos.
-void expect_left_out_everywhere(const std::function<void(const std::string & photo)> & spoil,
-                                const std::string & told)
+void in_each_loop(const std::function<void(changed_in_preview & run)> & play)
 {
     for (const bool grid : {false, true})
         for (const bool matched : {false, true}) {
+            SCOPED_TRACE(testing::Message() << "grid " << grid << ", matched " << matched);
             changed_in_preview run;
             if (grid)
                 run.use_grid();
             run.main.chkMatch.tick(matched);
             run.main.collage.design_matches = matched;
-            EXPECT_EQ(run.sample(), "rgby");
-            spoil(run.photos[1]);
-            for (int preview = 0; preview < 3; ++preview)
-                EXPECT_EQ(run.sample(), "rbyr") << grid << matched;
-            EXPECT_TRUE(
-                run.desk.next_message().starts_with("This photo was left out:\r\n" + run.photos[1] + told));
-            EXPECT_TRUE(run.desk.messages.empty()) << "named once";
-            EXPECT_EQ(run.main.table.last_photo, 3) << "it may come back";
+            play(run);
         }
+}
+
+void expect_left_out_everywhere(const std::function<void(const std::string & photo)> & spoil,
+                                const std::string & told)
+{
+    in_each_loop([&](changed_in_preview & run) {
+        EXPECT_EQ(run.sample(), "rgby");
+        spoil(run.photos[1]);
+        for (int preview = 0; preview < 3; ++preview)
+            EXPECT_EQ(run.sample(), "rbyr");
+        EXPECT_TRUE(
+            run.desk.next_message().starts_with("This photo was left out:\r\n" + run.photos[1] + told));
+        EXPECT_TRUE(run.desk.messages.empty()) << "named once";
+        EXPECT_EQ(run.main.table.last_photo, 3) << "it may come back";
+    });
 }
 
 }  // namespace
@@ -179,21 +187,15 @@ TEST(changed_in_preview, thumbnails_of_many_photos_are_made_anew_by_any_number_o
 
 TEST(changed_in_preview, where_no_thumbnail_can_be_written_the_photo_stands_in)
 {
-    for (const bool grid : {false, true})
-        for (const bool matched : {false, true}) {
-            changed_in_preview run;
-            if (grid)
-                run.use_grid();
-            run.main.chkMatch.tick(matched);
-            run.main.collage.design_matches = matched;
-            fs::remove_all(folder_of(run.thumbnail(0)));
-            ::chmod(folder_of(run.photos[0]).c_str(), 0555);
-            for (const char * place : {"data", "data/tmp"})
-                ::chmod(run.home.at(place).c_str(), 0777);
-            const as_ordinary_user user;
-            EXPECT_EQ(run.sample(), "rgby");
-            EXPECT_EQ(run.sample(), "rgby") << "nor is it looked for again in vain";
-        }
+    in_each_loop([](changed_in_preview & run) {
+        fs::remove_all(folder_of(run.thumbnail(0)));
+        ::chmod(folder_of(run.photos[0]).c_str(), 0555);
+        for (const char * place : {"data", "data/tmp"})
+            ::chmod(run.home.at(place).c_str(), 0777);
+        const as_ordinary_user user;
+        EXPECT_EQ(run.sample(), "rgby");
+        EXPECT_EQ(run.sample(), "rgby") << "nor is it looked for again in vain";
+    });
 }
 
 TEST(changed_in_preview, a_photo_that_was_replaced_is_shown_as_it_is_now)

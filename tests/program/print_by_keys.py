@@ -13,6 +13,13 @@ def printed_sheets():
     return sorted(os.listdir(os.environ['PRINTED']))
 
 
+def to_the_dialog(p):
+    p.shortcut('cmdPrint')
+    p.window('print_preview')
+    p.keys('Return')
+    p.window('QPrintDialog')
+
+
 def play(p):
     before = printed_sheets()
     welcomed(p)
@@ -25,20 +32,14 @@ def play(p):
     p.window('print_preview')
     p.keys('Escape')
     p.window('frmImage')
-    p.shortcut('cmdPrint')
-    p.window('print_preview')
-    p.keys('Return')
-    p.window('QPrintDialog')
+    to_the_dialog(p)
     p.keys('Escape')
     until(lambda: p.look().get('class') != 'QPrintDialog', 'the dialog to go')
     check(printed_sheets() == before, 'Escape printed a sheet')
     if p.look().get('window') != 'frmImage':
         p.keys('Escape')
     p.window('frmImage')
-    p.shortcut('cmdPrint')
-    p.window('print_preview')
-    p.keys('Return')
-    p.window('QPrintDialog')
+    to_the_dialog(p)
     p.keys('Return')
     told = p.window('QMessageBox')['message']
     check(told.startswith('The collage was sent to the printer paper_'), told)
