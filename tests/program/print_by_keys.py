@@ -5,7 +5,7 @@ import os
 
 from collage import check, folder_by_keys, quit_by_keys, run, welcomed
 from designs import in_finishing_stage
-from print_by_mouse import has_come
+from print_by_mouse import told_and_come
 from screen import until
 
 
@@ -41,12 +41,7 @@ def play(p):
     p.window('frmImage')
     to_the_dialog(p)
     p.keys('Return')
-    told = p.window('QMessageBox')['message']
-    check(told.startswith('The collage was sent to the printer paper_'), told)
-    printed = os.path.join(os.environ['PRINTED'], told.split()[-1].rstrip('.') + '.pdf')
-    until(lambda: has_come(printed), 'the printed sheet')
-    p.keys('Return')
-    p.window('frmImage')
+    told_and_come(p)
     p.keys('Escape')
     p.window('frmMain')
     p.shortcut('cmdCancel')

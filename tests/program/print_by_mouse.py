@@ -19,6 +19,16 @@ def keep(p, name):
         p.keep(WHOLE, os.path.join(folder, name + '.png'))
 
 
+def told_and_come(p):
+    """The program says where the sheet went, and there it is."""
+    told = p.window('QMessageBox')['message']
+    check(told.startswith('The collage was sent to the printer paper_'), told)
+    printed = os.path.join(os.environ['PRINTED'], told.split()[-1].rstrip('.') + '.pdf')
+    until(lambda: has_come(printed), 'the printed sheet')
+    p.keys('Return')
+    p.window('frmImage')
+
+
 def play(p):
     welcomed(p)
     p.click('mnuDesigned')
@@ -37,12 +47,7 @@ def play(p):
     p.window('QPrintDialog')
     keep(p, 'print_dialog')
     p.keys('Return')
-    told = p.window('QMessageBox')['message']
-    check(told.startswith('The collage was sent to the printer paper_'), told)
-    printed = os.path.join(os.environ['PRINTED'], told.split()[-1].rstrip('.') + '.pdf')
-    until(lambda: has_come(printed), 'the printed sheet')
-    p.keys('Return')
-    p.window('frmImage')
+    told_and_come(p)
     p.click('cmdClose')
     p.window('frmMain')
     p.click('cmdCancel')
