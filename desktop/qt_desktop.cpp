@@ -5,6 +5,7 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/drop_zone.h"
 #include "desktop/file_filter.h"
+#include "desktop/open_chooser.h"
 #include "desktop/opener.h"
 #include "desktop/printing/printing.h"
 #include "desktop/program_folders.h"
@@ -284,7 +285,7 @@ std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_re
 
 std::optional<std::string> qt_desktop::choose_folder(const std::string & title)
 {
-    QFileDialog chooser(owner());
+    open_chooser chooser(owner());
     chooser.setFileMode(QFileDialog::Directory);
     chooser.setOption(QFileDialog::ShowDirsOnly);
     file_request asked;
@@ -295,14 +296,14 @@ std::optional<std::string> qt_desktop::choose_folder(const std::string & title)
 
 std::vector<std::string> qt_desktop::choose_files(const file_request & asked)
 {
-    QFileDialog chooser(owner());
+    open_chooser chooser(owner());
     chooser.setFileMode(QFileDialog::ExistingFiles);
     return chosen(chooser, asked);
 }
 
 std::optional<std::string> qt_desktop::choose_file(const file_request & asked)
 {
-    QFileDialog chooser(owner());
+    open_chooser chooser(owner());
     chooser.setFileMode(QFileDialog::ExistingFile);
     const std::vector<std::string> paths = chosen(chooser, asked);
     return paths.empty() ? std::nullopt : std::optional(paths.front());
