@@ -3,6 +3,7 @@
 #include "desktop/looks/letters.h"
 #include "desktop/qt_desktop.h"
 #include "tests/desktop/shown_main_window.h"
+#include "tests/desktop/window_check.h"
 #include "tests/desktop/window_views.h"
 #include "tests/desktop/windows_played.h"
 
@@ -80,22 +81,17 @@ int shortest_width(const QPushButton & like)
 
 using faults = std::vector<std::string>;
 
+const window_check neighbour_check([](form &, QWidget & window, window_findings & found) {
+    const auto row = row_of_default(window);
+    for (const QPushButton * each : row)
+        if (each->height() != row.back()->height() || shortest_width(*each) > row.back()->width())
+            found.faults.push_back(caption_of(*each));
+});
+
 TEST(buttons, the_one_that_enter_presses_is_as_large_as_its_neighbours)
 {
-    filled_session session;
-    for (const int letters : {smallest_letters, roomy_letters, 21}) {
-        set_letters(letters);
-        for (const window_view & view : session.views()) {
-            SCOPED_TRACE(view.name);
-            const shown_view shown(view);
-            const auto row = row_of_default(shown.window());
-            for (const QPushButton * each : row) {
-                EXPECT_EQ(each->height(), row.back()->height()) << caption_of(*each) << " of " << letters;
-                EXPECT_LE(shortest_width(*each), row.back()->width()) << letters;
-            }
-        }
-    }
-    set_letters(smallest_letters);
+    for (const int letters : {smallest_letters, roomy_letters, 21})
+        EXPECT_EQ(neighbour_check.in_letters(letters).faults, faults()) << letters;
 }
 
 // There is no other way out of a window that only shows something.
@@ -118,15 +114,16 @@ TEST(buttons, a_lone_one_is_what_enter_presses)
     EXPECT_GE(lone, 2);
 }
 
+const window_check order_check([](form &, QWidget & window, window_findings & found) {
+    found.seen += row_of_default(window).size() > 1;
+    for (const std::string & fault : misplaced(window))
+        found.faults.push_back(fault);
+});
+
 TEST(buttons, of_every_window_stand_in_one_order)
 {
-    filled_session session;
-    int rows = 0;
-    session.look_at_each([&](const window_view &, QWidget & window) {
-        EXPECT_EQ(misplaced(window), faults());
-        rows += row_of_default(window).size() > 1;
-    });
-    EXPECT_GE(rows, 20);
+    EXPECT_EQ(order_check.in_letters(smallest_letters).faults, faults());
+    EXPECT_GE(order_check.in_letters(smallest_letters).seen, 20);
 }
 
 TEST(buttons, of_the_main_window_stand_in_that_order_too)
@@ -138,19 +135,22 @@ TEST(buttons, of_the_main_window_stand_in_that_order_too)
     });
 }
 
+const window_check colour_check([](form &, QWidget & window, window_findings & found) {
+    const auto row = row_of_default(window);
+    if (row.empty() || !row.back()->isEnabled())
+        return;
+    ++found.seen;
+    const QPoint left(6, row.back()->height() / 2);
+    const QImage drawn = row.back()->grab().toImage();
+    if (drawn.pixelColor(left * row.back()->devicePixelRatio()) !=
+        QApplication::palette().color(QPalette::Highlight))
+        found.faults.push_back(caption_of(*row.back()));
+});
+
 TEST(buttons, that_enter_presses_look_alike_in_every_window_and_stand_out)
 {
-    filled_session session;
-    for (const window_view & view : session.views()) {
-        SCOPED_TRACE(view.name);
-        const shown_view shown(view);
-        const auto row = row_of_default(shown.window());
-        if (row.empty() || !row.back()->isEnabled())
-            continue;
-        const QPoint left(6, row.back()->height() / 2);
-        EXPECT_EQ(row.back()->grab().toImage().pixelColor(left * row.back()->devicePixelRatio()),
-                  QApplication::palette().color(QPalette::Highlight));
-    }
+    EXPECT_EQ(colour_check.in_letters(smallest_letters).faults, faults());
+    EXPECT_GE(colour_check.in_letters(smallest_letters).seen, 20);
 }
 
 TEST(buttons, of_questions_and_messages_stand_in_that_order_too)
@@ -200,17 +200,16 @@ TEST(buttons, of_a_question_stand_on_yes_unless_that_would_take_something_away)
 }
 
 // Where the system's texts don't fix it.
+const window_check spelling_check([](form &, QWidget & window, window_findings & found) {
+    for (const QPushButton * each : window.findChildren<QPushButton *>())
+        if (each->objectName() != QLatin1String("OKButton") && each->objectName() != QLatin1String("cmdOK") &&
+            caption_of(*each) == "OK")
+            found.faults.push_back(each->objectName().toStdString());
+});
+
 TEST(buttons, spell_ok_in_one_way)
 {
-    filled_session session;
-    for (const window_view & view : session.views()) {
-        const shown_view shown(view);
-        for (const QPushButton * each : shown.window().findChildren<QPushButton *>())
-            if (each->objectName() != QLatin1String("OKButton") &&
-                each->objectName() != QLatin1String("cmdOK")) {
-                EXPECT_NE(caption_of(*each), "OK") << view.name;
-            }
-    }
+    EXPECT_EQ(spelling_check.in_letters(smallest_letters).faults, faults());
 }
 
 }  // namespace

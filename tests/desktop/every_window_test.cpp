@@ -3,6 +3,7 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/looks/letters.h"
 #include "tests/desktop/layout_checks.h"
+#include "tests/desktop/window_check.h"
 #include "tests/desktop/window_views.h"
 
 #include <QAccessible>
@@ -21,129 +22,136 @@ namespace {
 
 using faults = std::vector<std::string>;
 
-// What the smallest screens have room for.
-constexpr int widest_window = 1040, highest_window = 740;
+// One that tells its faults in lines.
+template <faults (*check)(const form &, const QWidget &)>
+void noted(form & held, QWidget & window, window_findings & found)
+{
+    for (const std::string & fault : check(held, window))
+        found.faults.push_back(fault);
+}
 
-// One session for all: its making takes longer than the looking.
-struct every_window : testing::Test {
-    static void SetUpTestSuite()
-    {
-        kept = std::make_unique<filled_session>();
-        kept->desk.room = {.width = widest_window, .height = highest_window};
-    }
-    static void TearDownTestSuite() { kept.reset(); }
+const window_check overlap_check(noted<overlaps>), stray_check(noted<strays>), cut_check(noted<cut_texts>),
+    tab_order_check(noted<tab_order_faults>), name_check(noted<names_missing>);
 
-    template <typename Look>
-    void look_at_each(Look look)
-    {
-        for (const window_view & view : kept->views()) {
-            SCOPED_TRACE(view.name);
-            const shown_view shown(view);
-            ASSERT_TRUE(view.window->loaded()) << "closes itself in a session like this one";
-            look(*view.window, shown.window());
-        }
-    }
-    static std::unique_ptr<filled_session> kept;
-};
-
-std::unique_ptr<filled_session> every_window::kept;
-
-// In letters of so many pixels.
-struct every_window_in_letters : every_window, testing::WithParamInterface<int> {
-    every_window_in_letters() { set_letters(GetParam()); }
-    ~every_window_in_letters() override { set_letters(smallest_letters); }
-};
+struct every_window_in_letters : testing::TestWithParam<int> {};
 
 TEST_P(every_window_in_letters, has_no_two_widgets_that_overlap)
 {
-    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(overlaps(held, window), faults()); });
+    EXPECT_EQ(overlap_check.in_letters(GetParam()).faults, faults());
 }
 
 TEST_P(every_window_in_letters, keeps_its_widgets_in_their_groups)
 {
-    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(strays(held, window), faults()); });
+    EXPECT_EQ(stray_check.in_letters(GetParam()).faults, faults());
 }
 
 TEST_P(every_window_in_letters, cuts_no_text)
 {
-    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(cut_texts(held, window), faults()); });
-}
-
-// Larger letters are for larger screens.
-struct every_window_in_usual_letters : every_window_in_letters {};
-
-TEST_P(every_window_in_usual_letters, is_no_larger_than_a_small_screen)
-{
-    look_at_each([](form &, QWidget & window) {
-        EXPECT_LE(window.width(), widest_window);
-        EXPECT_LE(window.height(), highest_window);
-    });
-}
-
-TEST_F(every_window, gives_the_keyboard_to_nothing_that_does_not_take_it)
-{
-    look_at_each([](form &, QWidget & window) {
-        const QWidget * const focus = window.focusWidget();
-        EXPECT_TRUE(!focus || focus->focusPolicy() != Qt::NoFocus) << focus->objectName().toStdString();
-    });
+    EXPECT_EQ(cut_check.in_letters(GetParam()).faults, faults());
 }
 
 TEST_P(every_window_in_letters, lets_the_tab_key_follow_the_eye)
 {
-    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(tab_order_faults(held, window), faults()); });
+    EXPECT_EQ(tab_order_check.in_letters(GetParam()).faults, faults());
 }
 
-TEST_F(every_window, has_a_name_for_each_widget_that_the_keyboard_reaches)
+// Larger letters are for larger screens.
+struct every_window_in_usual_letters : testing::TestWithParam<int> {};
+
+const window_check size_check([](form &, QWidget & window, window_findings & found) {
+    if (window.width() > widest_window || window.height() > highest_window)
+        found.faults.push_back(std::to_string(window.width()) + " by " + std::to_string(window.height()));
+});
+
+TEST_P(every_window_in_usual_letters, is_no_larger_than_a_small_screen)
 {
-    look_at_each([](form & held, QWidget & window) { EXPECT_EQ(names_missing(held, window), faults()); });
+    EXPECT_EQ(size_check.in_letters(GetParam()).faults, faults());
 }
 
-TEST_F(every_window, has_no_letter_twice)
+faults in_usual_letters(const window_check & check)
 {
-    look_at_each([](form &, QWidget & window) { EXPECT_EQ(shared_letters(window), faults()); });
+    return check.in_letters(smallest_letters).faults;
 }
 
-TEST_F(every_window, is_called_by_its_title_without_the_blanks_between_the_letters)
+const window_check focus_check([](form &, QWidget & window, window_findings & found) {
+    const QWidget * const focus = window.focusWidget();
+    if (focus && focus->focusPolicy() == Qt::NoFocus)
+        found.faults.push_back(named(*focus));
+});
+
+TEST(every_window, gives_the_keyboard_to_nothing_that_does_not_take_it)
 {
-    look_at_each([](form &, QWidget & window) {
-        EXPECT_FALSE(window.windowTitle().isEmpty());
-        EXPECT_EQ(window.accessibleName(), unspaced(window.windowTitle()));
-    });
+    EXPECT_EQ(in_usual_letters(focus_check), faults());
 }
 
-TEST_F(every_window, has_a_button_for_enter_but_where_there_is_none_at_all)
+TEST(every_window, has_a_name_for_each_widget_that_the_keyboard_reaches)
 {
-    look_at_each([](form &, QWidget & window) {
-        const auto buttons = window.findChildren<QPushButton *>();
-        const auto count = std::ranges::count_if(buttons, [](auto * each) { return each->isDefault(); });
-        EXPECT_EQ(count, buttons.isEmpty() ? 0 : 1);
-    });
+    EXPECT_EQ(in_usual_letters(name_check), faults());
+}
+
+const window_check letter_check([](form &, QWidget & window, window_findings & found) {
+    for (const std::string & fault : shared_letters(window))
+        found.faults.push_back(fault);
+});
+
+TEST(every_window, has_no_letter_twice)
+{
+    EXPECT_EQ(in_usual_letters(letter_check), faults());
+}
+
+const window_check title_check([](form &, QWidget & window, window_findings & found) {
+    if (window.windowTitle().isEmpty() || window.accessibleName() != unspaced(window.windowTitle()))
+        found.faults.push_back("\"" + window.windowTitle().toStdString() + "\", called \"" +
+                               window.accessibleName().toStdString() + "\"");
+});
+
+TEST(every_window, is_called_by_its_title_without_the_blanks_between_the_letters)
+{
+    EXPECT_EQ(in_usual_letters(title_check), faults());
+}
+
+const window_check default_check([](form &, QWidget & window, window_findings & found) {
+    const auto buttons = window.findChildren<QPushButton *>();
+    const auto count = std::ranges::count_if(buttons, [](auto * each) { return each->isDefault(); });
+    if (count != (buttons.isEmpty() ? 0 : 1))
+        found.faults.push_back(std::to_string(count) + " of " + std::to_string(buttons.size()));
+});
+
+TEST(every_window, has_a_button_for_enter_but_where_there_is_none_at_all)
+{
+    EXPECT_EQ(in_usual_letters(default_check), faults());
 }
 
 // The space bar, pressed unawares, would be taken for the answer.
-TEST_F(every_window, begins_where_its_work_begins)
+const window_check beginning_check([](form &, QWidget & window, window_findings & found) {
+    QApplication::processEvents();
+    const QWidget * const focus = window.focusWidget();
+    if (window.findChildren<QPushButton *>().isEmpty())
+        return;
+    const auto * const button = qobject_cast<const QPushButton *>(focus);
+    const QString text = button ? button->text().remove(QLatin1Char('&')) : QString();
+    if (!focus || text == QLatin1String("Cancel") || text == QLatin1String("Help"))
+        found.faults.push_back("the focus is on \"" + text.toStdString() + "\"");
+});
+
+TEST(every_window, begins_where_its_work_begins)
 {
-    look_at_each([](form &, QWidget & window) {
-        QApplication::processEvents();
-        const QWidget * const focus = window.focusWidget();
-        if (window.findChildren<QPushButton *>().isEmpty())
-            return;
-        ASSERT_TRUE(focus);
-        const auto * const button = qobject_cast<const QPushButton *>(focus);
-        const QString text = button ? button->text().remove(QLatin1Char('&')) : QString();
-        EXPECT_TRUE(text != QLatin1String("Cancel") && text != QLatin1String("Help"))
-            << "the focus is on " << text.toStdString();
-    });
+    EXPECT_EQ(in_usual_letters(beginning_check), faults());
 }
 
-TEST_F(every_window, takes_enter_for_its_ok)
+const window_check ok_check([](form & held, QWidget & window, window_findings & found) {
+    for (const char * name : {"cmdOk", "cmdOK"})
+        if (held.find(name)) {
+            ++found.seen;
+            if (!window.findChild<QPushButton *>(QLatin1String(name))->isDefault())
+                found.faults.emplace_back(name);
+        }
+});
+
+TEST(every_window, takes_enter_for_its_ok)
 {
-    look_at_each([](form & held, QWidget & window) {
-        for (const char * name : {"cmdOk", "cmdOK"})
-            if (held.find(name)) {
-                EXPECT_TRUE(window.findChild<QPushButton *>(QLatin1String(name))->isDefault());
-            }
-    });
+    EXPECT_EQ(in_usual_letters(ok_check), faults());
+    EXPECT_GE(ok_check.in_letters(smallest_letters).seen, 5);
 }
 
 // A desktop's users press these anywhere.

@@ -1,6 +1,6 @@
 #include "desktop/looks/letters.h"
 #include "tests/desktop/shown_main_window.h"
-#include "tests/desktop/window_views.h"
+#include "tests/desktop/window_check.h"
 
 #include <QApplication>
 #include <QGroupBox>
@@ -102,12 +102,19 @@ struct group_titles : testing::TestWithParam<int> {
     ~group_titles() override { set_letters(smallest_letters); }
 };
 
+const window_check struck_check([](form &, QWidget & window, window_findings & found) {
+    const titles_seen seen = titles_of(window);
+    found.seen += seen.count;
+    for (const std::string & title : seen.struck)
+        found.faults.push_back(title);
+    for (const std::string & title : seen.without_line)
+        found.faults.push_back(title + ": no line was found where there is one");
+});
+
 TEST_P(group_titles, of_all_windows_are_struck_by_no_line)
 {
-    filled_session session;
-    int titles = 0;
-    session.look_at_each([&](const window_view &, QWidget & window) { titles += unstruck_titles(window); });
-    EXPECT_GT(titles, 5);
+    EXPECT_EQ(struck_check.in_letters(GetParam()).faults, faults());
+    EXPECT_GT(struck_check.in_letters(GetParam()).seen, 5);
 }
 
 TEST_P(group_titles, of_the_main_window_are_struck_by_no_line)

@@ -141,11 +141,11 @@ int main(int count, char ** words)
     if (arguments.size() == 3)
         set_letters(
             letters_for(arguments[2].toInt(), QGuiApplication::primaryScreen()->availableSize().height()));
-    filled_session session;
+    filled_session session(chosen_photos::real);
     make_collage(session);
     draw_views(session, arguments[1]);
     draw_main(session, arguments[1]);
-    filled_session fresh;
+    filled_session fresh(chosen_photos::real);
     draw_designed_collages(fresh, arguments[1]);
     return 0;
 }

@@ -17,6 +17,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+namespace fs = std::filesystem;
+
 namespace {
 
 void save_lists(const filled_session & session, const frmMain & main)
@@ -54,13 +56,30 @@ std::string square_of(const filled_session & session, const std::string & pictur
     return path;
 }
 
+// As many as there are sample photos.
+void copy_small_photos(const std::string & folder)
+{
+    constexpr std::size_t count = 48;
+    std::vector<fs::path> pictures;
+    for (const auto & each : fs::directory_iterator(BUILT_SEED "/samples"))
+        pictures.push_back(each.path());
+    std::ranges::sort(pictures);
+    pictures.resize(std::min(pictures.size(), count));
+    fs::create_directory(folder);
+    for (const fs::path & each : pictures)
+        fs::copy(each, folder);
+}
+
 }  // namespace
 
-filled_session::filled_session()
+filled_session::filled_session(chosen_photos photos)
 {
     desk.keeps_messages = true;
     stage_program(BUILT_SEED, folder.path());
-    std::filesystem::copy(SAMPLE_PHOTOS, folder.at("photos"));
+    if (photos == chosen_photos::real)
+        fs::copy(SAMPLE_PHOTOS, folder.at("photos"));
+    else
+        copy_small_photos(folder.at("photos"));
     all.main.install_folder = folder.path();
     prepare_data_folder(all.main, {});
     connect_all(all);
@@ -237,6 +256,7 @@ void filled_session::add_designer_views(std::vector<window_view> & views)
     views.push_back(
         {.name = "frmLettering_landscape", .window = &all.lettering, .prepare = {}, .fill = [this, letter] {
              letter("Happy birthday, Grandmother!", all.lettering.optSerpent, all.lettering.optLandscape);
+             all.lettering.optSerif.select();
          }});
     views.push_back({.name = "frmPuzzle", .window = &all.puzzle, .prepare = {}, .fill = [this] {
                          all.puzzle.chkEdges.tick(true);

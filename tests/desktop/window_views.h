@@ -20,10 +20,13 @@ struct window_view {
     std::function<void()> fill;     ///< runs when it is open
 };
 
-/// A session in the midst of its work: the program's own data, the sample photos as a folder, a saved list
-/// and a selection. A person sits at it who answers nothing.
+/// Pictures of a few hundred pixels, which open at once, or the sample photos, as a person would have them.
+enum class chosen_photos { small, real };
+
+/// A session in the midst of its work: the program's own data, a folder of photos, a saved list and a
+/// selection. A person sits at it who answers nothing.
 struct filled_session {
-    filled_session();
+    explicit filled_session(chosen_photos photos = chosen_photos::small);
     /// Every window but the main one, in one state or several.
     std::vector<window_view> views();
     /// Shows each of these and looks at it.

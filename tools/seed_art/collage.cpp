@@ -43,15 +43,20 @@ page read_page(const QString & layout)
     return found;
 }
 
-/// The photos of the folder: first the wide ones, then the tall ones.
-std::array<std::vector<image_owner>, 2> photos_of(const QString & folder)
+image_owner photo_at(const QString & path, int flags = 0)
 {
-    std::array<std::vector<image_owner>, 2> photos;
+    return image_owner(FreeImage_Load(FIF_JPEG, path.toUtf8().constData(), flags));
+}
+
+/// Where the photos of the folder are: first the wide ones, then the tall ones. A collage shows few of them,
+/// so none is decoded here.
+std::array<std::vector<QString>, 2> photos_of(const QString & folder)
+{
+    std::array<std::vector<QString>, 2> photos;
     for (const QString & name : QDir(folder).entryList({"*.jpg"}, QDir::Files, QDir::Name)) {
-        image_owner photo(FreeImage_Load(FIF_JPEG, (folder + "/" + name).toUtf8().constData(), 0));
-        if (photo)
-            photos[FreeImage_GetHeight(photo.get()) > FreeImage_GetWidth(photo.get())].push_back(
-                std::move(photo));
+        const QString path = folder + "/" + name;
+        if (const image_owner header = photo_at(path, FIF_LOAD_NOPIXELS))
+            photos[FreeImage_GetHeight(header.get()) > FreeImage_GetWidth(header.get())].push_back(path);
     }
     if (photos[0].empty() || photos[1].empty())
         throw std::runtime_error(folder.toStdString() + ": no photos");
@@ -131,7 +136,10 @@ QImage collage(const QString & layout, const QString & photo_folder, int width, 
     std::array<std::size_t, 2> next{};
     for (const place & one : wanted.places) {
         const auto & fitting = photos[one.tall()];
-        draw_place(painter, one, scale, wanted.frame * scale, fitting[next[one.tall()]++ % fitting.size()]);
+        const image_owner photo = photo_at(fitting[next[one.tall()]++ % fitting.size()]);
+        if (!photo)
+            throw std::runtime_error(layout.toStdString() + ": a photo can't be read");
+        draw_place(painter, one, scale, wanted.frame * scale, photo);
     }
     return image;
 }
