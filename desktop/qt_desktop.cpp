@@ -5,7 +5,6 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/drop_zone.h"
 #include "desktop/file_filter.h"
-#include "desktop/open_chooser.h"
 #include "desktop/opener.h"
 #include "desktop/printing/printing.h"
 #include "desktop/program_folders.h"
@@ -273,12 +272,12 @@ bool qt_desktop::is_accepted(QFileDialog & chooser, const file_request & asked)
     return true;
 }
 
-std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_request & asked)
+std::vector<std::string> qt_desktop::chosen(open_chooser & chooser, const file_request & asked)
 {
     if (!is_accepted(chooser, asked))
         return {};
     std::vector<std::string> paths;
-    for (const QString & path : chooser.selectedFiles())
+    for (const QString & path : chooser.paths())
         paths.push_back(with_platform_separators(path_bytes(path)));
     return paths;
 }

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QLabel>
@@ -332,6 +333,29 @@ TEST(qt_desktop, a_chooser_takes_the_path_that_stands_in_its_box_whatever_its_li
     EXPECT_EQ(desk.choose_file(asked), folder.at("summer/beach.jpg"));
     when_asked<QFileDialog>(type("summer/beach.jpg"));
     EXPECT_EQ(desk.choose_files(asked), std::vector{folder.at("summer/beach.jpg")});
+}
+
+TEST(qt_desktop, a_chooser_takes_a_name_with_quotes_as_it_was_typed)
+{
+    const temporary_folder folder;
+    const std::string album = "our \"best\" days";
+    folder.write(album + "/a \"b.jpg", "x");
+    qt_desktop desk;
+    const auto type = [](const std::string & typed) {
+        return [typed](QFileDialog & chooser) {
+            chooser.findChild<QLineEdit *>("fileNameEdit")->setText(QString::fromStdString(typed));
+            auto * const buttons = chooser.findChild<QDialogButtonBox *>("buttonBox");
+            buttons->button(QDialogButtonBox::Open)->click();
+            if (chooser.isVisible())
+                chooser.reject();
+        };
+    };
+    when_asked<QFileDialog>(type(folder.at(album)));
+    EXPECT_EQ(desk.choose_folder("Photos"), folder.at(album));
+    file_request asked;
+    asked.folder = folder.path() + "/" + album;
+    when_asked<QFileDialog>(type("a \"b.jpg"));
+    EXPECT_EQ(desk.choose_files(asked), std::vector{folder.at(album + "/a \"b.jpg")});
 }
 
 }  // namespace
