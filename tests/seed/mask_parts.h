@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <vector>
 
-/// The parts of a mask as the drawing of shapes tells them: beside the two keys, what is like the ground, what is dark,
-/// and what lies between.
+/// The parts of a mask as the drawing of shapes tells them: beside the two keys, what is like the ground,
+/// what is dark, and what lies between.
 
 enum class part : std::uint8_t { ground, rim, inside, black_key, white_key };
 

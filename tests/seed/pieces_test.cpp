@@ -1,4 +1,5 @@
-// The pieces of the jigsaw designer, each by itself: their bevel, and that nothing of it goes astray at any size.
+// The pieces of the jigsaw designer, each by itself: their bevel, and that nothing of it goes astray at any
+// size.
 #include "support/MFreeImage.h"
 #include "tests/seed/mask_parts.h"
 
