@@ -17,7 +17,7 @@ bool has_its_picture(const frmMain & main, const location & place)
     if (place.file.empty())
         return true;
     if (is_shape(place))
-        return file_readable(mask_path(place.file, main.install_folder, main.data_folder));
+        return file_readable(found_mask(place.file, main.install_folder, main.data_folder));
     const std::optional<std::string> path = fixed_picture_path(main, place.file);
     return path && jpeg_size(*path);
 }

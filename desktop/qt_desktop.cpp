@@ -272,19 +272,19 @@ bool qt_desktop::is_accepted(QFileDialog & chooser, const file_request & asked)
     return true;
 }
 
-std::vector<std::string> qt_desktop::chosen(QFileDialog & chooser, const file_request & asked)
+std::vector<std::string> qt_desktop::chosen(open_chooser & chooser, const file_request & asked)
 {
     if (!is_accepted(chooser, asked))
         return {};
     std::vector<std::string> paths;
-    for (const QString & path : chooser.selectedFiles())
+    for (const QString & path : chooser.paths())
         paths.push_back(with_platform_separators(path_bytes(path)));
     return paths;
 }
 
 std::optional<std::string> qt_desktop::choose_folder(const std::string & title)
 {
-    QFileDialog chooser(owner());
+    open_chooser chooser(owner());
     chooser.setFileMode(QFileDialog::Directory);
     chooser.setOption(QFileDialog::ShowDirsOnly);
     file_request asked;
@@ -295,14 +295,14 @@ std::optional<std::string> qt_desktop::choose_folder(const std::string & title)
 
 std::vector<std::string> qt_desktop::choose_files(const file_request & asked)
 {
-    QFileDialog chooser(owner());
+    open_chooser chooser(owner());
     chooser.setFileMode(QFileDialog::ExistingFiles);
     return chosen(chooser, asked);
 }
 
 std::optional<std::string> qt_desktop::choose_file(const file_request & asked)
 {
-    QFileDialog chooser(owner());
+    open_chooser chooser(owner());
     chooser.setFileMode(QFileDialog::ExistingFile);
     const std::vector<std::string> paths = chosen(chooser, asked);
     return paths.empty() ? std::nullopt : std::optional(paths.front());

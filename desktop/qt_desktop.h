@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/open_chooser.h"
 #include "desktop/printing/printing.h"
 #include "support/desktop.h"
 #include "support/dragged_files.h"
@@ -61,7 +62,7 @@ private:
     void taken_down(const form & window);
     QString folder_to_open(const std::string & wanted) const;
     bool is_accepted(QFileDialog & chooser, const file_request & asked);
-    std::vector<std::string> chosen(QFileDialog & chooser, const file_request & asked);
+    std::vector<std::string> chosen(open_chooser & chooser, const file_request & asked);
 
     std::map<const form *, shown_window> windows;
     std::string last_folder;

@@ -60,7 +60,7 @@ std::set<std::string> supplied_files(const frmMain & main)
                                 joined(main.install_folder, "images/white.jpg")};
     for (int i = 0; i <= main.design_locations.count; ++i)
         if (const std::string & file = main.design_locations[i].file; !file.empty())
-            files.insert(mask_path(file, main.install_folder, main.data_folder));
+            files.insert(found_mask(file, main.install_folder, main.data_folder));
     return files;
 }
 

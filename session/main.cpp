@@ -120,7 +120,7 @@ int run(qt_desktop & desk, const std::string & flurn)
     } catch (const end_of_program & end) {
         return end.status;
     } catch (const platform_error & error) {
-        desk.message(run_time_error(code(error), told(error)), {});
+        desk.message(run_time_error(code(error), told_at_start(error)), {});
         return 1;
     }
     const open_window reachable(all.main.data_folder,

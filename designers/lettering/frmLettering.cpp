@@ -8,8 +8,10 @@
 #include "session/start/start_up.h"
 #include "session/windows.h"
 #include "support/colors.h"
+#include "support/files/paths.h"
 
 #include <algorithm>
+#include <array>
 
 // The lettering designer.
 
@@ -41,8 +43,19 @@ lettering_choices lettering_of(const frmLettering & window)
             .placing = chosen<letter_placing>(window.placing_options),
             .overlap = window.chkOverlap.ticked(),
             .center = window.chkCenter.ticked(),
-            .shape = chosen<poster_shape>(window.orientation_options)};
+            .shape = chosen<poster_shape>(window.orientation_options),
+            .alphabet = chosen<letter_alphabet>(window.alphabet_options)};
 }
+
+struct shown_alphabet {
+    picture frmLettering::*sample;
+    option_button frmLettering::*option;
+    const char * file;
+};
+constexpr std::array<shown_alphabet, 3> alphabets{
+    {{&frmLettering::picRounded, &frmLettering::optRounded, "images/letters_rounded.png"},
+     {&frmLettering::picSturdy, &frmLettering::optSturdy, "images/letters_sturdy.png"},
+     {&frmLettering::picSerif, &frmLettering::optSerif, "images/letters_serif.png"}}};
 
 void shape_box(frmLettering & window)
 {
@@ -66,6 +79,9 @@ void load_lettering(windows & all)
     window.chkOverlap.tick(last.overlap);
     select(window.placing_options, last.placing);
     select(window.orientation_options, last.shape);
+    select(window.alphabet_options, last.alphabet);
+    for (const shown_alphabet & each : alphabets)
+        (window.*each.sample).load(joined(all.main.install_folder, each.file));
     text_changed(window);
 }
 
@@ -105,6 +121,8 @@ void connect_frmLettering(windows & all)
     window.txtLettering.on_change = [&window] { text_changed(window); };
     for (option_button * option : window.orientation_options)
         option->on_click = [&window] { shape_box(window); };
+    for (const shown_alphabet & each : alphabets)
+        (window.*each.sample).on_click = [&window, each] { (window.*each.option).select(); };
     window.cmdOk.on_click = [&all] { cmdOk_click(all); };
     window.cmdCancel.on_click = [&window] { window.unload(); };
 }

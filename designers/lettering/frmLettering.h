@@ -19,6 +19,15 @@ struct frmLettering : form {
     check_box chkOverlap{*this, "chkOverlap", "Overlap the letters"};
     check_box chkCenter{*this, "chkCenter", "Center each line"};
 
+    group frmAlphabet{*this, "frmAlphabet", "  A l p h a b e t  "};
+    option_set alphabet_options;
+    option_button optRounded{*this, "optRounded", alphabet_options, "Rounded"};
+    option_button optSturdy{*this, "optSturdy", alphabet_options, "Sturdy"};
+    option_button optSerif{*this, "optSerif", alphabet_options, "Serif"};
+    picture picRounded{*this, "picRounded"};
+    picture picSturdy{*this, "picSturdy"};
+    picture picSerif{*this, "picSerif"};
+
     group frmOrientation{*this, "frmOrientation", "   O r i e n t a t i o n   "};
     option_set orientation_options;
     option_button optPortrait{*this, "optPortrait", orientation_options, "Portrait"};

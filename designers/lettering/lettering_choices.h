@@ -7,6 +7,9 @@
 /// How letters stand on their line: side by side, each a little off it, in a wave.
 enum class letter_placing { align, offset, serpent };
 
+/// Whose pictures the photos show through.
+enum class letter_alphabet { rounded, sturdy, serif };
+
 /// What the user chooses for a lettering.
 struct lettering_choices {
     std::string text{};  ///< as the box holds it: UTF-8, lines end with LF, CR or both
@@ -14,4 +17,5 @@ struct lettering_choices {
     bool overlap = false;
     bool center = false;  ///< lines and block
     poster_shape shape = poster_shape::portrait;
+    letter_alphabet alphabet = letter_alphabet::rounded;
 };

@@ -33,6 +33,19 @@ std::span<const int> shifts_of(letter_placing placing)
     return {};
 }
 
+// The rounded letters lie where all of them did before there were others.
+std::string_view folder_of(letter_alphabet alphabet)
+{
+    if (alphabet == letter_alphabet::sturdy)
+        return "alpha/sturdy/";
+    return alphabet == letter_alphabet::serif ? "alpha/serif/" : "alpha/";
+}
+
+std::string picture_of(char letter, letter_alphabet alphabet)
+{
+    return std::string(folder_of(alphabet)) + "char_" + lower_case({&letter, 1}) + ".gif";
+}
+
 void end_line(lettering_measure & text, int & length, int & capitals)
 {
     if (length > text.longest)
@@ -138,7 +151,7 @@ void letter_walk::add_letter(char letter, std::size_t position)
                        .left = narrow(left),
                        .width = narrow(text.size + extra),
                        .frame = 0,
-                       .file = "alpha/char_" + lower_case(std::string_view(&letter, 1)) + ".gif"});
+                       .file = picture_of(letter, choices.alphabet)});
     left += extra + gap + text.size;
 }
 

@@ -19,7 +19,8 @@
 
 namespace {
 
-constexpr int air = 8;  // pixels below the lowest widget
+constexpr int air = 8;                           // pixels below the lowest widget
+constexpr QMargins around_panel{12, 4, 12, 10};  // as it stands in the form of a main window
 constexpr int least_share_of_content = 4;
 
 // The bar of a main window, in pixels; what it shows can't be scrolled.
@@ -31,9 +32,14 @@ QSize bar_of(const QWidget & window)
     return main->menuBar()->sizeHint();
 }
 
+bool is_main_window(const QWidget & window)
+{
+    return qobject_cast<const QMainWindow *>(&window) != nullptr;
+}
+
 bool is_laid_out(const QWidget & content)
 {
-    return content.layout() && !qobject_cast<const QMainWindow *>(&content);
+    return content.layout() && !is_main_window(content);
 }
 
 QSize least_of(const QWidget & content)
@@ -71,14 +77,29 @@ QLayout * last_row(const QWidget & window)
     return row && holds_default(*row) ? row : nullptr;
 }
 
-// The panel of buttons of a dialog whose form places its widgets.
-QWidget * placed_panel(const QWidget & window)
+// The panel of buttons of a main window, or of a dialog whose form places its widgets.
+QWidget * panel_of_buttons(const QWidget & window)
 {
+    const bool is_main = is_main_window(window);
     for (QPushButton * each : window.findChildren<QPushButton *>())
         if (QWidget * const panel = each->parentWidget();
-            each->isDefault() && panel->parentWidget() == &window && panel->property("placed").toBool())
+            each->isDefault() &&
+            (is_main || (panel->parentWidget() == &window && panel->property("placed").toBool())))
             return panel;
     return nullptr;
+}
+
+// The panel comes and goes with the stage, and its foot with it.
+QWidget * foot_around(QWidget & window, QWidget & panel)
+{
+    auto * const foot = new QWidget(&window);
+    foot->setObjectName(QStringLiteral("foot_area"));
+    foot->setProperty("hidesEmpty", true);
+    foot->setVisible(!panel.isHidden());
+    auto * const row = new QHBoxLayout(foot);
+    row->setContentsMargins(around_panel);
+    row->addWidget(&panel);
+    return foot;
 }
 
 QWidget * taken_row(QWidget & window, QLayout & row)
@@ -220,7 +241,7 @@ void window_room::take_content(int whole_height)
     content = main ? main->takeCentralWidget() : taken_content(window, foot);
     view = made_view(window);
     if (main)
-        main->setCentralWidget(view);
+        main->setCentralWidget(above_foot());
     view->setWidget(content);
     // The window's own colour, which may change, shines through.
     content->setAutoFillBackground(false);
@@ -239,20 +260,36 @@ void window_room::take_content(int whole_height)
 void window_room::take_foot(int whole_height)
 {
     QLayout * const row = last_row(window);
-    QWidget * const panel = row ? nullptr : placed_panel(window);
+    QWidget * const panel = row ? nullptr : panel_of_buttons(window);
     const QSize most = room(), needed = row     ? row->minimumSize() + QSize(4 * air, 2 * air)
                                         : panel ? panel->minimumSizeHint() + QSize(4 * air, 2 * air)
                                                 : most;
     if (needed.width() > most.width() || needed.height() > most.height() / least_share_of_content)
         return;
-    foot = row ? taken_row(window, *row) : panel;
-    placed_foot = row ? 0 : whole_height - panel->y();
+    foot = row ? taken_row(window, *row) : is_main_window(window) ? foot_around(window, *panel) : panel;
+    placed_foot = row || is_main_window(window) ? 0 : whole_height - panel->y();
     foot->installEventFilter(this);
+}
+
+// What a main window shows.
+QWidget * window_room::above_foot()
+{
+    if (!foot)
+        return view;
+    auto * const whole_area = new QWidget(&window);
+    whole_area->setObjectName(QStringLiteral("whole_area"));
+    auto * const lines = new QVBoxLayout(whole_area);
+    lines->setContentsMargins({});
+    lines->setSpacing(0);
+    lines->addWidget(view);
+    lines->addWidget(foot);
+    return whole_area;
 }
 
 int window_room::foot_height() const
 {
-    return placed_foot > 0 || !foot ? placed_foot : foot->sizeHint().height();
+    const bool is_placed = placed_foot > 0 || !foot;
+    return is_placed ? placed_foot : foot->isHidden() ? 0 : foot->sizeHint().height();
 }
 
 void window_room::place_foot()
@@ -300,8 +337,9 @@ void window_room::fit()
     if (shown.width() > most.width())
         shown.rheight() += thickness;
     window.setFixedSize(shown.boundedTo(most) + bar);
-    if (!qobject_cast<const QMainWindow *>(&window))
-        view->setGeometry(window.rect().adjusted(0, 0, 0, -foot_height()));
+    if (is_main_window(window))
+        return;
+    view->setGeometry(window.rect().adjusted(0, 0, 0, -foot_height()));
     if (foot)
         place_foot();
 }
@@ -346,6 +384,8 @@ bool window_room::eventFilter(QObject * watched, QEvent * event)
     const bool is_window = watched == &window;
     if (!is_window && (watched == content ? type == QEvent::Resize : type == QEvent::LayoutRequest))
         fit();
+    if (watched == foot && (type == QEvent::ShowToParent || type == QEvent::HideToParent))
+        settle();
     if (is_window && type == QEvent::Show)
         scroll();
     const bool asks_anew = type == QEvent::LayoutRequest && watched == (view ? content.data() : &window);

@@ -9,8 +9,8 @@
 /// Keeps a window on its screen. One that has room there is as large as its form and its content ask for; one
 /// that hasn't is as small as its layout can be, the growing widget gives up the height it doesn't need, the
 /// shrinking one (the window's property `shrinks` names it, its own property `leastRoom` says how far) makes
-/// do with what there is; then the content is scrolled, and the row of buttons that a dialog ends with stays
-/// below it.
+/// do with what there is; then the content is scrolled, and the row of buttons that a window ends with, the
+/// panel of its default button in a main one, stays below it.
 class window_room : public QObject {
 public:
     /// `its_room` gives the pixels that the screen has for the window inside its frame; without it there is
@@ -30,6 +30,7 @@ private:
     void settle();
     void take_content(int whole_height);
     void take_foot(int whole_height);
+    QWidget * above_foot();
     void place_foot();
     int foot_height() const;
     void follow_focus();

@@ -15,7 +15,7 @@ picture_format format_of(const std::string & name)
 
 const bitmap * shape_mask(frmMain & main, const std::string & name, int size)
 {
-    const std::string path = mask_path(name, main.install_folder, main.data_folder);
+    const std::string path = found_mask(name, main.install_folder, main.data_folder);
     const std::optional<file_stamp> stamp = path.empty() ? std::nullopt : stamp_of(path);
     if (!stamp || size < 1)
         return nullptr;

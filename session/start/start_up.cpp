@@ -151,6 +151,15 @@ bool is_filled(const frmMain & main)
            std::ranges::none_of(folders_of_packages, lacks);
 }
 
+// Each preview goes through a file of this folder. Nothing is in the file: a disk may be full and a window be
+// of use.
+void expect_place_to_write(const frmMain & main)
+{
+    const std::string path = in_data(main, "tmp/may_be_written");
+    write_file(path, "");
+    delete_file(path);
+}
+
 void delete_supplied_frames(frmMain & main)
 {
     for (const char * set : {"basketball", "cardinals", "colts", "rams", "soccer"})
@@ -189,6 +198,16 @@ void prepare_data_folder(frmMain & main, const folder_choice & choice)
     const folder_lock filling = filling_lock(main, longest_filling);
     fill_data_folder(main, choice);
     take_newer_designs(main);
+    expect_place_to_write(main);
+}
+
+std::string told_at_start(const platform_error & error)
+{
+    const bool is_refused = error.number == error_number::permission_denied;
+    return told(error) + (is_refused
+                              ? "\n\nTessaloom keeps your designs, your lists and what it shows there. "
+                                "Allow it to write in that\nfolder, then start it again."
+                              : "");
 }
 
 void share_data_folder(frmMain & main, const folder_choice & choice, const std::string & work_folder)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/frmMain.h"
+#include "support/platform_error.h"
 
 #include <chrono>
 #include <string>
@@ -34,8 +35,12 @@ struct data_folder_in_use {
 /// Settles `main.data_folder`, from `main.install_folder`, and fills it, for a session that has it for
 /// itself: it holds the lock of the folder from here on. Shows the welcome on a first start. Designs of a
 /// newer program are added to the catalogue. Throws data_folder_in_use, and end_of_program after its message
-/// when a path is blocked; raises 53, 61, 70, 75 when a copy fails.
+/// when a path is blocked; raises 53, 61, 70, 75 when a copy fails, and where nothing can be written though
+/// all is there.
 void prepare_data_folder(frmMain & main, const folder_choice & choice);
+
+/// What failed there, on which file, and what helps where that isn't plain.
+std::string told_at_start(const platform_error & error);
 
 /// The same for a session that only reads the data folder and keeps what it writes in `work_folder`: only a
 /// data folder that isn't there, or isn't whole, is filled, by one program at a time. The catalogue is read

@@ -30,8 +30,10 @@ struct own_window {
             poster = read_file(finished_path(main));
         else if (&window == &all.select_photos)
             take_photos(main, {photos}, "");
-        else if (&window == &all.lettering)
+        else if (&window == &all.lettering) {
             all.lettering.txtLettering.set_text("Hi you");
+            all.lettering.optSerif.select();
+        }
         if (button * const ok = dynamic_cast<button *>(window.find("cmdOk")))
             if (&window != &all.image && &window != &all.select_photos)
                 ok->click();

@@ -240,6 +240,20 @@ TEST(lettering_fault, a_text_that_leaves_its_letters_no_room_is_told)
     EXPECT_EQ(lettering_fault({.text = "Happy birthday, Grandmother! 80 years young.\nSummer 2026"}), "");
 }
 
+TEST(lettering_plan, each_alphabet_has_a_folder_and_stands_in_the_same_places)
+{
+    const lines rounded = written({.text = "Ab 9"});
+    const lines sturdy = written({.text = "Ab 9", .alphabet = letter_alphabet::sturdy});
+    const lines serif = written({.text = "Ab 9", .alphabet = letter_alphabet::serif});
+    ASSERT_EQ(rounded.size(), 3U);
+    for (std::size_t i = 0; i < rounded.size(); ++i) {
+        const std::size_t name = rounded[i].rfind('/');
+        EXPECT_EQ(sturdy[i], rounded[i].substr(0, name) + "/sturdy" + rounded[i].substr(name));
+        EXPECT_EQ(serif[i], rounded[i].substr(0, name) + "/serif" + rounded[i].substr(name));
+    }
+    EXPECT_TRUE(rounded[2].ends_with(":alpha/char_9.gif"));
+}
+
 TEST(lettering_plan, any_text_without_a_fault_names_only_pictures_that_there_are)
 {
     const std::string alphabet = "abcdefghijklmnopqrstuvwxyz0123456789";

@@ -8,9 +8,12 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -293,6 +296,66 @@ TEST(qt_desktop, the_save_chooser_goes_to_a_folder_and_begins_with_the_name_that
             chooser.reject();
     });
     EXPECT_EQ(desk.choose_save(asked), folder.at("album/b.jpg"));
+}
+
+// What the toolkit marks while it reads the folders of a path that is typed or put in.
+void mark_in_list(const QFileDialog & chooser, const std::string & path)
+{
+    auto * const list = chooser.findChild<QListView *>("listView");
+    auto * const files = qobject_cast<QFileSystemModel *>(list->model());
+    ASSERT_NE(files, nullptr);
+    list->selectionModel()->select(files->index(QString::fromStdString(path)),
+                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    ASSERT_EQ(list->selectionModel()->selectedRows().size(), 1);
+}
+
+TEST(qt_desktop, a_chooser_takes_the_path_that_stands_in_its_box_whatever_its_list_marks)
+{
+    const temporary_folder folder;
+    folder.write("summer/beach.jpg", "x");
+    folder.write("winter/firs.jpg", "x");
+    qt_desktop desk;
+    const auto type = [&](const std::string & path) {
+        return [&folder, path](QFileDialog & chooser) {
+            auto * const box = chooser.findChild<QLineEdit *>("fileNameEdit");
+            box->setText(QString::fromStdString(folder.at(path)));
+            mark_in_list(chooser, folder.at("winter"));
+            QTest::keyClick(box, Qt::Key_Return);
+            if (chooser.isVisible())
+                chooser.reject();
+        };
+    };
+    when_asked<QFileDialog>(type("summer"));
+    EXPECT_EQ(desk.choose_folder("Photos"), folder.at("summer"));
+    file_request asked;
+    asked.folder = folder.path();
+    when_asked<QFileDialog>(type("summer/beach.jpg"));
+    EXPECT_EQ(desk.choose_file(asked), folder.at("summer/beach.jpg"));
+    when_asked<QFileDialog>(type("summer/beach.jpg"));
+    EXPECT_EQ(desk.choose_files(asked), std::vector{folder.at("summer/beach.jpg")});
+}
+
+TEST(qt_desktop, a_chooser_takes_a_name_with_quotes_as_it_was_typed)
+{
+    const temporary_folder folder;
+    const std::string album = "our \"best\" days";
+    folder.write(album + "/a \"b.jpg", "x");
+    qt_desktop desk;
+    const auto type = [](const std::string & typed) {
+        return [typed](QFileDialog & chooser) {
+            chooser.findChild<QLineEdit *>("fileNameEdit")->setText(QString::fromStdString(typed));
+            auto * const buttons = chooser.findChild<QDialogButtonBox *>("buttonBox");
+            buttons->button(QDialogButtonBox::Open)->click();
+            if (chooser.isVisible())
+                chooser.reject();
+        };
+    };
+    when_asked<QFileDialog>(type(folder.at(album)));
+    EXPECT_EQ(desk.choose_folder("Photos"), folder.at(album));
+    file_request asked;
+    asked.folder = folder.path() + "/" + album;
+    when_asked<QFileDialog>(type("a \"b.jpg"));
+    EXPECT_EQ(desk.choose_files(asked), std::vector{folder.at(album + "/a \"b.jpg")});
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
@@ -123,25 +125,70 @@ TEST(small_screen, changes_no_colour_of_a_window_that_it_scrolls)
         EXPECT_EQ(scrolled.at(view), grounds) << view;
 }
 
-// Whoever doesn't scroll finds the way out as well: 1366 by 768 pixels at one and a half times the usual
-// density.
-TEST(small_screen, shows_the_buttons_that_a_dialog_ends_with)
+// 1366 by 768 pixels at one and a half times the usual density, without the frame of a window.
+constexpr QSize dense_screen(902, 476);
+
+void expect_in_sight(const QWidget & window, const QPushButton & each)
+{
+    EXPECT_EQ(each.visibleRegion(), QRegion(each.rect())) << named(each);
+    EXPECT_TRUE(window.rect().contains(place_in(window, each))) << named(each);
+}
+
+// Whoever doesn't scroll finds the way out as well, and what is written from left to right is read without
+// scrolling.
+TEST(small_screen, shows_the_buttons_that_a_dialog_ends_with_and_all_of_its_width)
 {
     filled_session session;
     session.desk.room = {.width = 810, .height = 430};
     int scrolled = 0;
     for (const window_view & view : session.views()) {
         SCOPED_TRACE(view.name);
-        const shown_view shown(view, QSize(904, 476));
-        scrolled += shown.window().findChild<QScrollArea *>(QLatin1String("view_area")) ? 1 : 0;
+        const shown_view shown(view, dense_screen);
+        if (const auto * const area = shown.window().findChild<QScrollArea *>(QLatin1String("view_area"))) {
+            ++scrolled;
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+        }
         for (const QPushButton * each : shown.window().findChildren<QPushButton *>())
-            if (each->isVisible() && each->isDefault()) {
-                EXPECT_EQ(each->visibleRegion(), QRegion(each->rect()));
-                EXPECT_TRUE(shown.window().rect().contains(place_in(shown.window(), *each)));
-            }
+            if (each->isVisible() && each->isDefault())
+                expect_in_sight(shown.window(), *each);
         EXPECT_EQ(tab_order_faults(*view.window, shown.window()), faults());
     }
     EXPECT_GE(scrolled, 5);
+}
+
+// The first page has nothing of it, whatever stage was seen before.
+void expect_no_foot(const QMainWindow & window)
+{
+    const auto * const area = window.findChild<QScrollArea *>(QLatin1String("view_area"));
+    const int bar = window.menuBar()->height();
+    EXPECT_EQ(place_in(window, *area), QRect(0, bar, window.width(), window.height() - bar));
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+}
+
+TEST(small_screen, shows_the_buttons_of_the_main_window_in_all_its_stages)
+{
+    scripted_desktop desk;
+    frmMain main(desk, listed({}));
+    const std::unique_ptr<QWidget> window = make_window("frmMain");
+    bind(main, *window, {.report = {}, .unloaded = {}, .room = [] { return dense_screen; }});
+    main.load();
+    window->show();
+    for (const look stage : all_looks)
+        for (const shape poster : all_shapes) {
+            SCOPED_TRACE(name_of(stage, poster));
+            bring_to(main, look::choosing, poster);
+            QApplication::processEvents();
+            expect_no_foot(dynamic_cast<const QMainWindow &>(*window));
+            bring_to(main, stage, poster);
+            QApplication::processEvents();
+            EXPECT_EQ(window->size(), window->size().boundedTo(dense_screen));
+            EXPECT_EQ(main.frmButtons.visible(), stage != look::choosing);
+            for (const char * name : {"cmdHelp", "cmdCancel", "cmdFlurn"})
+                if (const auto * const each = window->findChild<QPushButton *>(QLatin1String(name));
+                    stage != look::choosing)
+                    expect_in_sight(*window, *each);
+            EXPECT_EQ(tab_order_faults(main, *window), faults());
+        }
 }
 
 // By whatever means it came there, from the form's own wish to a reader of the screen.

@@ -256,6 +256,7 @@ void filled_session::add_designer_views(std::vector<window_view> & views)
     views.push_back(
         {.name = "frmLettering_landscape", .window = &all.lettering, .prepare = {}, .fill = [this, letter] {
              letter("Happy birthday, Grandmother!", all.lettering.optSerpent, all.lettering.optLandscape);
+             all.lettering.optSerif.select();
          }});
     views.push_back({.name = "frmPuzzle", .window = &all.puzzle, .prepare = {}, .fill = [this] {
                          all.puzzle.chkEdges.tick(true);

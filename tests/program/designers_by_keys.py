@@ -65,6 +65,7 @@ def make_lettering(p):
     p.keys('Return')
     p.type('Sea')
     p.shortcut('optSerpent')
+    p.shortcut('optSerif')
     p.shortcut('optSquare')
     p.shortcut('chkOverlap')
     stands(p, 'chkOverlap', True)
@@ -72,7 +73,7 @@ def make_lettering(p):
     p.shortcut('cmdOk')
     choose_folder(p)
     lines = [line.split(':') for line in lines_of(p, 'designs', '__lettering')]
-    same([line[8] for line in lines], ['alpha/char_%s.gif' % letter for letter in 'hisea'], 'the letters')
+    same([line[8] for line in lines], ['alpha/serif/char_%s.gif' % letter for letter in 'hisea'], 'the letters')
     check(int(lines[2][0]) - int(lines[0][0]) > 400, 'the second line stands beside the first')
     flurn(p, (2000, 2000), 'lettering_flurn_by_keys')
 

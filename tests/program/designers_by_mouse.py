@@ -112,6 +112,10 @@ def make_lettering(p):
     for name in ('optSerpent', 'optOffset', 'chkCenter', 'optSquare', 'optLandscape'):
         p.click(name)
         stands(p, name, True)
+    stands(p, 'optRounded', True)
+    for picture, name in (('picSerif', 'optSerif'), ('picSturdy', 'optSturdy')):
+        p.click(picture)
+        stands(p, name, True)
     wide = p.find('txtLettering')
     check(wide['width'] == tall['height'], 'the box has not the shape of the poster')
     kept(p, 'lettering')
@@ -119,7 +123,7 @@ def make_lettering(p):
     choose_folder(p)
     shows(p, 'lblDesign', 'Lettering')
     letters = [line.split(':')[8] for line in lines_of(p, 'designs', '__lettering')]
-    same(letters, ['alpha/char_%s.gif' % letter for letter in 'summer2026'], 'the letters')
+    same(letters, ['alpha/sturdy/char_%s.gif' % letter for letter in 'summer2026'], 'the letters')
     changed_preview(p, lambda: p.click('chkOutline'), 'chkOutline')
     changed_preview(p, lambda: p.click('optMedium'), 'optMedium')
     changed_preview(p, lambda: write_caption(p), 'a caption')
@@ -127,7 +131,8 @@ def make_lettering(p):
     flurn(p, (3000, 2000), 'lettering_flurn')
     p.click('mnuLettering')
     p.window('frmLettering')
-    for name, on in (('optOffset', True), ('chkCenter', True), ('optLandscape', True), ('chkOverlap', False)):
+    for name, on in (('optOffset', True), ('chkCenter', True), ('optLandscape', True), ('chkOverlap', False),
+                     ('optSturdy', True)):
         stands(p, name, on)
     is_enabled(p, 'cmdOk')
     p.click('cmdCancel')

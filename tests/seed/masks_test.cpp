@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -24,7 +25,7 @@ std::vector<std::string> masks()
 {
     std::vector<std::string> found;
     for (const char * folder : {BUILT_SEED "/images", BUILT_SEED "/alpha", BUILT_SEED "/puzzle"})
-        for (const auto & entry : std::filesystem::directory_iterator(folder))
+        for (const auto & entry : std::filesystem::recursive_directory_iterator(folder))
             if (entry.path().extension() == ".gif")
                 found.push_back(entry.path().string());
     std::ranges::sort(found);
@@ -71,6 +72,42 @@ double share_of_inside(const bitmap & mask)
     return static_cast<double>(std::ranges::count(parts, part::inside)) / static_cast<double>(parts.size());
 }
 
+std::string letter_path(const std::string & folder, char character)
+{
+    return BUILT_SEED "/alpha/" + folder + "char_" + character + ".gif";
+}
+
+struct pixel_place {
+    int x = 0, y = 0;
+};
+struct pixel_way {
+    pixel_place from, step;
+};
+
+/// How many pixels the first stroke takes that lies on the way.
+int inside_along(const bitmap & mask, pixel_way way)
+{
+    int count = 0;
+    for (pixel_place at = way.from; at.x < mask.width() && at.y < mask.height();
+         at.x += way.step.x, at.y += way.step.y) {
+        if (part_of(pixel_at(mask, at.x, at.y).value().red) == part::inside)
+            ++count;
+        else if (count > 0)
+            break;
+    }
+    return count;
+}
+
+/// The first and the last row in which a photo shows.
+std::pair<std::size_t, std::size_t> rows_inside(const bitmap & mask)
+{
+    const std::vector<part> parts = parts_of(mask);
+    const auto first = std::ranges::find(parts, part::inside) - parts.begin();
+    const auto last = parts.rend() - std::ranges::find(parts.rbegin(), parts.rend(), part::inside) - 1;
+    const auto width = static_cast<std::ptrdiff_t>(mask.width());
+    return {static_cast<std::size_t>(first / width), static_cast<std::size_t>(last / width)};
+}
+
 }  // namespace
 
 TEST(masks, are_there_for_every_quick_shape)
@@ -87,11 +124,48 @@ TEST(masks, are_there_for_every_quick_shape)
     }
 }
 
-TEST(masks, are_there_for_every_letter_and_digit)
+TEST(masks, are_there_for_every_letter_and_digit_of_each_alphabet)
+{
+    for (const std::string folder : {"", "sturdy/", "serif/"})
+        for (const char character : std::string("abcdefghijklmnopqrstuvwxyz0123456789"))
+            EXPECT_TRUE(std::filesystem::exists(letter_path(folder, character))) << folder << character;
+}
+
+TEST(masks, no_letter_is_the_same_in_two_alphabets)
 {
     for (const char character : std::string("abcdefghijklmnopqrstuvwxyz0123456789")) {
-        const std::string name = std::string("/alpha/char_") + character + ".gif";
-        EXPECT_TRUE(std::filesystem::exists(BUILT_SEED + name)) << name;
+        std::set<std::vector<part>> drawn;
+        for (const char * folder : {"", "sturdy/", "serif/"})
+            drawn.insert(parts_of(load_picture(picture_format::gif, letter_path(folder, character))));
+        EXPECT_EQ(drawn.size(), 3U) << character;
+    }
+}
+
+TEST(masks, strokes_of_letters_that_lie_are_thinner_than_those_that_stand)
+{
+    for (const std::string folder : {"", "sturdy/", "serif/"}) {
+        const bitmap letter = load_picture(picture_format::gif, letter_path(folder, 'h'));
+        const int stem = inside_along(letter, {.from = {.x = 0, .y = 200}, .step = {.x = 1, .y = 0}});
+        const int beam = inside_along(letter, {.from = {.x = 400, .y = 0}, .step = {.x = 0, .y = 1}});
+        EXPECT_GT(stem, 150) << folder;
+        EXPECT_LT(beam, stem) << folder;
+        EXPECT_GT(beam, 60) << folder;
+    }
+}
+
+TEST(masks, round_letters_reach_beyond_the_lines_on_which_flat_ones_stand)
+{
+    for (const std::string folder : {"sturdy/", "serif/"}) {
+        const auto rows = [&](char character) {
+            return rows_inside(load_picture(picture_format::gif, letter_path(folder, character)));
+        };
+        const auto [flat_first, flat_last] = rows('h');
+        for (const char character : std::string("cgos0368")) {
+            const auto [first, last] = rows(character);
+            EXPECT_LT(first, flat_first) << folder << character;
+            EXPECT_GT(last, flat_last) << folder << character;
+            EXPECT_LT(flat_first - first, 20) << folder << character;
+        }
     }
 }
 

@@ -1,69 +1,29 @@
-"""The letters and digits that photos show through: round strokes of one broad pen in a box of 500 by 500.
+"""The letters and digits that photos show through, in three alphabets: rounded, sturdy, serif.
 
-A letter fills its box, since boxes stand side by side with little between them; narrow ones wear bars or serifs.
+Each is drawn in a box of 500 by 500 and fills it, since boxes stand side by side with little between them: narrow ones wear
+bars or serifs. Strokes are as broad as their letter bears, those that lie thinner than those that stand.
 """
-from starter_art.masks import LIT, RIM
-from starter_art.svg import drawing, group, path, rectangle
+from starter_art import built_letters, rounded_letters
+from starter_art.built_letters import all_built
+from starter_art.letter_parts import SERIF, STURDY
+from starter_art.rounded_letters import all_rounded
+from starter_art.svg import drawing, group
 
-PEN = 122  # the whole stroke
-RIM_WIDTH = 11  # of which this much on each side is rim
-
-STROKES = {
-    "a": ["M70,430 L250,72 L430,430", "M150,342 H350"],
-    "b": ["M92,70 V430 H270 C362,430 414,394 414,340 C414,286 362,250 270,250 H92",
-          "M92,70 H262 C346,70 388,106 388,160 C388,214 346,250 262,250"],
-    "c": ["M396,131 A180,180 0 1 0 396,369"],
-    "d": ["M90,70 H226 C350,70 428,142 428,250 C428,358 350,430 226,430 H90 Z"],
-    "e": ["M404,70 H96 V430 H404", "M96,250 H366"],
-    "f": ["M408,70 H100 V430", "M100,258 H356"],
-    "g": ["M388,124 A180,180 0 1 0 430,272 H292"],
-    "h": ["M84,70 V430", "M416,70 V430", "M84,250 H416"],
-    "i": ["M126,70 H374", "M126,430 H374", "M250,70 V430"],
-    "j": ["M178,70 H384 V286 C384,382 328,430 242,430 C168,430 118,398 96,340"],
-    "k": ["M92,70 V430", "M408,70 L112,262", "M212,208 L412,430"],
-    "l": ["M112,70 V430 H402"],
-    "m": ["M70,430 V72 L250,286 L430,72 V430"],
-    "n": ["M82,430 V72 L418,428 V70"],
-    "o": ["M250,70 A180,180 0 1 0 250.1,70 Z"],
-    "p": ["M96,430 V70 H272 C368,70 414,116 414,186 C414,256 368,302 272,302 H96"],
-    "q": ["M246,70 A178,176 0 1 0 246.1,70 Z", "M302,308 L424,428"],
-    "r": ["M94,430 V70 H266 C360,70 404,114 404,182 C404,250 360,294 266,294 H94", "M262,294 L412,430"],
-    "s": ["M398,148 C378,96 320,70 250,70 C162,70 104,106 104,160 C104,220 166,238 250,250 "
-          "C338,263 400,282 400,342 C400,396 338,430 250,430 C176,430 118,402 98,346"],
-    "t": ["M70,72 H430", "M250,72 V430"],
-    "u": ["M82,70 V258 C82,368 148,430 250,430 C352,430 418,368 418,258 V70"],
-    "v": ["M70,70 L250,428 L430,70"],
-    "w": ["M66,70 L152,428 L250,176 L348,428 L434,70"],
-    "x": ["M80,72 L420,428", "M420,72 L80,428"],
-    "y": ["M70,70 L250,262 L430,70", "M250,262 V430"],
-    "z": ["M88,72 H412 L88,428 H412"],
-    "0": ["M250,70 C340,70 396,140 396,250 C396,360 340,430 250,430 C160,430 104,360 104,250 C104,140 160,70 250,70 Z"],
-    "1": ["M146,158 L264,74 V430", "M136,430 H392"],
-    "2": ["M106,172 C112,106 170,70 248,70 C340,70 396,114 396,182 C396,256 318,306 104,430 H406"],
-    "3": ["M104,116 C144,84 194,70 248,70 C334,70 386,104 386,158 C386,212 340,246 252,246 "
-          "C348,246 402,282 402,340 C402,398 340,430 248,430 C184,430 130,412 94,374"],
-    "4": ["M334,430 V72 L72,324 H430"],
-    "5": ["M390,70 H132 L120,236 C160,214 204,204 250,204 C346,204 404,248 404,316 C404,388 340,430 246,430 "
-          "C182,430 132,414 96,376"],
-    "6": ["M384,112 C350,82 310,70 270,70 C154,70 96,160 96,288 C96,380 156,430 250,430 C342,430 404,386 404,318 "
-          "C404,258 342,224 256,224 C184,224 122,250 98,300"],
-    "7": ["M86,72 H414 C330,180 262,304 234,430"],
-    "8": ["M250,70 C330,70 376,104 376,158 C376,212 330,244 250,244 C170,244 124,212 124,158 C124,104 170,70 250,70 Z",
-          "M250,244 C344,244 402,280 402,338 C402,396 344,430 250,430 C156,430 98,396 98,338 C98,280 156,244 250,244 Z"],
-}
-
-
-def character(strokes, **placing):
-    """The rims of all strokes lie below the insides of all, so that no rim crosses the letter."""
-    parts = [path(stroke) for stroke in strokes]
-    style = dict(fill="none", stroke_linecap="round", stroke_linejoin="round", **placing)
-    return drawing(500, 500, [rectangle(0, 0, 500, 500, fill="#ffffff"),
-                              group(parts, stroke=RIM, stroke_width=PEN, **style),
-                              group([group(parts, stroke="#000000", stroke_width=PEN - 2 * RIM_WIDTH, **style)],
-                                    transform=f"translate({LIT},{LIT})")])
+# The rounded ones lie in the folder of letters itself, which is what a lettering without a choice shows.
+FOLDERS = {"": all_rounded, "sturdy/": lambda: all_built(STURDY), "serif/": lambda: all_built(SERIF)}
 
 
 def all_characters():
-    found = {f"char_{name}": character(strokes) for name, strokes in STROKES.items()}
-    found["char_9"] = character(STROKES["6"], transform="rotate(180 250 250)")
-    return found
+    """Their files below the folder of letters."""
+    return {folder + name: text for folder, letters in FOLDERS.items() for name, text in letters().items()}
+
+
+SHOWN, COLOR = "abc", "#f3e6cf"
+
+
+def samples():
+    """The first letters of each alphabet, for the window that asks for one."""
+    kinds = {"rounded": lambda name: rounded_letters.shown(name, COLOR), "sturdy": lambda name: built_letters.shown(name, STURDY),
+             "serif": lambda name: built_letters.shown(name, SERIF)}
+    return {kind: drawing(1583, 500, [group([draw(name)], transform=f"translate({at * 541},0)", fill=COLOR)
+                                      for at, name in enumerate(SHOWN)]) for kind, draw in kinds.items()}

@@ -1,3 +1,4 @@
+#include "support/files/paths.h"
 #include "tests/designers/designer_session.h"
 
 namespace {
@@ -15,7 +16,7 @@ TEST(frmLettering, ok_waits_for_a_text)
 {
     const lettering_window session;
     EXPECT_EQ(session.window.caption(), "L e t t e r i n g   F l u r n");
-    expect_states(session.window, "cmdOk- optAlign1 chkOverlap0 chkCenter0 optPortrait1");
+    expect_states(session.window, "cmdOk- optAlign1 chkOverlap0 chkCenter0 optRounded1 optPortrait1");
     session.window.txtLettering.set_text("a");
     expect_states(session.window, "cmdOk+");
     session.window.txtLettering.set_text("");
@@ -79,16 +80,45 @@ TEST(frmLettering, comes_back_as_it_was_left)
     window.optSerpent.select();
     window.chkOverlap.tick(true);
     window.chkCenter.tick(true);
+    window.optSerif.select();
     window.optSquare.select();
     window.cmdOk.click();
     window.txtLettering.set_text("");
     window.optOffset.select();
     window.chkOverlap.tick(false);
     window.chkCenter.tick(false);
+    window.optSturdy.select();
     window.optLandscape.select();
     window.load();
     EXPECT_EQ(window.txtLettering.text(), "One\nTwo");
-    expect_states(window, "optSerpent1 chkOverlap1 chkCenter1 optSquare1 cmdOk+");
+    expect_states(window, "optSerpent1 chkOverlap1 chkCenter1 optSerif1 optSquare1 cmdOk+");
+}
+
+TEST(frmLettering, the_letters_are_those_of_the_chosen_alphabet)
+{
+    const lettering_window session;
+    session.window.txtLettering.set_text("i");
+    session.window.optSturdy.select();
+    session.window.cmdOk.click();
+    EXPECT_EQ(session.lines_of("__lettering"), (lines{"100:50:0:1900:0:0:-1:0:alpha/sturdy/char_i.gif"}));
+}
+
+TEST(frmLettering, each_alphabet_is_shown_and_chosen_by_its_letters)
+{
+    const lettering_window session;
+    frmLettering & window = session.window;
+    struct row {
+        picture * sample;
+        const char * file;
+        const char * expected;
+    };
+    for (const row & each : {row{&window.picSerif, "images/letters_serif.png", "optSerif1"},
+                             row{&window.picSturdy, "images/letters_sturdy.png", "optSturdy1"},
+                             row{&window.picRounded, "images/letters_rounded.png", "optRounded1"}}) {
+        EXPECT_EQ(each.sample->file(), joined(session.main.install_folder, each.file));
+        each.sample->click();
+        expect_states(window, each.expected);
+    }
 }
 
 TEST(frmLettering, an_empty_text_leaves_without_writing)

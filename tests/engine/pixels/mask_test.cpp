@@ -3,6 +3,7 @@
 #include "engine/photo/mask_path.h"
 #include "tests/engine/by_pixel.h"
 #include "tests/pictures.h"
+#include "tests/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -141,6 +142,24 @@ TEST(mask_path, a_bare_name_lies_beside_the_program)
 TEST(mask_path, the_users_own_shape_lies_in_the_data_folder)
 {
     EXPECT_EQ(mask_path("custom_shape.gif", "/program", "/data"), "/data/user_images/custom_shape.gif");
+}
+
+TEST(found_mask, a_data_folder_without_the_letter_gets_that_of_the_program)
+{
+    const temporary_folder folder;
+    const std::string program = folder.at("program"), data = folder.at("data");
+    const std::string name = "alpha/serif/char_a.gif";
+    EXPECT_EQ(found_mask(name, program, data), data + "/" + name);
+    folder.write("program/" + name, "supplied");
+    EXPECT_EQ(found_mask(name, program, data), program + "/" + name);
+    folder.write("data/" + name, "own");
+    EXPECT_EQ(found_mask(name, program, data), data + "/" + name);
+}
+
+TEST(found_mask, a_name_that_leads_outside_is_found_nowhere)
+{
+    EXPECT_EQ(found_mask("alpha/../../char_a.gif", "/program", "/data"), "");
+    EXPECT_EQ(found_mask("", "/program", "/data"), "");
 }
 
 TEST(mask_path, a_name_with_a_folder_lies_below_the_data_folder)

@@ -229,6 +229,28 @@ TEST(start_up, names_the_place_that_can_not_be_written)
     }
 }
 
+// All is there, so nothing has to be made.
+TEST(start_up, refuses_a_data_folder_in_which_no_preview_can_be_kept)
+{
+    fresh_program program;
+    program.start();
+    program.desk.next_message();
+    fs::permissions(joined(program.data, "tmp"), fs::perms{0555});
+    try {
+        const as_ordinary_user user;
+        program.start();
+        ADD_FAILURE() << "started where no preview can be kept";
+    } catch (const platform_error & error) {
+        EXPECT_EQ(error.number, error_number::permission_denied);
+        EXPECT_EQ(error.path, joined(program.data, "tmp/may_be_written"));
+        EXPECT_NE(told_at_start(error).find("Allow it to write in that\nfolder"), std::string::npos);
+    }
+    fs::permissions(joined(program.data, "tmp"), fs::perms{0777});
+    program.start();
+    EXPECT_FALSE(program.has("tmp/may_be_written"));
+    EXPECT_EQ(told_at_start({error_number::disk_full, "The disk is full.", "/a"}), "The disk is full.\n/a");
+}
+
 TEST(start_up, names_the_file_that_did_not_fit_on_a_full_disk)
 {
     fresh_program program;
