@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <span>
 
 namespace fs = std::filesystem;
 
