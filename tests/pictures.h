@@ -12,9 +12,11 @@ template <typename Color>
 bitmap colored(int width, int height, Color color_at)
 {
     bitmap image(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            set_pixel(image, x, height - 1 - y, color_at(x, y));
+    for (int y = 0; y < height; ++y) {
+        int x = 0;
+        for (pixel & each : image.row(height - 1 - y))
+            each = color_at(x++, y);
+    }
     return image;
 }
 
@@ -32,9 +34,9 @@ template <typename Letters>
 std::string drawn(const bitmap & image, Letters letters)
 {
     std::string text;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            text += letters(seen(image, x, y));
+    for (int y = image.height() - 1; y >= 0; --y) {
+        for (const pixel & each : image.row(y))
+            text += letters(each);
         text += '\n';
     }
     return text;

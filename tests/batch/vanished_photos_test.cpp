@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <span>
 
 namespace fs = std::filesystem;
 
@@ -50,10 +51,14 @@ double empty_share(const bitmap & image)
         const bool black = each.red < 8 && each.green < 8 && each.blue < 8;
         return ground || black || (each.red == 128 && each.green == 128 && each.blue == 128);
     };
-    long count = 0;
-    for (int y = 0; y < image.height(); y += 3)
-        count += std::ranges::count_if(image.row(y), is_empty);
-    return 300.0 * static_cast<double>(count) / (static_cast<double>(image.width()) * image.height());
+    constexpr int step = 3;
+    long seen = 0, empty = 0;
+    for (int y = 0; y < image.height(); y += step) {
+        const std::span<const pixel> row = image.row(y);
+        for (std::size_t x = 0; x < row.size(); x += step, ++seen)
+            empty += is_empty(row[x]);
+    }
+    return 100.0 * static_cast<double>(empty) / static_cast<double>(seen);
 }
 
 // What is drawn after the photos have changed.
