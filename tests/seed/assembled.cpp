@@ -1,6 +1,7 @@
 #include "tests/seed/assembled.h"
 
 #include "support/MFreeImage.h"
+#include "tests/seed/mask_parts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -148,7 +149,6 @@ covering assembled(const jigsaw & puzzle)
 
 covering assembled(const jigsaw & puzzle, const laid_out & pieces)
 {
-    constexpr int lightest_rim = 144, darkest_rim = 41;
     const bool wide = puzzle.shape == jigsaw::poster::landscape;
     covering seen{.width = wide ? 3000 : 2000, .height = wide ? 2000 : 3000, .covered = {}, .inside = {}};
     seen.covered.resize(static_cast<std::size_t>(seen.width) * static_cast<std::size_t>(seen.height));
@@ -159,17 +159,19 @@ covering assembled(const jigsaw & puzzle, const laid_out & pieces)
         if (!mask)
             mask = rescaled(load_picture(picture_format::gif, std::string(BUILT_SEED "/") + one.piece),
                             pieces.size, pieces.size);
+        const rgb_triple ground(mask.row(0).front());
         for (int y = 0; y < mask.height(); ++y) {
             const auto row = mask.row(mask.height() - 1 - y);
             for (int x = 0; x < mask.width(); ++x) {
-                const int level = row[static_cast<std::size_t>(x)].blue;
+                const part seen_there = part_of(rgb_triple(row[static_cast<std::size_t>(x)]), ground);
                 const int to_x = one.left + x, to_y = one.top + y;
-                if (level > lightest_rim || to_x < 0 || to_y < 0 || to_x >= seen.width || to_y >= seen.height)
+                if (seen_there == part::ground || to_x < 0 || to_y < 0 || to_x >= seen.width ||
+                    to_y >= seen.height)
                     continue;
                 const std::size_t at = static_cast<std::size_t>(to_y) * static_cast<std::size_t>(seen.width) +
                                        static_cast<std::size_t>(to_x);
                 ++seen.covered[at];
-                if (level < darkest_rim)
+                if (seen_there == part::inside || seen_there == part::black_key)
                     ++seen.inside[at];
             }
         }

@@ -67,6 +67,23 @@ TEST(icons, are_small_windows_bitmaps_of_24_bits)
     }
 }
 
+TEST(icons, have_no_light_rim_on_a_dark_band)
+{
+    for (const auto & [name, file] : listed()) {
+        const bitmap icon = load_picture(picture_format::bmp, BUILT_SEED "/icons/" + file);
+        const rgb_triple key = *pixel_at(icon, 0, 0);
+        for (int y = 1; y + 1 < icon.height(); ++y)
+            for (int x = 1; x + 1 < icon.width(); ++x) {
+                const rgb_triple seen = *pixel_at(icon, x, y);
+                const bool at_edge =
+                    dropped(*pixel_at(icon, x - 1, y), key) || dropped(*pixel_at(icon, x + 1, y), key) ||
+                    dropped(*pixel_at(icon, x, y - 1), key) || dropped(*pixel_at(icon, x, y + 1), key);
+                const bool light = std::min({seen.red, seen.green, seen.blue}) >= 60;
+                EXPECT_FALSE(at_edge && light && !dropped(seen, key)) << file << " at " << x << ", " << y;
+            }
+    }
+}
+
 TEST(icons, stand_free_on_their_key_at_both_sizes)
 {
     for (const auto & [name, file] : listed()) {

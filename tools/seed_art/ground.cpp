@@ -29,10 +29,13 @@ QString described(const QString & drawing)
 
 /// Noise about 0 that belongs to a pixel and a little to its neighbours: single pixels would be lost in a
 /// JPEG.
-float grain_at(int x, int y)
+void grain_from(int x, int y, many & found)
 {
-    const auto left = static_cast<float>(x), top = static_cast<float>(y);
-    return hashed(x, y, 11) - 0.5F + value_noise(left / 2.3F, top / 2.3F, 12) - 0.5F;
+    many own{}, shared{};
+    hashed_from(x, y, 11, own);
+    value_noise(divided(counted(x), 2.3F), same(static_cast<float>(y) / 2.3F), 12, shared);
+    for (std::size_t at = 0; at < together; ++at)
+        found[at] = own[at] - 0.5F + shared[at] - 0.5F;
 }
 
 std::array<std::uint8_t, 3> lowered(QRgba64 seen, float change)
@@ -60,12 +63,16 @@ QImage ground(const QString & drawing, int width, int height)
     renderer.render(&painter, QRectF(0, 0, width, height));
     painter.end();
     QImage found(width, height, QImage::Format_RGB32);
+    many change{};
     for (int y = 0; y < height; ++y) {
         const auto * from = reinterpret_cast<const QRgba64 *>(page.constScanLine(y));
         auto * to = reinterpret_cast<QRgb *>(found.scanLine(y));
-        for (int x = 0; x < width; ++x) {
-            const auto levels = lowered(from[x], grain * grain_at(x, y));
-            to[x] = qRgb(levels[0], levels[1], levels[2]);
+        for (int x = 0; x < width; x += static_cast<int>(together)) {
+            grain_from(x, y, change);
+            for (int at = x; at < std::min(width, x + static_cast<int>(together)); ++at) {
+                const auto levels = lowered(from[at], grain * change[static_cast<std::size_t>(at - x)]);
+                to[at] = qRgb(levels[0], levels[1], levels[2]);
+            }
         }
     }
     return found;

@@ -71,11 +71,37 @@ void save(FREE_IMAGE_FORMAT format, const image_owner & image, const char * path
         throw std::runtime_error(std::string(path) + ": can't be written");
 }
 
+image_owner in_grey(const QImage & page)
+{
+    const image_owner colour = in_colour(page);
+    return image_owner(FreeImage_ConvertToGreyscale(colour.get()));
+}
+
+// A mask with a shadow in it has as much green as red in each pixel: sixteen levels of both by sixteen of
+// blue.
+image_owner in_mask_colours(const QImage & page)
+{
+    constexpr int levels = 16, step = 17;
+    const auto level = [](int value) { return (value + step / 2) / step; };
+    image_owner copy(FreeImage_Allocate(page.width(), page.height(), 8));
+    RGBQUAD * palette = FreeImage_GetPalette(copy.get());
+    for (int i = 0; i < levels * levels; ++i) {
+        const auto red = static_cast<BYTE>(i / levels * step), blue = static_cast<BYTE>(i % levels * step);
+        palette[i] = {.rgbBlue = blue, .rgbGreen = red, .rgbRed = red, .rgbReserved = 0};
+    }
+    for (int y = 0; y < page.height(); ++y) {
+        const auto * from = reinterpret_cast<const QRgb *>(page.constScanLine(page.height() - 1 - y));
+        BYTE * to = FreeImage_GetScanLine(copy.get(), y);
+        for (int x = 0; x < page.width(); ++x)
+            to[x] = static_cast<BYTE>(level(qRed(from[x])) * levels + level(qBlue(from[x])));
+    }
+    return copy;
+}
+
 void render_mask(const char * drawing, const char * target, int size)
 {
-    const image_owner colour = in_colour(rendered(drawing, size, size));
-    const image_owner grey(FreeImage_ConvertToGreyscale(colour.get()));
-    save(FIF_GIF, grey, target, GIF_DEFAULT);
+    const QImage page = rendered(drawing, size, size);
+    save(FIF_GIF, page.allGray() ? in_grey(page) : in_mask_colours(page), target, GIF_DEFAULT);
 }
 
 void render_picture(const char * drawing, const char * target, int width, int height)
@@ -93,9 +119,17 @@ void render_ground(char ** words)
     save(FIF_JPEG, in_colour(small), words[6], ground_quality);
 }
 
+// An edge mixed with the white of the ground would stay as a light rim on a dark band: a pixel is drawn or it
+// isn't.
 void render_icon(const char * drawing, const char * target, int width, int height)
 {
-    save(FIF_BMP, in_colour(rendered(drawing, width, height)), target, BMP_DEFAULT);
+    QImage page = rendered(drawing, width, height, Qt::transparent);
+    for (int y = 0; y < height; ++y) {
+        auto * row = reinterpret_cast<QRgb *>(page.scanLine(y));
+        for (int x = 0; x < width; ++x)
+            row[x] = qAlpha(row[x]) < 128 ? qRgb(255, 255, 255) : row[x] | 0xff000000U;
+    }
+    save(FIF_BMP, in_colour(page), target, BMP_DEFAULT);
 }
 
 void compress(const char * picture, const char * target, int quality)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 /// Chance that is the same on each run.
@@ -18,12 +20,12 @@ inline std::uint32_t scrambled(std::uint32_t value)
 inline int below(float value)
 {
     const int whole = static_cast<int>(value);
-    return static_cast<float>(whole) > value ? whole - 1 : whole;
+    return whole - static_cast<int>(static_cast<float>(whole) > value);
 }
 
 inline float unit(std::uint32_t value)
 {
-    return static_cast<float>(value >> 8) / 16777216.0F;
+    return static_cast<float>(static_cast<std::int32_t>(value >> 8)) / 16777216.0F;
 }
 
 }  // namespace noise
@@ -51,6 +53,47 @@ inline float value_noise(float x, float y, unsigned seed)
 
 /// Several octaves of it, 0 to 1.
 float cloudy(float x, float y, int octaves, unsigned seed);
+
+/// So many places are looked at together: a processor with wide registers takes several of them in one step.
+constexpr std::size_t together = 256;
+using many = std::array<float, together>;
+
+/// The noise at many places, of one seed or each of its own, and the hashed numbers of a row of them: the
+/// same as one by one.
+using many_seeds = std::array<unsigned, together>;
+void value_noise(const many & x, const many & y, unsigned seed, many & found);
+void value_noise(const many & x, const many & y, const many_seeds & seeds, unsigned more, many & found);
+void cloudy(many x, many y, int octaves, unsigned seed, many & found);
+void hashed_from(int x, int y, unsigned seed, many & found);
+
+/// The whole numbers from x on, and one number for each.
+inline many counted(int x)
+{
+    many found{};
+    for (std::size_t at = 0; at < together; ++at)
+        found[at] = static_cast<float>(x + static_cast<int>(at));
+    return found;
+}
+inline many same(float value)
+{
+    many found{};
+    found.fill(value);
+    return found;
+}
+inline many times(const many & values, float by)
+{
+    many found{};
+    for (std::size_t at = 0; at < together; ++at)
+        found[at] = values[at] * by;
+    return found;
+}
+inline many divided(const many & values, float by)
+{
+    many found{};
+    for (std::size_t at = 0; at < together; ++at)
+        found[at] = values[at] / by;
+    return found;
+}
 
 /// A stream of numbers.
 class dice {

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
@@ -63,9 +64,13 @@ void fill_lit(QImage & page, Function height_at, colour base, float strength)
         return heights[static_cast<std::size_t>(y) * static_cast<std::size_t>(width + 2) +
                        static_cast<std::size_t>(x)];
     };
+    many heights_here{};
     for (int y = 0; y < height + 2; ++y)
-        for (int x = 0; x < width + 2; ++x)
-            at(x, y) = height_at(static_cast<float>(x), static_cast<float>(y));
+        for (int x = 0; x < width + 2; x += static_cast<int>(together)) {
+            height_at(counted(x), static_cast<float>(y), heights_here);
+            const auto left = static_cast<std::size_t>(width + 2 - x);
+            std::copy_n(heights_here.begin(), std::min(together, left), &at(x, y));
+        }
     fill(page, [&](float x, float y) {
         const int column = static_cast<int>(x), row = static_cast<int>(y);
         const float slope = at(column + 2, row + 2) - at(column, row);
@@ -129,11 +134,16 @@ struct bumps {
 /// How high the stuff rises at a place; 0.5 in the mean.
 auto surface(nap hairs, std::array<bumps, 2> under, unsigned seed)
 {
-    return [=](float x, float y) {
-        float height = 0.5F + hairs.height * hairs_at(x, y, hairs.length, hairs.width, seed);
-        for (const bumps & one : under)
-            height += one.height * (cloudy(x / one.wide, y / one.high, one.octaves, seed + one.seed) - 0.5F);
-        return height;
+    return [=](const many & x, float y, many & found) {
+        many part{};
+        hairs_at(x, y, hairs.length, hairs.width, seed, part);
+        for (std::size_t at = 0; at < together; ++at)
+            found[at] = 0.5F + hairs.height * part[at];
+        for (const bumps & one : under) {
+            cloudy(divided(x, one.wide), same(y / one.high), one.octaves, seed + one.seed, part);
+            for (std::size_t at = 0; at < together; ++at)
+                found[at] += one.height * (part[at] - 0.5F);
+        }
     };
 }
 

@@ -30,20 +30,29 @@ std::vector<colour> stuff_words::colours(const QString & name) const
     return found;
 }
 
-float hairs_at(float x, float y, float length, float width, unsigned seed)
+void hairs_at(const many & x, float y, float length, float width, unsigned seed, many & found)
 {
     struct direction {
         float along, across;
     };
     static constexpr std::array<direction, 4> directions{
         {{0.955F, 0.296F}, {0.362F, 0.932F}, {-0.505F, 0.863F}, {-0.942F, 0.335F}}};
-    float sum = 0;
-    for (unsigned at = 0; at < directions.size(); ++at) {
-        const auto [c, s] = directions[at];
-        const float here = rise(0.3F, 0.8F,
-                                value_noise((x + 97.0F * static_cast<float>(at)) / (1.3F * length),
-                                            y / (1.3F * length), seed + 20 + at));
-        sum += here * (value_noise((x * c + y * s) / length, (y * c - x * s) / width, seed + at) - 0.5F);
+    many sum{}, there{}, hair{}, along{}, across{};
+    for (unsigned way = 0; way < directions.size(); ++way) {
+        const auto [c, s] = directions[way];
+        for (std::size_t at = 0; at < together; ++at) {
+            across[at] = (x[at] + 97.0F * static_cast<float>(way)) / (1.3F * length);
+            along[at] = y / (1.3F * length);
+        }
+        value_noise(across, along, seed + 20 + way, there);
+        for (std::size_t at = 0; at < together; ++at) {
+            along[at] = (x[at] * c + y * s) / length;
+            across[at] = (y * c - x[at] * s) / width;
+        }
+        value_noise(along, across, seed + way, hair);
+        for (std::size_t at = 0; at < together; ++at)
+            sum[at] += rise(0.3F, 0.8F, there[at]) * (hair[at] - 0.5F);
     }
-    return sum * 0.5F;
+    for (std::size_t at = 0; at < together; ++at)
+        found[at] = sum[at] * 0.5F;
 }

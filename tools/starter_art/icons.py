@@ -132,9 +132,8 @@ ALL = {"heart": heart, "star": star, "flower": flower, "sun": sun, "moon": moon,
 
 
 def all_icons():
-    ground = rectangle(0, 0, WIDTH, HEIGHT, fill="#ffffff")
     within = "translate(3.5,4.5) scale(0.9)"  # the outermost pixels aren't copied to a frame
-    return {name: drawing(WIDTH, HEIGHT, [ground, group(draw(), transform=within)]) for name, draw in ALL.items()}
+    return {name: drawing(WIDTH, HEIGHT, [group(draw(), transform=within)]) for name, draw in ALL.items()}
 
 
 def listing():

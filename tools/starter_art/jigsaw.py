@@ -13,9 +13,12 @@ import math
 from starter_art.svg import drawing
 
 UNITS = 10000  # of the drawing, for numbers without a point
-RIM = "#343434"  # dark: half a pixel of it still counts as the piece's, so that two pieces share a line evenly
-RIM_WIDTH = 0.0026
-LIT = 0.0004  # the rim is broader by this where the light comes from, at the upper left, and narrower across: it brightens
+# A bevel: lighter than the photo at the upper left, where the light comes from, black across.
+RIM = "#333333"  # dark: half a pixel of it still counts as the piece's, so that two pieces share a line evenly
+SHADOW = "#ffff00"  # the key for black
+GROUND = "#ffff99"  # between it and the key there is nothing that would count as a rim
+LIT, DARK = 0.0046, 0.0052
+DARK_OF_FOUR = 0.0068  # they are drawn smaller
 
 RIGHT, BOTTOM = 0.8575, 0.84
 # Where the body begins: `ACROSS` and `DOWN` follow the steps of the designer; edges are straight at the outer side.
@@ -84,12 +87,26 @@ def stretched(seam, length):
     return seam[:-1] + [(length, 0)]
 
 
-def inset(points, by):
-    """The outline moved inwards, given clockwise as seen."""
+def with_corners(points, near=0.003):
+    """The outline with a point close to each end of a long side, so that a corner bends nothing but itself."""
     found = []
+    for (x, y), (a, b) in zip(points, points[1:] + points[:1]):
+        found.append((x, y))
+        long = math.hypot(a - x, b - y)
+        if long > 4 * near:
+            found += [(x + (a - x) * share, y + (b - y) * share) for share in (near / long, 1 - near / long)]
+    return found
+
+
+def bevelled(points, dark, lit):
+    """The outline moved inwards, given clockwise as seen: by `dark` where it faces away from the light at the upper left, by
+    `lit` where it faces it, by less where it lies along it."""
+    points, found = with_corners(points), []
     for (a, b), (x, y), (c, d) in zip(points[-1:] + points[:-1], points, points[1:] + points[:1]):
         one, two = math.atan2(y - b, x - a), math.atan2(d - y, c - x)
         half = math.remainder(two - one, 2 * math.pi) / 2
+        faced = 1.3 * math.cos(one + half + math.radians(45))
+        by = (dark if faced < 0 else lit) * max(0.5, min(1, abs(faced)))
         reach = by / max(0.3, math.cos(half))
         found.append((x - reach * math.sin(one + half), y + reach * math.cos(one + half)))
     return found
@@ -100,11 +117,18 @@ def drawn(points, color):
     return f'<polygon points="{text}" fill="{color}"/>'
 
 
-def piece(points, seams=()):
-    lines = [f'<polyline points="{" ".join(f"{round(x * UNITS)},{round(y * UNITS)}" for x, y in seam)}" fill="none" '
-             f'stroke="{RIM}" stroke-width="{round(2 * RIM_WIDTH * UNITS)}"/>' for seam in seams]
-    ground = f'<rect width="{UNITS}" height="{UNITS}" fill="#ffffff"/>'
-    return drawing(UNITS, UNITS, [ground, drawn(points, RIM), drawn([(x + LIT, y + LIT) for x, y in inset(points, RIM_WIDTH)], "#000000")] + lines)
+def line(points, color, width, moved):
+    text = " ".join(f"{round((x + moved) * UNITS)},{round((y + moved) * UNITS)}" for x, y in points)
+    return f'<polyline points="{text}" fill="none" stroke="{color}" stroke-width="{round(width * UNITS)}"/>'
+
+
+def piece(points, dark=DARK, seams=()):
+    """Its shadow, on that its rim, on that its inside; within it the seams of four."""
+    shadows = [line(seam, SHADOW, dark, -dark * 0.35) for seam in seams]
+    rims = [line(seam, RIM, dark, dark * 0.35) for seam in seams]
+    ground = f'<rect width="{UNITS}" height="{UNITS}" fill="{GROUND}"/>'
+    return drawing(UNITS, UNITS, [ground, drawn(points, SHADOW), drawn(bevelled(points, dark, 0), RIM),
+                                  drawn(bevelled(points, dark, LIT), "#000000"), *rims, *shadows])
 
 
 def four():
@@ -124,7 +148,7 @@ def four():
         return one[:-1] + [(x + dx, top + high + y) for y, dx in side[1]]
 
     edge = level(top)[:-1] + upright(left + 2 * wide)[:-1] + level(top + 2 * high)[:0:-1] + upright(left)[:0:-1]
-    return piece(edge, [level(top + high), upright(left + wide)])
+    return piece(edge, DARK_OF_FOUR, [level(top + high), upright(left + wide)])
 
 
 def all_pieces():
