@@ -25,6 +25,12 @@ REACH = {
 }
 
 
+def photo_of(place):
+    corners = place.corners()
+    x, y = (sum(point[axis] for point in corners) / 4 for axis in (0, 1))
+    return Photo(x, y, place.width, place.height, place.rotation)
+
+
 @dataclass(frozen=True)
 class Photo:
     """A photo by its middle."""
@@ -58,8 +64,8 @@ class Photo:
         return replace(place, top=round(place.top + quarter), left=round(place.left - quarter),
                        height=place.width, width=place.height)
 
-    def lack_of_room(self, height):
-        """How far the photo, turned, would reach beyond what the narrowest border allows."""
+    def reach_beyond(self, height):
+        """How far the photo, turned, reaches beyond the poster by the program's reckoning."""
         place, long_side = self.turned(), max(self.width, self.height)
         reach = REACH["wide" if self.height > self.width else "tall"]
         index = round((self.tilt + 35) / 5)
@@ -67,7 +73,11 @@ class Photo:
         low = min(place.top + long_side * reach["top"][index], place.left + long_side * reach["left"][index])
         high = max(place.top + long_side * reach["bottom"][index] - height,
                    place.left + long_side * reach["right"][index] - WIDTH)
-        return max(0, -low - ROOM, high - ROOM)
+        return max(0, -low, high)
+
+    def lack_of_room(self, height):
+        """How far the photo, turned, would reach beyond what leaves the user every border."""
+        return max(0, self.reach_beyond(height) - ROOM)
 
 
 class Raster:
@@ -82,20 +92,22 @@ class Raster:
                             for top in (0, self.rows - size) for left in (0, self.columns - size)]
         self.corners = sum(self.each_corner)
 
-    def span(self, corners):
-        """The points inside a convex outline."""
-        points, found = list(corners), 0
-        ys = [y for _, y in points]
-        first = max(0, math.ceil(min(ys) / self.step_y - 0.5))
-        last = min(self.rows - 1, math.floor(max(ys) / self.step_y - 0.5))
-        edges = list(zip(points, points[1:] + points[:1]))
+    def span(self, photo):
+        """The points inside a photo."""
+        angle = math.radians(photo.tilt)
+        c, s = math.cos(angle), math.sin(angle)
+        half_width, half_height, steep = photo.width / 2, photo.height / 2, abs(s) > 1e-9
+        reach, found = half_width * abs(s) + half_height * c, 0
+        first = max(0, math.ceil((photo.y - reach) / self.step_y - 0.5))
+        last = min(self.rows - 1, math.floor((photo.y + reach) / self.step_y - 0.5))
         for row in range(first, last + 1):
-            y = (row + 0.5) * self.step_y
-            xs = [x1 + (x2 - x1) * (y - y1) / (y2 - y1) for (x1, y1), (x2, y2) in edges if (y1 > y) != (y2 > y)]
-            if len(xs) < 2:
-                continue
-            left = max(0, math.ceil(min(xs) / self.step_x - 0.5))
-            right = min(self.columns - 1, math.floor(max(xs) / self.step_x - 0.5))
+            down = (row + 0.5) * self.step_y - photo.y  # between its left and right edge, and between its upper and lower one
+            low, high = (-half_width - down * s) / c, (half_width - down * s) / c
+            if steep:
+                ends = (down * c - half_height) / s, (down * c + half_height) / s
+                low, high = max(low, min(ends)), min(high, max(ends))
+            left = max(0, math.ceil((photo.x + low) / self.step_x - 0.5))
+            right = min(self.columns - 1, math.floor((photo.x + high) / self.step_x - 0.5))
             if right >= left:
                 found |= ((1 << (right - left + 1)) - 1) << (row * self.columns + left)
         return found
@@ -104,3 +116,9 @@ class Raster:
 def overhang(corners, height):
     xs, ys = [x for x, _ in corners], [y for _, y in corners]
     return max(0, max(-min(xs), -min(ys), max(xs) - WIDTH, max(ys) - height) - HANG)
+
+
+def leaves(new, old, height):
+    """True for a step beyond the rim; whoever stands there may come back."""
+    hang = overhang(new.corners(), height)
+    return hang > 0 and hang >= overhang(old.corners(), height)

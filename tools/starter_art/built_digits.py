@@ -1,6 +1,6 @@
 """The digits of the sturdy and the serif alphabet; the 9 is the 6 turned over."""
 from starter_art.letter_parts import TALL_BOTTOM, TALL_TOP, ball, feet, wedge
-from starter_art.letterforms import BOTTOM, RIGHT, TOP, Oval, band, bar, bent, leaning, ring
+from starter_art.letterforms import BOTTOM, RIGHT, TOP, Oval, band, bar, curves, leaning, ring
 from starter_art.svg import closed
 
 
@@ -23,10 +23,11 @@ def digit_2(s):
     right, high, deep = 460 - wide, TALL_TOP + low, BOTTOM - low
     end = (36 + wide, 184) if not s.foot else (92, 150)
     start = (40, 184) if not s.foot else (52, 150)
-    shape = bent(start, (44, 72), (122, TALL_TOP), (250, TALL_TOP)) + bent((250, TALL_TOP), (382, TALL_TOP), (460, 74), (460, 168))
-    shape += bent((460, 168), (460, 264), (372, 0.45 * deep + 160), (268 if not s.foot else 226, deep)) + [(462, deep), (462, BOTTOM), (40, BOTTOM)]
-    shape += bent((40, deep + 14), (150, deep - 70), (right, 262), (right, 178)) + bent((right, 178), (right, high + 18), (282, high), (248, high))
-    shape += bent((248, high), (214, high), (end[0], high + 20), end)
+    foot = 268 if not s.foot else 226
+    shape = curves(start, ((44, 72), (122, TALL_TOP), (250, TALL_TOP)), ((382, TALL_TOP), (460, 74), (460, 168)),
+                   ((460, 264), (372, 0.45 * deep + 160), (foot, deep))) + [(462, deep), (462, BOTTOM), (40, BOTTOM)]
+    shape += curves((40, deep + 14), ((150, deep - 70), (right, 262), (right, 178)), ((right, high + 18), (282, high), (248, high)),
+                    ((214, high), (end[0], high + 20), end))
     return [closed(shape)] + ([ball(108, 142, 60), wedge(462, deep, -1, 84)] if s.foot else [])
 
 

@@ -1,7 +1,7 @@
 """The sturdy and the serif alphabet: the same letters, built of strokes with other widths, with feet or without."""
 from starter_art import built_digits
 from starter_art.letter_parts import TALL_BOTTOM, TALL_TOP, arms, ball, beak, big_oval, feet, first_stem, hollow, leg, opened, turned_over, wedge
-from starter_art.letterforms import BOTTOM, LEFT, MIDDLE, RIGHT, TOP, Oval, band, bar, bent, bow, leaning, ribbon, ring, serif
+from starter_art.letterforms import BOTTOM, LEFT, MIDDLE, RIGHT, TOP, Oval, band, bar, bow, curves, leaning, ribbon, ring, serif
 from starter_art.masks import LIT, RIM
 from starter_art.svg import closed, drawing, group, path, rectangle
 
@@ -154,12 +154,13 @@ def letter_s(s):
         upper, lower = [(440, 128), (424, 128)], [(60, 372), (76, 372)]
     else:
         upper, lower = [(464, 164), (right + 10, 164)], [(26, 334), (left - 14, 334)]
-    shape = bent(upper[0], (456, 62), (374, TALL_TOP), (252, TALL_TOP)) + bent((252, TALL_TOP), (118, TALL_TOP), (30, 62), (30, 152))
-    shape += bent((30, 152), (30, 242), (98, under - 22), (226, under)) + bent((226, under), (288, under + 11), (right, under + 20), (right, 0.55 * under + 0.45 * deep))
-    shape += bent((right, 0.55 * under + 0.45 * deep), (right, deep - 12), (290, deep), (250, deep)) + bent((250, deep), (206, deep), (lower[1][0] + 4, deep - 14), lower[1], 16)
-    shape += bent(lower[0], (34, 436), (124, TALL_BOTTOM), (254, TALL_BOTTOM)) + bent((254, TALL_BOTTOM), (394, TALL_BOTTOM), (476, 434), (476, 344))
-    shape += bent((476, 344), (476, 246), (398, over + 21), (272, over)) + bent((272, over), (212, over - 11), (left, over - 20), (left, 0.55 * over + 0.45 * high))
-    shape += bent((left, 0.55 * over + 0.45 * high), (left, high + 12), (212, high), (254, high)) + bent((254, high), (298, high), (upper[1][0] - 4, high + 14), upper[1], 16)
+    waist, chest = 0.55 * under + 0.45 * deep, 0.55 * over + 0.45 * high  # where the inner bows are at their broadest
+    shape = curves(upper[0], ((456, 62), (374, TALL_TOP), (252, TALL_TOP)), ((118, TALL_TOP), (30, 62), (30, 152)),
+                   ((30, 242), (98, under - 22), (226, under)), ((288, under + 11), (right, under + 20), (right, waist)),
+                   ((right, deep - 12), (290, deep), (250, deep)), ((206, deep), (lower[1][0] + 4, deep - 14), lower[1]))
+    shape += curves(lower[0], ((34, 436), (124, TALL_BOTTOM), (254, TALL_BOTTOM)), ((394, TALL_BOTTOM), (476, 434), (476, 344)),
+                    ((476, 246), (398, over + 21), (272, over)), ((212, over - 11), (left, over - 20), (left, chest)),
+                    ((left, high + 12), (212, high), (254, high)), ((298, high), (upper[1][0] - 4, high + 14), upper[1]))
     if s.foot:
         return [closed(shape), beak(RIGHT - 26, TOP, 176), turned_over(beak(RIGHT - 26, TOP, 176))]
     return [closed(shape)]

@@ -64,15 +64,22 @@ def memorial(size):
 def road_trip(size):
     chance = random.Random(328)
     wide, high = size
-    parts = sky(size, (0, "#2d2b4a"), (0.3, "#80627c"), (0.52, "#e0a17c"), (1, "#e0a17c")) + light(size, 0.5, 0.53, 0.6, "#ffe0a8", 0.6)
-    parts += ranges(chance, size, 0.5, 0.6, "#a0708a", "#4a3a52", 4, 0.05)
-    parts += sky(size, (0, "#3a3340"), (0.6, "#3a3340"), (1, "#1d1a24"), name="plain")[:1] + [rectangle(0, 0.6 * high, wide, 0.4 * high, fill="url(#plain)")]
-    parts.append(path(closed([(0.49 * wide, 0.6 * high), (0.51 * wide, 0.6 * high), (0.86 * wide, high), (0.14 * wide, high)]), fill="#26222c"))
-    for at in range(9):
+    horizon = 0.6 if high > wide else 0.56
+    parts = sky(size, (0, "#3a4470"), (0.2, "#6b6a94"), (horizon - 0.06, "#f0b98e"), (1, "#f0b98e")) + light(size, 0.5, horizon - 0.02, 0.6, "#ffe6b4", 0.8)
+    parts += ranges(chance, size, horizon - 0.1, horizon, "#b98a94", "#7c6068", 4, 0.05)
+    parts += sky(size, (0, "#b08d5c"), (horizon, "#b08d5c"), (0.8, "#5c4636"), (1, "#241d1c"), name="plain")[:1]
+    parts.append(rectangle(0, horizon * high, wide, (1 - horizon) * high, fill="url(#plain)"))
+    parts += sky(size, (0, "#77707a"), (horizon, "#77707a"), (0.85, "#3a3640"), (1, "#232027"), name="asphalt")[:1]
+    # A pale edge, which fades before the place of a caption, and the road on it.
+    parts += sky(size, (0, "#e8d3a0"), (horizon, "#e8d3a0"), (0.8, "#8c7a5c"), (0.89, "#3a3230"), (1, "#232027"), name="edge")[:1]
+    for reach, fill in ((0.375, "url(#edge)"), (0.36, "url(#asphalt)")):
+        parts.append(path(closed([((0.5 - reach / 36) * wide, horizon * high), ((0.5 + reach / 36) * wide, horizon * high),
+                                  ((0.5 + reach) * wide, high), ((0.5 - reach) * wide, high)]), fill=fill))
+    for at in range(8 if high > wide else 7):
         near, far = (at / 9) ** 2.2, ((at + 0.45) / 9) ** 2.2
-        y, below = high * (0.6 + 0.4 * near), high * (0.6 + 0.4 * far)
+        y, below = high * (horizon + (1 - horizon) * near), high * (horizon + (1 - horizon) * far)
         parts.append(path(closed([(wide / 2 - 2 - 14 * near, y), (wide / 2 + 2 + 14 * near, y), (wide / 2 + 2 + 14 * far, below),
-                                  (wide / 2 - 2 - 14 * far, below)]), fill="#d9b877", fill_opacity="0.6"))
+                                  (wide / 2 - 2 - 14 * far, below)]), fill="#f0d48c", fill_opacity="0.85"))
     return drawing(*size, parts)
 
 

@@ -94,9 +94,9 @@ def wedge(end, edge, towards, long, side=1):
     """The serif at the end of an arm that lies: from its edge up (`towards` -1) or down, at its right end or (`side` -1) its
     left one, with a curve into the arm."""
     tip, base = edge + towards * long, edge - towards * 4
-    return closed([(end, base), (end, tip), (end - side * 20, tip)]
-                  + bent((end - side * 22, tip), (end - side * 34, edge + towards * long * 0.5), (end - side * 52, edge), (end - side * long * 0.86, edge), 10)
-                  + [(end - side * long * 0.86, base)])
+    inner = end - side * long * 0.86
+    curve = bent((end - side * 22, tip), (end - side * 34, edge + towards * long * 0.5), (end - side * 52, edge), (inner, edge), 10)
+    return closed([(end, base), (end, tip), (end - side * 20, tip), *curve, (inner, base)])
 
 
 def turned_over(shape):

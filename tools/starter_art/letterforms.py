@@ -82,6 +82,15 @@ def bent(one, two, three, four, steps=24):
                   for a, b, c, d in zip(one, two, three, four)) for t in (at / steps for at in range(steps + 1))]
 
 
+def curves(start, *each):
+    """Cubic curves one behind the other, each given by its two handles and its end, their points as one line."""
+    found = []
+    for one, two, end in each:
+        found += bent(start, one, two, end)
+        start = end
+    return found
+
+
 def ribbon(points, across, down, lean=0):
     """A stroke along the points as a broad pen leaves it, which is turned by `lean` degrees: `across` wide where it goes
     down, `down` where it goes along."""
@@ -109,7 +118,7 @@ def serif(stem, end, thick, reach, bracket, leans=(0, 0)):
         at = edge + lean * thick, edge + lean * (thick + bracket)
         if not out:
             return [(edge, end), (at[1], top)]
-        curve = bent((edge + out * 0.86, inner), (edge + out * 0.3, inner), (at[0] + (at[1] - at[0]) * 0.4, inner + into * bracket * 0.4), (at[1], top), 10)
-        return [(edge + out, end), (edge + out, inner)] + curve
+        upright = (at[0] + (at[1] - at[0]) * 0.4, inner + into * bracket * 0.4)
+        return [(edge + out, end), (edge + out, inner)] + bent((edge + out * 0.86, inner), (edge + out * 0.3, inner), upright, (at[1], top), 10)
 
     return closed(side(stem[1], out_right, leans[1]) + side(stem[0], -out_left, leans[0])[::-1])

@@ -301,8 +301,8 @@ def light_table(size):
     """Slides on a light table: mounts of card round each photo."""
     wide, high = size
     parts = sky(size, (0, "#e3ebee"), (0.5, "#fbfdfd"), (1, "#dbe5e9")) + bands(size, "#22262a", "#5c656c")
-    spots = [(235 + 545 * x, 425 + 557 * y, 440, 380) for y in range(4) for x in range(3)] if high > wide else [
-        (225 + 530 * x, 405 + 460 * y, 430, 330) for y in range(3) for x in range(5)]
+    spots = [(150 + 600 * x, 368 + 605 * y, 500, 450) for y in range(4) for x in range(3)] if high > wide else [
+        (120 + 720 * x, 388 + 705 * y, 600, 520) for y in range(2) for x in range(4)]
     for left, top, across, down in spots:
         parts += [rectangle(left - 34 + 8, top - 60 + 10, across + 68, down + 120, rx=18, fill="#000000", fill_opacity="0.14"),
                   rectangle(left - 34, top - 60, across + 68, down + 120, rx=18, fill="#f4efe2", stroke="#cfc7b2", stroke_width="3"),

@@ -118,7 +118,7 @@ STARTERS = [
            "Twenty portraits that once hung in straight rows. Then somebody slammed the door.",
            layouts.shaken_wall(), {**ANY_SHAPE, **on("wallpaper"), "Turn BG": "No"}),
     Design(117, "Sweethearts", "sweethearts", "Place", "Block", "Portrait",
-           "Ten hearts filled with photos",
-           "Ten hearts, each filled with a photo, close to each other.",
+           "Thirteen hearts filled with photos",
+           "Thirteen hearts, each filled with a photo, close to each other.",
            layouts.sweethearts(), {**SHAPES, **on("heart_paper"), "Quick Shape": "Yes", "Turn BG": "Yes"}),
 ]

@@ -46,7 +46,6 @@ def rows_of(size, gap, *rows):
 
 PORTRAIT, LANDSCAPE = (2000, 3000), (3000, 2000)
 T, W = ("T", 440), ("W", 660)
-SMALL_W = ("W", 680)
 
 
 def frames_tall_nine():
@@ -59,8 +58,8 @@ def frames_wide_eight():
 
 
 def frames_family():
-    """The parents above, the children in pairs below them."""
-    return rows_of(PORTRAIT, 90, (("T", 460), ("T", 460)), (("W", 690), ("W", 690)), (T, T, T))
+    """The parents above, their children below them, and theirs at the foot."""
+    return rows_of(PORTRAIT, 72, (("T", 465), ("T", 465)), (("W", 700), ("W", 700)), (T, T, T), (("W", 480), ("W", 480), ("W", 480)))
 
 
 def frames_shelf():
@@ -70,8 +69,9 @@ def frames_shelf():
 
 
 def frames_duet():
-    """A landscape poster: two pairs, a tall and a wide one each."""
-    return rows_of(LANDSCAPE, 120, (("T", 460), ("W", 700), ("T", 460)), (("W", 700), ("T", 460), ("W", 700)))
+    """A landscape poster: a row with one wide frame above one with two."""
+    one, other = ("T", 430), ("W", 660)
+    return rows_of(LANDSCAPE, 72, (one, other, one, one), (other, one, one, other))
 
 
 def frames_wide_nine():
@@ -84,5 +84,5 @@ def frames_tall_eight():
 
 def frames_medley():
     """A landscape poster: small frames in three rows."""
-    row, other = (SMALL_W, ("T", 305), SMALL_W, ("T", 305)), (("T", 305), SMALL_W, ("T", 305), SMALL_W)
-    return rows_of(LANDSCAPE, 50, row, other, row)
+    one, other = ("T", 292), ("W", 650)
+    return rows_of(LANDSCAPE, 50, (other, one, other, one, one), (one, other, one, one, other), (other, one, one, other, one))

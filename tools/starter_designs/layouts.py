@@ -58,8 +58,8 @@ def shaken_wall():
 
 
 def sweethearts():
-    """Hearts in four rows, close to each other."""
-    return roomy(PORTRAIT, [shape(x, y, 600, "heart.gif") for row, y in enumerate((590, 1210, 1830, 2450))
+    """Hearts in five rows, each point between two below it."""
+    return roomy(PORTRAIT, [shape(x, y, 600, "heart.gif") for row, y in enumerate((420, 960, 1500, 2040, 2580))
             for x in ((370, 1000, 1630) if row % 2 == 0 else (685, 1315))])
 
 

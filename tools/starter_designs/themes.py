@@ -3,7 +3,7 @@ Each leaves the caption its place above and below."""
 from starter_designs.compositions import (bleeding, cards, cascade, column_page, columns_that_hang, corner_hero, field, hero_above, pairs, panes, prints,
                                           ring, salon, spread, strips)
 from starter_designs.justified import askew, justified, lying, standing
-from starter_designs.place import PORTRAIT, box, TAPES, roomy, shape, taped
+from starter_designs.place import PORTRAIT, box, centred, TAPES, roomy, shape, taped
 
 
 def within(inset, *rows, wide=False, gap=40):
@@ -65,7 +65,11 @@ PAGES = {
     "new_year": (askew(standing("PP", "PLP", "PPP")), askew(lying("LLPL", "LPL"))),
     "milestone": (salon(False), salon(True)),
     "memorial": (hero_above(False, 2, 0.64, inset=170), hero_above(True, 2, 0.66, inset=260)),
-    "road_trip": (cascade(False, 5, ((940, 760), (760, 900)), (5, -5, 5, -5)), cascade(True, 5, ((860, 700), (700, 840)), (5, -5, 5, -5))),
+    # Photos about the road, which stays in sight below them.
+    "road_trip": ([centred(560, 740, 900, 740, -5), centred(1440, 770, 760, 860, 5), centred(560, 1570, 740, 860, 5), centred(1440, 1570, 860, 720, -5),
+                   centred(1000, 1170, 640, 560, 5)],
+                  [centred(520, 630, 780, 640, -5), centred(560, 1310, 740, 620, 5), centred(2480, 630, 780, 640, 5), centred(2440, 1310, 740, 620, -5),
+                   centred(1500, 710, 960, 740, 5)]),
     "city": (columns_that_hang(False, [3, 4, 3], [160, 0, 240]), columns_that_hang(True, [2, 3, 2, 3, 2], [130, 0, 100, 30, 150])),
     "open_sea": (hero_above(False, 4, 0.8), hero_above(True, 2, 0.67)),
     "recipe": ([box(170, 340, 1020, 940)] + [box(1230, 340 + 470 * at, 600, 450) for at in range(5)],
@@ -90,8 +94,8 @@ PAGES = {
                   prints((560, 670, 880, 660, -5), (1480, 620, 860, 640, 5), (2410, 700, 880, 660, -5), (980, 1350, 880, 660, 5), (2000, 1340, 880, 660, -5))),
     "white_space": ([box(640, 420, 1240, 1540), box(640, 2010, 600, 620), box(1280, 2010, 600, 620)],
                     [box(160, 330, 1500, 1350), box(1730, 820, 560, 420), box(1730, 1280, 560, 400)]),
-    "light_table": ([box(235 + 545 * x, 425 + 557 * y, 440, 380) for y in range(4) for x in range(3)],
-                    [box(225 + 530 * x, 405 + 460 * y, 430, 330) for y in range(3) for x in range(5)]),
+    "light_table": ([box(150 + 600 * x, 368 + 605 * y, 500, 450) for y in range(4) for x in range(3)],
+                    [box(120 + 720 * x, 388 + 705 * y, 600, 520) for y in range(2) for x in range(4)]),
     "panorama_page": ([box(0, 480, 2000, 680), box(120, 1260, 860, 660), box(1020, 1260, 860, 660), box(0, 2020, 2000, 680)],
                       [box(0, 300, 3000, 980), box(130, 1330, 440, 370), box(610, 1330, 1120, 370), box(1770, 1330, 440, 370), box(2250, 1330, 620, 370)]),
     "salon_wall": (salon(False), salon(True)),
@@ -106,5 +110,7 @@ PAGES = {
 
 
 def stamps():
-    """Twelve stamps on a dark card, close to each other."""
-    return roomy(PORTRAIT, [shape(390 + 610 * column, 590 + 610 * line, 570, "stamp.gif") for line in range(4) for column in range(3)])
+    """Stamps on a dark card, close to each other: two large ones in opposite corners, small ones about them."""
+    small = [(2, 0), (2, 1), (0, 2), (1, 2), (2, 2), (0, 3), (0, 4)]
+    return roomy(PORTRAIT, [shape(695, 585, 1180, "stamp.gif")] + [shape(390 + 610 * column, 280 + 610 * line, 570, "stamp.gif") for column, line in small]
+                 + [shape(1305, 2415, 1180, "stamp.gif")])
