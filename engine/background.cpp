@@ -74,22 +74,10 @@ const bitmap * small_background(frmMain & main)
     return nullptr;
 }
 
-bool has_supplied_ground(const frmMain & main)
-{
-    return has_own_background(main) && !is_under(main.design_record.bg_image, "user_images");
-}
-
-// A ground that was drawn for its design may have a frame, which a mirror would show twice.
 bitmap preview_ground(frmMain & main)
 {
     const bitmap * const small = small_background(main);
-    if (small == nullptr)
-        return {};
-    const int width = main.collage_width, height = main.collage_height;
-    if (!has_supplied_ground(main))
-        return continued(*small, width, height);
-    const picture_size shown = shown_of_preview({.width = small->width(), .height = small->height()});
-    return continued(stretched_at_edges(*small, shown), width, height);
+    return small != nullptr ? continued(*small, main.collage_width, main.collage_height) : bitmap();
 }
 
 bitmap full_background(frmMain & main, picture_size size)

@@ -2,6 +2,7 @@
 
 #include "desktop/binder/captions.h"
 #include "desktop/binder/growing_room.h"
+#include "desktop/binder/narrow_picture.h"
 #include "desktop/qt_text.h"
 
 #include <QAccessible>
@@ -288,7 +289,9 @@ void display_place(const control & held, QWidget & widget)
                 least = widget.layout() ? widget.layout()->totalMinimumSize() : QSize();
     const QPoint corner = QPoint(at.left, at.top) + shift_of(widget, at);
     const QSize size(at.width ? at.width : own.width(), at.height ? at.height : own.height());
-    widget.setGeometry(flush_with_neighbours(widget, {corner, size.expandedTo(least)}));
+    const QRect place = flush_with_neighbours(widget, {corner, size.expandedTo(least)});
+    note_form_place(widget, place);
+    widget.setGeometry(place);
 }
 
 // Without a tip of its own the control leaves the one of the Designer file.

@@ -200,6 +200,12 @@ void picture_view::paintEvent(QPaintEvent *)
         const QSize size = whole_place().size() * devicePixelRatioF();
         painter.drawImage(whole_place(),
                           picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    } else if (!picture.isNull() && width() < drawn_width) {
+        const double share = double(width()) / drawn_width, density = devicePixelRatioF();
+        const QSizeF size = picture.deviceIndependentSize() * share;
+        painter.drawImage(
+            QRectF(QPointF(0, 0), size),
+            picture.scaled((size * density).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     } else if (!picture.isNull()) {
         painter.drawImage(0, 0, picture);
     }

@@ -36,6 +36,8 @@ public:
     const QImage & image() const { return picture; }
     bool filled() const { return fills_view; }
     void set_filled(bool fills) { fills_view = fills; }
+    /// The width of the view for which its pictures are made: a narrower one draws them as much smaller.
+    void set_drawn_width(int pixels) { drawn_width = pixels; }
     /// One that can be dragged over the widget it stands in. It can take the keyboard, from which arrow keys
     /// lead to the nearest picture in their direction.
     void set_draggable(bool can_be_dragged);
@@ -70,6 +72,7 @@ private:
     QImage picture;
     QColor back;
     bool fits_width = false, fits_whole = false, fills_view = false, can_be_dragged = false, has_menu = false;
+    int drawn_width = 0;  ///< 0: whatever the view has
     QPoint grabbed_at;
     QPointer<QLabel> ghost;  // what follows the mouse
 

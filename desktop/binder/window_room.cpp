@@ -1,6 +1,8 @@
 #include "desktop/binder/window_room.h"
 
 #include "desktop/binder/growing_room.h"
+#include "desktop/binder/narrow_picture.h"
+#include "desktop/binder/window_foot.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -8,10 +10,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPalette>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -19,8 +19,7 @@
 
 namespace {
 
-constexpr int air = 8;                           // pixels below the lowest widget
-constexpr QMargins around_panel{12, 4, 12, 10};  // as it stands in the form of a main window
+constexpr int air = 8;  // pixels below the lowest widget
 constexpr int least_share_of_content = 4;
 
 // The bar of a main window, in pixels; what it shows can't be scrolled.
@@ -30,11 +29,6 @@ QSize bar_of(const QWidget & window)
     if (!main || main->menuBar()->isHidden())
         return {0, 0};
     return main->menuBar()->sizeHint();
-}
-
-bool is_main_window(const QWidget & window)
-{
-    return qobject_cast<const QMainWindow *>(&window) != nullptr;
 }
 
 bool is_laid_out(const QWidget & content)
@@ -57,66 +51,6 @@ void move_children(QWidget & from, QWidget & to, const QWidget * but)
         each->setParent(&to);
         each->setVisible(!hidden);
     }
-}
-
-bool holds_default(const QLayout & row)
-{
-    for (int i = 0; i < row.count(); ++i) {
-        const auto * const button = qobject_cast<const QPushButton *>(row.itemAt(i)->widget());
-        if (button && button->isDefault())
-            return true;
-    }
-    return false;
-}
-
-// The row of buttons that a dialog ends with.
-QLayout * last_row(const QWidget & window)
-{
-    auto * const lines = qobject_cast<QVBoxLayout *>(window.layout());
-    QLayout * const row = lines && lines->count() > 1 ? lines->itemAt(lines->count() - 1)->layout() : nullptr;
-    return row && holds_default(*row) ? row : nullptr;
-}
-
-// The panel of buttons of a main window, or of a dialog whose form places its widgets.
-QWidget * panel_of_buttons(const QWidget & window)
-{
-    const bool is_main = is_main_window(window);
-    for (QPushButton * each : window.findChildren<QPushButton *>())
-        if (QWidget * const panel = each->parentWidget();
-            each->isDefault() &&
-            (is_main || (panel->parentWidget() == &window && panel->property("placed").toBool())))
-            return panel;
-    return nullptr;
-}
-
-// The panel comes and goes with the stage, and its foot with it.
-QWidget * foot_around(QWidget & window, QWidget & panel)
-{
-    auto * const foot = new QWidget(&window);
-    foot->setObjectName(QStringLiteral("foot_area"));
-    foot->setProperty("hidesEmpty", true);
-    foot->setVisible(!panel.isHidden());
-    auto * const row = new QHBoxLayout(foot);
-    row->setContentsMargins(around_panel);
-    row->addWidget(&panel);
-    return foot;
-}
-
-QWidget * taken_row(QWidget & window, QLayout & row)
-{
-    QMargins around = window.layout()->contentsMargins();
-    window.layout()->removeItem(&row);
-    row.setParent(nullptr);
-    auto * const foot = new QWidget(&window);
-    foot->setObjectName(QStringLiteral("foot_area"));
-    around.setTop(air);
-    row.setContentsMargins(around);
-    foot->setLayout(&row);
-    foot->show();
-    around.setTop(window.layout()->contentsMargins().top());
-    around.setBottom(0);
-    window.layout()->setContentsMargins(around);
-    return foot;
 }
 
 // All that stands in a dialog but its foot, in a widget of its own.
@@ -241,7 +175,7 @@ void window_room::take_content(int whole_height)
     content = main ? main->takeCentralWidget() : taken_content(window, foot);
     view = made_view(window);
     if (main)
-        main->setCentralWidget(above_foot());
+        main->setCentralWidget(foot ? stacked(window, *view, *foot) : view);
     view->setWidget(content);
     // The window's own colour, which may change, shines through.
     content->setAutoFillBackground(false);
@@ -271,25 +205,11 @@ void window_room::take_foot(int whole_height)
     foot->installEventFilter(this);
 }
 
-// What a main window shows.
-QWidget * window_room::above_foot()
-{
-    if (!foot)
-        return view;
-    auto * const whole_area = new QWidget(&window);
-    whole_area->setObjectName(QStringLiteral("whole_area"));
-    auto * const lines = new QVBoxLayout(whole_area);
-    lines->setContentsMargins({});
-    lines->setSpacing(0);
-    lines->addWidget(view);
-    lines->addWidget(foot);
-    return whole_area;
-}
-
 int window_room::foot_height() const
 {
-    const bool is_placed = placed_foot > 0 || !foot;
-    return is_placed ? placed_foot : foot->isHidden() ? 0 : foot->sizeHint().height();
+    if (placed_foot > 0 || !foot)
+        return placed_foot;
+    return foot->isHidden() ? 0 : foot->sizeHint().height();
 }
 
 void window_room::place_foot()
@@ -310,6 +230,11 @@ void window_room::follow_focus()
                      [show](QWidget *, QWidget * now) { show(now); });
 }
 
+int window_room::bar_thickness() const
+{
+    return view->verticalScrollBar()->sizeHint().width();
+}
+
 void window_room::fold(QSize most)
 {
     if (whole.isEmpty())
@@ -318,24 +243,24 @@ void window_room::fold(QSize most)
         content->setFixedSize(whole.boundedTo(most.expandedTo(shrinking->property("leastRoom").toSize())));
         return;
     }
+    const int width = narrowed_width(window, whole.width(), most.width(), bar_thickness());
     int height = whole.height();
     if (QWidget * const folded = growing_widget(window)) {
         height = std::max(std::min(height, most.height()), least_height(*content, folded));
         end_above(*folded, height);
     }
-    content->setFixedSize(whole.width(), height);
+    content->setFixedSize(width, height);
 }
 
 void window_room::fit()
 {
     const QSize bar(0, bar_of(window).height() + foot_height()), most = room() - bar;
     fold(most);
-    const int thickness = view->verticalScrollBar()->sizeHint().width();
     QSize shown = content->size();
     if (shown.height() > most.height())
-        shown.rwidth() += thickness;
+        shown.rwidth() += bar_thickness();
     if (shown.width() > most.width())
-        shown.rheight() += thickness;
+        shown.rheight() += bar_thickness();
     window.setFixedSize(shown.boundedTo(most) + bar);
     if (is_main_window(window))
         return;

@@ -30,10 +30,10 @@ private:
     void settle();
     void take_content(int whole_height);
     void take_foot(int whole_height);
-    QWidget * above_foot();
     void place_foot();
     int foot_height() const;
     void follow_focus();
+    int bar_thickness() const;
     void fit();
     void fold(QSize most);
     void scroll();

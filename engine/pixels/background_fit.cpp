@@ -3,55 +3,12 @@
 #include "support/files/paths.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
 constexpr int short_side = 300, long_side = 450;
-constexpr int shown_beside = 8, shown_beside_long = 7;  // of the collage's short and long side
-constexpr int stretched_band = 24;                      // a frame along the edge has less
-
-int shown_side(int side)
-{
-    return side + (side > short_side ? shown_beside_long : shown_beside);
-}
-
-bitmap stretched_to_right(bitmap image, int width)
-{
-    const int own = image.width(), height = image.height(), band = std::min(stretched_band, own);
-    if (width <= own)
-        return image;
-    bitmap larger(width, height);
-    paste(larger, image, 0, 0, plain_copy);
-    paste(larger, rescaled(copied(image, own - band, 0, own, height), width - own + band, height), own - band,
-          0, plain_copy);
-    return larger;
-}
-
-bitmap stretched_downwards(bitmap image, int height)
-{
-    const int own = image.height(), width = image.width(), band = std::min(stretched_band, own);
-    if (height <= own)
-        return image;
-    bitmap larger(width, height);
-    paste(larger, image, 0, 0, plain_copy);
-    paste(larger, rescaled(copied(image, 0, own - band, width, own), width, height - own + band), 0,
-          own - band, plain_copy);
-    return larger;
-}
 
 }  // namespace
-
-picture_size shown_of_preview(picture_size collage)
-{
-    return {.width = shown_side(collage.width), .height = shown_side(collage.height)};
-}
-
-bitmap stretched_at_edges(const bitmap & image, picture_size size)
-{
-    bitmap own = copied(image, 0, 0, image.width(), image.height());
-    return stretched_downwards(stretched_to_right(std::move(own), size.width), size.height);
-}
 
 int blend_alpha(double percent)
 {

@@ -29,14 +29,6 @@ picture_size preview_background_size(picture_size picture, poster_shape shape);
 /// What a preview's collage shows of a picture scaled to that size: for a square one the middle, 300 by 300.
 bitmap preview_background(bitmap scaled, poster_shape shape);
 
-/// What the window shows of a preview whose collage has the size of that picture: a little more at the right
-/// and below.
-picture_size shown_of_preview(picture_size collage);
-
-/// The picture with a narrow band at its right and lower edge stretched up to that size. What is drawn along
-/// its edges stays there, once, and all else in its place. A picture that is as large comes back as it is.
-bitmap stretched_at_edges(const bitmap & image, picture_size size);
-
 /// The picture mirrored beyond its right and lower edge up to that size, twice its own at most: a preview's
 /// collage is larger than the picture behind it. A picture that is as large comes back as it is.
 bitmap continued(const bitmap & image, int width, int height);

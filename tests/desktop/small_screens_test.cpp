@@ -165,7 +165,20 @@ void expect_no_foot(const QMainWindow & window)
     EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
 }
 
-TEST(small_screen, shows_the_buttons_of_the_main_window_in_all_its_stages)
+// What is chosen at the left is seen at the right, without scrolling sideways or down.
+void expect_whole_preview(const QMainWindow & window)
+{
+    const auto * const area = window.findChild<QScrollArea *>(QLatin1String("view_area"));
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+    for (const char * name : {"picSample", "optPreview", "optSample"}) {
+        const auto * const each = window.findChild<QWidget *>(QLatin1String(name));
+        EXPECT_EQ(each->visibleRegion(), QRegion(each->rect())) << name;
+    }
+    const QSize shown = window.findChild<QWidget *>(QLatin1String("picSample"))->size();
+    EXPECT_GE(shown.width(), 150);
+}
+
+TEST(small_screen, shows_the_buttons_and_the_preview_of_the_main_window_in_all_its_stages)
 {
     scripted_desktop desk;
     frmMain main(desk, listed({}));
@@ -183,6 +196,8 @@ TEST(small_screen, shows_the_buttons_of_the_main_window_in_all_its_stages)
             QApplication::processEvents();
             EXPECT_EQ(window->size(), window->size().boundedTo(dense_screen));
             EXPECT_EQ(main.frmButtons.visible(), stage != look::choosing);
+            if (stage != look::choosing)
+                expect_whole_preview(dynamic_cast<const QMainWindow &>(*window));
             for (const char * name : {"cmdHelp", "cmdCancel", "cmdFlurn"})
                 if (const auto * const each = window->findChild<QPushButton *>(QLatin1String(name));
                     stage != look::choosing)

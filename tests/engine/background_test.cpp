@@ -75,29 +75,6 @@ TEST(lay_background, leaves_no_strip_beside_the_picture_of_a_preview)
     EXPECT_EQ(letter_at(canvas, 307, 0), 'b');
 }
 
-// The window shows eight pixels at the right and seven below more than the picture has.
-TEST(lay_background, shows_the_frame_of_a_design_s_ground_once_in_a_preview)
-{
-    constexpr int frame = 6;
-    collage_fixture run;
-    bitmap framed = plain(300, 450, red);
-    paste(framed, plain(300 - 2 * frame, 450 - 2 * frame, green), frame, frame, plain_copy);
-    std::filesystem::create_directories(run.home.at("install/images"));
-    save_jpeg(framed, run.home.at("install/images/framed.jpg"));
-    run.main.design_record.bg_image = "framed.jpg";
-    run.main.txtBGimage.set_text(run.home.at("install/images/framed.jpg"));
-    run.main.collage.bg_from_design = true;
-    run.main.cmbBlend.set_text("100");
-    const bitmap canvas = background_of(run, 333, 500, run_size::preview);
-    EXPECT_EQ(letter_at(canvas, 2, 200), 'r');
-    for (int beside = 1; beside <= frame; ++beside) {
-        EXPECT_EQ(letter_at(canvas, 308 - beside, 200), 'r') << beside;
-        EXPECT_EQ(letter_at(canvas, 100, 457 - beside), 'r') << beside;
-    }
-    EXPECT_EQ(letter_at(canvas, 308 - 3 * frame, 200), 'g');
-    EXPECT_EQ(letter_at(canvas, 100, 457 - 3 * frame), 'g');
-}
-
 TEST(lay_background, covers_the_collage_and_not_its_bleed)
 {
     collage_fixture run;

@@ -3,7 +3,6 @@
 #include "tests/pictures.h"
 
 #include <gtest/gtest.h>
-#include <tuple>
 
 TEST(background_fit, a_blend_below_5_is_nothing_above_95_the_picture_alone)
 {
@@ -76,28 +75,6 @@ TEST(background_fit, a_picture_goes_on_to_the_edges_of_a_larger_preview)
     for (int top = 40; top < 42; ++top)
         EXPECT_TRUE(same(copied(larger, 0, top, 33, top + 1), copied(larger, 0, 79 - top, 33, 80 - top)));
     EXPECT_TRUE(same(continued(image, 20, 40), image)) << "a smaller preview is the canvas's affair";
-}
-
-TEST(background_fit, the_edges_of_a_picture_are_stretched_and_all_else_stays)
-{
-    const bitmap image = graded(60, 80), larger = stretched_at_edges(image, {.width = 68, .height = 87});
-    EXPECT_EQ(larger.width(), 68);
-    EXPECT_EQ(larger.height(), 87);
-    EXPECT_TRUE(same(copied(larger, 0, 0, 36, 56), copied(image, 0, 0, 36, 56)));
-    EXPECT_TRUE(same(copied(larger, 36, 0, 68, 56),
-                     copied(rescaled(copied(image, 36, 0, 60, 80), 32, 80), 0, 0, 32, 56)));
-    EXPECT_TRUE(same(stretched_at_edges(image, {.width = 60, .height = 80}), image));
-}
-
-TEST(background_fit, the_window_shows_a_little_more_than_the_collage_of_a_preview)
-{
-    for (const auto & [collage, width, height] :
-         {std::tuple(picture_size{.width = 300, .height = 450}, 308, 457),
-          std::tuple(picture_size{.width = 450, .height = 300}, 457, 308),
-          std::tuple(picture_size{.width = 300, .height = 300}, 308, 308)}) {
-        EXPECT_EQ(shown_of_preview(collage).width, width);
-        EXPECT_EQ(shown_of_preview(collage).height, height);
-    }
 }
 
 TEST(background_fit, no_picture_stays_none)
