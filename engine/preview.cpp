@@ -132,7 +132,8 @@ void show_picture(frmMain & main, const std::string & path)
 }
 
 // The poster is drawn by the chance of the preview on show, which one that didn't come to its end is not.
-void make_new_sample(frmMain & main, const template_maker & make_template)
+// False for one that didn't.
+bool make_new_sample(frmMain & main, const template_maker & make_template)
 {
     set_enable(main, false);
     set_sample_size(main);
@@ -140,9 +141,10 @@ void make_new_sample(frmMain & main, const template_maker & make_template)
     const int16 mix_step = main.mix_step;
     make_template(main, run_size::preview);
     if (gen_sample(main))
-        return;
+        return true;
     main.collage.holes_shown = holes;
     main.mix_step = mix_step;
+    return false;
 }
 
 }  // namespace
@@ -174,9 +176,11 @@ void make_preview(frmMain & main, const template_maker & make_template)
     }
     try {
         const busy pointer(main.desk);
-        if (main.optPreview.selected())
-            make_new_sample(main, make_template);
-        show_picture(main, finished_path(main));
+        // Where nothing was on show, the last picture is that of another collage.
+        const bool was_shown = main.picSample.visible();
+        const bool is_made = !main.optPreview.selected() || make_new_sample(main, make_template);
+        if (is_made || was_shown)
+            show_picture(main, finished_path(main));
     } catch (...) {
         set_enable(main, true);
         throw;

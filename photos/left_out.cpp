@@ -20,6 +20,8 @@ std::string reason(photo_fault fault)
     switch (fault) {
         case photo_fault::gone:
             return "it isn't there any more";
+        case photo_fault::closed:
+            return "there is no permission to read it";
         case photo_fault::cut_short:
             return "it was cut short or is still being copied";
         case photo_fault::too_large:
@@ -40,6 +42,8 @@ std::string remedy(std::span<const left_out_photo> photos)
     std::string text;
     if (any(photo_fault::gone))
         text += "\r\nPut what is missing back in its place.";
+    if (any(photo_fault::closed))
+        text += "\r\nAllow what is closed to be read.";
     if (any(photo_fault::unreadable))
         text += "\r\nSave what can't be read as a JPEG again.";
     if (any(photo_fault::cut_short))
@@ -78,6 +82,8 @@ void note_told(left_out_photos & left_out)
 
 photo_fault fault_of(const std::string & photo)
 {
+    if (is_closed_to_user(photo))
+        return photo_fault::closed;
     if (!file_exists(photo))
         return photo_fault::gone;
     try {

@@ -9,7 +9,8 @@
 /// Why a photo can't be used.
 enum class photo_fault : std::uint8_t {
     gone,        ///< there is no such file any more
-    unreadable,  ///< no JPEG, damaged or closed
+    unreadable,  ///< no JPEG, or damaged
+    closed,      ///< to this user, as the folder that it is in may be
     cut_short,   ///< since it was chosen: its data end in the middle
     too_large,   ///< of 32,768 pixels or more on a side
     too_long     ///< so long and narrow that, fitted into its place, it would have 32,768 pixels or more

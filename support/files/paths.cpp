@@ -196,6 +196,11 @@ bool file_readable(const std::string & path)
     return file_exists(path) && ::faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) == 0;
 }
 
+bool is_closed_to_user(const std::string & path)
+{
+    return ::faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) != 0 && errno == EACCES;
+}
+
 bool folder_writable(const std::string & folder)
 {
     return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;

@@ -41,6 +41,10 @@ bool folder_exists(const std::string & path);
 /// True for a file that the user can read.
 bool file_readable(const std::string & path);
 
+/// True for a file that the user may not read, and for one in a folder that keeps even its being there from
+/// the user.
+bool is_closed_to_user(const std::string & path);
+
 /// Names of the plain files in a folder, in the file system's order. Raises path_not_found (76) or 70.
 std::vector<std::string> files_in(const std::string & folder);
 

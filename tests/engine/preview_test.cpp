@@ -266,6 +266,23 @@ TEST(make_preview, shows_the_new_picture)
     EXPECT_EQ(run.main.picSample.load_count(), 2);
 }
 
+// What lies there is the last picture of another collage.
+TEST(make_preview, that_fails_shows_no_picture_where_none_was_on_show)
+{
+    two_halves run;
+    run.main.optPreview.select();
+    make_preview(run.main, make_quick_template);
+    run.use_template({"0:0:21000:1000:60:0:0:0:"});
+    run.main.optLandscape.select();
+    run.main.optPreview.select();
+    run.main.picSample.show(false);
+    run.main.design_record.background = "Portrait";
+    make_preview(run.main, make_quick_template);
+    EXPECT_NE(run.desk.next_message().find("CAUGHT AN ERROR  6"), std::string::npos);
+    EXPECT_FALSE(run.main.picSample.visible());
+    EXPECT_TRUE(run.main.enabling.last);
+}
+
 TEST(make_preview, does_nothing_without_a_design_or_with_the_preview_off)
 {
     two_halves run;

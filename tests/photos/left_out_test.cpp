@@ -4,6 +4,7 @@
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -106,4 +107,27 @@ TEST_F(left_out_test, that_none_is_left_is_said_unless_this_run_has_named_them_a
     main.left_out.told_in_this_run = false;
     tell_none_usable(main);
     EXPECT_EQ(desk.next_message(), all);
+}
+
+TEST_F(left_out_test, one_that_is_closed_to_the_user_is_told_so_with_what_helps)
+{
+    namespace fs = std::filesystem;
+    const std::string closed = folder.write("a.jpg", "x"), inside = folder.write("kept/b.jpg", "x"),
+                      gone = folder.at("c.jpg");
+    fs::permissions(folder.path(), fs::perms{0755});
+    fs::permissions(closed, fs::perms::none);
+    fs::permissions(folder.at("kept"), fs::perms::none);
+    {
+        const as_ordinary_user user;
+        for (const std::string & photo : {closed, inside})
+            EXPECT_EQ(fault_of(photo), photo_fault::closed) << photo;
+        EXPECT_EQ(fault_of(gone), photo_fault::gone);
+    }
+    fs::permissions(folder.at("kept"), fs::perms{0777});
+    use({"a.jpg", "b.jpg"});
+    leave_out(main, "a.jpg", photo_fault::closed);
+    tell_left_out(main);
+    EXPECT_EQ(desk.next_message(),
+              "This photo was left out:\r\na.jpg: there is no permission to read it\r\n\r\n"
+              "Allow what is closed to be read.\r\nThen choose your photos again.");
 }
