@@ -1,5 +1,7 @@
 #include "tests/desktop/contrast.h"
 
+#include "tests/desktop/seen_pixels.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
@@ -107,16 +109,11 @@ std::vector<text_spot> text_spots(const QWidget & widget)
 // The colour of most pixels, and the one that stands out most from it.
 double contrast_in(const QImage & pixels)
 {
-    std::map<QRgb, int> counts;
-    for (int y = 0; y < pixels.height(); ++y)
-        for (int x = 0; x < pixels.width(); ++x)
-            ++counts[pixels.pixel(x, y)];
-    const auto ground =
-        std::max_element(counts.begin(), counts.end(),
-                         [](const auto & one, const auto & other) { return one.second < other.second; });
+    const std::map<QRgb, int> counts = colors_of(pixels);
+    const QColor ground(ground_color(counts));
     double most = 1;
     for (const auto & [color, unused] : counts)
-        most = std::max(most, contrast(QColor(color), QColor(ground->first)));
+        most = std::max(most, contrast(QColor(color), ground));
     return most;
 }
 

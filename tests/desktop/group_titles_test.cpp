@@ -1,4 +1,5 @@
 #include "desktop/looks/letters.h"
+#include "tests/desktop/seen_pixels.h"
 #include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/window_check.h"
 
@@ -15,31 +16,6 @@
 namespace {
 
 using faults = std::vector<std::string>;
-
-// The line is a cold grey that is brighter than the panel, at a half density less so; what the warm letters
-// of a title mix with their ground is never so cold.
-bool is_of_line(QRgb pixel)
-{
-    return qBlue(pixel) - qRed(pixel) >= 8 && qGreen(pixel) >= 52 && qGreen(pixel) < 90;
-}
-
-int longest_run(const QImage & pixels, int row)
-{
-    int longest = 0, run = 0;
-    for (int x = 0; x < pixels.width(); ++x) {
-        run = is_of_line(pixels.pixel(x, row)) ? run + 1 : 0;
-        longest = std::max(longest, run);
-    }
-    return longest;
-}
-
-int longest_run(const QImage & pixels)
-{
-    int longest = 0;
-    for (int row = 0; row < pixels.height(); ++row)
-        longest = std::max(longest, longest_run(pixels, row));
-    return longest;
-}
 
 // In pixels of the box, the blanks around the letters included.
 QRect title_place(const QGroupBox & box)
@@ -70,11 +46,11 @@ void look_at_title(const QGroupBox & box, const QImage & whole, titles_seen & se
     const QRect title = title_place(box).translated(box.mapTo(box.window(), QPoint()));
     const QRect beside(title.right() + 1, title.top(), box.width() - title_place(box).right() - 10,
                        title.height());
-    const int longest = longest_run(dense_part(whole, title));
+    const int longest = longest_line(dense_part(whole, title));
     ++seen.count;
     if (longest > 2)
         seen.struck.push_back(box.objectName().toStdString() + ": " + std::to_string(longest));
-    if (beside.width() > 20 && longest_run(dense_part(whole, beside)) < 15)
+    if (beside.width() > 20 && longest_line(dense_part(whole, beside)) < 15)
         seen.without_line.push_back(box.objectName().toStdString());
 }
 

@@ -2,6 +2,7 @@
 #include "desktop/binder/windows_made.h"
 #include "desktop/looks/letters.h"
 #include "tests/desktop/layout_checks.h"
+#include "tests/desktop/seen_pixels.h"
 #include "tests/desktop/stages.h"
 #include "tests/desktop/window_views.h"
 
@@ -80,18 +81,6 @@ TEST_P(small_screens, have_room_for_the_main_window_in_all_its_stages)
         }
 }
 
-// The colour of most of its pixels.
-QRgb ground_of(QWidget & widget)
-{
-    std::map<QRgb, int> counts;
-    const QImage pixels = widget.grab().toImage();
-    for (int y = 0; y < pixels.height(); ++y)
-        for (int x = 0; x < pixels.width(); ++x)
-            ++counts[pixels.pixel(x, y)];
-    const auto most = std::ranges::max_element(counts, {}, [](const auto & each) { return each.second; });
-    return most == counts.end() ? 0 : most->first;
-}
-
 // Of the boxes for texts, by their names.
 std::map<std::string, QRgb> grounds_of(const form & shown, const QWidget & window)
 {
@@ -99,7 +88,7 @@ std::map<std::string, QRgb> grounds_of(const form & shown, const QWidget & windo
     for (QWidget * one : seen_widgets(shown, window))
         if (qobject_cast<QPlainTextEdit *>(one) || qobject_cast<QLineEdit *>(one) ||
             qobject_cast<QListWidget *>(one))
-            grounds[one->objectName().toStdString()] = ground_of(*one);
+            grounds[one->objectName().toStdString()] = ground_color(colors_of(one->grab().toImage()));
     return grounds;
 }
 
