@@ -33,7 +33,7 @@ std::span<const int> shifts_of(letter_placing placing)
     return {};
 }
 
-// The rounded letters lie where all of them did before there were others.
+// Recipes and kept designs name rounded letters without a folder of their own.
 std::string_view folder_of(letter_alphabet alphabet)
 {
     if (alphabet == letter_alphabet::sturdy)
