@@ -8,34 +8,13 @@
 #include "quick/scatter/scatter_plan.h"
 #include "support/files/text_file.h"
 #include "tests/quick/posters.h"
+#include "tests/quick/supplied_sections.h"
 #include "tests/sweep_stride.h"
 
 #include <gtest/gtest.h>
-#include <map>
 #include <set>
 
 namespace {
-
-using sections = std::map<std::string, std::vector<std::string>>;
-
-std::string text_of_table(const char * name)
-{
-    return read_file(std::string(SEED_FOLDER) + "/" + name);
-}
-
-sections sections_of(const char * name)
-{
-    sections all;
-    std::vector<std::string> * current = nullptr;
-    for (line_source lines = line_source::of_text(text_of_table(name)); !lines.at_end();) {
-        const std::string line = lines.read_line();
-        if (line.starts_with('['))
-            current = &all[line];
-        else if (current != nullptr)
-            current->push_back(line);
-    }
-    return all;
-}
 
 // The counts that are left when any two up to 99 are clamped.
 std::set<std::pair<int, int>> block_pairs(poster_shape poster)

@@ -7,35 +7,18 @@
 #include "quick/scatter/scatter_plan.h"
 #include "support/files/text_file.h"
 #include "tests/quick/posters.h"
+#include "tests/quick/supplied_sections.h"
 #include "tests/sweep_stride.h"
 
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <map>
 #include <numbers>
 #include <set>
 
 namespace {
 
 constexpr int step = 20;  // pixels from point to point
-
-using sections = std::map<std::string, std::vector<std::string>>;
-
-sections supplied_scatters()
-{
-    sections all;
-    std::vector<std::string> * current = nullptr;
-    const std::string text = read_file(std::string(SEED_FOLDER) + "/scatter_templates");
-    for (line_source lines = line_source::of_text(text); !lines.at_end();) {
-        const std::string line = lines.read_line();
-        if (line.starts_with('['))
-            current = &all[line];
-        else if (current != nullptr)
-            current->push_back(line);
-    }
-    return all;
-}
 
 border_size taken(least_border least)
 {
@@ -156,8 +139,8 @@ std::set<int> counts_along(const scatter_entry & entry)
 
 TEST(thrown_photos, hide_no_photo_by_much_and_its_middle_hardly_however_many_lie_across)
 {
-    const std::string table = read_file(std::string(SEED_FOLDER) + "/quick_scatter.ini");
-    const sections scatters = supplied_scatters();
+    const std::string table = text_of_table("quick_scatter.ini");
+    const sections scatters = sections_of("scatter_templates");
     for (const poster_shape poster : {poster_shape::portrait, poster_shape::square})
         for (int total = 3; total <= 97; total += sweep_stride) {
             const bool square = poster == poster_shape::square;
