@@ -1,15 +1,25 @@
 // Renders the seed data's drawings. One picture a call, so that the build makes only what has changed.
 //
-//     seed_art mask IN.svg OUT.gif SIZE       a square of that side, grey levels
-//     seed_art picture IN.svg OUT.jpg W H     a JPEG of that size
-//     seed_art ground IN.svg OUT.jpg W H SMALL.jpg W H  what photos lie on, with its stuff and grain, and its
-//     preview seed_art icon IN.svg OUT.bmp W H        a Windows bitmap of that size, 24 bits seed_art smaller
-//     IN.jpg OUT.jpg QUALITY  the same picture in less bytes, as a JPEG of that quality seed_art shrunk IN
-//     OUT.jpg WIDTH        a picture or a screen, narrower, as a JPEG for a page seed_art unlike ONE.jpg
-//     OTHER.jpg LEVELS fails when they differ by more levels on average seed_art png IN.svg OUT.png W H a PNG
-//     of that size, clear where nothing is drawn seed_art collage LAYOUT OUT.jpg W H FOLDER  a small collage
-//     of the photos of that folder seed_art white OUT.jpg SIZE             a white JPEG, every pixel of which
-//     is checked
+//     seed_art mask IN.svg OUT.gif SIZE
+//         a square of that side, grey levels
+//     seed_art picture IN.svg OUT.jpg W H
+//         a JPEG of that size
+//     seed_art ground IN.svg OUT.jpg W H SMALL.jpg W H
+//         what photos lie on, with its stuff and grain, and its preview
+//     seed_art icon IN.svg OUT.bmp W H
+//         a Windows bitmap of that size, 24 bits
+//     seed_art smaller IN.jpg OUT.jpg QUALITY
+//         the same picture in less bytes, as a JPEG of that quality
+//     seed_art shrunk IN OUT.jpg WIDTH
+//         a picture or a screen, narrower, as a JPEG for a page
+//     seed_art unlike ONE.jpg OTHER.jpg LEVELS
+//         fails when they differ by more levels on average
+//     seed_art png IN.svg OUT.png W H
+//         a PNG of that size, clear where nothing is drawn
+//     seed_art collage LAYOUT OUT.jpg W H FOLDER
+//         a small collage of the photos of that folder
+//     seed_art white OUT.jpg SIZE
+//         a white JPEG, every pixel of which is checked
 #include "collage.h"
 #include "ground.h"
 

@@ -136,7 +136,7 @@ auto surface(nap hairs, std::array<bumps, 2> under, unsigned seed)
 {
     return [=](const many & x, float y, many & found) {
         many part{};
-        hairs_at(x, y, hairs.length, hairs.width, seed, part);
+        hairs_at(x, y, {.length = hairs.length, .width = hairs.width}, seed, part);
         for (std::size_t at = 0; at < together; ++at)
             found[at] = 0.5F + hairs.height * part[at];
         for (const bumps & one : under) {

@@ -30,14 +30,15 @@ std::vector<colour> stuff_words::colours(const QString & name) const
     return found;
 }
 
-void hairs_at(const many & x, float y, float length, float width, unsigned seed, many & found)
+void hairs_at(const many & x, float y, hair_size hair, unsigned seed, many & found)
 {
+    const auto [length, width] = hair;
     struct direction {
         float along, across;
     };
     static constexpr std::array<direction, 4> directions{
         {{0.955F, 0.296F}, {0.362F, 0.932F}, {-0.505F, 0.863F}, {-0.942F, 0.335F}}};
-    many sum{}, there{}, hair{}, along{}, across{};
+    many sum{}, there{}, lying{}, along{}, across{};
     for (unsigned way = 0; way < directions.size(); ++way) {
         const auto [c, s] = directions[way];
         for (std::size_t at = 0; at < together; ++at) {
@@ -49,9 +50,9 @@ void hairs_at(const many & x, float y, float length, float width, unsigned seed,
             along[at] = (x[at] * c + y * s) / length;
             across[at] = (y * c - x[at] * s) / width;
         }
-        value_noise(along, across, seed + way, hair);
+        value_noise(along, across, seed + way, lying);
         for (std::size_t at = 0; at < together; ++at)
-            sum[at] += rise(0.3F, 0.8F, there[at]) * (hair[at] - 0.5F);
+            sum[at] += rise(0.3F, 0.8F, there[at]) * (lying[at] - 0.5F);
     }
     for (std::size_t at = 0; at < together; ++at)
         found[at] = sum[at] * 0.5F;

@@ -60,5 +60,9 @@ void fill_together(QImage & page, Function colours_at)
         }
 }
 
+struct hair_size {
+    float length, width;
+};
+
 /// Hairs or bristles that lie in four directions, which one where by chance: about 0, of a half at most.
-void hairs_at(const many & x, float y, float length, float width, unsigned seed, many & found);
+void hairs_at(const many & x, float y, hair_size hair, unsigned seed, many & found);
