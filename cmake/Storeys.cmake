@@ -11,12 +11,15 @@ foreach(name IN LISTS storeys)
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
 endforeach()
 
-# Reads what most files include once a storey. Whether each file includes what it needs is seen without: the linter reads
+# Reads what most files include once. Whether each file includes what it needs is seen without: the linter reads
 # it so, and a development build is made so.
 if(TESSALOOM_READ_ONCE)
-    foreach(name IN LISTS storeys)
+    foreach(name IN ITEMS ground records)  # the ground has settings of its libraries besides
         target_precompile_headers(${name} PRIVATE <algorithm> <array> <filesystem> <functional> <map> <memory> <optional>
                                                   <span> <string> <string_view> <utility> <vector>)
+    endforeach()
+    foreach(name IN ITEMS cores procedures handlers)
+        target_precompile_headers(${name} REUSE_FROM records)
     endforeach()
 endif()
 
@@ -38,7 +41,7 @@ function(storey name)
 endfunction()
 
 # Has the sources of a folder compiled as one, where headers are read once as well: what templates they share is made once.
-# So no two of them can have helpers of one name.
+# So no two of them can have helpers of one name; one that has to says SKIP_UNITY_BUILD_INCLUSION.
 function(compiled_by_folder program)
     if(NOT TESSALOOM_READ_ONCE)
         return()
@@ -53,7 +56,7 @@ function(compiled_by_folder program)
         cmake_path(GET source PARENT_PATH folder)
         cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${CMAKE_SOURCE_DIR})
         string(MAKE_C_IDENTIFIER ${folder} folder)
-        set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${folder} TARGET_DIRECTORY ${program})
+        set_source_files_properties(${source} TARGET_DIRECTORY ${program} PROPERTIES UNITY_GROUP ${folder})
     endforeach()
     set_target_properties(${program} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
     # What one source names at its top may be what another calls a variable; and a fixture of a source that is included
@@ -76,8 +79,7 @@ function(finish_storeys)
             target_sources(${name} PRIVATE ${CMAKE_BINARY_DIR}/${name}_empty.cpp)
         endif()
         set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
-        # Handlers of two windows may be of one name: each of them stays by itself.
-        if(TESSALOOM_BY_FOLDER AND NOT name STREQUAL handlers)
+        if(TESSALOOM_BY_FOLDER)
             compiled_by_folder(${name})
         endif()
     endforeach()
@@ -89,7 +91,8 @@ function(headers_alone target)
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${folder}/*.h)
     target_sources(${target} PUBLIC FILE_SET house_headers TYPE HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR} FILES ${headers})
     set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
-    if(TESSALOOM_BY_FOLDER)
+    # Each decoder has names of its own for what its library opens.
+    if(TESSALOOM_BY_FOLDER AND NOT target STREQUAL decode_side)
         compiled_by_folder(${target})
     endif()
 endfunction()

@@ -26,7 +26,7 @@ bool is_of_user(uid_t user, const QLocalSocket & visitor)
 }
 
 // Who didn't wait for the answer is gone, with what was asked.
-void answer(QLocalSocket & visitor, const open_window::visit & visited)
+void answer_visitor(QLocalSocket & visitor, const open_window::visit & visited)
 {
     const QByteArray request = visitor.peek(longest_request + 1);
     const auto length = request.indexOf(end_of_request);
@@ -45,8 +45,8 @@ void receive(QLocalSocket & visitor, uid_t user, const open_window::visit & visi
     if (!is_of_user(user, visitor))
         return visitor.abort();
     QObject::connect(&visitor, &QLocalSocket::readyRead, &visitor,
-                     [&visitor, visited] { answer(visitor, visited); });
-    answer(visitor, visited);
+                     [&visitor, visited] { answer_visitor(visitor, visited); });
+    answer_visitor(visitor, visited);
 }
 
 }  // namespace

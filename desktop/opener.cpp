@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int longest_wait = 1500;  // milliseconds
+constexpr int longest_start = 1500;  // milliseconds
 
 // In a sandbox the toolkit asks a portal, which opens outside of it.
 QString opener_of_desktop()
@@ -42,7 +42,7 @@ void wait_for(const QProcess & opener)
     QEventLoop loop;
     QObject::connect(&opener, &QProcess::finished, &loop, &QEventLoop::quit);
     QObject::connect(&opener, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
-    QTimer::singleShot(longest_wait, &loop, &QEventLoop::quit);
+    QTimer::singleShot(longest_start, &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int air = 8;            // pixels at the right
+constexpr int air_at_right = 8;   // pixels
 constexpr int least_width = 150;  // what is narrower shows nothing of a collage
 constexpr const char * form_place = "formPlace";
 
@@ -46,7 +46,7 @@ int narrowed_width(const QWidget & window, int wanted, int most, int bar)
     if (!picture || picture->isHidden() || !picture->property(form_place).isValid())
         return wanted;
     const QRect own = picture->property(form_place).toRect();
-    const int left = std::min(most - bar - air - own.left(), own.width());
+    const int left = std::min(most - bar - air_at_right - own.left(), own.width());
     const bool is_narrowed = wanted > most && left >= least_width;
     const double share = is_narrowed ? double(left) / own.width() : 1;
     picture->setGeometry(own.left(), own.top(), is_narrowed ? left : own.width(),

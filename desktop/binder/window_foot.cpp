@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int air = 8;                           // pixels above a row
+constexpr int air_above_row = 8;                 // pixels
 constexpr QMargins around_panel{12, 4, 12, 10};  // as it stands in the form of a main window
 
 bool holds_default(const QLayout & row)
@@ -63,7 +63,7 @@ QWidget * taken_row(QWidget & window, QLayout & row)
     row.setParent(nullptr);
     auto * const foot = new QWidget(&window);
     foot->setObjectName(QStringLiteral("foot_area"));
-    around.setTop(air);
+    around.setTop(air_above_row);
     row.setContentsMargins(around);
     foot->setLayout(&row);
     foot->show();

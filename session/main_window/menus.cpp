@@ -15,20 +15,20 @@
 
 namespace {
 
-void choose_photos(frmMain & main)
+void show_select_photos(frmMain & main)
 {
     main.desk.show_modal(main.all->select_photos);
 }
 
 void quick(frmMain & main)
 {
-    begin_quick(main, [&main] { choose_photos(main); });
+    begin_quick(main, [&main] { show_select_photos(main); });
 }
 
 template <designer Chosen>
 void designed_by(frmMain & main)
 {
-    start_designer(main, Chosen, [&main] { choose_photos(main); });
+    start_designer(main, Chosen, [&main] { show_select_photos(main); });
 }
 
 void help_topics(frmMain & main)
