@@ -40,7 +40,10 @@ const named_change photo_changes[] = {
          write_file(photo, read_file(photo).substr(0, fs::file_size(photo) / 2));
      }},
     {"replaced by another", "",
-     [](const std::string & photo) { write_file(photo, jpeg_of({.quality = 40}, 200, 500)); }},
+     [](const std::string & photo) {
+         static const std::string another = jpeg_of({.quality = 40}, 200, 500);
+         write_file(photo, another);
+     }},
 };
 
 // Percent of the picture that shows the ground, black, or the grey with which a broken photo is filled up.
@@ -94,8 +97,19 @@ protected:
         fs::remove_all(folder);
         make_folder(folder);
         for (int i = 0; i < 9; ++i)
-            write_file(photo(i),
-                       jpeg_of({.quality = 70 + i}, i % 2 == 0 ? 360 : 270, i % 2 == 0 ? 270 : 360));
+            write_file(photo(i), pictures()[static_cast<std::size_t>(i)]);
+    }
+
+    // Of each photo, wide and tall in turn; encoded once for all tests.
+    static const std::vector<std::string> & pictures()
+    {
+        static const std::vector<std::string> encoded = [] {
+            std::vector<std::string> texts;
+            for (int i = 0; i < 9; ++i)
+                texts.push_back(jpeg_of({.quality = 70 + i}, i % 2 == 0 ? 360 : 270, i % 2 == 0 ? 270 : 360));
+            return texts;
+        }();
+        return encoded;
     }
 
     // A picture whose photos change once its preview is on show.

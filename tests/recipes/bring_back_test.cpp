@@ -85,7 +85,7 @@ const flurn_change ways_to_make_one[] = {
 
 }  // namespace
 
-TEST(bring_back, shows_the_preview_and_makes_the_poster_of_then_byte_by_byte)
+TEST(bring_back, shows_the_preview_and_makes_the_poster_of_then_byte_by_byte_with_its_picture_and_without)
 {
     for (const flurn_change & each : ways_to_make_one) {
         SCOPED_TRACE(each.name);
@@ -97,35 +97,25 @@ TEST(bring_back, shows_the_preview_and_makes_the_poster_of_then_byte_by_byte)
         const std::string poster = session.make();
         ASSERT_FALSE(poster.empty());
 
-        started_again again(session);
-        again.open(session.kept());
-        EXPECT_TRUE(again.preview() == preview);
-        EXPECT_EQ(differences(sight_of(again.main), seen), "");
-        EXPECT_FALSE(again.main.menus_shown);
-        EXPECT_FALSE(again.main.txtDoing.visible()) << "nothing is being done";
-        EXPECT_TRUE(again.make() == poster);
-    }
-}
-
-TEST(bring_back, draws_the_preview_of_a_recipe_that_has_none_and_makes_the_same_poster)
-{
-    for (const flurn_change & each : ways_to_make_one) {
-        SCOPED_TRACE(each.name);
-        flurn_session session;
-        session.begin(each.photos);
-        each.change(session);
-        const std::string preview = session.preview();
-        const std::string poster = session.make();
-        delete_file(picture_beside(session.kept()));
-
-        started_again again(session);
-        again.open(session.kept());
+        const std::string kept = session.kept();
+        {
+            started_again again(session);
+            again.open(kept);
+            EXPECT_TRUE(again.preview() == preview);
+            EXPECT_EQ(differences(sight_of(again.main), seen), "");
+            EXPECT_FALSE(again.main.menus_shown);
+            EXPECT_FALSE(again.main.txtDoing.visible()) << "nothing is being done";
+            EXPECT_TRUE(again.make() == poster);
+        }
+        delete_file(picture_beside(kept));
+        started_again without_picture(session);
+        without_picture.open(kept);
         // Blanks and the order of random photos are drawn anew by each run.
         if (!session.main.chkRandom.ticked() && session.main.cmbBlanks.text() == "0" &&
             !session.main.chkMix.ticked() && !session.main.chkShuffle.ticked()) {
-            EXPECT_TRUE(again.preview() == preview);
+            EXPECT_TRUE(without_picture.preview() == preview);
         }
-        EXPECT_TRUE(again.make() == poster);
+        EXPECT_TRUE(without_picture.make() == poster);
     }
 }
 

@@ -102,6 +102,7 @@ TEST_F(thumbnails_ahead_test, a_photo_that_vanishes_meanwhile_is_left_out)
 TEST_F(thumbnails_ahead_test, a_photo_that_is_replaced_meanwhile_gets_one_of_what_is_there_now)
 {
     fill(many(3, "some/"));
+    main.workers.set_count(2);
     begin_thumbnails(main, 0);
     main.thumbnails.begun.at(folder.at("some/2.jpg")).wait();
     const fs::file_time_type time = fs::last_write_time(folder.at("some/2.jpg"));
