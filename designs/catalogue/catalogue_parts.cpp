@@ -54,8 +54,8 @@ std::string_view value_in(const catalogue_part & part, std::string_view key)
 
 bool has_name(const catalogue_parts & parts, std::string_view name)
 {
-    return std::ranges::any_of(
-        parts, [&](const catalogue_part & part) { return value_in(part, "Name=") == name; });
+    return std::ranges::any_of(parts,
+                               [&](const catalogue_part & part) { return value_in(part, "Name=") == name; });
 }
 
 void put_in(catalogue_parts & parts, catalogue_part fresh)

@@ -15,8 +15,8 @@ constexpr int first_of_users = 500;
 
 bool holds_zero_byte(const text_lines & lines)
 {
-    return std::ranges::any_of(
-        lines, [](const std::string & line) { return line.find('\0') != std::string::npos; });
+    return std::ranges::any_of(lines,
+                               [](const std::string & line) { return line.find('\0') != std::string::npos; });
 }
 
 bool is_of_use(const text_lines & supplied)
@@ -52,7 +52,8 @@ bool is_text(std::string_view line)
     const auto is_control = [](unsigned char sign) { return sign < ' ' && sign != '\t'; };
     const bool is_blank = line.find_first_not_of(" \t") == std::string_view::npos;
     return std::ranges::none_of(line, is_control) &&
-           (is_blank || line.starts_with('[') || line.starts_with(';') || line.find('=') != std::string_view::npos);
+           (is_blank || line.starts_with('[') || line.starts_with(';') ||
+            line.find('=') != std::string_view::npos);
 }
 
 // Up to the first line that is no text: what follows may be another section's.
@@ -102,8 +103,8 @@ void add_reserved(catalogue_parts & parts, const catalogue_parts & supplied)
 
 bool has_template(const catalogue_parts & parts, std::string_view file)
 {
-    return std::ranges::any_of(
-        parts, [&](const catalogue_part & part) { return value_in(part, "File=") == file; });
+    return std::ranges::any_of(parts,
+                               [&](const catalogue_part & part) { return value_in(part, "File=") == file; });
 }
 
 void add_from_backup(catalogue_parts & parts, const traces_of_designs & traces)

@@ -49,7 +49,8 @@ void tell_spoiled_tables(frmMain & main)
     for (const std::string & path : spoiled_tables(main))
         names += path + "\r\n";
     if (!names.empty())
-        main.desk.message("These files of the program are missing or damaged:\r\n" + names +
-                          "\r\nSome collages can't be made without them. Install Tessaloom again to bring them "
-                          "back;\r\nyour own designs, lists and photos stay as they are.");
+        main.desk.message(
+            "These files of the program are missing or damaged:\r\n" + names +
+            "\r\nSome collages can't be made without them. Install Tessaloom again to bring them "
+            "back;\r\nyour own designs, lists and photos stay as they are.");
 }

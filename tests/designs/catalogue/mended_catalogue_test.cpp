@@ -6,8 +6,19 @@ namespace {
 
 using text = text_lines;
 
-const text supplied{"[Design001]", "Name=Match",   "File=__quick", "", "[Design002]", "Name=Quick matrix",
-                    "File=__quick", "Style=Place", "", "[Design101]", "Name=Wall", "File=wall", ""};
+const text supplied{"[Design001]",
+                    "Name=Match",
+                    "File=__quick",
+                    "",
+                    "[Design002]",
+                    "Name=Quick matrix",
+                    "File=__quick",
+                    "Style=Place",
+                    "",
+                    "[Design101]",
+                    "Name=Wall",
+                    "File=wall",
+                    ""};
 const text mine{"[Design600]", "Name=Mine", "File=saved600", "System=No"};
 
 text both(text first, const text & second)
@@ -85,7 +96,8 @@ TEST(mended_catalogue, keeps_what_the_user_changed)
 
 TEST(mended_catalogue, keeps_a_section_up_to_the_first_line_that_is_no_text)
 {
-    const text torn{"[Design600]", "Name=Mine", "File=saved600", std::string("Sty\0le", 6), "Name=Of another"};
+    const text torn{"[Design600]", "Name=Mine", "File=saved600", std::string("Sty\0le", 6),
+                    "Name=Of another"};
     EXPECT_EQ(mended(torn), both(supplied, {"[Design600]", "Name=Mine", "File=saved600"}));
     EXPECT_EQ(mended({"[Design600]", "Na\x01me=Mine", "File=saved600"}), supplied);
     EXPECT_EQ(mended({"[Design 99999999999]", "Name=Odd", "File=odd"}), supplied);
@@ -113,15 +125,17 @@ TEST(mended_catalogue, takes_designs_of_the_backup_whose_template_is_there)
 
 TEST(mended_catalogue, lists_saved_designs_that_no_section_names)
 {
-    const traces_of_designs traces{
-        .backup = {},
-        .templates = {"saved600", "saved601"},
-        .saved = {{.number = 600, .name = {}},
-                  {.number = 601, .name = {}, .kind = saved_layout::matrix,
-                   .background = orientation::landscape, .sample = design_to_save::part::present}}};
-    EXPECT_EQ(mended_catalogue(mine, supplied, traces),
-              both(both(supplied, mine),
-                   {"", "[Design601]", "Name=Saved design 601", "Ratio=2x3", "File=saved601", "System=No",
-                    "Design=Saved", "Style=Matrix", "Match=Yes", "Turn BG=No", "Background=Landscape",
-                    "Sample=saved601.jpg"}));
+    const traces_of_designs traces{.backup = {},
+                                   .templates = {"saved600", "saved601"},
+                                   .saved = {{.number = 600, .name = {}},
+                                             {.number = 601,
+                                              .name = {},
+                                              .kind = saved_layout::matrix,
+                                              .background = orientation::landscape,
+                                              .sample = design_to_save::part::present}}};
+    EXPECT_EQ(
+        mended_catalogue(mine, supplied, traces),
+        both(both(supplied, mine), {"", "[Design601]", "Name=Saved design 601", "Ratio=2x3", "File=saved601",
+                                    "System=No", "Design=Saved", "Style=Matrix", "Match=Yes", "Turn BG=No",
+                                    "Background=Landscape", "Sample=saved601.jpg"}));
 }

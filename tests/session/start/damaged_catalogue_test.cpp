@@ -34,8 +34,8 @@ struct damaged_program : fresh_program {
 
 TEST(damaged_catalogue, is_told_of_once_and_brought_back_with_the_users_designs)
 {
-    for (const std::string & damage :
-         {std::string(), std::string("junk\r\n"), std::string(4096, '\0'), std::string("[Design001]\r\nNa")}) {
+    for (const std::string & damage : {std::string(), std::string("junk\r\n"), std::string(4096, '\0'),
+                                       std::string("[Design001]\r\nNa")}) {
         SCOPED_TRACE(damage.substr(0, 20));
         damaged_program program;
         program.write("designs.ini", damage + mine);
@@ -124,7 +124,8 @@ TEST(damaged_catalogue, is_lost_at_no_step_of_its_mending)
         ended = ended_at(step, mishap::full_disk, [&] { program.start(); });
         const bool is_kept = program.has("designs.ini.damaged");
         EXPECT_EQ(program.text(is_kept ? "designs.ini.damaged" : "designs.ini"), "junk" + mine);
-        EXPECT_TRUE(program.text("designs.ini") == "junk" + mine || program.text("designs.ini") == supplied + mine);
+        EXPECT_TRUE(program.text("designs.ini") == "junk" + mine ||
+                    program.text("designs.ini") == supplied + mine);
     }
     EXPECT_LT(step, 200);
 }

@@ -1,4 +1,5 @@
 #include "session/start/program_tables.h"
+
 #include "session/windows.h"
 #include "support/files/copies.h"
 #include "support/files/paths.h"
@@ -10,8 +11,8 @@
 
 namespace {
 
-const std::vector<std::string> tables{"designs.ini",   "design_list",       "description_list",
-                                      "block_templates", "quick_block.ini", "scatter_templates",
+const std::vector<std::string> tables{"designs.ini",       "design_list",      "description_list",
+                                      "block_templates",   "quick_block.ini",  "scatter_templates",
                                       "quick_scatter.ini", "quick_matrix.ini", "rotate.ini"};
 
 struct supplied_program {
@@ -42,8 +43,9 @@ TEST(program_tables, are_named_each_when_missing_empty_cut_or_something_else)
     supplied_program program;
     for (const std::string & name : tables) {
         const std::string path = joined(program.main.install_folder, name), whole = read_file(path);
-        for (const std::string & bytes : {std::string(), std::string("junk\n"), whole.substr(0, whole.size() - 3),
-                                          whole + std::string(2, '\0') + "\n"}) {
+        for (const std::string & bytes :
+             {std::string(), std::string("junk\n"), whole.substr(0, whole.size() - 3),
+              whole + std::string(2, '\0') + "\n"}) {
             write_file(path, bytes);
             EXPECT_EQ(spoiled_tables(program.main), std::vector{path}) << name << bytes.size();
         }
