@@ -5,10 +5,11 @@
 #include <string>
 #include <vector>
 
-/// The tables that come with the program, each of which some collages can't be made without.
+/// The tables that come with the program, the shapes of photos and the sheet below tilted ones: some collages
+/// can't be made without them.
 
-/// Paths of those that are missing, closed to the user, empty, cut in a line, or no table of that kind.
+/// Paths of those that are missing, closed to the user, empty, cut, or something else.
 std::vector<std::string> spoiled_tables(const frmMain & main);
 
-/// Names them in one message, with what helps; says nothing when there are none.
+/// Names them in one message, ten at most, with what helps; says nothing when there are none.
 void tell_spoiled_tables(frmMain & main);

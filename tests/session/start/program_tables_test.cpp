@@ -4,6 +4,7 @@
 #include "support/files/copies.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
+#include "tests/jpeg_files.h"
 #include "tests/scripted_desktop.h"
 #include "tests/temporary_folder.h"
 
@@ -22,6 +23,17 @@ struct supplied_program {
         make_folders(main.install_folder);
         for (const std::string & name : tables)
             copy_file(joined(SEED_FOLDER, name), joined(main.install_folder, name));
+        folder.write("program/images/white.jpg", jpeg_of({}, 8, 8));
+        for (const char * name :
+             {"circle", "star", "heart", "oval", "cloud", "stripes", "target", "polka_dots", "stamp"})
+            add_shape(name);
+        for (const char * stem : {"puzzle_", "leaf_"})
+            for (int drawn = 1; drawn <= 6; ++drawn)
+                add_shape(stem + std::to_string(drawn));
+    }
+    void add_shape(const std::string & name) const
+    {
+        folder.write("program/images/" + name + ".gif", "GIF89a and so on;");
     }
     temporary_folder folder;
     scripted_desktop desk;
@@ -53,6 +65,24 @@ TEST(program_tables, are_named_each_when_missing_empty_cut_or_something_else)
         EXPECT_EQ(spoiled_tables(program.main), std::vector{path}) << name;
         write_file(path, whole);
     }
+}
+
+TEST(program_tables, have_shapes_beside_them)
+{
+    supplied_program program;
+    for (const char * name : {"images/white.jpg", "images/heart.gif", "images/leaf_6.gif"}) {
+        const std::string path = joined(program.main.install_folder, name), whole = read_file(path);
+        for (const std::string & bytes :
+             {std::string(), std::string("junk"), whole.substr(0, whole.size() - 1)}) {
+            write_file(path, bytes);
+            EXPECT_EQ(spoiled_tables(program.main), std::vector{path}) << name << bytes.size();
+        }
+        write_file(path, whole);
+    }
+    remove_tree(joined(program.main.install_folder, "images"));
+    EXPECT_EQ(spoiled_tables(program.main).size(), 22u);
+    tell_spoiled_tables(program.main);
+    EXPECT_NE(program.desk.next_message().find("and 12 more\r\n"), std::string::npos);
 }
 
 TEST(program_tables, are_told_of_in_one_message_with_what_helps)
