@@ -1,6 +1,7 @@
 #include "batch/open_session.h"
 
 #include "session/connect_all.h"
+#include "session/start/program_tables.h"
 
 namespace {
 
@@ -20,6 +21,7 @@ open_session::open_session(const batch_arguments & arguments, const batch_folder
         all.main.workers.set_count(*arguments.threads);
     all.main.install_folder = folders.install_folder;
     share_data_folder(all.main, folders.data, scratch.path());
+    tell_spoiled_tables(all.main);
     connect_all(all);
     all.main.load();
     all.main.left_out.told_by = left_out_photos::teller::caller;

@@ -17,6 +17,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 namespace {
@@ -59,8 +60,10 @@ struct finishing_stage {
         photos_of_folder(main, folder.at("photos"));
         set_photo_source_kind(main, photo_source::folder);
         main.txtPhotos.tag = folder.at("photos");
-        if (!find_design(main, design))
+        if (!find_design(main, design)) {
             std::fprintf(stderr, "no design %s\n", design);
+            std::exit(1);  // another one would be timed in its place
+        }
         close_catalogue(main);
         main.optPortrait.select();
         start_designed(main);

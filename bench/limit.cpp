@@ -10,6 +10,7 @@
 
 #include "bench/big_photos.h"
 #include "photos/scaled_jpeg.h"
+#include "support/cores.h"
 #include "support/platform_error.h"
 
 #include <algorithm>
@@ -63,12 +64,12 @@ duration duration_of(const std::function<void()> & step)
             .work = work_so_far() - before};
 }
 
-/// Each photo once, as many at a time as there are cores.
+/// Each photo once, as many at a time as this process may use cores.
 void on_all_cores(const paths & photos, const std::function<void(const std::string &, photo_memory &)> & step)
 {
     std::atomic<std::size_t> next = 0;
     std::vector<std::jthread> workers;
-    for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
+    for (int i = 0; i < usable_cores(); ++i)
         workers.emplace_back([&] {
             photo_memory memory;
             for (std::size_t at = next++; at < photos.size(); at = next++)

@@ -75,12 +75,14 @@ def main():
     if words.workers:
         os.environ['TESSALOOM_TOLD_CORES'] = words.workers
     program = Program(words.app, words.plugins)
-    program.window('QMessageBox')
-    program.keys('Return')
-    program.window('frmMain')
-    for number in words.designs:
-        measure(program, words.photos, number)
-    program.close()
+    try:
+        program.window('QMessageBox')
+        program.keys('Return')
+        program.window('frmMain')
+        for number in words.designs:
+            measure(program, words.photos, number)
+    finally:
+        program.close()
 
 
 main()

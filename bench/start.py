@@ -18,15 +18,12 @@ def first_window(program):
     return entry and program.ask('see %d %d %d %d' % (entry['x'], entry['y'], entry['width'], entry['height']))
 
 
-def main():
-    app, plugins = sys.argv[1:3]
-    runs = int(sys.argv[3]) if len(sys.argv) > 3 else 7
-    program = Program(app, plugins)
+def times_of(program, plugins, runs):
     program.window('QMessageBox')
     program.keys('Return')
     program.window('frmMain')
     times = []
-    for _ in range(runs + 1):
+    for _ in range(runs):
         program.process.kill()
         program.process.wait()
         os.remove(program.socket_path)
@@ -34,8 +31,17 @@ def main():
         program.start_program(plugins)
         until(lambda: first_window(program), 'the first window')
         times.append(time.monotonic() - begin)
-    program.close()
-    kept = sorted(times[1:])
+    return times
+
+
+def main():
+    app, plugins = sys.argv[1:3]
+    runs = int(sys.argv[3]) if len(sys.argv) > 3 else 7
+    program = Program(app, plugins)
+    try:
+        kept = sorted(times_of(program, plugins, runs + 1)[1:])
+    finally:
+        program.close()
     print('first window after %.0f ms (median of %d; %.0f to %.0f)' %
           (1000 * statistics.median(kept), runs, 1000 * kept[0], 1000 * kept[-1]))
 

@@ -81,27 +81,43 @@ struct figure {
     double peak_mib = 0;
 };
 
-// Runs `work`, which gives its own seconds, in a child.
+figure own_figure(const std::function<double()> & work)
+{
+    const double seconds = work();
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return {.seconds = seconds, .peak_mib = static_cast<double>(usage.ru_maxrss) / 1024};
+}
+
+// What fails there is told there, and must not go on as a second parent.
+[[noreturn]] void tell_figure(const std::function<double()> & work, int end)
+{
+    bool written = false;
+    try {
+        const figure own = own_figure(work);
+        written = ::write(end, &own, sizeof own) == sizeof own;
+    } catch (const std::exception & failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+    }
+    ::_exit(written ? 0 : 1);
+}
+
+// Runs `work`, which gives its own seconds, in a child. A figure of a run that failed would be none.
 figure measured(const std::function<double()> & work)
 {
     int ends[2];
     if (::pipe(ends) != 0)
         std::abort();
     const pid_t child = ::fork();
-    if (child == 0) {
-        const double seconds = work();
-        rusage usage{};
-        ::getrusage(RUSAGE_SELF, &usage);
-        const figure own{.seconds = seconds, .peak_mib = static_cast<double>(usage.ru_maxrss) / 1024};
-        const bool written = ::write(ends[1], &own, sizeof own) == sizeof own;
-        ::_exit(written ? 0 : 1);
-    }
+    if (child == 0)
+        tell_figure(work, ends[1]);
     ::close(ends[1]);
     figure result;
-    if (::read(ends[0], &result, sizeof result) != sizeof result)
-        std::fprintf(stderr, "a run ended early\n");
+    const bool is_told = ::read(ends[0], &result, sizeof result) == sizeof result;
     ::close(ends[0]);
     ::waitpid(child, nullptr, 0);
+    if (!is_told)
+        throw platform_error(error_number::invalid_call, "A run ended early: there is no figure of it.");
     return result;
 }
 

@@ -20,6 +20,12 @@ QColor color_of(rgb_triple color)
     return {color.red, color.green, color.blue};
 }
 
+// Names for whichever family the system takes for that kind.
+bool is_stand_in(std::string_view family)
+{
+    return family == "Monospace" || family == "Sans Serif" || family == "Serif";
+}
+
 // At least one pixel: a text of marks without a width of their own is still a text.
 QSize measured(const QFontMetrics & metrics, const QString & text, int extra_width)
 {
@@ -71,5 +77,6 @@ std::vector<std::string> installed_fonts()
     std::vector<std::string> names;
     for (const QString & family : QFontDatabase::families())
         names.push_back(bytes_of(family));
+    std::stable_partition(names.begin(), names.end(), is_stand_in);
     return names;
 }

@@ -14,5 +14,6 @@ bitmap drawn_text(const text_request & request);
 /// The size of that bitmap.
 picture_size size_of_text(const text_request & request);
 
-/// The names of the installed fonts, in alphabetical order.
+/// The names of the installed fonts, in alphabetical order; before them those that only stand for a font of
+/// that kind, since a list of fonts passes its first over.
 std::vector<std::string> installed_fonts();

@@ -8,6 +8,7 @@
 #include "recipes/open_flurn.h"
 #include "session/connect_all.h"
 #include "session/drops.h"
+#include "session/start/program_tables.h"
 #include "session/start/start_up.h"
 #include "session/undo/keep_history.h"
 #include "support/files/paths.h"
@@ -34,6 +35,7 @@ void start(windows & all, change_history & history)
     all.main.workers.give_way();
     connect_all(all);
     prepare_data_folder(all.main, data_folder_choice());
+    tell_spoiled_tables(all.main);
     keep_history(all.main, history);
     all.main.picSplash.load(joined(all.main.install_folder, "images/splash.png"));
     all.main.desk.show(all.main);

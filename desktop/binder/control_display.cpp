@@ -285,6 +285,7 @@ void display_place(const control & held, QWidget & widget)
         widget.setFixedSize(at.width, at.height);
     if (at == box{} || !widget.property("placed").toBool())
         return;
+    lay_as_drawn(widget);
     const QSize own = widget.sizeHint(),
                 least = widget.layout() ? widget.layout()->totalMinimumSize() : QSize();
     const QPoint corner = QPoint(at.left, at.top) + shift_of(widget, at);

@@ -1,9 +1,43 @@
 #include "desktop/binder/growing_room.h"
 
 #include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QList>
+#include <QMargins>
 #include <QVariant>
 
 #include <algorithm>
+
+namespace {
+
+int spacing_across(const QLayout & layout)
+{
+    const auto * const grid = qobject_cast<const QGridLayout *>(&layout);
+    return grid ? grid->horizontalSpacing() : layout.spacing();
+}
+
+// Half of what was drawn, across alone.
+void set_spacing(QLayout & layout, layout_spacing wanted)
+{
+    if (!layout.property("drawnSpacing").isValid()) {
+        layout.setProperty("drawnSpacing", spacing_across(layout));
+        layout.setProperty("drawnMargins", QVariant::fromValue(layout.contentsMargins()));
+    }
+    const int share = wanted == layout_spacing::tight ? 2 : 1;
+    const int spacing = layout.property("drawnSpacing").toInt() / share;
+    QMargins margins = layout.property("drawnMargins").value<QMargins>();
+    margins.setLeft(margins.left() / share);
+    margins.setRight(margins.right() / share);
+    layout.setContentsMargins(margins);
+    if (auto * const grid = qobject_cast<QGridLayout *>(&layout))
+        grid->setHorizontalSpacing(spacing);
+    else if (qobject_cast<QHBoxLayout *>(&layout))
+        layout.setSpacing(spacing);
+    layout.activate();
+}
+
+}  // namespace
 
 QWidget * growing_widget(const QWidget & window)
 {
@@ -20,9 +54,10 @@ QSize growth_of(const QWidget & window)
         widget->setProperty("drawnSize", widget->size());
     const QSize drawn = widget->property("drawnSize").toSize();
     const QSize whole = drawn.expandedTo(widget->minimumSizeHint());
-    const QVariant bottom = widget->property("bottom");
-    const int most = bottom.isValid() ? bottom.toInt() - widget->y() : whole.height();
-    widget->resize(whole.width(), std::clamp(most, widget->minimumSizeHint().height(), whole.height()));
+    const QVariant right = widget->property("right"), bottom = widget->property("bottom");
+    const QSize most(right.isValid() ? right.toInt() - widget->x() : whole.width(),
+                     bottom.isValid() ? bottom.toInt() - widget->y() : whole.height());
+    widget->resize(most.expandedTo(widget->minimumSizeHint()).boundedTo(whole));
     return whole - drawn;
 }
 
@@ -30,6 +65,30 @@ void end_above(QWidget & growing, int bottom)
 {
     growing.setProperty("bottom", bottom);
     growth_of(*growing.window());
+}
+
+void set_spacing(QWidget & growing, layout_spacing wanted)
+{
+    const bool is_tight = growing.property("isTight").toBool();
+    const bool may_be = is_tight || growth_of(*growing.window()).width() == 0;
+    const bool to_be = wanted == layout_spacing::tight && may_be;
+    if (to_be == is_tight)
+        return;
+    growing.setProperty("isTight", to_be);
+    QList<QLayout *> layouts = growing.findChildren<QLayout *>();
+    std::ranges::reverse(layouts);  // the inner ones first: what they need is what the outer ones lay out
+    for (QLayout * each : layouts)
+        set_spacing(*each, to_be ? layout_spacing::tight : layout_spacing::drawn);
+}
+
+int narrowed_by(QWidget & growing, int wanted)
+{
+    const QSize growth = growth_of(*growing.window());
+    const int whole = growing.property("drawnSize").toSize().width() + growth.width();
+    const int given = std::clamp(wanted, 0, std::max(0, whole - growing.minimumSizeHint().width()));
+    growing.setProperty("right", given > 0 ? QVariant(growing.x() + whole - given) : QVariant());
+    growth_of(*growing.window());
+    return given;
 }
 
 QPoint shift_of(const QWidget & widget, const box & at)

@@ -23,6 +23,16 @@ QSize growth_of(const QWidget & window);
 /// counted as if it didn't.
 void end_above(QWidget & growing, int bottom);
 
+enum class layout_spacing { drawn, tight };
+
+/// Gives what stands in the widget the margins and distances across that it was drawn with, or half of them.
+/// Those of one that needs more room than it was drawn with stay: its growth doesn't come and go with them.
+void set_spacing(QWidget & growing, layout_spacing wanted);
+
+/// From now on the widget is narrower by that many pixels, or by as many as its content allows; 0 gives it
+/// its width back. Tells by how many. Its growth is counted as if it weren't.
+int narrowed_by(QWidget & growing, int wanted);
+
 /// Pixels that a widget beside or below the growing one moves; {0, 0} for all others.
 QPoint shift_of(const QWidget & widget, const box & at);
 

@@ -1,5 +1,6 @@
 #include "session/start/start_up.h"
 
+#include "session/start/damaged_catalogue.h"
 #include "session/start/displaced.h"
 #include "session/start/filling_work.h"
 #include "session/start/supplied_catalogue.h"
@@ -197,6 +198,7 @@ void prepare_data_folder(frmMain & main, const folder_choice & choice)
         first_run_notice(main);
     const folder_lock filling = filling_lock(main, longest_filling);
     fill_data_folder(main, choice);
+    mend_catalogue(main);
     take_newer_designs(main);
     expect_place_to_write(main);
 }
@@ -224,7 +226,7 @@ void share_data_folder(frmMain & main, const folder_choice & choice, const std::
     main.work_folder = work_folder;
     for (const char * name : {"tmp", "designs", "piclists"})
         make_folders(joined(work_folder, name));
-    write_file(joined(work_folder, "designs.ini"), text_of(newer_catalogue(main)));
+    write_file(joined(work_folder, "designs.ini"), text_of(newer_catalogue(main, readable_catalogue(main))));
 }
 
 folder_lock filling_lock(frmMain & main, std::chrono::milliseconds longest)

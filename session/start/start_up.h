@@ -33,10 +33,10 @@ struct data_folder_in_use {
 };
 
 /// Settles `main.data_folder`, from `main.install_folder`, and fills it, for a session that has it for
-/// itself: it holds the lock of the folder from here on. Shows the welcome on a first start. Designs of a
-/// newer program are added to the catalogue. Throws data_folder_in_use, and end_of_program after its message
-/// when a path is blocked; raises 53, 61, 70, 75 when a copy fails, and where nothing can be written though
-/// all is there.
+/// itself: it holds the lock of the folder from here on. Shows the welcome on a first start. A damaged
+/// catalogue is mended, and designs of a newer program are added to it. Throws data_folder_in_use, and
+/// end_of_program after its message when a path is blocked; raises 53, 61, 70, 75 when a copy fails, and
+/// where nothing can be written though all is there.
 void prepare_data_folder(frmMain & main, const folder_choice & choice);
 
 /// What failed there, on which file, and what helps where that isn't plain.

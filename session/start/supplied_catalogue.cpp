@@ -25,9 +25,8 @@ std::string seed_catalogue_path(const frmMain & main)
     return file_exists(copy) ? copy : joined(main.install_folder, "designs.ini");
 }
 
-text_lines newer_catalogue(const frmMain & main)
+text_lines newer_catalogue(const frmMain & main, const text_lines & own)
 {
-    const text_lines own = lines_of_file(kept_file(main, "designs.ini"));
     const text_lines now = lines_of_file(seed_catalogue_path(main)), last = supplied_last(main);
     return now == last ? own : with_supplied(own, last, now);
 }
@@ -39,7 +38,8 @@ void take_newer_designs(const frmMain & main)
     if (file_exists(noted) && read_file(noted) == seed)
         return;
     const std::string path = kept_file(main, "designs.ini");
-    if (const text_lines newer = newer_catalogue(main); newer != lines_of_file(path))
+    const text_lines own = lines_of_file(path);
+    if (const text_lines newer = newer_catalogue(main, own); newer != own)
         replace_file(path, text_of(newer));
     replace_file(noted, seed);
 }

@@ -16,8 +16,8 @@ inline constexpr std::string_view supplied_catalogue = "designs.supplied";
 /// that the package brings a second copy, `designs.seed`.
 std::string seed_catalogue_path(const frmMain & main);
 
-/// The user's catalogue with what a newer program supplies. Raises 53, 70.
-text_lines newer_catalogue(const frmMain & main);
+/// The user's catalogue, `own`, with what a newer program supplies. Raises 53, 70.
+text_lines newer_catalogue(const frmMain & main, const text_lines & own);
 
 /// Rewrites the user's catalogue so, when the program supplies other designs than last time. Raises 53,
 /// 61, 70.

@@ -5,6 +5,7 @@ import re
 import socket
 import subprocess
 import sys
+import time
 
 from workplace import Workplace
 
@@ -45,9 +46,10 @@ def holds(path, *texts):
 
 
 def traces(place):
-    """What tells who made a poster, where and when. Short words would be found in any picture."""
+    """What tells who made a poster, where and when. The photos are of 2025. Short words would be found in any picture."""
+    year = time.strftime('%Y')
     words = [str(place.folder), 'sample_thumbs', getpass.getuser(), socket.gethostname(), 'Canon', 'Anna', 'somewhere at home',
-             '/photos/', '2026:', '2025:', '2026-', '2025-', 'CreateDate', 'CreationDate', 'Mosaic']
+             '/photos/', f'{year}:', f'{year}-', '2025:', '2025-', 'CreateDate', 'CreationDate', 'Mosaic']
     return [word for word in words if len(word) > 4]
 
 

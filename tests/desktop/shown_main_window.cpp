@@ -8,10 +8,12 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+#include <utility>
 
-shown_main_window::shown_main_window() : main(desk, listed({})), window(make_window("frmMain"))
+shown_main_window::shown_main_window(std::function<QSize()> room)
+    : main(desk, listed({})), window(make_window("frmMain"))
 {
-    bind(main, *window, {});
+    bind(main, *window, {.report = {}, .unloaded = {}, .room = std::move(room)});
     main.load();
     window->show();
 }

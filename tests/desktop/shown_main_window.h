@@ -5,15 +5,17 @@
 #include "tests/desktop/stages.h"
 #include "tests/temporary_folder.h"
 
+#include <QSize>
 #include <QWidget>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
-/// The main window with no session behind it, bound and shown.
+/// The main window with no session behind it, bound and shown, on a screen with that room; without one no
+/// room is too small.
 struct shown_main_window {
-    shown_main_window();
+    explicit shown_main_window(std::function<QSize()> room = {});
     /// Brings it to each of its stages, for posters of each of these shapes.
     void in_each_stage(const std::vector<shape> & shapes, const std::function<void(look)> & look_at);
 

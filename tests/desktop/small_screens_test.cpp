@@ -3,6 +3,7 @@
 #include "desktop/looks/letters.h"
 #include "tests/desktop/layout_checks.h"
 #include "tests/desktop/seen_pixels.h"
+#include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/stages.h"
 #include "tests/desktop/window_views.h"
 
@@ -65,20 +66,11 @@ TEST_P(small_screens, have_room_for_the_main_window_in_all_its_stages)
 {
     const auto [room, pixels] = GetParam();
     set_letters(pixels);
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {.report = {}, .unloaded = {}, .room = [size = room] { return size; }});
-    main.load();
-    window->show();
-    for (const look stage : all_looks)
-        for (const shape poster : all_shapes) {
-            SCOPED_TRACE(name_of(stage, poster));
-            bring_to(main, stage, poster);
-            QApplication::processEvents();
-            EXPECT_EQ(window->size(), window->size().boundedTo(room));
-            EXPECT_EQ(out_of_reach(main, *window), faults());
-        }
+    shown_main_window shown([size = room] { return size; });
+    shown.in_each_stage(all_shapes, [&, size = room](look) {
+        EXPECT_EQ(shown.window->size(), shown.window->size().boundedTo(size));
+        EXPECT_EQ(out_of_reach(shown.main, *shown.window), faults());
+    });
 }
 
 // Of the boxes for texts, by their names.
@@ -164,35 +156,69 @@ void expect_whole_preview(const QMainWindow & window)
         EXPECT_EQ(each->visibleRegion(), QRegion(each->rect())) << name;
     }
     const QSize shown = window.findChild<QWidget *>(QLatin1String("picSample"))->size();
-    EXPECT_GE(shown.width(), 150);
+    EXPECT_GE(shown.width(), 120);
+}
+
+void expect_buttons_and_preview_in_sight(QSize room)
+{
+    shown_main_window shown([room] { return room; });
+    const auto & window = dynamic_cast<const QMainWindow &>(*shown.window);
+    for (const look stage : all_looks)
+        for (const shape poster : all_shapes) {
+            SCOPED_TRACE(name_of(stage, poster));
+            bring_to(shown.main, look::choosing, poster);
+            QApplication::processEvents();
+            expect_no_foot(window);
+            bring_to(shown.main, stage, poster);
+            QApplication::processEvents();
+            EXPECT_EQ(window.size(), window.size().boundedTo(room));
+            EXPECT_EQ(shown.main.frmButtons.visible(), stage != look::choosing);
+            if (stage != look::choosing) {
+                expect_whole_preview(window);
+                for (const char * name : {"cmdHelp", "cmdCancel", "cmdFlurn"})
+                    expect_in_sight(window, *window.findChild<QPushButton *>(QLatin1String(name)));
+            }
+            EXPECT_EQ(cut_texts(shown.main, window), faults());
+            EXPECT_EQ(tab_order_faults(shown.main, window), faults());
+        }
 }
 
 TEST(small_screen, shows_the_buttons_and_the_preview_of_the_main_window_in_all_its_stages)
 {
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {.report = {}, .unloaded = {}, .room = [] { return dense_screen; }});
-    main.load();
-    window->show();
-    for (const look stage : all_looks)
-        for (const shape poster : all_shapes) {
-            SCOPED_TRACE(name_of(stage, poster));
-            bring_to(main, look::choosing, poster);
-            QApplication::processEvents();
-            expect_no_foot(dynamic_cast<const QMainWindow &>(*window));
-            bring_to(main, stage, poster);
-            QApplication::processEvents();
-            EXPECT_EQ(window->size(), window->size().boundedTo(dense_screen));
-            EXPECT_EQ(main.frmButtons.visible(), stage != look::choosing);
-            if (stage != look::choosing)
-                expect_whole_preview(dynamic_cast<const QMainWindow &>(*window));
-            for (const char * name : {"cmdHelp", "cmdCancel", "cmdFlurn"})
-                if (const auto * const each = window->findChild<QPushButton *>(QLatin1String(name));
-                    stage != look::choosing)
-                    expect_in_sight(*window, *each);
-            EXPECT_EQ(tab_order_faults(main, *window), faults());
-        }
+    expect_buttons_and_preview_in_sight(dense_screen);
+}
+
+// The settings are narrower there.
+TEST(small_screen, of_800_by_600_pixels_shows_them_without_scrolling_sideways)
+{
+    expect_buttons_and_preview_in_sight({792, 564});
+}
+
+// From where to where it reaches across.
+std::pair<int, int> reach_of(const shown_main_window & shown, const char * name)
+{
+    const auto * const each = shown.window->findChild<QWidget *>(QLatin1String(name));
+    const int left = each->mapTo(shown.window.get(), QPoint(0, 0)).x();
+    return {left, left + each->width()};
+}
+
+TEST(small_screen, gives_the_settings_their_width_back_where_a_larger_one_follows)
+{
+    QSize room(792, 564);
+    const QSize larger(1358, 692);
+    shown_main_window shown([&room] { return room; }), fresh([larger] { return larger; });
+    bring_to(shown.main, look::designed, shape::portrait);
+    QApplication::processEvents();
+    const auto narrow = reach_of(shown, "work_area");
+    room = larger;
+    bring_to(shown.main, look::quick_block, shape::landscape);
+    QApplication::processEvents();
+    for (shown_main_window * each : {&shown, &fresh})
+        bring_to(each->main, look::designed, shape::portrait);
+    QApplication::processEvents();
+    EXPECT_LT(narrow, reach_of(fresh, "work_area"));
+    for (const char * name : {"work_area", "chkRounded", "cmbSize", "picSample", "optPreview", "optSample"})
+        EXPECT_EQ(reach_of(shown, name), reach_of(fresh, name)) << name;
 }
 
 // By whatever means it came there, from the form's own wish to a reader of the screen.
@@ -200,13 +226,10 @@ TEST_P(small_screens, show_what_has_the_keyboard)
 {
     const auto [room, pixels] = GetParam();
     set_letters(pixels);
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
-    bind(main, *window, {.report = {}, .unloaded = {}, .room = [size = room] { return size; }});
-    main.load();
+    shown_main_window shown([size = room] { return size; });
+    frmMain & main = shown.main;
+    QWidget * const window = shown.window.get();
     bring_to(main, look::quick_squares, shape::portrait);
-    window->show();
     window->activateWindow();
     QApplication::processEvents();
     faults unseen;
@@ -231,20 +254,15 @@ INSTANTIATE_TEST_SUITE_P(sizes, small_screens,
 
 TEST(the_main_window, gives_up_what_it_does_not_need_before_it_scrolls)
 {
-    scripted_desktop desk;
-    frmMain main(desk, listed({}));
-    const std::unique_ptr<QWidget> window = make_window("frmMain");
     const QSize room(1272, 644);
-    bind(main, *window, {.report = {}, .unloaded = {}, .room = [&room] { return room; }});
-    main.load();
-    bring_to(main, look::designed, shape::portrait);
-    window->show();
+    shown_main_window shown([room] { return room; });
+    bring_to(shown.main, look::designed, shape::portrait);
     QApplication::processEvents();
-    EXPECT_EQ(window->height(), room.height());
-    EXPECT_EQ(window->findChild<QScrollArea *>(QLatin1String("view_area"))->verticalScrollBar()->maximum(),
-              0);
-    EXPECT_EQ(strays(main, *window), faults());
-    EXPECT_EQ(cut_texts(main, *window), faults());
+    const QWidget & window = *shown.window;
+    EXPECT_EQ(window.height(), room.height());
+    EXPECT_EQ(window.findChild<QScrollArea *>(QLatin1String("view_area"))->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(strays(shown.main, window), faults());
+    EXPECT_EQ(cut_texts(shown.main, window), faults());
 }
 
 }  // namespace

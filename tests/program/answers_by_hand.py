@@ -23,12 +23,12 @@ def typed(p, name, *keys):
     focused_on(p, name)
     p.keys('End', *['BackSpace'] * 4)
     p.keys(*keys)
-    return until(lambda: p.find(name), name)['text']
 
 
 def lists_take_what_is_typed(p):
     for name, emptied in (('cmbFrame', '0'), ('cmbShadow', '0'), ('cmbSize', '40')):
-        check(typed(p, name) == emptied, '%s is %s when it is emptied' % (name, p.find(name)['text']))
+        typed(p, name)
+        until(lambda: p.find(name)['text'] == emptied, '%s in the emptied %s, not %s' % (emptied, name, p.find(name)['text']))
         until(lambda: p.find('cmdFlurn').get('enabled'), 'the preview')
         p.keys('2', '5')
         until(lambda: p.find(name)['text'] == '25', '25 in %s, not %s' % (name, p.find(name)['text']))

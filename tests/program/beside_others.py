@@ -167,8 +167,9 @@ def kill_at_random(p, jobs, keeper, alone):
         started = [jobs.start(kind, fresh) for _ in range(2)]
         time.sleep(chance.uniform(0.0, 0.35))
         started[0][1].kill()
-        for target, process in started:
+        for _, process in started:
             complaints = process.communicate()[1].decode()
+        check(started[1][1].returncode == 0, 'beside a killed one %r ended with %d: %s' % (KINDS[kind], started[1][1].returncode, complaints))
         with open(started[1][0], 'rb') as file:
             check(hashlib.sha1(file.read()).hexdigest() == alone[kind],
                   'beside a killed one %r made another picture: %s' % (KINDS[kind], complaints))

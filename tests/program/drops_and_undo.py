@@ -100,7 +100,7 @@ def play(program, source):
     before = program.finished()
     other = Dragged(program, source, few)
     hovered(program, other, 'instead of those', 'drop_instead.png')
-    other.let_go('copied', lambda: program.finished() != before)
+    other.let_go('copied', lambda: program.finished() not in ('', before))
     program.widget('cmdFlurn')
     few_drawn = program.finished()
     keep(program, 'drop_taken.png')

@@ -35,7 +35,8 @@ def begin(p):
 
 
 def caption(p, text):
-    """Each letter draws; what the picture shows in the end is waited for."""
+    """Each letter draws, or several together where the machine is busy. The text is another than the one that the window kept, so
+    that each way a picture comes that is another."""
     focused_on(p, 'txtCaption')
     p.keys('ctrl+a')
     changed(p, lambda: p.type(text), 'the caption')
@@ -83,7 +84,7 @@ def play(p):
         style(p, option)
         if change:
             change(p)
-        caption(p, 'Summer by the sea')
+        caption(p, 'Summer by the sea, ' + option)
         save(p, os.path.join(p.folder, option + '.jpg'))
         until(lambda: p.find('mnuQuick'), 'the choosing stage')
     quit_by_keys(p)

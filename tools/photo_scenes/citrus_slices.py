@@ -13,9 +13,12 @@ def rind(name, colour, deep):
     """Oily peel with pores."""
     made, nodes, shader = m.principled(name, colour, 0.36, Clearcoat=0.15)
     where = nodes.place()
-    pores = m.ramp(nodes, m.voronoi(nodes, where, 430.0), (0.0, 0.0), (0.4, 1.0))
-    m.feed(nodes, shader, Base_Color=nodes.mix(nodes.noise(where, 28.0), m.rgb(colour), m.rgb(deep)),
-           Normal=m.relief(nodes, pores, 0.0007, 0.8))
+    pores = m.ramp(nodes, m.voronoi(nodes, where, 380.0), (0.0, 0.0), (0.4, 1.0))
+    patches = nodes.noise(where, 22.0, detail=6.0, roughness=0.6)
+    scars = nodes.math("MULTIPLY", nodes.rise(nodes.noise(where, 16.0, detail=8.0, roughness=0.7, distortion=1.0), 0.62, 0.70), 0.35)
+    tone = nodes.mix(scars, nodes.mix(nodes.rise(patches, 0.3, 0.7), m.rgb(colour), m.rgb(deep)), m.rgb("9a7a4c"))
+    lumps = nodes.math("MULTIPLY_ADD", nodes.noise(where, 30.0, detail=3.0), 1.6, pores)
+    m.feed(nodes, shader, Base_Color=tone, Roughness=nodes.math("MULTIPLY_ADD", patches, 0.25, 0.30), Normal=m.relief(nodes, lumps, 0.0011, 0.8))
     return made
 
 
@@ -40,23 +43,38 @@ def shaken(nodes, where):
     return nodes.vector("ADD", where, push)
 
 
+def vesicles(nodes, flat, away, turn):
+    """The little bags of juice, drawn out from the peel towards the middle: how far a point is from the wall of its own, and
+    a random number of its own."""
+    bent = nodes.vector("SCALE", nodes.vector("SUBTRACT", nodes.add("ShaderNodeTexNoise", Vector=flat, Scale=5.5, Detail=3.0).outputs["Color"], (0.5, 0.5, 0.5)))
+    nodes.put(bent.node.inputs["Scale"], 1.5)
+    along = nodes.vector("ADD", nodes.add("ShaderNodeCombineXYZ", nodes.math("MULTIPLY", turn, 4.6), nodes.math("MULTIPLY", away, 4.2), nodes.math("MULTIPLY", nodes.chance(), 40.0)), bent)
+    wall = m.voronoi(nodes, along, 1.0, "DISTANCE_TO_EDGE")
+    own = nodes.add("ShaderNodeSeparateColor", m.voronoi(nodes, along, 1.0, output="Color")).outputs[0]
+    return wall, own
+
+
 def flesh(name, juicy, pale, peel, parts):
-    """A cut face: peel, white pith, membranes, wedges of wet pulp."""
-    made, nodes, shader = m.principled(name, juicy, 0.12, Specular=0.6)
+    """A cut face: peel, pith, thin membranes, bags of juice that bulge and are wet; the light within them is a faint glow."""
+    made, nodes, shader = m.principled(name, juicy, 0.12, Specular=0.55)
     flat = m.stretched(nodes, (1, 1, 0))
     away, turn = polar(nodes, shaken(nodes, flat), parts)
-    along = nodes.add("ShaderNodeCombineXYZ", nodes.math("MULTIPLY", turn, 52.0 / parts), nodes.math("MULTIPLY", away, 6.0))
-    cells = m.voronoi(nodes, along, 1.0)
-    gap = nodes.math("SUBTRACT", from_membrane(nodes, away, turn, parts),
-                     nodes.math("MULTIPLY_ADD", nodes.math("POWER", away, 6.0), 0.035, 0.008))
-    inside = nodes.math("MULTIPLY", m.ramp(nodes, gap, (0.0, 0.0), (0.016, 1.0)),
-                        m.ramp(nodes, away, (0.07, 0.0), (0.10, 1.0), (0.865, 1.0), (0.89, 0.0)))
-    pith = m.ramp(nodes, nodes.noise(flat, 30.0), (0.3, "f4e6c4"), (0.7, "fff6e2"))
-    colour = nodes.mix(inside, pith, m.ramp(nodes, cells, (0.05, juicy), (0.9, pale)))
-    colour = nodes.mix(m.ramp(nodes, nodes.vector("LENGTH", flat), (0.945, 0.0), (0.965, 1.0)), colour, m.rgb(peel))
-    height = nodes.math("MULTIPLY", inside, nodes.math("MULTIPLY_ADD", cells, -0.9, 1.25))
-    m.feed(nodes, shader, Base_Color=colour, Roughness=m.ramp(nodes, inside, (0.0, 0.55), (1.0, 0.14)),
-           Normal=m.relief(nodes, height, 0.008, 0.4), Emission=colour, Emission_Strength=0.10)
+    wall, own = vesicles(nodes, flat, away, turn)
+    bulge = nodes.math("SUBTRACT", 1.0, nodes.math("POWER", nodes.math("SUBTRACT", 1.0, nodes.math("MULTIPLY", wall, 2.2, clamped=True)), 2.0))
+    rough_edge = nodes.math("MULTIPLY_ADD", nodes.math("SUBTRACT", nodes.noise(flat, 9.0, detail=5.0), 0.5), 0.07, away)
+    gap = nodes.math("SUBTRACT", from_membrane(nodes, away, turn, parts), nodes.math("MULTIPLY_ADD", nodes.math("POWER", away, 9.0), 0.04, 0.003))
+    inside = nodes.math("MULTIPLY", m.ramp(nodes, gap, (0.0, 0.0), (0.020, 1.0)), m.ramp(nodes, rough_edge, (0.06, 0.0), (0.11, 1.0), (0.895, 1.0), (0.925, 0.0)))
+    fibre = nodes.noise(nodes.add("ShaderNodeCombineXYZ", nodes.math("MULTIPLY", turn, 7.0), nodes.math("MULTIPLY", away, 9.0), 1.0), 1.0, detail=5.0)
+    pith = nodes.mix(nodes.math("MULTIPLY", nodes.rise(away, 0.90, 0.6), 0.45), m.ramp(nodes, fibre, (0.3, "e6d3a6"), (0.7, "f6edd6")), m.rgb(pale))
+    level = nodes.math("MULTIPLY_ADD", own, 0.55, nodes.math("MULTIPLY", nodes.noise(flat, 24.0, detail=5.0), 0.5))
+    bag = nodes.mix(nodes.math("MULTIPLY", nodes.rise(wall, 0.07, 0.0), 0.55), m.ramp(nodes, level, (0.2, juicy), (0.85, pale)), m.rgb(pale))
+    wedge = nodes.add("ShaderNodeTexWhiteNoise", nodes.add("ShaderNodeCombineXYZ", nodes.math("FLOOR", turn), nodes.chance(), 2.0)).outputs["Value"]
+    bag = nodes.mix(nodes.math("MULTIPLY", wedge, 0.25), bag, m.rgb(pale))
+    colour = nodes.mix(inside, pith, bag)
+    colour = nodes.mix(m.ramp(nodes, nodes.math("MULTIPLY_ADD", fibre, 0.012, nodes.vector("LENGTH", flat)), (0.962, 0.0), (0.974, 1.0)), colour, m.rgb(peel))
+    height = nodes.math("MULTIPLY_ADD", nodes.math("MULTIPLY", inside, bulge), 0.8, nodes.math("MULTIPLY", nodes.noise(flat, 60.0, detail=3.0), 0.12))
+    m.feed(nodes, shader, Base_Color=colour, Roughness=m.ramp(nodes, inside, (0.0, 0.45), (1.0, 0.10)),
+           Normal=m.relief(nodes, height, 0.0045, 0.55), Emission=colour, Emission_Strength=0.11)
     return made
 
 
@@ -105,14 +123,15 @@ def put(handle, at, turn):
 
 
 def build():
-    s.planks(m.wood("board", "4a3220", "86623f", "b8946a", 0.5, 1.6), 0.9, 1.2, 6)
+    board = m.wood("board", "2a1c12", "563a22", "7d5a36", 0.38, 2.2)
+    s.planks(board, 0.9, 1.2, 6, gap=0.003)
     orange = rind("orange", "ee7a08", "d95f02")
     lemon, lime = rind("lemon", "f3c40f", "e6ad08"), rind("lime", "5d8c1c", "3f7012")
     pink = rind("pink", "f0a23c", "e58a3e")
-    o_cut = flesh("orange cut", "ee7206", "fbaa38", "ef8412", 10)
-    g_cut = flesh("grapefruit cut", "d43a2c", "f08068", "f0a040", 12)
-    y_cut = flesh("lemon cut", "ecc93c", "f9ea94", "f4cc1c", 9)
-    l_cut = flesh("lime cut", "9db53a", "d3de86", "5f901e", 9)
+    o_cut = flesh("orange cut", "e86a04", "fbb24a", "e27d12", 10)
+    g_cut = flesh("grapefruit cut", "c42e26", "ee8a70", "e0983c", 12)
+    y_cut = flesh("lemon cut", "dcb92c", "f2e38e", "e0b81c", 9)
+    l_cut = flesh("lime cut", "7f9f28", "c9d67c", "4f801c", 9)
     put(half("orange half", 0.040, 0.92, orange, o_cut), (-0.012, -0.052, 0.0345), (0.30, 0.0, 0.4))
     put(half("grapefruit half", 0.052, 0.92, pink, g_cut), (0.072, 0.038, 0.047), (0.62, 0.08, 1.1))
     put(half("lemon half", 0.030, 1.2, lemon, y_cut), (-0.070, 0.004, 0.031), (0.95, -0.3, 0.2))
@@ -125,12 +144,12 @@ def build():
     whole("lemon whole", 0.030, 1.15, lemon, (-0.115, 0.11, 0.030), 0.22).rotation_euler = (1.5, 0.2, 0.9)
     whole("lime whole", 0.027, 1.1, lime, (0.135, -0.045, 0.027), 0.1).rotation_euler = (1.5, 0.1, 0.4)
     green = leaf_material()
-    for at, turn in (((-0.055, 0.045, 0.075), (0.2, -0.2, 0.5)), ((-0.005, 0.055, 0.078), (-0.3, 0.15, 3.6)),
-                     ((0.105, -0.135, 0.014), (0.2, 0.1, 2.6)), ((-0.115, -0.06, 0.014), (0.1, 0.1, 1.1))):
+    for at, turn in (((-0.060, 0.052, 0.006), (0.25, -0.1, 0.5)), ((0.008, 0.046, 0.005), (-0.2, 0.1, 3.3)),
+                     ((0.112, -0.150, 0.005), (0.2, 0.0, 2.6)), ((-0.112, -0.045, 0.005), (0.1, 0.1, 1.1))):
         blade = s.leaf("leaf", 0.062, 0.028, green)
         blade.location, blade.rotation_euler = at, turn
     m.ambient((0.75, 0.8, 0.9), 0.2)
-    m.window_light((-0.75, 0.55, 0.6), (0, 0, 0), 0.5, 26)
-    m.window_light((0.8, -0.2, 0.7), (0, 0, 0), 0.8, 2.0, (0.9, 0.95, 1.0))
-    camera((0.012, -0.46, 0.38), (0.004, -0.006, 0.018), 72, (-0.01, -0.07, 0.035), 4.5)
-    return Roll(samples=16, exposure=0.4)
+    m.window_light((-0.55, 0.75, 0.55), (0, 0, 0), 0.55, 30, (1.0, 0.96, 0.9))
+    m.window_light((0.8, -0.2, 0.7), (0, 0, 0), 0.8, 1.6, (0.9, 0.95, 1.0))
+    camera((0.012, -0.46, 0.33), (0.004, -0.012, 0.018), 76, (-0.01, -0.075, 0.035), 4.0)
+    return Roll(samples=34, exposure=0.25, saturation=1.12, grain=0.010)

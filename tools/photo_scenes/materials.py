@@ -50,6 +50,12 @@ def stretched(nodes, factors, kind="Object"):
     return nodes.vector("MULTIPLY", nodes.place(kind), factors)
 
 
+def where_in_world(nodes):
+    """The place of a point in the world, whatever it is part of, and its height."""
+    place = nodes.add("ShaderNodeNewGeometry").outputs["Position"]
+    return place, nodes.add("ShaderNodeSeparateXYZ", place).outputs[2]
+
+
 def relief(nodes, height, distance, strength=1.0):
     """A normal that makes a height felt; distance in metres of a height of 1."""
     return nodes.bump(height, strength, distance)

@@ -129,15 +129,16 @@ void render_ground(char ** words)
     save(FIF_JPEG, in_colour(small), words[6], ground_quality);
 }
 
-// An edge mixed with the white of the ground would stay as a light rim on a dark band: a pixel is drawn or it
-// isn't.
+// An edge mixed with the ground would stay as a rim on the band: a pixel is drawn or it isn't. The first
+// pixel of the drawing tells the colour of the ground.
 void render_icon(const char * drawing, const char * target, int width, int height)
 {
     QImage page = rendered(drawing, width, height, Qt::transparent);
+    const QRgb ground = page.pixel(0, 0);
     for (int y = 0; y < height; ++y) {
         auto * row = reinterpret_cast<QRgb *>(page.scanLine(y));
         for (int x = 0; x < width; ++x)
-            row[x] = qAlpha(row[x]) < 128 ? qRgb(255, 255, 255) : row[x] | 0xff000000U;
+            row[x] = qAlpha(row[x]) < 128 ? ground : row[x] | 0xff000000U;
     }
     save(FIF_BMP, in_colour(page), target, BMP_DEFAULT);
 }

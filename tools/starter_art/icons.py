@@ -1,13 +1,17 @@
 """The small pictures that may sit in the corner of a frame, in a box of 90 by 80.
 
-Their ground is white and white is the key, so nothing in them is bright in all three channels at once: what is nearer
-to white than 110 would become a hole. Dark outlines keep them whole on bands of any colour.
+The colour of their ground is the key: what is nearer to it than 110 in all three channels would become a hole. It is dark, so that
+what the program mixes of it and an outline, where it makes an icon smaller, is no light rim. Dark outlines keep icons whole on bands of
+any colour.
 """
 import math
 
 from starter_art.svg import circle, closed, drawing, ellipse, group, path, points, rectangle
 
 WIDTH, HEIGHT = 90, 80
+KEY = "#00d000"
+# It would take out what is green, or green where two colours meet.
+OTHER_KEYS = {"leaf": "#0000d0", "tree": "#d000d0", "camera": "#d000d0"}
 LINE = dict(stroke="#3b2a20", stroke_width="3", stroke_linejoin="round", stroke_linecap="round")
 
 
@@ -131,9 +135,14 @@ ALL = {"heart": heart, "star": star, "flower": flower, "sun": sun, "moon": moon,
        "ball": ball, "cap": cap, "camera": camera, "butterfly": butterfly}
 
 
+def key_of(name):
+    """Its first pixel, from which all that nothing is drawn on takes its colour."""
+    return rectangle(0, 0, 1, 1, fill=OTHER_KEYS.get(name, KEY))
+
+
 def all_icons():
     within = "translate(3.5,4.5) scale(0.9)"  # the outermost pixels aren't copied to a frame
-    return {name: drawing(WIDTH, HEIGHT, [group(draw(), transform=within)]) for name, draw in ALL.items()}
+    return {name: drawing(WIDTH, HEIGHT, [key_of(name), group(draw(), transform=within)]) for name, draw in ALL.items()}
 
 
 def listing():
