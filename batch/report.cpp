@@ -1,6 +1,7 @@
 #include "batch/report.h"
 
 #include "designs/catalogue/catalogue_lines.h"
+#include "designs/catalogue/mended_catalogue.h"
 #include "desktop/program_folders.h"
 #include "desktop/text_drawing.h"
 #include "desktop/without_windows.h"
@@ -122,13 +123,22 @@ std::string room_told(const std::string & folder)
     return std::to_string(std::filesystem::space(folder).available / megabyte) + " MB";
 }
 
-std::string data_told(const std::string & data)
+std::string state_of_data(const std::string & data, const std::string & install)
+{
+    const std::string own = joined(data, "designs.ini"), supplied = joined(install, "designs.ini");
+    if (!file_exists(joined(data, "3_1_install")) || !file_exists(own))
+        return "not whole; the next start fills it";
+    if (file_exists(supplied) && is_damaged(lines_of_file(own), lines_of_file(supplied)))
+        return "whole but for its list of designs; the next start of the window mends it";
+    return "whole";
+}
+
+std::string data_told(const std::string & data, const std::string & install)
 {
     if (!folder_exists(data))
         return row("Data folder is", file_exists(data) ? "no folder; a file has its name"
                                                        : "not there; the first start makes it");
-    const bool whole = file_exists(joined(data, "3_1_install")) && file_exists(joined(data, "designs.ini"));
-    return row("Data folder is", std::string(whole ? "whole" : "not whole; the next start fills it") +
+    return row("Data folder is", found_out([&] { return state_of_data(data, install); }) +
                                      (can_write(data) ? "" : ", write-protected")) +
            row("Designs", found_out([&] { return designs_told(data); })) +
            row("Kept", found_out([&] { return kept_told(data); })) +
@@ -159,5 +169,5 @@ std::string report(const batch_folders & folders)
            row("System", system_in_words()) + row("Surroundings", surroundings()) +
            row("Cores", cores_told()) + row("Fonts", fonts_told()) +
            row("Program", programs_told(folders.install_folder)) +
-           row("Data folder", kind_of_place(folders)) + data_told(data);
+           row("Data folder", kind_of_place(folders)) + data_told(data, folders.install_folder);
 }

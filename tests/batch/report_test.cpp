@@ -84,6 +84,14 @@ TEST_F(batch_program, reports_what_is_missing_from_the_data_folder)
     EXPECT_EQ(told.find(place.path()), std::string::npos);
 }
 
+TEST_F(batch_program, reports_a_damaged_list_of_designs)
+{
+    use_data_of_its_own();
+    replace_file(joined(folders.data.public_folder, "designs.ini"), "");
+    EXPECT_EQ(how(report(folders), "Data folder is"),
+              "whole but for its list of designs; the next start of the window mends it");
+}
+
 TEST_F(batch_program, reports_a_program_without_its_data)
 {
     folders.install_folder = place.path();
