@@ -140,8 +140,8 @@ bool is_damaged(const text_lines & own, const text_lines & supplied)
     if (!is_of_use(supplied))
         return false;
     const catalogue_parts parts = parts_of(own), all = parts_of(supplied);
-    return parts.size() == 1 || holds_zero_byte(own) || lacks_reserved(parts, all) ||
-           ends_in_the_middle(parts, all);
+    return parts.size() == 1 || holds_zero_byte(own) || ends_in_the_middle(parts, all) ||
+           (lacks_reserved(parts, all) && !std::ranges::all_of(own, is_text));
 }
 
 text_lines mended_catalogue(const text_lines & own, const text_lines & supplied,

@@ -7,10 +7,10 @@
 
 /// The user's catalogue after a mishap: a disk that was full or lost power, another program's hand.
 
-/// True for a catalogue that no program of ours leaves behind: without any section, with a zero byte, without
-/// a design that is `supplied` and that the quick styles or the designers can't do without, or ended in the
-/// middle of a section of `supplied` behind which more were. Never where `supplied` is itself in that state:
-/// nothing could be brought back from it.
+/// True for a catalogue that neither we nor anyone's hand leaves behind: without any section, with a zero
+/// byte, ended in the middle of a section of `supplied` behind which more were, or with lines that are none
+/// of a catalogue and without a design that is `supplied` and that the quick styles or the designers can't do
+/// without. Never where `supplied` is itself without use: nothing could be brought back from it.
 bool is_damaged(const text_lines & own, const text_lines & supplied);
 
 /// What tells of the user's designs beside the catalogue.

@@ -40,20 +40,22 @@ text mended(const text & own)
 
 }  // namespace
 
-TEST(damaged_catalogue, is_one_without_what_the_program_needs)
+TEST(damaged_catalogue, is_one_that_is_no_list_of_sections)
 {
     EXPECT_FALSE(is_damaged(supplied, supplied));
     EXPECT_FALSE(is_damaged(both(supplied, mine), supplied));
     EXPECT_TRUE(is_damaged({}, supplied));
     EXPECT_TRUE(is_damaged({"no catalogue at all"}, supplied));
-    EXPECT_TRUE(is_damaged(mine, supplied));
-    EXPECT_TRUE(is_damaged(without(supplied, "Name=Quick matrix"), supplied));
+    EXPECT_TRUE(is_damaged(both({"no catalogue"}, mine), supplied)) << "without what is needed";
+    EXPECT_FALSE(is_damaged(both({"a note"}, supplied), supplied));
     EXPECT_TRUE(is_damaged(both(supplied, {std::string(3, '\0')}), supplied));
 }
 
 TEST(damaged_catalogue, is_not_one_from_which_the_user_took_a_design)
 {
     EXPECT_FALSE(is_damaged(text(supplied.begin(), supplied.begin() + 9), supplied));
+    EXPECT_FALSE(is_damaged(mine, supplied)) << "nor one made by hand";
+    EXPECT_FALSE(is_damaged(without(supplied, "Name=Quick matrix"), supplied));
 }
 
 TEST(damaged_catalogue, is_one_that_ends_in_the_middle_of_a_section)

@@ -34,8 +34,8 @@ struct damaged_program : fresh_program {
 
 TEST(damaged_catalogue, is_told_of_once_and_brought_back_with_the_users_designs)
 {
-    for (const std::string & damage : {std::string(), std::string("junk\r\n"), std::string(4096, '\0'),
-                                       std::string("[Design001]\r\nNa")}) {
+    for (const std::string & damage :
+         {std::string("junk\r\n"), std::string(4096, '\0'), std::string("[Design001]\r\nNa")}) {
         SCOPED_TRACE(damage.substr(0, 20));
         damaged_program program;
         program.write("designs.ini", damage + mine);
@@ -102,13 +102,13 @@ TEST(damaged_catalogue, stays_where_the_supplied_one_is_no_better)
 TEST(damaged_catalogue, is_read_mended_by_a_session_that_only_reads_the_folder)
 {
     damaged_program program;
-    program.write("designs.ini", mine);
+    program.write("designs.ini", "junk\r\n" + mine);
     program.share();
     EXPECT_NE(program.desk.next_message().find(joined(program.data, "designs.ini") + "\r\n"),
               std::string::npos);
     EXPECT_TRUE(find_design(program.main, "Match"));
     EXPECT_TRUE(find_design(program.main, "Mine"));
-    EXPECT_EQ(program.text("designs.ini"), mine);
+    EXPECT_EQ(program.text("designs.ini"), "junk\r\n" + mine);
     EXPECT_FALSE(program.has("designs.ini.damaged"));
 }
 
