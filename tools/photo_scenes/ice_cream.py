@@ -80,7 +80,7 @@ def cone():
     made = sheet("cone", points, waffle(), closed=True)
     made.data.attributes.new("ridge", "FLOAT", "POINT").data.foreach_set("value", ridge.astype(numpy.float32).ravel())
     thick = made.modifiers.new("thick", "SOLIDIFY")
-    thick.thickness, thick.offset = 0.0022, 1
+    thick.thickness, thick.offset = 0.0022, -1
 
 
 def napkin():
