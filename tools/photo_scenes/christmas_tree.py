@@ -173,7 +173,7 @@ def build():
     bauble((0.17, 0.08, 0.10), 0.036, foil("deep", "7a0c22", 0.06), gold)
     candles_of_light(dice)
     mirrored_room()
-    s.box("room", (6, 0.1, 5), m.plain("room", "6b4a34", 0.9), 0, (0, 2.9, 0))
+    s.box("room", (6, 0.1, 5), m.plain("room", "2c1d16", 0.9), 0, (0, 2.9, 0))
     m.lamp("POINT", (0.75, 2.35, -0.35), (0, 0, 0), 4.5, (1.0, 0.62, 0.32), shadow_soft_size=0.1)
     m.lamp("POINT", (-1.0, 2.5, 0.9), (0, 0, 0), 1.2, (1.0, 0.7, 0.45), shadow_soft_size=0.1)
     m.ambient((0.5, 0.36, 0.26), 0.14)
