@@ -18,9 +18,13 @@ struct job_counts {
 
 std::string text_of_list(const std::string & path)
 {
-    if (path == standard_stream)
-        return {std::istreambuf_iterator<char>(std::cin), {}};
-    return read_file(path);
+    if (path != standard_stream)
+        return read_file(path);
+    std::string text(std::istreambuf_iterator<char>(std::cin), {});
+    if (std::ferror(stdin) != 0)
+        throw bad_arguments{
+            "the list of jobs on the standard input can't be read to its end; nothing was begun"};
+    return text;
 }
 
 // One session finds what is wrong in any line before the first job is begun.

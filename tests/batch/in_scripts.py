@@ -95,11 +95,17 @@ def reads_jobs_from_standard_input(place):
     assert (place.folder / 'a.jpg').read_bytes() == (place.folder / 'wall.jpg').read_bytes()
 
 
+def tells_a_list_that_can_not_be_read(place):
+    told = place.run(['sh', '-c', 'exec tessaloom-batch --jobs - <.'], status=BAD_ARGUMENTS)[1]
+    assert "standard input can't be read to its end" in told, told
+
+
 def main():
     with Workplace(*sys.argv[1:3]) as place:
         for play in (prints_help_and_version, gives_the_picture_to_standard_output, gives_nothing_but_the_picture,
                      tells_when_standard_output_fails, takes_back_what_broke_off, needs_no_display,
-                     ends_with_the_status_that_is_told, reads_jobs_from_standard_input):
+                     ends_with_the_status_that_is_told, reads_jobs_from_standard_input,
+                     tells_a_list_that_can_not_be_read):
             play(place)
             print(play.__name__)
         assert not place.scratch_folders(), place.scratch_folders()
