@@ -18,9 +18,6 @@ BARE_FEW, BARE_SOME = 10, 1.6  # how much more all that weighs where photos are 
 BARE_TURNED = 0.35    # how much a poster with turned photos weighs
 FROM_RIM = 60         # pixels that may stay bare along the rim there
 MIDDLE = 300          # how much a hidden middle weighs
-# What is cleared at last: a little more than the middle third, since a raster is coarse; how much it weighs, by its share,
-# that it is hidden as photos stand and at the worst number of turns; and how much more what is hidden of the whole.
-CLEARED, CLEAR, CLEAR_TURNED, CLEAR_HIDDEN = 0.4, 20000, 1000, 3
 LACK_COUNTS = 0.5     # how much a pixel weighs by which a turned photo asks for a border
 # A large border draws the photos of a square poster nearer to each other, and few have no other room: those that ask for it.
 SQUEEZED, MOST_LACK, SQUEEZED_COUNTS = 16, 190, 5
@@ -64,8 +61,8 @@ def over(share, allowed):
 
 
 class Easing:
-    def __init__(self, photos, height, tilts, chance, points=12, clears=False):
-        self.height, self.tilts, self.chance, self.total, self.clears = height, tilts, chance, len(photos), clears
+    def __init__(self, photos, height, tilts, chance, points=12):
+        self.height, self.tilts, self.chance, self.total = height, tilts, chance, len(photos)
         self.early = self.total * next(share for least, share in EARLY.items() if self.total >= least)
         self.nearer = DRAWN_NEARER if self.total > LARGE else DRAWN_NEARER_FEW
         self.long_side = max(max(photo.width, photo.height) for photo in photos)
@@ -81,14 +78,13 @@ class Easing:
 
     def lying(self, photo, key):
         span, turned = self.raster.span, photo.turned()
-        share = CLEARED if self.clears else 1 / 3
-        outline, middle = span(photo), span(photo.middle(share))
+        outline, middle = span(photo), span(photo.middle())
         nearer = [(outline, middle)]
         if self.height > WIDTH:
             standing = photo_of(self.moved_nearer(photo.place()))
-            nearer, turned = [(span(standing), span(standing.middle(share)))], self.moved_nearer(turned)
+            nearer, turned = [(span(standing), span(standing.middle()))], self.moved_nearer(turned)
         turned = photo_of(turned)
-        spans, middles = zip(*nearer, (span(turned), span(turned.middle(share))))
+        spans, middles = zip(*nearer, (span(turned), span(turned.middle())))
         return Lying(photo, key, outline, middle, spans, middles, outline | spans[0] | spans[1], *self.strains(photo, key))
 
     def moved_nearer(self, place):
@@ -117,11 +113,9 @@ class Easing:
             covered |= lying.span
         points, middle_points = own.span.bit_count() or 1, own.middle.bit_count() or 1
         hidden, middle = (own.span & covered).bit_count() / points, (own.middle & covered).bit_count() / middle_points
-        hidden_turned, middle_turned = map(max, zip(*(self.hidden_when_turned(own, above, tall) for tall in (True, False))))
-        of_all = 400 * (over(hidden, ALLOWED) + over(hidden_turned, ALLOWED_TURNED))
-        if self.clears:
-            return points * (CLEAR_HIDDEN * of_all + CLEAR * middle + CLEAR_TURNED * middle_turned)
-        return points * (of_all + MIDDLE * (over(middle, ALLOWED_MIDDLE) + over(middle_turned, ALLOWED_MIDDLE_TURNED)))
+        turned = [self.hidden_when_turned(own, above, tall) for tall in (True, False)]
+        return points * (400 * (over(hidden, ALLOWED) + over(max(share for share, _ in turned), ALLOWED_TURNED))
+                         + MIDDLE * (over(middle, ALLOWED_MIDDLE) + over(max(share for _, share in turned), ALLOWED_MIDDLE_TURNED)))
 
     def hidden_when_turned(self, own, above, tall):
         """The greatest shares of a photo and of its middle that are hidden, of all numbers of tall or of wide photos that

@@ -43,9 +43,9 @@ class Photo:
     def place(self):
         return centred(self.x, self.y, self.width, self.height, self.tilt)
 
-    def middle(self, share=1 / 3):
-        """Its middle third, where faces are, or so much of it."""
-        return replace(self, width=self.width * share, height=self.height * share)
+    def middle(self):
+        """Its middle third, where faces are."""
+        return replace(self, width=self.width / 3, height=self.height / 3)
 
     def corners(self):
         """The four corners as (x, y), clockwise."""

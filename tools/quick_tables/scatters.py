@@ -22,8 +22,6 @@ STEEPEST = (35, 25, 15)  # degrees: those that are tried in turn up to LARGE pho
 # From so many photos on: how many throws at most, and the flaws that end the search.
 ATTEMPTS = {61: (3, 0.15), 41: (4, 0.12), 25: (10, 0.1), 6: (36, 0.1), 3: (60, 0.125)}
 EASED = ((12, 120, 0.4), (19, 80, 0.1))  # points along a photo, steps for each photo, the longest in photos
-CLEARED = (24, 400, 0.15)  # the same of the last easing, which clears middles,
-BEST = 3                   # for so many of the throws
 
 
 def layers(spans):
@@ -112,24 +110,13 @@ class Throw:
             if self.gain(strain, span, *rest) >= self.gain(self.strains[index], self.spans[index], *rest):
                 self.photos[index], self.spans[index], self.strains[index] = new, span, strain
 
-    def ease(self):
-        """Leaves the photos in the order in which they are drawn."""
-        self.photos.sort(key=lambda photo: photo.lack_of_room(self.height))
-        for stage in EASED:
-            self.take_steps(*stage)
-
-    def clear_middles(self):
-        self.take_steps(*CLEARED, clears=True)
-
-    def take_steps(self, points, steps, far, clears=False):
-        steps *= self.total * (3 if self.total <= SIZED else 1)
-        self.photos = Easing(self.photos, self.height, self.tilts, self.chance, points, clears).run(steps, far)
-
-    def scatter(self, name):
-        places = [photo.place() for photo in self.photos]
-        turning = Turning(places, self.height)
-        return Scatter(name, self.height, places, *as_it_stands_and_turned(turning), *turning.off_the_poster(),
-                       bare_corner(places, self.height))
+    def eased(self):
+        """The photos in the order in which they are drawn."""
+        photos = sorted(self.photos, key=lambda photo: photo.lack_of_room(self.height))
+        for points, rounds, far in EASED:
+            rounds *= self.total * (3 if self.total <= SIZED else 1)
+            photos = Easing(photos, self.height, self.tilts, self.chance, points).run(rounds, far)
+        return photos
 
 
 @dataclass
@@ -148,15 +135,12 @@ class Scatter:
         return sum(place.height > place.width for place in self.places)
 
     def flaws(self):
-        """How far it is from what a scatter should be, but for what is hidden of middles: 0 is all one can wish for."""
+        """How far it is from what a scatter should be: 0 is all one can wish for."""
         few = len(self.places) <= SIZED
-        return 10 * over(self.stands.hidden, 0.36) + 10 * over(self.turned.hidden, 0.4) + \
-            20 * over(self.stands.bare, 0.1 if len(self.places) == 3 else 0.04) + \
+        return 10 * over(self.stands.hidden, 0.36) + 10 * over(self.turned.hidden, 0.4) + 5 * over(self.stands.middle, 0.06) + \
+            3 * over(self.turned.middle, 0.16) + 20 * over(self.stands.bare, 0.1 if len(self.places) == 3 else 0.04) + \
             5 * over(self.turned.bare, 0.1) + over(self.stands.hole / 2000, 0.07) + over(self.turned.hole / 2000, 0.14 if few else 0.1) + \
             over(self.furthest, 540 if len(self.places) < 12 else 330) / 100 + self.crowded_first + 3 * over(self.bare_corner, 0.45) + 0.3 * over(self.bordered, 0.6 if len(self.places) <= LARGE else 0.25)
-
-    def all_flaws(self):
-        return self.flaws() + 30 * self.stands.middle + 3 * over(self.turned.middle, 0.1)
 
     def entry(self):
         return f"{len(self.places):02}:{self.tall():02}:{len(self.places) - self.tall():02}:{self.name}"
@@ -181,18 +165,16 @@ def bare_corner(places, height):
 
 def thrown(total, height, name):
     """The best of some throws; the first that is good enough ends the search."""
-    throws, (most, good) = [], next(limits for least, limits in ATTEMPTS.items() if total >= least)
+    found, (most, good) = [], next(limits for least, limits in ATTEMPTS.items() if total >= least)
     for attempt in range(most):
         throw = Throw(total, height, attempt, random.Random(f"{name} {attempt}"))
         throw.spread(100 + 5 * total)
-        throw.ease()
-        throws.append((throw.scatter(name).flaws(), attempt, throw))
-        if throws[-1][0] < good:
+        places = [photo.place() for photo in throw.eased()]
+        turning = Turning(places, height)
+        found.append(Scatter(name, height, places, *as_it_stands_and_turned(turning), *turning.off_the_poster(), bare_corner(places, height)))
+        if found[-1].flaws() < good:
             break
-    best = [throw for _, _, throw in sorted(throws)[:BEST]]
-    for throw in best:
-        throw.clear_middles()
-    return min((throw.scatter(name) for throw in best), key=Scatter.all_flaws)
+    return min(found, key=Scatter.flaws)
 
 
 def all_scatters():
