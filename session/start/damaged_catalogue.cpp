@@ -14,7 +14,7 @@ namespace {
 // thousand places have larger ones than that.
 constexpr int16 largest_count = 60;
 
-std::string in_data(const frmMain & main, const std::string & name)
+std::string path_in_data(const frmMain & main, const std::string & name)
 {
     return joined(main.data_folder, name);
 }
@@ -41,12 +41,13 @@ design_to_save::part part_at(const std::string & path)
 
 design_to_save saved_one(const frmMain & main, int number)
 {
-    const std::string own = "saved" + formatted(number, 3), sample = in_data(main, "samples/" + own + ".jpg");
+    const std::string own = "saved" + formatted(number, 3),
+                      sample = path_in_data(main, "samples/" + own + ".jpg");
     design_to_save design{.number = number,
                           .name = {},
                           .sample = part_at(sample),
-                          .description = part_at(in_data(main, "descriptions/" + own))};
-    tried([&] { design.kind = layout_of(lines_of_file(in_data(main, "designs/" + own))); });
+                          .description = part_at(path_in_data(main, "descriptions/" + own))};
+    tried([&] { design.kind = layout_of(lines_of_file(path_in_data(main, "designs/" + own))); });
     const std::optional<picture_size> size = jpeg_size(sample);
     if (size && size->width > size->height)
         design.background = orientation::landscape;
@@ -55,11 +56,11 @@ design_to_save saved_one(const frmMain & main, int number)
 
 traces_of_designs traces_in(const frmMain & main)
 {
-    traces_of_designs traces{.backup = lines_if_there(in_data(main, "designs.bbb")),
-                             .templates = files_in(in_data(main, "designs")),
+    traces_of_designs traces{.backup = lines_if_there(path_in_data(main, "designs.bbb")),
+                             .templates = files_in(path_in_data(main, "designs")),
                              .saved = {}};
     for (int number = first_own_number; number <= last_own_number; ++number)
-        if (file_exists(in_data(main, "designs/saved" + formatted(number, 3))))
+        if (file_exists(path_in_data(main, "designs/saved" + formatted(number, 3))))
             traces.saved.push_back(saved_one(main, number));
     return traces;
 }
@@ -81,7 +82,7 @@ std::string told_damage(const std::string & path)
 
 text_lines readable_catalogue(frmMain & main)
 {
-    const std::string path = in_data(main, "designs.ini");
+    const std::string path = path_in_data(main, "designs.ini");
     const text_lines own = lines_of_file(path), supplied = lines_of_file(seed_catalogue_path(main));
     if (!is_damaged(own, supplied))
         return own;
@@ -93,7 +94,7 @@ text_lines readable_catalogue(frmMain & main)
 
 void mend_catalogue(frmMain & main)
 {
-    const std::string path = in_data(main, "designs.ini");
+    const std::string path = path_in_data(main, "designs.ini");
     const text_lines own = lines_of_file(path), supplied = lines_of_file(seed_catalogue_path(main));
     if (!is_damaged(own, supplied))
         return;
