@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int edge = 12, letters = 20;  // pixels
+constexpr int rim = 12, letter_height = 20;  // pixels
 
 bool is_here(const QUrl & url)
 {
@@ -42,7 +42,7 @@ public:
         setAlignment(Qt::AlignCenter);
         setWordWrap(true);
         setTextFormat(Qt::PlainText);
-        setMargin(2 * edge);
+        setMargin(2 * rim);
         hide();
     }
 
@@ -52,9 +52,9 @@ public:
         setStyleSheet(QStringLiteral("QLabel { background: rgba(20, 22, 25, 225); color: white; "
                                      "font-size: %1px; font-weight: bold; border: 4px dashed %2; "
                                      "border-radius: 10px; }")
-                          .arg(letters)
+                          .arg(letter_height)
                           .arg(QLatin1String(offer.taken ? "#f0b050" : "#d06a5a")));
-        setGeometry(parentWidget()->rect().adjusted(edge, edge, -edge, -edge));
+        setGeometry(parentWidget()->rect().adjusted(rim, rim, -rim, -rim));
         raise();
         show();
     }

@@ -8,11 +8,11 @@
 namespace {
 
 constexpr int full_bleed = 360;
-constexpr int preview_divisor = 6;
+constexpr int poster_to_preview = 6;
 
 void size_preview(frmMain & main)
 {
-    const auto sixth = [](int pixels) { return nearest16(pixels / static_cast<double>(preview_divisor)); };
+    const auto sixth = [](int pixels) { return nearest16(pixels / static_cast<double>(poster_to_preview)); };
     main.collage_width = sixth(main.collage_width);
     main.collage_height = sixth(main.collage_height);
     main.run.collage_margin = sixth(main.run.collage_margin);

@@ -110,11 +110,6 @@ void take_state(frmMain & main, const loop_state & state)
     main.run.photos_shown = state.photos_shown;
 }
 
-bitmap copy_of(const bitmap & image)
-{
-    return copied(image, 0, 0, image.width(), image.height());
-}
-
 std::map<std::string, known_file> files_looked_at(const frmMain & main)
 {
     std::map<std::string, known_file> files;
@@ -165,13 +160,13 @@ void with_kept_canvas(frmMain & main, const std::function<void()> & loops)
     const loop_state before = state_of(main);
     const std::string settings = settings_of(main);
     if (is_kept(main, before, settings)) {
-        main.run.canvas = copy_of(main.run.kept->canvas);
+        main.run.canvas = copied(main.run.kept->canvas);
         take_state(main, main.run.kept->after);
         main.picSample.show(true);
         return;
     }
     main.run.kept.reset();
-    bitmap ground = copy_of(main.run.canvas);
+    bitmap ground = copied(main.run.canvas);
     loops();
     if (went_quietly(main, before, settings))
         main.run.kept = std::make_shared<kept_canvas>(kept_canvas{.settings = settings,
@@ -179,5 +174,5 @@ void with_kept_canvas(frmMain & main, const std::function<void()> & loops)
                                                                   .ground = std::move(ground),
                                                                   .files = files_looked_at(main),
                                                                   .after = state_of(main),
-                                                                  .canvas = copy_of(main.run.canvas)});
+                                                                  .canvas = copied(main.run.canvas)});
 }

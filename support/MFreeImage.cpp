@@ -270,6 +270,11 @@ bitmap copied(const bitmap & image, int left, int top, int right, int bottom)
     return made(FreeImage_Copy(image.get(), left, top, right, bottom));
 }
 
+bitmap copied(const bitmap & image)
+{
+    return copied(image, 0, 0, image.width(), image.height());
+}
+
 bool paste(bitmap & target, const bitmap & source, int left, int top, int alpha)
 {
     return target && source && FreeImage_Paste(target.get(), source.get(), left, top, alpha) != FALSE;

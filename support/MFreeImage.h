@@ -39,6 +39,11 @@ static_assert(sizeof(pixel) == 3);
 std::span<std::uint8_t> channels(std::span<pixel> row);
 std::span<const std::uint8_t> channels(std::span<const pixel> row);
 
+struct picture_size {
+    int width = 0, height = 0;
+    bool operator==(const picture_size &) const = default;
+};
+
 /// A bitmap of 24 bits a pixel, or none: a load that failed gives an empty one. Owns its memory.
 class bitmap {
 public:
@@ -50,6 +55,7 @@ public:
     /// Pixels; 0 for no bitmap. Raise overflow (6) from 32,768 on.
     int width() const;
     int height() const;
+    picture_size size() const { return {.width = width(), .height = height()}; }
 
     /// The pixels of a row, bottom row first. The row has to exist.
     std::span<pixel> row(int y);
@@ -68,11 +74,6 @@ private:
 
 /// The library's own codes, as far as the system passes them.
 enum class picture_format { bmp = 0, ico = 1, jpeg = 2, png = 13, tiff = 18, gif = 25 };
-
-struct picture_size {
-    int width = 0, height = 0;
-    bool operator==(const picture_size &) const = default;
-};
 
 /// Swallows the messages of the library, and of those that it reads and writes files with.
 void set_output_message();
@@ -122,6 +123,9 @@ bitmap rescaled(const bitmap & image, int width, int height);
 /// The rectangle from (left, top) to (right, bottom), the latter exclusive, from the top. Swapped sides are
 /// put in order; a rectangle that is empty or leaves the bitmap gives no bitmap.
 bitmap copied(const bitmap & image, int left, int top, int right, int bottom);
+
+/// All of it.
+bitmap copied(const bitmap & image);
 
 inline constexpr int plain_copy = 256;
 

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr std::string_view own_names[] = {"Quick matrix", "Frame_matrix", "Lettering", "Puzzle"};
-constexpr std::string_view own_files[] = {"__matrix", "__match", "__quick"};
+constexpr std::string_view reserved_files[] = {"__matrix", "__match", "__quick"};
 
 bool holds(std::span<const std::string_view> texts, std::string_view wanted)
 {
@@ -37,7 +37,7 @@ bool is_offered(std::string_view name)
 
 bool design_passes_family(const design_record & design, design_family family)
 {
-    if (holds(own_files, design.file))
+    if (holds(reserved_files, design.file))
         return false;
     return family == design_family::all || design.design == key_of(family);
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr std::string_view section_start = "Design";
+constexpr std::string_view before_number = "Design";
 
 bool is_control(char sign)
 {
@@ -24,7 +24,7 @@ bool has_wide_control(std::string_view text)
 
 std::string number_in(const std::string & section)
 {
-    return section.starts_with(section_start) ? section.substr(section_start.size()) : section;
+    return section.starts_with(before_number) ? section.substr(before_number.size()) : section;
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int air_at_right = 8;  // pixels
-constexpr int gap = 14;          // at the left
+constexpr int gap_at_left = 14;  // at the left
 // A picture that is narrower than the first has the settings beside it give up width; what is narrower than
 // the second shows nothing of a collage.
 constexpr int good_width = 150, least_width = 120;
@@ -65,7 +65,7 @@ void place_below(QWidget & widget, const QRect & picture, int left_by, double sh
     const auto moved = [share](int way) { return qRound(way * share); };
     const int left = picture.left() + moved(own.left() - picture.left());
     const int right = picture.left() + moved(picture.width());
-    const int height = stacked_height(widget, right - picture.left() + gap, own.height());
+    const int height = stacked_height(widget, right - picture.left() + gap_at_left, own.height());
     const int least = std::min(own.width(), widget.minimumSizeHint().width());
     const int width = std::max(moved(own.width()), least);
     widget.setGeometry(share < 1 ? std::min(left, right - width) : left,

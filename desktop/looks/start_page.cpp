@@ -4,19 +4,19 @@
 
 namespace {
 
-constexpr int gap = 8, edge = 8;  // in pixels
-constexpr int least_art = 96;     // rows in which it can still be told what it shows
+constexpr int gap_between = 8, edge = 8;  // in pixels
+constexpr int least_art = 96;             // rows in which it can still be told what it shows
 
 int width_of_row(int count, int width)
 {
-    return count * width + (count - 1) * gap;
+    return count * width + (count - 1) * gap_between;
 }
 
 std::vector<QRect> row_of(int count, QPoint corner, QSize each)
 {
     std::vector<QRect> row;
     for (int i = 0; i < count; ++i)
-        row.emplace_back(corner + QPoint(i * (each.width() + gap), 0), each);
+        row.emplace_back(corner + QPoint(i * (each.width() + gap_between), 0), each);
     return row;
 }
 
@@ -37,7 +37,7 @@ bool lie_in(const start_places & places, QSize room)
 // As large as there is room beside the edges.
 QSize way_in_row(const start_sizes & sizes, QSize room)
 {
-    const int most = (room.width() - 2 * edge + gap) / sizes.count - gap;
+    const int most = (room.width() - 2 * edge + gap_between) / sizes.count - gap_between;
     return {std::min(sizes.way.width(), most), sizes.way.height()};
 }
 
@@ -68,11 +68,11 @@ QRect picture_in(const start_sizes & sizes, const QRect & place)
 start_places in_two_rows(const start_sizes & sizes, QSize room)
 {
     const int in_row = (sizes.count + 2) / 2;
-    const QSize least = sizes.least,
-                most((room.width() - 2 * edge + gap) / in_row - gap, (room.height() - 2 * edge - gap) / 2);
+    const QSize least = sizes.least, most((room.width() - 2 * edge + gap_between) / in_row - gap_between,
+                                          (room.height() - 2 * edge - gap_between) / 2);
     const QSize each = most.expandedTo(least);
     start_places places;
-    for (const int top : {edge, edge + each.height() + gap})
+    for (const int top : {edge, edge + each.height() + gap_between})
         for (const QRect & cell : row_of(in_row, {edge, top}, each))
             places.ways.push_back(cell);
     const auto last_above = places.ways.begin() + in_row - 1;
@@ -98,5 +98,5 @@ start_places placed_start(const start_sizes & sizes, QSize room)
 QSize least_start(const start_sizes & sizes)
 {
     return {width_of_row((sizes.count + 2) / 2, sizes.least.width()) + 2 * edge,
-            2 * sizes.least.height() + gap + 2 * edge};
+            2 * sizes.least.height() + gap_between + 2 * edge};
 }

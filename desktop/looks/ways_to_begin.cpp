@@ -15,7 +15,7 @@
 namespace {
 
 // In pixels. The row stands on the black below the name of the program.
-constexpr int row_top = 384, usual_width = 128, air = 6;
+constexpr int row_top = 384, usual_width = 128, air_inside = 6;
 constexpr int usual_picture = 48, least_picture = 20;  // rows; half as many again across
 constexpr int art_center = 480;                        // in the start picture, which is black left of its art
 
@@ -52,12 +52,13 @@ public:
     QSize sizeHint() const override
     {
         return QSize(usual_width, usual_picture + below_picture())
-            .expandedTo(minimumSizeHint() + QSize(air, 0));
+            .expandedTo(minimumSizeHint() + QSize(air_inside, 0));
     }
 
     QSize minimumSizeHint() const override
     {
-        return {fontMetrics().horizontalAdvance(caption_of(action)) + air, least_picture + below_picture()};
+        return {fontMetrics().horizontalAdvance(caption_of(action)) + air_inside,
+                least_picture + below_picture()};
     }
 
 protected:
@@ -70,16 +71,16 @@ protected:
         painter.setBrush(lit ? palette().color(QPalette::Button) : palette().color(QPalette::Base));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
         const int high = std::min(usual_picture, height() - below_picture());
-        const double wide = 1.5 * high, top = (height() - high - below_picture()) / 2.0 + air;
+        const double wide = 1.5 * high, top = (height() - high - below_picture()) / 2.0 + air_inside;
         draw_motif(painter, picture, QRectF((width() - wide) / 2, top, wide, high));
         painter.setPen(
             palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-        painter.drawText(QRectF(0, top + high, width(), below_picture() - air), Qt::AlignCenter,
+        painter.drawText(QRectF(0, top + high, width(), below_picture() - air_inside), Qt::AlignCenter,
                          caption_of(action));
     }
 
 private:
-    int below_picture() const { return fontMetrics().height() + 3 * air; }
+    int below_picture() const { return fontMetrics().height() + 3 * air_inside; }
 
     void follow()
     {

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr double preview_divisor = 7;
+constexpr double preview_place_divisor = 7;
 constexpr double preview_cell_divisor = 6.6;
 constexpr int rows_per_layer = 2;
 
@@ -40,10 +40,10 @@ location bent(const location & place, location_role role, const location_bend & 
 
 location scaled_to_preview(const location & place, location_role role)
 {
-    const double side = role == location_role::grid_cells ? preview_cell_divisor : preview_divisor;
+    const double side = role == location_role::grid_cells ? preview_cell_divisor : preview_place_divisor;
     location result = place;
-    result.top = nearest16(place.top / preview_divisor);
-    result.left = nearest16(place.left / preview_divisor);
+    result.top = nearest16(place.top / preview_place_divisor);
+    result.left = nearest16(place.left / preview_place_divisor);
     if (role != location_role::grid_start) {
         result.height = nearest16(place.height / side);
         result.width = nearest16(place.width / side);

@@ -10,11 +10,6 @@ namespace {
 
 constexpr int long_inches = 30, square_inches = 20;
 
-picture_size size_of(const bitmap & image)
-{
-    return {.width = image.width(), .height = image.height()};
-}
-
 }  // namespace
 
 picture_size saved_size(picture_size own, int save_size)
@@ -43,7 +38,7 @@ picture_notes notes_of_flurn(picture_size poster, std::optional<int> dpi)
 
 std::string encoded_in_size(const bitmap & image, int save_size, const picture_encoder & encode)
 {
-    const picture_size own = size_of(image);
+    const picture_size own = image.size();
     const picture_size wanted = saved_size(own, save_size);
     if (wanted == own)
         return encode(image);
@@ -53,7 +48,7 @@ std::string encoded_in_size(const bitmap & image, int save_size, const picture_e
 std::string flurn_bytes(const bitmap & image, int save_size)
 {
     return encoded_in_size(image, save_size, [](const bitmap & saved) {
-        return noted_picture(picture_format::jpeg, saved, notes_of_flurn(size_of(saved)));
+        return noted_picture(picture_format::jpeg, saved, notes_of_flurn(saved.size()));
     });
 }
 

@@ -21,11 +21,6 @@ bool is_small(picture_size size)
     return size.width * size.height < small_picture;
 }
 
-picture_size size_of(const bitmap & image)
-{
-    return {.width = image.width(), .height = image.height()};
-}
-
 bitmap loaded(const std::string & path)
 {
     if (!usable_jpeg_size(path))
@@ -40,7 +35,7 @@ bitmap fitted(const bitmap & image, picture_size place, int scale)
     if (!image)
         return {};
     try {
-        const scaling_plan plan = enlarged(covering_plan(size_of(image), place.width, place.height), scale);
+        const scaling_plan plan = enlarged(covering_plan(image.size(), place.width, place.height), scale);
         scaling_memory memory;
         if (is_possible(plan))
             return scaled_by_rows(image, plan, memory);
@@ -158,11 +153,6 @@ read_photo photo_read(frmMain & main, const wanted_photo & wanted)
 
 // ---- what stays from one preview to the next
 
-bitmap copy_of(const bitmap & image)
-{
-    return copied(image, 0, 0, image.width(), image.height());
-}
-
 small_photo_key key_of(const wanted_photo & wanted, const known_file & known)
 {
     return {.path = wanted.path, .stamp = known.stamp.value_or(file_stamp{}), .place = wanted.place};
@@ -181,8 +171,8 @@ bool is_shelved(frmMain & main, const wanted_photo & wanted, const known_file & 
 
 void keep_if_small(frmMain & main, const small_photo_key & key, const bitmap & image)
 {
-    if (image && is_small(size_of(image)))
-        main.run.small.keep(key, copy_of(image));
+    if (image && is_small(image.size()))
+        main.run.small.keep(key, copied(image));
 }
 
 void keep_for_previews(frmMain & main, const wanted_photo & wanted, const known_file & known,
@@ -204,9 +194,9 @@ std::optional<run_photo> photo_from_shelf(frmMain & main, const wanted_photo & w
     photo.own = known.size.value_or(picture_size{});
     photo.place = wanted.place;
     if (const bitmap * const there = main.run.small.find(key_of(wanted, known))) {
-        photo.fitted = copy_of(*there);
+        photo.fitted = copied(*there);
     } else {
-        photo.whole = copy_of(*main.run.small.find(key_of_whole(wanted, known)));
+        photo.whole = copied(*main.run.small.find(key_of_whole(wanted, known)));
         photo.fitted = fitted_or_none(photo.whole, wanted.place, wanted.scale);
         keep_if_small(main, key_of(wanted, known), photo.fitted);
     }
@@ -275,7 +265,7 @@ bitmap fit_photo(frmMain & main, run_photo photo, int width, int height)
     if (photo.fitted && photo.place == place)
         return std::move(photo.fitted);
     const int scale = main.run.drawn_at.canvas();
-    if (!photo || (photo.whole && is_small(size_of(photo.whole))))
+    if (!photo || (photo.whole && is_small(photo.whole.size())))
         return fitted(photo.whole, place, scale);
     return awaited_in_run(main, main.workers.begin_at_once([photo = std::move(photo), place, scale] {
         return photo.whole ? fitted(photo.whole, place, scale) : fitted(loaded(photo.path), place, scale);
@@ -285,7 +275,7 @@ bitmap fit_photo(frmMain & main, run_photo photo, int width, int height)
 void save_photo(frmMain & main, const bitmap & image, const picture_notes & notes, const std::string & path)
 {
     const auto save = [&] { write_file(path, noted_picture(picture_format::jpeg, image, notes)); };
-    if (is_small(size_of(image)))
+    if (is_small(image.size()))
         save();
     else
         beside(main.desk, main.workers, save);

@@ -36,13 +36,13 @@ picture_size cell_of(orientation shape)
     return {.width = place.width, .height = place.height};
 }
 
-struct small_picture {
+struct fitted_picture {
     bitmap picture;
     orientation shape = orientation::portrait;
 };
 
 // Nothing where the photo has to be loaded.
-std::optional<small_picture> read_by_rows(const std::string & photo)
+std::optional<fitted_picture> read_by_rows(const std::string & photo)
 {
     const std::optional<picture_size> own = usable_jpeg_size(photo);
     if (!own)
@@ -50,13 +50,13 @@ std::optional<small_picture> read_by_rows(const std::string & photo)
     const orientation shape = own->width > own->height ? orientation::landscape : orientation::portrait;
     photo_memory memory;
     std::optional<bitmap> read = read_thumbnail(photo, cell_of(shape), memory);
-    return read ? std::optional(small_picture{std::move(*read), shape}) : std::nullopt;
+    return read ? std::optional(fitted_picture{std::move(*read), shape}) : std::nullopt;
 }
 
-small_picture small_of(int format, const std::string & photo)
+fitted_picture small_of(int format, const std::string & photo)
 {
     if (format == static_cast<int>(picture_format::jpeg))
-        if (std::optional<small_picture> read = read_by_rows(photo))
+        if (std::optional<fitted_picture> read = read_by_rows(photo))
             return std::move(*read);
     const bitmap full = loaded(format, photo);
     if (!full)
@@ -70,7 +70,7 @@ edit_thumbnail made(int format, const std::string & photo)
 {
     if (!file_exists(photo))
         throw platform_error(error_number::file_not_found, "File not found", photo);
-    const small_picture small = small_of(format, photo);
+    const fitted_picture small = small_of(format, photo);
     const std::string thumbnail = edit_thumbnail_path(photo);
     return {.file = written(format, small.picture, thumbnail) ? thumbnail : photo, .shape = small.shape};
 }

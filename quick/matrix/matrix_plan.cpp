@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int poster_width = 2000, poster_height = 3000;
 constexpr int largest_inset = 230;
 constexpr int fewest_balanced = 17;       // cells
 constexpr double mostly = 0.6;            // of one orientation: the other needn't be spread

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int poster_width = 2000, poster_height = 3000;
 constexpr int steepest = 35, tilt_step = 5;  // degrees
 constexpr int last_left = 6;                 // of the tilts; upright shares it
 

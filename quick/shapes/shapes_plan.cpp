@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int poster_width = 2000, poster_height = 3000;
 constexpr int fewest_cells = 6, most_cells = 200;
 constexpr int kept_free = 70, kept_free_below_square = 50;
 constexpr int least_lift = 20;  // of squares that stand at the top

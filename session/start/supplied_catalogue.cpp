@@ -6,14 +6,14 @@
 
 namespace {
 
-std::string kept_file(const frmMain & main, std::string_view name)
+std::string kept_path(const frmMain & main, std::string_view name)
 {
     return joined(main.data_folder, name);
 }
 
 text_lines supplied_last(const frmMain & main)
 {
-    const std::string path = kept_file(main, supplied_catalogue);
+    const std::string path = kept_path(main, supplied_catalogue);
     return file_exists(path) ? lines_of_file(path) : text_lines();
 }
 
@@ -34,10 +34,10 @@ text_lines newer_catalogue(const frmMain & main, const text_lines & own)
 void take_newer_designs(const frmMain & main)
 {
     const std::string seed = read_file(seed_catalogue_path(main)),
-                      noted = kept_file(main, supplied_catalogue);
+                      noted = kept_path(main, supplied_catalogue);
     if (file_exists(noted) && read_file(noted) == seed)
         return;
-    const std::string path = kept_file(main, "designs.ini");
+    const std::string path = kept_path(main, "designs.ini");
     const text_lines own = lines_of_file(path);
     if (const text_lines newer = newer_catalogue(main, own); newer != own)
         replace_file(path, text_of(newer));

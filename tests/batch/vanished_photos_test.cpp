@@ -263,13 +263,16 @@ protected:
                 << where << spoiled.told;
     }
 
-    // Each kind of poster meets each change, and each change meets photos that are matched and that aren't.
+    // Each kind of picture meets each change, and each change meets photos that are matched and that aren't.
+    // Of posters, which take long, each kind meets every second change.
     void expect_changes_survived(run_size size, thumbnail_fate thumbnails) const
     {
         std::size_t kind = 0;
         for (const auto & [name, poster_after] : kinds()) {
             ++kind;
             for (const int match : {1, 0}) {
+                if (size == run_size::full && match == static_cast<int>(kind % 2))
+                    continue;
                 const way_of_run way{.size = size, .match = match};
                 const std::string where = name + (match == 1 ? " matched: " : " unmatched: ");
                 const poster sound = poster_after(way, [] {});

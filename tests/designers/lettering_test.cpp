@@ -11,8 +11,7 @@ namespace {
 
 using lines = std::vector<std::string>;
 
-constexpr poster_shape portrait = poster_shape::portrait, landscape = poster_shape::landscape,
-                       square = poster_shape::square;
+using enum poster_shape;
 
 // The numbers and the letter of each line.
 std::string letter_line(const char * corner, int size, char letter)

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr const char * imported = "\r\nHearts has been successfully imported.\r\n";
 const std::string one_design = "$$$ MSG Hearts\n$$$ NAME abcdef designs\\heart\n";
 
 struct opened_to_all : package_session {
@@ -46,7 +45,7 @@ TEST(package_places, a_package_in_a_closed_folder_is_imported_and_stays)
         const as_ordinary_user user;
         session.import(package);
     }
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_EQ(session.read("designs/heart"), "x");
     EXPECT_TRUE(file_exists(package));
     std::filesystem::permissions(session.folder.at("medium"), std::filesystem::perms{0777});
@@ -63,7 +62,7 @@ TEST(package_places, files_go_to_another_disk_where_the_user_has_put_a_folder)
         return crosses ? EXDEV : 0;
     });
     session.import(session.packed("here"));
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_EQ(session.read("designs/heart"), "x");
     EXPECT_FALSE(session.has("tmp/unzipped/abcdef"));
     EXPECT_FALSE(session.has("designs/heart.part"));
@@ -119,7 +118,7 @@ TEST(package_places, a_manifest_may_begin_with_a_byte_order_mark)
 {
     package_session session;
     session.import_manifest("\xEF\xBB\xBF" + one_design, {{.name = "abcdef", .bytes = "x"}});
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_EQ(session.read("designs/heart"), "x");
 }
 
@@ -134,7 +133,7 @@ TEST(package_places, names_of_entries_may_have_any_letters)
             session.import_manifest(
                 "$$$ MSG Hearts\n$$$ NAME " + name + " designs\\heart\n",
                 {{.name = name, .bytes = "x", .unix_mode = 0100644, .flags = flagged ? 0x800U : 0U}});
-            EXPECT_EQ(session.desk.next_message(), imported) << flagged;
+            EXPECT_EQ(session.desk.next_message(), hearts_imported) << flagged;
             EXPECT_EQ(session.read("designs/heart"), "x");
         }
 }

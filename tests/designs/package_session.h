@@ -22,6 +22,8 @@ inline folder_image image_of(const std::string & folder)
     return image;
 }
 
+inline constexpr const char * hearts_imported = "\r\nHearts has been successfully imported.\r\n";
+
 /// A session that is handed packages.
 struct package_session : own_designs_session {
     package_session()

@@ -4,6 +4,7 @@
 #include "engine/layout/run_layout.h"
 #include "support/files/text_file.h"
 #include "tests/engine/collage_fixture.h"
+#include "tests/engine/layout/measures.h"
 #include "tests/pictures.h"
 
 #include <functional>
@@ -11,11 +12,6 @@
 #include <set>
 
 namespace {
-
-location measures(int16 top, int16 left, int16 height, int16 width)
-{
-    return {.top = top, .left = left, .height = height, .width = width};
-}
 
 // One location and no photos, so that the loop leaves the locations as they were brought to the canvas.
 struct bare_run : collage_fixture {

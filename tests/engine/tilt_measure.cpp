@@ -12,8 +12,8 @@ namespace {
 constexpr int channel_count = sizeof(pixel);
 
 // Each channel shows one thing, on a black canvas: green the photo, blue photo and frame, red the shadow.
-constexpr rgb_triple photo_color{.red = 0, .green = 255, .blue = 255};
-constexpr rgb_triple frame_color{.red = 0, .green = 0, .blue = 255};
+constexpr rgb_triple measured_color{.red = 0, .green = 255, .blue = 255};
+constexpr rgb_triple measured_frame{.red = 0, .green = 0, .blue = 255};
 constexpr rgb_triple shadow_color{.red = 255, .green = 0, .blue = 0};
 
 enum class channel { blue = 0, green = 1, red = 2 };
@@ -181,10 +181,10 @@ void draw(tilt_stage & stage, const tilted_cell & cell, staged_tilt & scene)
 {
     stage.main.in_preview = cell.size == run_size::preview;
     stage.wear(cell.frame, cell.shadow);
-    stage.main.run.frame_color = frame_color;
+    stage.main.run.frame_color = measured_frame;
     stage.main.run.shadow_color = shadow_color;
     stage.main.run.canvas = std::move(scene.canvas);
-    stage.draw(plain(cell.width, cell.height, photo_color),
+    stage.draw(plain(cell.width, cell.height, measured_color),
                {.left = scene.left, .top = scene.top, .width = cell.width, .height = cell.height},
                cell.rotation);
     scene.canvas = std::move(stage.main.run.canvas);

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr poster_shape landscape = poster_shape::landscape;
+using enum poster_shape;
 
 }  // namespace
 

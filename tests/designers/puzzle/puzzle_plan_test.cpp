@@ -8,7 +8,7 @@ namespace {
 
 using lines = std::vector<std::string>;
 
-constexpr poster_shape landscape = poster_shape::landscape;
+using enum poster_shape;
 
 lines whole_puzzle(const puzzle_choices & choices)
 {

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr const char * imported = "\r\nHearts has been successfully imported.\r\n";
-
 // What the catalogue is after a section of that number was merged into it.
 std::string catalogue_with(double number, const std::string & name)
 {
@@ -15,7 +13,7 @@ std::string catalogue_with(double number, const std::string & name)
     const std::string text = formatted(static_cast<int>(number), 3);
     session.import_manifest("$$$ MSG Hearts\n$$$ designs.ini " + text + "\n[Design" + text +
                             "]\nName=" + name + "\n\n$$$\n");
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_EQ(session.read("designs.bbb"),
               "[Design601]\r\nName=a\r\n\r\n[Design603]\r\nName=c\r\n\r\n[Design605]\r\nName=e\r\n");
     EXPECT_FALSE(session.has("designs.new"));
@@ -59,7 +57,7 @@ TEST(import_package, makes_folders_moves_files_and_uses_the_package_up)
         {{.name = "abcdef", .bytes = "captions"},
          {.name = "ghijkl", .bytes = "new"},
          {.name = "mnopqr", .bytes = "rest"}});
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_EQ(image_of(session.at("frames")),
               (folder_image{{"heart", "folder"}, {"heart/captions", "captions"}}));
     EXPECT_EQ(session.read("designs/heart"), "new");
@@ -77,7 +75,7 @@ TEST(import_package, a_second_import_replaces_the_section_and_adds_no_second_ico
             "$$$ MSG Hearts\n$$$ NEW  hearts\n$$$ NAME abcdef hearts\\a.jpg\n$$$ icons\nsun sun.bmp\n"
             "$$$ designs.ini 602\n[Design602]\nName=Heart\n$$$\n",
             {{.name = "abcdef", .bytes = "x"}});
-        EXPECT_EQ(session.desk.next_message(), imported);
+        EXPECT_EQ(session.desk.next_message(), hearts_imported);
         EXPECT_EQ(session.read("icons/icons"), "star star.bmp\r\nsun sun.bmp\r\n");
         folder_image now = image_of(session.at(""));
         for (const char * backup : {"designs.bbb", "icons/icons.bbb"})
@@ -95,7 +93,7 @@ TEST(import_package, an_icon_line_keeps_the_old_list_as_backup)
 {
     package_session session;
     session.import_manifest("$$$ MSG Hearts\n$$$ icons\nsun sun.bmp\n");
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_EQ(session.read("icons/icons.bbb"), "star star.bmp\r\n");
 }
 
@@ -104,14 +102,14 @@ TEST(import_package, a_missing_icon_line_is_told_and_the_import_still_reports_su
     package_session session;
     session.import_manifest("$$$ MSG Hearts\n$$$ icons\n");
     EXPECT_EQ(session.desk.next_message(), "Missing icon line!");
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
 }
 
 TEST(import_package, a_section_may_be_the_last_thing_in_the_manifest)
 {
     package_session session;
     session.import_manifest("$$$ MSG Hearts\n$$$ designs.ini 602\n[Design602]\nName=Heart");
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_NE(session.read("designs.ini").find("[Design602]\r\nName=Heart\r\n[Design603]"),
               std::string::npos);
 }
@@ -128,7 +126,7 @@ TEST(import_package, a_catalogue_without_sections_takes_number_601)
     package_session session;
     session.catalogue("; nothing yet\n");
     session.import_manifest("$$$ MSG Hearts\n$$$ designs.ini 42\n[Design042]\nName=Heart\n$$$\n");
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_EQ(session.read("designs.ini"), "; nothing yet\r\n[Design601]\r\nName=Heart\r\n");
 }
 
@@ -196,7 +194,7 @@ TEST(import_package, an_open_walk_over_the_catalogue_is_closed_before_it_is_repl
     package_session session;
     read_design(session.main, catalogue_start::first);
     session.import_manifest("$$$ MSG Hearts\n$$$ designs.ini 602\nName=Heart\n");
-    EXPECT_EQ(session.desk.next_message(), imported);
+    EXPECT_EQ(session.desk.next_message(), hearts_imported);
     EXPECT_FALSE(session.main.catalogue.catalogue_at_end);
     EXPECT_TRUE(find_design(session.main, "Heart"));
     EXPECT_EQ(session.main.design_record.section, "Design602");

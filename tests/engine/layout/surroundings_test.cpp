@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr rgb_triple ink{.red = 255};
+constexpr rgb_triple caption_ink{.red = 255};
 constexpr std::uint32_t ink_in_control = 0x0000FF;
 
 struct one_location : collage_fixture {
@@ -51,7 +51,7 @@ struct short_caption : collage_fixture {
         int left = canvas.width(), top = canvas.height(), right = -1, bottom = -1;
         for (int y = 0; y < canvas.height(); ++y)
             for (int x = 0; x < canvas.width(); ++x)
-                if (seen(canvas, x, y) == ink) {
+                if (seen(canvas, x, y) == caption_ink) {
                     left = std::min(left, x);
                     right = std::max(right, x);
                     top = std::min(top, y);
@@ -217,7 +217,7 @@ TEST(caption, is_drawn_in_the_font_of_its_box_at_the_size_of_its_tag)
     const text_request & asked = run.desk.drawn_texts.back();
     EXPECT_EQ(asked.text, "I");
     EXPECT_EQ(asked.font, (font_style{.name = "Serif", .size = 30, .bold = true}));
-    EXPECT_EQ(asked.color, ink);
+    EXPECT_EQ(asked.color, caption_ink);
     EXPECT_EQ(asked.extra_width, 50);
     run.main.in_preview = true;
     prepare_caption(run.main);

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr picture_size small{.width = 400, .height = 400}, large{.width = 900, .height = 600};
-constexpr rgb_triple ground{1, 2, 3}, ink{4, 5, 6};
+constexpr rgb_triple ground{1, 2, 3}, photo_ink{4, 5, 6};
 
 struct canvas_steps_test : testing::Test {
     canvas_steps_test() { main.run.canvas = plain(large.width, large.height, ground); }
@@ -42,9 +42,9 @@ TEST_F(canvas_steps_test, the_window_lets_events_through_while_much_is_drawn)
     draw_on_canvas(main, large, [&](bitmap & canvas) {
         while (!seen)
             std::this_thread::yield();
-        fill(canvas, ink);
+        fill(canvas, photo_ink);
     });
-    EXPECT_TRUE(same(main.run.canvas, plain(large.width, large.height, ink)));
+    EXPECT_TRUE(same(main.run.canvas, plain(large.width, large.height, photo_ink)));
 }
 
 TEST_F(canvas_steps_test, work_on_all_of_a_large_canvas_may_put_another_in_its_place)

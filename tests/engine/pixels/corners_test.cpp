@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr rgb_triple photo_color{200, 200, 200}, background{30, 60, 90};
+constexpr rgb_triple cut_color{200, 200, 200}, background{30, 60, 90};
 
 /// The place of a photo whose lower left pixel stands at column `left`, row `row` from the canvas's bottom.
 rectangle place_at(const bitmap & canvas, picture_size size, int left, int row)
@@ -24,7 +24,7 @@ rectangle place_at(const bitmap & canvas, picture_size size, int left, int row)
 /// A photo of one colour whose corners were cut; '.' is the background.
 std::string cut(int width, int height)
 {
-    bitmap photo = plain(width, height, photo_color);
+    bitmap photo = plain(width, height, cut_color);
     const bitmap canvas = plain(300, 300, background);
     cut_corners(photo, canvas, place_at(canvas, {width, height}, 10, 10));
     return drawn(photo, [](rgb_triple color) { return color == background ? '.' : '#'; });
@@ -119,8 +119,8 @@ TEST(cut_corners, agrees_with_its_slow_twin)
                                     {300, 390},
                                     {450, 410},
                                     {700, 610}}) {
-        bitmap found = plain(size.width, size.height, photo_color);
-        bitmap expected = plain(size.width, size.height, photo_color);
+        bitmap found = plain(size.width, size.height, cut_color);
+        bitmap expected = plain(size.width, size.height, cut_color);
         cut_corners(found, canvas, place_at(canvas, size, 30, 20));
         cut_corners_by_pixel(expected, canvas, size.width, size.height, 30, 20,
                              corner_table(std::min(size.width, size.height)));
@@ -133,7 +133,7 @@ TEST(cut_corners, keeps_the_photo_where_there_is_no_background)
     const bitmap canvas = graded(100, 90);
     for (const int left : {-200, -30, 60, 200})
         for (const int row : {-200, -20, 50, 200}) {
-            bitmap found = plain(80, 70, photo_color), expected = plain(80, 70, photo_color);
+            bitmap found = plain(80, 70, cut_color), expected = plain(80, 70, cut_color);
             cut_corners(found, canvas, place_at(canvas, {80, 70}, left, row));
             cut_corners_by_pixel(expected, canvas, 80, 70, left, row, corner_table(70));
             EXPECT_TRUE(same(found, expected)) << left << ", " << row;
@@ -144,8 +144,8 @@ TEST(cut_corners, a_photo_of_another_size_than_told_agrees_too)
 {
     const bitmap canvas = graded(300, 300);
     for (const picture_size size : {picture_size{79, 70}, {81, 70}, {80, 69}, {80, 71}}) {
-        bitmap found = plain(size.width, size.height, photo_color);
-        bitmap expected = plain(size.width, size.height, photo_color);
+        bitmap found = plain(size.width, size.height, cut_color);
+        bitmap expected = plain(size.width, size.height, cut_color);
         cut_corners(found, canvas, place_at(canvas, {80, 70}, 9, 8));
         cut_corners_by_pixel(expected, canvas, 80, 70, 9, 8, corner_table(70));
         EXPECT_TRUE(same(found, expected)) << size.width << " by " << size.height;
@@ -155,7 +155,7 @@ TEST(cut_corners, a_photo_of_another_size_than_told_agrees_too)
 TEST(cut_corners, the_bottom_loses_one_row_more_than_the_top_and_the_left_one_column_more_than_the_right)
 {
     const bitmap canvas = plain(800, 800, background);
-    bitmap photo = plain(700, 700, photo_color);
+    bitmap photo = plain(700, 700, cut_color);
     cut_corners(photo, canvas, place_at(canvas, {700, 700}, 10, 10));
     const auto cut_in_column = [&](int x, int from, int to) {
         int count = 0;
@@ -172,9 +172,9 @@ TEST(cut_corners, the_bottom_loses_one_row_more_than_the_top_and_the_left_one_co
 
 TEST(cut_corners, without_a_photo_or_a_canvas_nothing_happens)
 {
-    bitmap none, photo = plain(20, 20, photo_color);
+    bitmap none, photo = plain(20, 20, cut_color);
     cut_corners(none, plain(30, 30, background), {.left = 0, .top = 10, .width = 20, .height = 20});
     EXPECT_FALSE(none);
     cut_corners(photo, none, {.left = 0, .top = 10, .width = 20, .height = 20});
-    EXPECT_TRUE(same(photo, plain(20, 20, photo_color)));
+    EXPECT_TRUE(same(photo, plain(20, 20, cut_color)));
 }

@@ -24,7 +24,7 @@ bool is_blank(const std::string & picture)
     return picture.find_first_not_of(".\n") == std::string::npos;
 }
 
-constexpr rectangle small_photo{.left = 2, .top = 2, .width = 12, .height = 14};
+constexpr rectangle photo_inside{.left = 2, .top = 2, .width = 12, .height = 14};
 
 }  // namespace
 
@@ -89,7 +89,7 @@ TEST(shadow_bands, the_strength_per_line_is_rounded_by_ties_to_even)
 TEST(draw_shadow, two_fading_bands_with_cut_ends)
 {
     // The two bands meet on their diagonal, here in one pixel.
-    EXPECT_EQ(shadowed(20, 21, small_photo, {.shadow = 4}),
+    EXPECT_EQ(shadowed(20, 21, photo_inside, {.shadow = 4}),
               "....................\n"
               "....................\n"
               "....................\n"
@@ -144,7 +144,7 @@ TEST(draw_shadow, touches_the_frame_and_leaves_it_as_it_is)
 TEST(draw_shadow, a_line_that_would_leave_the_target_is_not_drawn_at_all)
 {
     // The target ends right under the photo: the column that reaches one row further has no place.
-    EXPECT_EQ(shadowed(20, 16, small_photo, {.shadow = 4}),
+    EXPECT_EQ(shadowed(20, 16, photo_inside, {.shadow = 4}),
               "....................\n"
               "....................\n"
               "....................\n"
@@ -165,10 +165,10 @@ TEST(draw_shadow, a_line_that_would_leave_the_target_is_not_drawn_at_all)
 
 TEST(draw_shadow, without_a_size_with_rounded_photos_or_far_outside_nothing_happens)
 {
-    EXPECT_TRUE(is_blank(shadowed(20, 21, small_photo, {.shadow = 0})));
-    EXPECT_TRUE(is_blank(shadowed(20, 21, small_photo, {.shadow = -4})));
-    EXPECT_TRUE(is_blank(shadowed(20, 21, small_photo, {.shadow = 4, .corners = photo_corners::rounded})));
-    EXPECT_FALSE(is_blank(shadowed(20, 21, small_photo, {.shadow = 4, .corners = photo_corners::cut})));
+    EXPECT_TRUE(is_blank(shadowed(20, 21, photo_inside, {.shadow = 0})));
+    EXPECT_TRUE(is_blank(shadowed(20, 21, photo_inside, {.shadow = -4})));
+    EXPECT_TRUE(is_blank(shadowed(20, 21, photo_inside, {.shadow = 4, .corners = photo_corners::rounded})));
+    EXPECT_FALSE(is_blank(shadowed(20, 21, photo_inside, {.shadow = 4, .corners = photo_corners::cut})));
     EXPECT_TRUE(
         is_blank(shadowed(20, 21, {.left = 900, .top = 2, .width = 12, .height = 14}, {.shadow = 4})));
 }

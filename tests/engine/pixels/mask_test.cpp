@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr rgb_triple light{255, 255, 255}, grey{60, 60, 60}, dark{0, 0, 0};
+constexpr rgb_triple light{255, 255, 255}, middling{60, 60, 60}, dark{0, 0, 0};
 
 /// Every mixture of a few values of each channel, among them all the limits.
 bitmap all_cases()
@@ -84,7 +84,7 @@ TEST(paint_mask, paints_inside_and_border_in_one_colour_and_leaves_the_ground)
 {
     bitmap mask = plain(4, 3, light), canvas = plain(6, 5, {9, 9, 9});
     set_pixel(mask, 1, 0, dark);
-    set_pixel(mask, 2, 1, grey);
+    set_pixel(mask, 2, 1, middling);
     set_pixel(mask, 3, 2, {255, 0, 255});
     set_pixel(mask, 0, 2, {255, 255, 0});
     paint_mask(canvas, mask, {165, 255, 50}, {1, 1});

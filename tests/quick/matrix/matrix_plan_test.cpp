@@ -24,7 +24,7 @@ matrix_request request_for(const char * grid, const std::string & photos)
     return request;
 }
 
-lines planned(const matrix_request & request)
+lines planned_matrix(const matrix_request & request)
 {
     return template_lines(matrix_plan(request, listed({})), matrix_digits);
 }
@@ -34,7 +34,7 @@ std::string cells(const matrix_request & request)
 {
     std::string text;
     std::string row;
-    for (const std::string & line : planned(request)) {
+    for (const std::string & line : planned_matrix(request)) {
         const std::vector<std::string> fields = split(line, ':', 9);
         if (!row.empty() && fields[0] != row)
             text += ' ';
@@ -50,7 +50,7 @@ std::string cells(const matrix_request & request)
 TEST(matrix_plan, a_portrait_takes_one_cell_and_a_landscape_photo_two)
 {
     EXPECT_EQ(
-        planned(request_for("6:2:3:20:10:100:50:70", "plppp")),
+        planned_matrix(request_for("6:2:3:20:10:100:50:70", "plppp")),
         (lines{"50:100:1430:593:00:-1:-1:0:", "50:703:1430:1196:00:-1:-1:0:", "1500:100:1430:593:00:-1:-1:0:",
                "1500:703:1430:593:00:-1:-1:0:", "1500:1306:1430:593:00:-1:-1:0:"}));
 }
@@ -59,8 +59,9 @@ TEST(matrix_plan, a_square_poster_is_2000_high)
 {
     matrix_request request = request_for("4:2:2:0:0:100:100:100", "pppp");
     request.poster = poster_shape::square;
-    EXPECT_EQ(planned(request), (lines{"100:100:900:900:00:-1:-1:0:", "100:1000:900:900:00:-1:-1:0:",
-                                       "1000:100:900:900:00:-1:-1:0:", "1000:1000:900:900:00:-1:-1:0:"}));
+    EXPECT_EQ(planned_matrix(request),
+              (lines{"100:100:900:900:00:-1:-1:0:", "100:1000:900:900:00:-1:-1:0:",
+                     "1000:100:900:900:00:-1:-1:0:", "1000:1000:900:900:00:-1:-1:0:"}));
 }
 
 TEST(matrix_plan, a_landscape_poster_swaps_the_photos_and_shares_the_margins)
@@ -69,8 +70,9 @@ TEST(matrix_plan, a_landscape_poster_swaps_the_photos_and_shares_the_margins)
     request.poster = poster_shape::landscape;
     request.rotate = true;
     request.offset = 3;
-    EXPECT_EQ(planned(request), (lines{"60:100:1430:1196:-15:-1:-1:0:", "60:1306:1430:1001:10:-1:-1:0:",
-                                       "1510:100:1430:1001:05:-1:-1:0:", "1510:703:1430:1196:-05:-1:-1:0:"}));
+    EXPECT_EQ(planned_matrix(request),
+              (lines{"60:100:1430:1196:-15:-1:-1:0:", "60:1306:1430:1001:10:-1:-1:0:",
+                     "1510:100:1430:1001:05:-1:-1:0:", "1510:703:1430:1196:-05:-1:-1:0:"}));
 }
 
 TEST(matrix_plan, photos_are_used_again_from_the_first_when_cells_are_left)
@@ -108,7 +110,7 @@ TEST(matrix_plan, shaken_cells_are_tilted_scaled_and_moved_by_their_patterns)
     request.rotate = request.resize = request.shuffle = true;
     request.offset = 5;
     EXPECT_EQ(
-        planned(request),
+        planned_matrix(request),
         (lines{"64:09:910:637:-05:-1:-1:0:", "200:810:778:1021:05:-1:-1:0:", "1153:235:774:542:10:-1:-1:0:",
                "903:612:1092:704:00:-1:-1:0:", "1148:1434:819:573:05:-1:-1:0:",
                "1996:-27:864:1134:-05:-1:-1:0:", "2101:1413:774:542:10:-1:-1:0:"}));
@@ -131,13 +133,15 @@ TEST(matrix_plan, each_switch_shakes_in_its_own_way)
 {
     matrix_request request = request_for("4:4:1:0:0:0:0:0", "pppp");
     request.shuffle = true;
-    EXPECT_EQ(planned(request), (lines{"120:200:750:2000:00:-1:-1:0:", "830:-200:750:2000:00:-1:-1:0:",
-                                       "1420:80:750:2000:00:-1:-1:0:", "2250:00:750:2000:00:-1:-1:0:"}));
+    EXPECT_EQ(planned_matrix(request),
+              (lines{"120:200:750:2000:00:-1:-1:0:", "830:-200:750:2000:00:-1:-1:0:",
+                     "1420:80:750:2000:00:-1:-1:0:", "2250:00:750:2000:00:-1:-1:0:"}));
     request.shuffle = false;
     request.resize = true;
     // 0.9, 1.15, 0.85 and 1: what would grow in the only column stays.
-    EXPECT_EQ(planned(request), (lines{"38:100:675:1800:00:-1:-1:0:", "750:00:750:2000:00:-1:-1:0:",
-                                       "1556:150:638:1700:00:-1:-1:0:", "2250:00:750:2000:00:-1:-1:0:"}));
+    EXPECT_EQ(planned_matrix(request),
+              (lines{"38:100:675:1800:00:-1:-1:0:", "750:00:750:2000:00:-1:-1:0:",
+                     "1556:150:638:1700:00:-1:-1:0:", "2250:00:750:2000:00:-1:-1:0:"}));
 }
 
 TEST(matrix_plan, cells_grow_away_from_the_edges_alone)
@@ -146,7 +150,7 @@ TEST(matrix_plan, cells_grow_away_from_the_edges_alone)
     request.resize = true;
     const auto rows_below_the_first = [&](int offset) {
         request.offset = offset;
-        const lines plan = planned(request);
+        const lines plan = planned_matrix(request);
         return lines(plan.begin() + 3, plan.end());
     };
     // By 1.3 in the middle, where the lower edge is no limit; a double cell behind 0.85 grows by nothing.
@@ -163,7 +167,7 @@ TEST(matrix_plan, a_row_does_not_begin_with_the_pattern_of_the_row_before)
 {
     matrix_request request = request_for("48:2:24:0:0:0:0:0", std::string(48, 'p'));
     request.shuffle = true;
-    const lines plan = planned(request);
+    const lines plan = planned_matrix(request);
     // Twenty-four columns on it would be pattern 1 again; it is 12, and 14 is next.
     EXPECT_EQ(plan[24], "1560:-206:1500:83:00:-1:-1:0:");
     EXPECT_EQ(plan[25], "1470:57:1500:83:00:-1:-1:0:");
@@ -174,8 +178,9 @@ TEST(matrix_plan, a_shaken_preview_keeps_its_sides_free)
     matrix_request request = request_for("4:2:2:0:0:100:100:100", "pppp");
     request.rotate = true;
     request.inset = 48;
-    EXPECT_EQ(planned(request), (lines{"160:148:1340:938:10:-1:-1:0:", "160:1000:1340:938:-15:-1:-1:0:",
-                                       "1500:148:1340:938:-10:-1:-1:0:", "1500:1000:1340:938:15:-1:-1:0:"}));
+    EXPECT_EQ(planned_matrix(request),
+              (lines{"160:148:1340:938:10:-1:-1:0:", "160:1000:1340:938:-15:-1:-1:0:",
+                     "1500:148:1340:938:-10:-1:-1:0:", "1500:1000:1340:938:15:-1:-1:0:"}));
     EXPECT_EQ(matrix_inset(59), 47);
     EXPECT_EQ(matrix_inset(60), 48);
     EXPECT_EQ(matrix_inset(1000), 230);
@@ -198,6 +203,6 @@ TEST(matrix_plan, a_list_of_no_photos_is_a_grid_of_single_cells)
 
 TEST(matrix_plan, a_grid_without_rows_or_columns_is_a_fault)
 {
-    EXPECT_THROW(planned(request_for("0:0:3:0:0:0:0:0", "p")), platform_error);
-    EXPECT_THROW(planned(request_for("0:3:0:0:0:0:0:0", "p")), platform_error);
+    EXPECT_THROW(planned_matrix(request_for("0:0:3:0:0:0:0:0", "p")), platform_error);
+    EXPECT_THROW(planned_matrix(request_for("0:3:0:0:0:0:0:0", "p")), platform_error);
 }

@@ -13,7 +13,7 @@ namespace {
 
 using lines = std::vector<std::string>;
 
-scatter_layout planned(const lines & scatter, const scatter_request & request)
+scatter_layout planned_scatter(const lines & scatter, const scatter_request & request)
 {
     return scatter_plan(scatter, request, listed({}));
 }
@@ -54,13 +54,14 @@ static void PrintTo(const scatter_extremes & reach, std::ostream * out)
 
 TEST(scatter_plan, cells_stay_as_the_file_has_them)
 {
-    EXPECT_EQ(planned({"1:0100:200.5:300:400:-5", "# a comment", "2:5:6:7:8:0:rest"}, {}).lines,
+    EXPECT_EQ(planned_scatter({"1:0100:200.5:300:400:-5", "# a comment", "2:5:6:7:8:0:rest"}, {}).lines,
               (lines{"0100:200.5:300:400:-5:-1:-1:0:", "5:6:7:8:0:-1:-1:0:"}));
 }
 
 TEST(scatter_plan, a_tall_cell_is_turned_wide_about_its_middle)
 {
-    const scatter_layout plan = planned({"1:1000:500:400:300:10"}, {.wanted = {0, 1}, .offered = {1, 0}});
+    const scatter_layout plan =
+        planned_scatter({"1:1000:500:400:300:10"}, {.wanted = {0, 1}, .offered = {1, 0}});
     EXPECT_EQ(plan.lines, (lines{"1075:425:300:400:10:-1:-1:0:"}));
     // The ninth column: 0.83, -0.13 and 0.98 of 400.
     EXPECT_EQ(plan.reach,
@@ -69,7 +70,8 @@ TEST(scatter_plan, a_tall_cell_is_turned_wide_about_its_middle)
 
 TEST(scatter_plan, a_wide_cell_is_turned_tall)
 {
-    const scatter_layout plan = planned({"1:20:10:300:402:-35"}, {.wanted = {1, 0}, .offered = {0, 1}});
+    const scatter_layout plan =
+        planned_scatter({"1:20:10:300:402:-35"}, {.wanted = {1, 0}, .offered = {0, 1}});
     // A quarter of 402 is 100.5: both corners are ties, rounded to even.
     EXPECT_EQ(plan.lines, (lines{"-80:110:402:300:-35:-1:-1:0:"}));
     EXPECT_EQ(plan.reach,
@@ -80,14 +82,15 @@ TEST(scatter_plan, as_many_cells_are_turned_as_are_missing_in_the_order_of_the_f
 {
     const lines scatter{"1:500:500:400:300:0", "2:500:500:300:400:0", "3:500:500:400:300:0",
                         "4:500:500:400:300:0"};
-    const lines plan = planned(scatter, {.wanted = {1, 3}, .offered = {3, 1}}).lines;
+    const lines plan = planned_scatter(scatter, {.wanted = {1, 3}, .offered = {3, 1}}).lines;
     EXPECT_EQ(plan, (lines{"575:425:300:400:0:-1:-1:0:", "500:500:300:400:0:-1:-1:0:",
                            "575:425:300:400:0:-1:-1:0:", "500:500:400:300:0:-1:-1:0:"}));
 }
 
 TEST(scatter_plan, a_surplus_turns_nothing_by_itself)
 {
-    const scatter_layout plan = planned({"1:500:500:400:300:0"}, {.wanted = {0, 0}, .offered = {1, 0}});
+    const scatter_layout plan =
+        planned_scatter({"1:500:500:400:300:0"}, {.wanted = {0, 0}, .offered = {1, 0}});
     EXPECT_EQ(plan.lines, (lines{"500:500:400:300:0:-1:-1:0:"}));
     EXPECT_EQ(plan.reach, scatter_extremes{});
 }
@@ -95,15 +98,16 @@ TEST(scatter_plan, a_surplus_turns_nothing_by_itself)
 TEST(scatter_plan, a_square_cell_is_never_turned)
 {
     const scatter_layout plan =
-        planned({"1:500:500:300:300:0", "2:0:0:20:10:0"}, {.wanted = {5, 1}, .offered = {0, 0}});
+        planned_scatter({"1:500:500:300:300:0", "2:0:0:20:10:0"}, {.wanted = {5, 1}, .offered = {0, 0}});
     EXPECT_EQ(plan.lines, (lines{"500:500:300:300:0:-1:-1:0:", "02:-02:10:20:0:-1:-1:0:"}));
 }
 
 TEST(scatter_plan, a_blank_cell_uses_up_its_turn_and_pushes_the_extremes)
 {
     const blank_run first_of_nine{.length = 9, .left = 9, .blank_at = 0};
-    const scatter_layout plan = planned({"1:2800:0:400:300:35", "2:500:500:400:300:0"},
-                                        {.wanted = {0, 1}, .offered = {2, 0}, .blanks = first_of_nine});
+    const scatter_layout plan =
+        planned_scatter({"1:2800:0:400:300:35", "2:500:500:400:300:0"},
+                        {.wanted = {0, 1}, .offered = {2, 0}, .blanks = first_of_nine});
     EXPECT_EQ(plan.lines, (lines{"500:500:400:300:0:-1:-1:0:"}));
     EXPECT_EQ(plan.reach.max_bottom, 2875 + 448);
     EXPECT_EQ(plan.reach.min_left, -75 - 152);
@@ -113,7 +117,7 @@ TEST(scatter_plan, a_comment_takes_no_place_in_the_run_of_blanks)
 {
     const blank_run second_of_nine{.length = 9, .left = 9, .blank_at = 1};
     const lines scatter{"1:5:6:70:80:0", "# comment", "2:5:6:70:80:5", "3:5:6:70:80:10"};
-    EXPECT_EQ(planned(scatter, {.blanks = second_of_nine}).lines,
+    EXPECT_EQ(planned_scatter(scatter, {.blanks = second_of_nine}).lines,
               (lines{"5:6:70:80:0:-1:-1:0:", "5:6:70:80:10:-1:-1:0:"}));
 }
 
@@ -122,8 +126,8 @@ TEST(scatter_plan, each_tilt_has_its_column_and_upright_shares_that_of_minus_5)
     const std::vector<std::pair<int, std::size_t>> columns{{-35, 0}, {-30, 1}, {-10, 5}, {-5, 6},
                                                            {0, 6},   {5, 7},   {20, 10}, {35, 13}};
     for (const auto & [tilt, column] : columns) {
-        const scatter_layout plan =
-            planned({"1:1000:1000:1000:800:" + std::to_string(tilt)}, {.wanted = {0, 1}, .offered = {}});
+        const scatter_layout plan = planned_scatter({"1:1000:1000:1000:800:" + std::to_string(tilt)},
+                                                    {.wanted = {0, 1}, .offered = {}});
         EXPECT_EQ(plan.reach.max_bottom, nearest(1200 + 1000 * turned_wide.bottom[column])) << tilt;
     }
 }
@@ -160,7 +164,7 @@ TEST(scatter_plan, a_tilt_beyond_the_table_is_a_fault)
 {
     for (const char * tilt : {"40", "-40"}) {
         try {
-            planned({std::string("1:0:0:300:400:") + tilt}, {});
+            planned_scatter({std::string("1:0:0:300:400:") + tilt}, {});
             FAIL() << tilt;
         } catch (const platform_error & error) {
             EXPECT_EQ(error.number, error_number::subscript);
@@ -170,8 +174,8 @@ TEST(scatter_plan, a_tilt_beyond_the_table_is_a_fault)
 
 TEST(scatter_plan, a_short_line_is_a_fault)
 {
-    EXPECT_THROW(planned({"1:0:0:300:400"}, {}), platform_error);
-    EXPECT_THROW(planned({""}, {}), platform_error);
+    EXPECT_THROW(planned_scatter({"1:0:0:300:400"}, {}), platform_error);
+    EXPECT_THROW(planned_scatter({""}, {}), platform_error);
 }
 
 TEST(border_for, grows_with_what_reaches_over_the_edges)

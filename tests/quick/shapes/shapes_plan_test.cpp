@@ -12,14 +12,14 @@ namespace {
 using lines = std::vector<std::string>;
 
 // A source whose numbers don't matter.
-shapes_layout planned(const shapes_request & request)
+shapes_layout planned_shapes(const shapes_request & request)
 {
     return shapes_plan(request, seeded_random(1));
 }
 
 std::string grid_text(int last_photo)
 {
-    const shapes_layout plan = planned({.last_photo = last_photo});
+    const shapes_layout plan = planned_shapes({.last_photo = last_photo});
     return std::to_string(static_cast<int>(plan.columns)) + "x" + std::to_string(static_cast<int>(plan.rows));
 }
 
@@ -90,7 +90,7 @@ TEST(shapes_plan, squares_stand_in_the_middle_between_their_ornaments)
 {
     // 2 by 5: 2830 down for five, 566 each; 1152 across leaves 848, 2910 down leaves 90.
     const lines plan =
-        template_lines(planned({.last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).places);
+        template_lines(planned_shapes({.last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).places);
     ASSERT_EQ(plan.size(), 10U);
     EXPECT_EQ(plan[0], "35:424:566:566:0:0:-1:0:");
     EXPECT_EQ(plan[1], "35:1010:566:566:0:0:-1:0:");
@@ -101,7 +101,7 @@ TEST(shapes_plan, squares_stand_in_the_middle_between_their_ornaments)
 TEST(shapes_plan, other_shapes_have_no_height_but_a_mask_and_no_room_for_ornaments)
 {
     const lines plan = template_lines(
-        planned({.shape = "Stars", .last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).places);
+        planned_shapes({.shape = "Stars", .last_photo = 10, .gap = 20, .frame = 10, .shadow = 10}).places);
     EXPECT_EQ(plan[0], "25:420:0:570:0:0:-1:0:star.gif");
     EXPECT_EQ(plan[3], "615:1010:0:570:0:0:-1:0:star.gif");
 }
@@ -110,7 +110,7 @@ TEST(shapes_plan, the_top_alignment_lifts_squares_clear_of_the_edge)
 {
     using enum shapes_align;
     const auto first = [](const shapes_request & request) {
-        return std::to_string(planned(request).places.front().top);
+        return std::to_string(planned_shapes(request).places.front().top);
     };
     EXPECT_EQ(first({.last_photo = 10, .gap = 20, .align = top}), "20");
     EXPECT_EQ(first({.last_photo = 10, .gap = 20, .frame = 45, .align = top}), "45");
@@ -123,10 +123,10 @@ TEST(shapes_plan, squares_are_lifted_by_no_more_than_is_to_spare)
 {
     // 3000 down for twenty rows of 146: 80 are left, and the frame is larger.
     const shapes_layout plan =
-        planned({.last_photo = 10, .row_bias = 15, .frame = 95, .align = shapes_align::top});
+        planned_shapes({.last_photo = 10, .row_bias = 15, .frame = 95, .align = shapes_align::top});
     EXPECT_EQ(plan.places.front().top, 95);
-    const shapes_layout full =
-        planned({.last_photo = 10, .row_bias = 95, .gap = 1, .frame = 200, .align = shapes_align::top});
+    const shapes_layout full = planned_shapes(
+        {.last_photo = 10, .row_bias = 95, .gap = 1, .frame = 200, .align = shapes_align::top});
     EXPECT_EQ(full.rows, 100);
     // A hundred rows of 26 and 99 gaps: 301 are left.
     EXPECT_EQ(full.places.front().top, 200);
@@ -134,8 +134,8 @@ TEST(shapes_plan, squares_are_lifted_by_no_more_than_is_to_spare)
 
 TEST(shapes_plan, the_bottom_alignment_leaves_room_for_the_ornaments)
 {
-    const shapes_layout plan =
-        planned({.last_photo = 10, .gap = 20, .frame = 10, .shadow = 10, .align = shapes_align::bottom});
+    const shapes_layout plan = planned_shapes(
+        {.last_photo = 10, .gap = 20, .frame = 10, .shadow = 10, .align = shapes_align::bottom});
     EXPECT_EQ(location_text(plan.places.front()), "70:424:566:566:0:0:-1:0:");
 }
 
@@ -145,21 +145,21 @@ TEST(shapes_plan, on_a_square_poster_masks_start_one_cell_further_right)
     const shapes_request squares{.poster = poster_shape::square, .last_photo = 16};
     shapes_request stars = squares;
     stars.shape = "Stars";
-    EXPECT_EQ(location_text(planned(squares).places.front()), "60:60:470:470:0:0:-1:0:");
-    EXPECT_EQ(location_text(planned(stars).places.front()), "60:530:0:470:0:0:-1:0:star.gif");
+    EXPECT_EQ(location_text(planned_shapes(squares).places.front()), "60:60:470:470:0:0:-1:0:");
+    EXPECT_EQ(location_text(planned_shapes(stars).places.front()), "60:530:0:470:0:0:-1:0:star.gif");
 }
 
 TEST(shapes_plan, a_landscape_poster_is_laid_out_upright)
 {
     shapes_request request{.last_photo = 10, .gap = 20};
-    const lines upright = template_lines(planned(request).places);
+    const lines upright = template_lines(planned_shapes(request).places);
     request.poster = poster_shape::landscape;
-    EXPECT_EQ(template_lines(planned(request).places), upright);
+    EXPECT_EQ(template_lines(planned_shapes(request).places), upright);
 }
 
 TEST(shapes_plan, clicks_add_rows_and_columns)
 {
-    const shapes_layout plan = planned({.last_photo = 10, .row_bias = 2, .column_bias = -1});
+    const shapes_layout plan = planned_shapes({.last_photo = 10, .row_bias = 2, .column_bias = -1});
     EXPECT_EQ(plan.rows, 7);
     EXPECT_EQ(plan.columns, 1);
     EXPECT_EQ(plan.places.size(), 7U);
@@ -167,7 +167,7 @@ TEST(shapes_plan, clicks_add_rows_and_columns)
 
 TEST(shapes_plan, one_row_is_the_least_and_the_bias_stays_in_step)
 {
-    const shapes_layout plan = planned({.last_photo = 10, .row_bias = -5, .column_bias = -2});
+    const shapes_layout plan = planned_shapes({.last_photo = 10, .row_bias = -5, .column_bias = -2});
     EXPECT_EQ(plan.rows, 1);
     EXPECT_EQ(plan.columns, 1);
     EXPECT_EQ(plan.row_bias, -4);
@@ -189,7 +189,8 @@ TEST(shapes_plan, each_shape_has_its_mask)
                                                                    {"Custom shape", "custom_shape.gif"},
                                                                    {"", "heart.gif"}};
     for (const auto & [shape, mask] : masks)
-        EXPECT_EQ(masks_of(planned({.shape = shape, .last_photo = 6})), std::vector<std::string>(6, mask));
+        EXPECT_EQ(masks_of(planned_shapes({.shape = shape, .last_photo = 6})),
+                  std::vector<std::string>(6, mask));
 }
 
 TEST(shapes_plan, leaves_and_pieces_are_drawn_and_neighbours_differ)
@@ -207,7 +208,7 @@ TEST(shapes_plan, leaves_and_pieces_are_drawn_and_neighbours_differ)
 
 TEST(shapes_plan, a_mixed_grid_takes_its_shifts_from_the_table_row_by_row)
 {
-    const lines plain = template_lines(planned({.last_photo = 6}).places);
+    const lines plain = template_lines(planned_shapes({.last_photo = 6}).places);
     // 2 columns of 930: the first row begins at index 9, the second at 0, the third at 4.
     const lines mixed =
         template_lines(shapes_plan({.last_photo = 6, .mix = true}, listed({0.99, 0.0, 0.5})).places);
@@ -233,7 +234,7 @@ TEST(shapes_plan, a_gap_that_would_show_no_cells_leaves_them_a_quarter_of_the_po
     // 24 rows by 16 columns: of 2930 down three quarters are 23 gaps of 95, of 1930 across 15 of 96. What
     // is left is 745 down for 24, 505 across for 16.
     const shapes_layout plan =
-        planned({.shape = "Stars", .last_photo = 84, .row_bias = 12, .column_bias = 9, .gap = 140});
+        planned_shapes({.shape = "Stars", .last_photo = 84, .row_bias = 12, .column_bias = 9, .gap = 140});
     ASSERT_EQ(plan.places.size(), 384U);
     EXPECT_EQ(plan.places[0].width, 31);
     EXPECT_EQ(plan.places[1].left - plan.places[0].left, 31 + 95);
@@ -244,7 +245,7 @@ TEST(shapes_plan, a_gap_is_kept_while_its_cells_show)
 {
     // 13 columns with 12 gaps of 140 have 1930 across: 250 for 13.
     const shapes_layout plan =
-        planned({.shape = "Stars", .last_photo = 84, .row_bias = 6, .column_bias = 6, .gap = 140});
+        planned_shapes({.shape = "Stars", .last_photo = 84, .row_bias = 6, .column_bias = 6, .gap = 140});
     EXPECT_EQ(plan.places[0].width, 19);
     EXPECT_EQ(plan.places[2].left - plan.places[0].left, 2 * (19 + 140));
 }
@@ -270,7 +271,8 @@ TEST(shapes_plan, a_hole_draws_no_leaf)
 
 TEST(shapes_plan, a_negative_gap_lets_shapes_overlap)
 {
-    const lines plan = template_lines(planned({.shape = "Circles", .last_photo = 6, .gap = -100}).places);
+    const lines plan =
+        template_lines(planned_shapes({.shape = "Circles", .last_photo = 6, .gap = -100}).places);
     // 2030 across for two, 1015 each; 1930 wide, so they begin at 35.
     EXPECT_EQ(fields_of_line(plan[0])[3], "1015");
     EXPECT_EQ(fields_of_line(plan[0])[1], "35");

@@ -176,7 +176,7 @@ void expect_way_back_and_forth(walker & walk, const expected_path & path)
 }
 
 // The picture, and what a full-size run would draw.
-std::vector<std::string> outcome(const undo_session & session)
+std::vector<std::string> what_is_seen(const undo_session & session)
 {
     std::vector<std::string> texts = session.written();
     texts.push_back(read_file(finished_path(session.main)));
@@ -215,7 +215,7 @@ TEST_P(random_walks, go_on_from_where_they_lead_back_to_as_if_nothing_had_come_a
         each->trail.clear();
     }
     for (int step = 0; step < 4; ++step) {
-        EXPECT_TRUE(outcome(back.session) == outcome(fresh.session)) << back.trail;
+        EXPECT_TRUE(what_is_seen(back.session) == what_is_seen(fresh.session)) << back.trail;
         back.change();
         fresh.change();
     }
