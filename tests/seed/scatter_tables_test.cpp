@@ -125,12 +125,41 @@ bool in_middle(const cell & one, spot at)
     return std::abs(across - 0.5) < 1.0 / 6 && std::abs(down - 0.5) < 1.0 / 6;
 }
 
+using quadrangle = std::array<spot, 4>;
+
+/// The corners of the part of a cell between those shares of its sides, in the order of reading.
+quadrangle corners(const cell & one, double from = 0, double to = 1)
+{
+    const auto at = [&](double across, double down) {
+        return placed(one, across * one.width, down * one.height);
+    };
+    return {at(from, from), at(to, from), at(from, to), at(to, to)};
+}
+
+/// True unless a line along a side of the first one has them on either side of it.
+bool overlap_along_sides(const quadrangle & one, const quadrangle & other)
+{
+    for (const std::size_t neighbour : {std::size_t{1}, std::size_t{2}}) {
+        const spot side{one[neighbour].x - one[0].x, one[neighbour].y - one[0].y};
+        const auto along = [&](const spot & at) { return at.x * side.x + at.y * side.y; };
+        const auto [least, most] = std::ranges::minmax(one, {}, along);
+        const auto [others_least, others_most] = std::ranges::minmax(other, {}, along);
+        if (along(most) <= along(others_least) || along(others_most) <= along(least))
+            return false;
+    }
+    return true;
+}
+
+bool overlap(const quadrangle & one, const quadrangle & other)
+{
+    return overlap_along_sides(one, other) && overlap_along_sides(other, one);
+}
+
 /// How far the cell hangs over the poster where it hangs over most.
 double overhang(const cell & one, int height)
 {
     double most = 0;
-    for (const spot at : {placed(one, 0, 0), placed(one, one.width, 0), placed(one, 0, one.height),
-                          placed(one, one.width, one.height)})
+    for (const spot & at : corners(one))
         most = std::max({most, -at.x, -at.y, at.x - 2000, at.y - height});
     return most;
 }
@@ -157,10 +186,8 @@ void lay(const cell & one, int height, covering & points, look & found)
     const int which = static_cast<int>(found.inside.size());
     found.inside.push_back(0);
     found.middle.push_back(0);
-    const std::array corners{placed(one, 0, 0), placed(one, one.width, 0), placed(one, 0, one.height),
-                             placed(one, one.width, one.height)};
-    const auto [left, right] = std::ranges::minmax(corners, {}, &spot::x);
-    const auto [top, bottom] = std::ranges::minmax(corners, {}, &spot::y);
+    const auto [left, right] = std::ranges::minmax(corners(one), {}, &spot::x);
+    const auto [top, bottom] = std::ranges::minmax(corners(one), {}, &spot::y);
     const auto first = [](double from) { return std::max(0, static_cast<int>(from / step)); };
     for (int row = first(top.y); row < std::min(height / step, first(bottom.y) + 1); ++row)
         for (int column = first(left.x); column < std::min(2000 / step, first(right.x) + 1); ++column) {
@@ -299,13 +326,13 @@ TEST(scatter_tables, hide_no_photo_by_more_than_two_fifths)
     }
 }
 
-TEST(scatter_tables, keep_the_middle_of_each_photo_in_sight)
+TEST(scatter_tables, never_have_a_photo_over_the_middle_third_of_another)
 {
-    for (const scatter & one : all_scatters()) {
-        const look found = looked_at(one);
-        for (std::size_t i = 0; i < one.cells.size(); ++i)
-            EXPECT_GE(found.middle_shown[i], found.middle[i] * 0.85) << one.name << " " << i + 1;
-    }
+    for (const scatter & one : all_scatters())
+        for (std::size_t below = 0; below < one.cells.size(); ++below)
+            for (std::size_t above = below + 1; above < one.cells.size(); ++above)
+                EXPECT_FALSE(overlap(corners(one.cells[below], 1.0 / 3, 2.0 / 3), corners(one.cells[above])))
+                    << one.name << " " << above + 1 << " over " << below + 1;
 }
 
 TEST(scatter_tables, hide_no_photo_by_much_when_all_of_a_kind_are_turned)
@@ -318,7 +345,7 @@ TEST(scatter_tables, hide_no_photo_by_much_when_all_of_a_kind_are_turned)
             const look found = looked_at(all_turned);
             for (std::size_t i = 0; i < one.cells.size(); ++i) {
                 EXPECT_GE(found.shown[i], found.inside[i] * 0.55) << one.name << " " << i + 1;
-                EXPECT_GE(found.middle_shown[i], found.middle[i] * 0.65) << one.name << " " << i + 1;
+                EXPECT_GE(found.middle_shown[i], found.middle[i] * 0.79) << one.name << " " << i + 1;
             }
             EXPECT_LT(found.bare, found.points * (one.total <= few ? 25 : 16) / 100) << one.name;
         }

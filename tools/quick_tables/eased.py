@@ -78,7 +78,7 @@ class Easing:
 
     def lying(self, photo, key):
         span, turned = self.raster.span, photo.turned()
-        outline, middle = span(photo), span(photo.middle())
+        outline, middle = span(photo), span(self.middle(photo))
         nearer = [(outline, middle)]
         if self.height > WIDTH:
             standing = photo_of(self.moved_nearer(photo.place()))
@@ -86,6 +86,9 @@ class Easing:
         turned = photo_of(turned)
         spans, middles = zip(*nearer, (span(turned), span(turned.middle())))
         return Lying(photo, key, outline, middle, spans, middles, outline | spans[0] | spans[1], *self.strains(photo, key))
+
+    def middle(self, photo):
+        return photo.middle()
 
     def moved_nearer(self, place):
         return replace(place, left=WIDTH / 2 * (1 - self.nearer) + place.left * self.nearer)
@@ -114,8 +117,12 @@ class Easing:
         points, middle_points = own.span.bit_count() or 1, own.middle.bit_count() or 1
         hidden, middle = (own.span & covered).bit_count() / points, (own.middle & covered).bit_count() / middle_points
         turned = [self.hidden_when_turned(own, above, tall) for tall in (True, False)]
-        return points * (400 * (over(hidden, ALLOWED) + over(max(share for share, _ in turned), ALLOWED_TURNED))
-                         + MIDDLE * (over(middle, ALLOWED_MIDDLE) + over(max(share for _, share in turned), ALLOWED_MIDDLE_TURNED)))
+        return points * self.harm(hidden, middle, *map(max, zip(*turned)))
+
+    def harm(self, hidden, middle, hidden_turned, middle_turned):
+        """Of the shares of a photo and of its middle that are hidden as it stands, and of the worst number of turns."""
+        return (400 * (over(hidden, ALLOWED) + over(hidden_turned, ALLOWED_TURNED))
+                + MIDDLE * (over(middle, ALLOWED_MIDDLE) + over(middle_turned, ALLOWED_MIDDLE_TURNED)))
 
     def hidden_when_turned(self, own, above, tall):
         """The greatest shares of a photo and of its middle that are hidden, of all numbers of tall or of wide photos that

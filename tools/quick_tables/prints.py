@@ -122,3 +122,13 @@ def leaves(new, old, height):
     """True for a step beyond the rim; whoever stands there may come back."""
     hang = overhang(new.corners(), height)
     return hang > 0 and hang >= overhang(old.corners(), height)
+
+
+def overlap(one, other):
+    """By how many pixels two photos would have to part so as not to overlap; 0 and less where they don't."""
+    least = math.inf
+    for tilt in (one.tilt, other.tilt):
+        for angle in (math.radians(tilt), math.radians(tilt + 90)):
+            spans = [[x * math.cos(angle) + y * math.sin(angle) for x, y in photo.corners()] for photo in (one, other)]
+            least = min(least, *(max(spans[at]) - min(spans[1 - at]) for at in (0, 1)))
+    return least

@@ -4,23 +4,27 @@ Each throw spreads photos over a coarse raster, whose points are the bits of who
 some throws from fixed seeds is taken. All sizes in pixels of the upright poster; a photo turns about its own top-left corner.
 """
 import concurrent.futures
+import itertools
 import math
 import random
-from dataclasses import dataclass, replace
+import sys
+from dataclasses import replace
 
+from quick_tables.cleared import cleared, rank
 from quick_tables.eased import LARGE, SIZED, Easing
+from quick_tables.judged import FEW, Scatter, judged
 from quick_tables.limits import scatter_totals
-from quick_tables.measures import CLOSELY, Measured, Turning, as_it_stands_and_turned
-from quick_tables.prints import HANG, WIDTH, Photo, Raster, leaves, photo_of
+from quick_tables.prints import HANG, WIDTH, Photo, Raster, leaves
 
 MOST_PRODUCT = 32767  # of a side and the tilt
 HEAPS = (1.3, 1.24, 1.27, 1.2)  # areas of all photos to that of the poster: those that are tried in turn
-FEW = 4               # photos up to which a poster is hardly covered without bare corners
 FEW_HEAPS = (1.36, 1.28, 1.44, 1.22)  # the same for so few
 LOOSE = 5             # photos up to which a lattice is no good beginning
 STEEPEST = (35, 25, 15)  # degrees: those that are tried in turn up to LARGE photos, since steep ones leave corners bare
 # From so many photos on: how many throws at most, and the flaws that end the search.
 ATTEMPTS = {61: (3, 0.15), 41: (4, 0.12), 25: (10, 0.1), 6: (36, 0.1), 3: (60, 0.125)}
+CLEARED = 6           # throws at most that are cleared, the best of them
+FURTHER = 6           # throws at most that are made and cleared where none of those can be
 EASED = ((12, 120, 0.4), (19, 80, 0.1))  # points along a photo, steps for each photo, the longest in photos
 
 
@@ -119,69 +123,38 @@ class Throw:
         return photos
 
 
-@dataclass
-class Scatter:
-    name: str
-    height: int
-    places: list
-    stands: Measured
-    turned: Measured
-    bordered: float
-    furthest: float
-    crowded_first: int
-    bare_corner: float
-
-    def tall(self):
-        return sum(place.height > place.width for place in self.places)
-
-    def flaws(self):
-        """How far it is from what a scatter should be: 0 is all one can wish for."""
-        few = len(self.places) <= SIZED
-        return 10 * over(self.stands.hidden, 0.36) + 10 * over(self.turned.hidden, 0.4) + 5 * over(self.stands.middle, 0.06) + \
-            3 * over(self.turned.middle, 0.16) + 20 * over(self.stands.bare, 0.1 if len(self.places) == 3 else 0.04) + \
-            5 * over(self.turned.bare, 0.1) + over(self.stands.hole / 2000, 0.07) + over(self.turned.hole / 2000, 0.14 if few else 0.1) + \
-            over(self.furthest, 540 if len(self.places) < 12 else 330) / 100 + self.crowded_first + 3 * over(self.bare_corner, 0.45) + 0.3 * over(self.bordered, 0.6 if len(self.places) <= LARGE else 0.25)
-
-    def entry(self):
-        return f"{len(self.places):02}:{self.tall():02}:{len(self.places) - self.tall():02}:{self.name}"
-
-    def lines(self):
-        return [f"[{self.name}]"] + [
-            f"{index + 1}:{place.top}:{place.left}:{place.height}:{place.width}:{place.rotation}"
-            for index, place in enumerate(self.places)]
-
-
-def over(value, limit):
-    return max(0, value - limit)
-
-
-def bare_corner(places, height):
-    """The share that stays bare of the corner that is covered least."""
-    raster, covered = Raster(height, CLOSELY), 0
-    for place in places:
-        covered |= raster.span(photo_of(place))
-    return max((corner & ~covered).bit_count() / corner.bit_count() for corner in raster.each_corner)
-
-
 def thrown(total, height, name):
-    """The best of some throws; the first that is good enough ends the search."""
-    found, (most, good) = [], next(limits for least, limits in ATTEMPTS.items() if total >= least)
-    for attempt in range(most):
+    """Throws without end."""
+    for attempt in itertools.count():
         throw = Throw(total, height, attempt, random.Random(f"{name} {attempt}"))
         throw.spread(100 + 5 * total)
-        places = [photo.place() for photo in throw.eased()]
-        turning = Turning(places, height)
-        found.append(Scatter(name, height, places, *as_it_stands_and_turned(turning), *turning.off_the_poster(), bare_corner(places, height)))
-        if found[-1].flaws() < good:
+        yield judged(name, height, [photo.place() for photo in throw.eased()])
+
+
+def best_thrown(throws, total):
+    """Some throws, the best first; one that is good enough ends the search."""
+    found, (most, good) = [], next(limits for least, limits in ATTEMPTS.items() if total >= least)
+    while len(found) < most and (not found or found[-1].flaws() >= good):
+        found.append(next(throws))
+    return sorted(found, key=Scatter.flaws)
+
+
+def scatter(total, height, name):
+    """The best throw that can be cleared; more are thrown if none can."""
+    throws, found = thrown(total, height, name), []
+    for throw in itertools.chain(best_thrown(throws, total)[:CLEARED], itertools.islice(throws, FURTHER)):
+        found.append(cleared(throw))
+        if found[-1].is_clear():
             break
-    return min(found, key=Scatter.flaws)
+    print(name, file=sys.stderr)
+    return min(found, key=rank)
 
 
 def all_scatters():
     totals = scatter_totals()
     with concurrent.futures.ProcessPoolExecutor() as pool:
-        tall = pool.map(thrown, totals, [3000] * len(totals), [f"scatter{total:02}" for total in totals])
-        square = pool.map(thrown, totals, [2000] * len(totals), [f"square{total:02}" for total in totals])
+        tall = pool.map(scatter, totals, [3000] * len(totals), [f"scatter{total:02}" for total in totals])
+        square = pool.map(scatter, totals, [2000] * len(totals), [f"square{total:02}" for total in totals])
         return list(tall), list(square)
 
 
