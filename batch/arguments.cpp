@@ -281,14 +281,22 @@ void check_what_is_made(const batch_arguments & read)
 
 std::string columns_of_a_job_list()
 {
-    std::string names;
+    std::vector<std::string> names;
     for (const auto & [name, each] : options())
         if (each.at == option::home::anywhere)
-            names += (names.empty() ? "" : ", ") + name.substr(2);
-    return names;
+            names.push_back(name.substr(2));
+    return in_a_row(names);
 }
 
 }  // namespace
+
+std::string in_a_row(const std::vector<std::string> & texts)
+{
+    std::string row;
+    for (const std::string & text : texts)
+        row += (row.empty() ? "" : ", ") + text;
+    return row;
+}
 
 batch_arguments parse_arguments(const std::vector<std::string> & given)
 {

@@ -70,6 +70,9 @@ void bring_photos(frmMain & main, const batch_arguments & arguments)
 
 bool start_quick_style(frmMain & main, const batch_arguments & arguments)
 {
+    if (!arguments.frames.empty())
+        std::fprintf(stderr, "A quick style wears no custom frames; it is made without \"%s\".\n",
+                     arguments.frames.c_str());
     {
         const updating guard(main);  // one picture at the end instead of one a setting
         if (!begin_quick(main, [&] { bring_photos(main, arguments); }))
@@ -242,6 +245,7 @@ exit_status make(open_session & running, const batch_arguments & arguments)
 void check_against(frmMain & main, const batch_arguments & arguments)
 {
     check_settings(main, arguments);
+    check_frames(main, arguments);
     if (!arguments.recipe.empty())
         check_recipe_file(main, arguments);
     else if (arguments.quick.empty())

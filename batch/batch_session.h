@@ -5,7 +5,7 @@
 /// Exit statuses of the batch program.
 enum class exit_status { made = 0, not_made = 1, bad_arguments = 2 };
 
-/// Throws bad_arguments for a design, a control or a value that doesn't exist.
+/// Throws bad_arguments for a design, a set of frames, a control or a value that doesn't exist.
 void check_against(frmMain & main, const batch_arguments & arguments);
 
 /// Makes one collage in a session that has just been opened, or prints its controls. Throws and raises as

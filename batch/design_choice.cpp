@@ -9,6 +9,7 @@
 #include "support/files/paths.h"
 #include "support/platform_error.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -43,6 +44,22 @@ bool wears_frames(const frmMain & main)
     return main.design_record.design == "Frame";
 }
 
+std::vector<std::string> frame_sets(const frmMain & main)
+{
+    const std::string place = joined(main.data_folder, "frames");
+    std::vector<std::string> sets;
+    for (const std::string & name : folder_exists(place) ? folders_in(place) : sets)
+        if (file_exists(joined(frame_set_folder(main, name), "design.ini")))
+            sets.push_back(name);
+    std::ranges::sort(sets);
+    return sets;
+}
+
+std::string sets_there_are(const std::vector<std::string> & sets)
+{
+    return sets.empty() ? "there are none" : "there are " + in_a_row(sets);
+}
+
 // What the set or the design lacks has been told by a message.
 void wear_frame_set(frmMain & main, const std::string & set)
 {
@@ -73,6 +90,14 @@ void print_designs(frmMain & main)
     close_catalogue(main);
 }
 
+void check_frames(const frmMain & main, const batch_arguments & arguments)
+{
+    const std::vector<std::string> sets = frame_sets(main);
+    if (!arguments.frames.empty() && std::ranges::find(sets, arguments.frames) == sets.end())
+        throw bad_arguments{"there is no set of frames named \"" + arguments.frames + "\"; " +
+                            sets_there_are(sets)};
+}
+
 void check_design(frmMain & main, const batch_arguments & arguments)
 {
     const found_design found = find_shown_design(main, arguments.design);
@@ -88,9 +113,9 @@ void check_design(frmMain & main, const batch_arguments & arguments)
             "\"" + main.design_record.name +
             "\" is a name that the program keeps for itself: its layout is written by a quick "
             "style or a designer of the window; --list shows the designs"};
-    if (wears_frames(main) && (arguments.frames.empty() ||
-                               !file_exists(joined(frame_set_folder(main, arguments.frames), "design.ini"))))
-        throw bad_arguments{"\"" + arguments.design + "\" wears custom frames: --frames names a set"};
+    if (wears_frames(main) && arguments.frames.empty())
+        throw bad_arguments{"\"" + arguments.design + "\" wears custom frames: --frames names a set; " +
+                            sets_there_are(frame_sets(main))};
     if (!keep_template(main))
         throw platform_error(error_number::permission_denied,
                              "Another program is changing this design: try again.", arguments.design);

@@ -9,6 +9,9 @@
 /// itself, for the quick styles and the special designers, are left out.
 void print_designs(frmMain & main);
 
+/// Throws bad_arguments for a set of custom frames that doesn't exist.
+void check_frames(const frmMain & main, const batch_arguments & arguments);
+
 /// Throws bad_arguments for a design that doesn't exist, for one of the session's own and for one that wears
 /// custom frames when no set of them is named.
 void check_design(frmMain & main, const batch_arguments & arguments);

@@ -27,13 +27,14 @@ std::string text_of_list(const std::string & path)
     return text;
 }
 
-// One session finds what is wrong in any line before the first job is begun.
+// One session finds what is wrong in any line before the first job is begun. A file that can't be read is
+// told with its job: the job may be done already, and the others don't need that file.
 void check_jobs(const std::vector<batch_job> & jobs, const batch_arguments & common,
                 const batch_folders & folders)
 {
     open_session looking(common, folders);
     for (const batch_job & job : jobs)
-        told_with_line(job, [&] { check_against(looking.all.main, job.arguments); });
+        tried([&] { told_with_line(job, [&] { check_against(looking.all.main, job.arguments); }); });
 }
 
 // A collage is put in its place whole and in one step, so one that is there was finished.

@@ -82,7 +82,8 @@ exit_status with_output_told(exit_status status)
 int main(int count, char ** words)
 {
     hold_standard_streams();
-    remove_scratch_folders_on_signals();
+    take_home_of_user();
+    clear_away_on_signals();
     // What the toolkit has to say of its surroundings is of no use here: standard error holds the session's
     // messages.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});

@@ -36,14 +36,6 @@ bool takes_numbers(const combo_box & list)
     return std::ranges::all_of(list.items(), is_number);
 }
 
-std::string in_a_row(const std::vector<std::string> & texts)
-{
-    std::string row;
-    for (const std::string & text : texts)
-        row += (row.empty() ? "" : ", ") + text;
-    return row;
-}
-
 // What the control takes, in words; empty for one that takes any text.
 struct choice {
     bool taken = true;
@@ -75,19 +67,20 @@ choice of_control(const control & found, const std::string & value)
     return {};
 }
 
-bool can_be_set(const control * found)
+// To cancel is to end the collage, and it is to be made.
+bool can_be_set(const frmMain & main, const control * found)
 {
     const bool holds_nothing = dynamic_cast<const group *>(found) != nullptr ||
                                dynamic_cast<const label *>(found) != nullptr ||
                                dynamic_cast<const menu_entry *>(found) != nullptr;
-    return found != nullptr && !holds_nothing;
+    return found != nullptr && found != &main.cmdCancel && !holds_nothing;
 }
 
 std::string names_to_choose_from(const frmMain & main)
 {
     std::vector<std::string> names;
     for (const control * each : main.controls())
-        if (can_be_set(each))
+        if (can_be_set(main, each))
             names.push_back(each->name());
     return in_a_row(names);
 }
@@ -95,7 +88,7 @@ std::string names_to_choose_from(const frmMain & main)
 void check_setting(const frmMain & main, const std::string & name, const std::string & value)
 {
     const control * const found = main.find(name);
-    if (!can_be_set(found))
+    if (!can_be_set(main, found))
         throw bad_arguments{(found == nullptr ? "there is no control named \"" + name + "\""
                                               : "\"" + name + "\" is no control that can be set") +
                             "; there are " + names_to_choose_from(main)};

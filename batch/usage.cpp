@@ -22,8 +22,8 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
   --out FILE                      where the poster goes, a name ending in .jpg, .jpeg, .png, .tif, .tiff or .pdf, which
                                   tells the kind; a file that is there is replaced, a link is written through; - is
                                   standard output, as JPEG
-  --intake                        prepares photos that need it first, as tessaloom-intake does: those on their side, HEIC,
-                                  PNG and other formats, wide colours; copies are kept in the data folder
+  --intake                        prepares photos that need it first, as tessaloom-intake does: those on their side,
+                                  HEIC, PNG and other formats, wide colours; copies are kept in the data folder
   --orientation portrait|landscape|square
                                   shape of the poster; without it the one the design was drawn for, and
                                   portrait for a quick style
@@ -34,8 +34,8 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
                                   in each direction: 2000 by 3000 becomes 6000 by 9000 with 3
   --smooth                        draws with twice as many pixels in each direction and brings them down: letters,
                                   shapes, corners and tilted edges without stairs
-  --dpi N                         pixels an inch, 1 to 2400, that the file tells printers; without it as many as make the
-                                  poster 30 inches long, a square 20, and 300 with --scale
+  --dpi N                         pixels an inch, 1 to 2400, that the file tells printers; without it as many as make
+                                  the poster 30 inches long, a square 20, and 300 with --scale
   --page A5|A4|A3|A2|Letter|Legal|Tabloid|WxH
                                   page of a PDF, 30x45 in centimetres, 12x18in in inches; it lies as the poster does,
                                   which is fitted whole. Without it the page is as large as the poster
@@ -52,8 +52,9 @@ constexpr const char * options_told = R"(tessaloom-batch: makes a collage withou
 
   --jobs FILE                     works off a job list: tab-separated, a header line that names the columns (out,
                                   photos, design, quick, recipe, frames, orientation, set, caption, size, scale, dpi,
-                                  page, around, bleed, random, answer; photos and set may stand there more than once), a job a line; - is standard
-                                  input. Options given beside it hold for all jobs. A job whose out is there is done
+                                  page, around, bleed, random, answer; photos and set may stand there more
+                                  than once), a job a line; - is standard input. Options given beside it hold for all
+                                  jobs. A job whose out is there is done
   --again                         makes those jobs too
 
   --list                          prints the designs: section, name, family, count, tab-separated

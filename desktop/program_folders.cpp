@@ -8,6 +8,9 @@
 #include <QOperatingSystemVersion>
 #include <QStandardPaths>
 
+#include <pwd.h>
+#include <unistd.h>
+
 namespace {
 
 constexpr int nt_platform = 2;
@@ -28,6 +31,15 @@ QString data_home()
 }
 
 }  // namespace
+
+void take_home_of_user()
+{
+    if (QDir::isAbsolutePath(qEnvironmentVariable("HOME")))
+        return;
+    const passwd * const user = ::getpwuid(::geteuid());
+    if (user != nullptr && user->pw_dir != nullptr)
+        qputenv("HOME", user->pw_dir);
+}
 
 std::string program_folder()
 {

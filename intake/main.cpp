@@ -114,6 +114,7 @@ int complain(int status, const std::string & text)
 
 int main(int count, char ** words)
 {
+    take_home_of_user();
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         std::signal(signal, [](int) { interrupted = 1; });
     const windowless_application application(words);

@@ -83,6 +83,8 @@ void clear_shelf(const std::string & folder, const std::string & newest)
 // No more of a file is read than may be a recipe.
 std::string text_of_recipe(const std::string & file)
 {
+    if (folder_exists(file))
+        throw recipe_fault{"It is a folder, not a flurn."};
     if (!file_exists(file))
         throw platform_error(error_number::file_not_found, "There is no such file.", file);
     std::error_code failed;

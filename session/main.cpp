@@ -134,6 +134,7 @@ int run(qt_desktop & desk, const std::string & flurn)
 
 int main(int count, char ** words)
 {
+    take_home_of_user();
     // A flurn's file is all that the program reads of its command line; the toolkit reads none of it.
     const std::string flurn = count > 1 ? absolute_path(words[1]) : "";
     int only_the_name = 1;

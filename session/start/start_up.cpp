@@ -152,13 +152,19 @@ bool is_filled(const frmMain & main)
            std::ranges::none_of(folders_of_packages, lacks);
 }
 
-// Each preview goes through a file of this folder. Nothing is in the file: a disk may be full and a window be
-// of use.
+// Each preview goes through a file of this folder. Nothing is in the file that is tried: a disk may be full
+// and a window be of use. The folder is what a user knows.
 void expect_place_to_write(const frmMain & main)
 {
-    const std::string path = in_data(main, "tmp/may_be_written");
-    write_file(path, "");
-    delete_file(path);
+    const std::string folder = in_data(main, "tmp");
+    const std::string tried_file = joined(folder, "may_be_written");
+    try {
+        write_file(tried_file, "");
+        delete_file(tried_file);
+    } catch (platform_error & error) {
+        error.path = folder;
+        throw;
+    }
 }
 
 void delete_supplied_frames(frmMain & main)

@@ -1,6 +1,7 @@
 #include "support/files/scratch_folder.h"
 
 #include "support/files/paths.h"
+#include "support/files/text_file.h"
 #include "support/platform_error.h"
 
 #include <cerrno>
@@ -113,7 +114,7 @@ void remove_scratch_folders()
         remove_quietly(folder);
 }
 
-void remove_scratch_folders_on_signals()
+void clear_away_on_signals()
 {
     sigset_t ending;
     sigemptyset(&ending);
@@ -124,6 +125,7 @@ void remove_scratch_folders_on_signals()
         int number = 0;
         ::sigwait(&ending, &number);
         remove_scratch_folders();
+        remove_unfinished_files();
         ::signal(number, SIG_DFL);
         ::pthread_sigmask(SIG_UNBLOCK, &ending, nullptr);
         ::raise(number);

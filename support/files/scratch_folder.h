@@ -27,9 +27,9 @@ private:
 /// any thread, while another is still writing there.
 void remove_scratch_folders();
 
-/// Has SIGINT, SIGTERM and SIGHUP remove the scratch folders before they end the program, as they would
-/// without. Called once, before the program has other threads.
-void remove_scratch_folders_on_signals();
+/// Has SIGINT, SIGTERM and SIGHUP remove the scratch folders, and what was being written elsewhere, before
+/// they end the program, as they would without. Called once, before the program has other threads.
+void clear_away_on_signals();
 
 /// The place for the scratch folders of this user: below TMPDIR, else /tmp.
 std::string scratch_place();

@@ -12,7 +12,9 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -175,6 +177,38 @@ void write_whole(const std::string & path, std::string_view bytes, durability wa
     file.close();
 }
 
+// Never destroyed: a signal may come while the program is at its end.
+struct unfinished_list {
+    std::mutex guard;
+    std::set<std::string> paths;
+};
+
+unfinished_list & unfinished()
+{
+    static unfinished_list & listed = *new unfinished_list;
+    return listed;
+}
+
+// A file that is under construction while this lives.
+class unfinished_file {
+public:
+    explicit unfinished_file(const std::string & path) : name(path)
+    {
+        const std::lock_guard held(unfinished().guard);
+        unfinished().paths.insert(name);
+    }
+    unfinished_file(const unfinished_file &) = delete;
+    unfinished_file & operator=(const unfinished_file &) = delete;
+    ~unfinished_file()
+    {
+        const std::lock_guard held(unfinished().guard);
+        unfinished().paths.erase(name);
+    }
+
+private:
+    const std::string & name;
+};
+
 void rename_over(const std::string & from, const std::string & to)
 {
     pass_gate(file_step::rename, to);
@@ -186,6 +220,7 @@ void swap_in(const std::string & path, std::string_view bytes, durability wanted
 {
     const std::optional<mode_t> rights = rights_of(path);
     const std::string beside = path_beside(path);
+    const unfinished_file under_construction(beside);
     try {
         write_whole(beside, bytes, wanted, rights);
         rename_over(beside, path);
@@ -296,6 +331,14 @@ void remove_abandoned_parts(const std::string & folder)
     for (const auto & entry : std::filesystem::directory_iterator(folder, failed))
         if (is_part_of_ours(entry.path().filename().string()) && is_abandoned(entry))
             std::remove(entry.path().c_str());
+}
+
+void remove_unfinished_files()
+{
+    unfinished().guard.lock();
+    for (const std::string & path : unfinished().paths)
+        if (asked_gate(file_step::remove, path) == 0)
+            std::remove(path.c_str());
 }
 
 void flush_below(const std::string & folder)

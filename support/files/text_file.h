@@ -62,6 +62,10 @@ inline constexpr std::string_view part_ending = ".part";
 /// Raises nothing: what can't be removed stays.
 void remove_abandoned_parts(const std::string & folder);
 
+/// Removes what this program has under construction, for a program that ends right behind it: from then on no
+/// thread of it begins or ends another file.
+void remove_unfinished_files();
+
 /// Puts `bytes` at `path` in one step: written beside it, flushed to the disk and renamed over it, so that a
 /// crash at any instant leaves the old or the new file, whole. The rights of the old file are kept. Raises
 /// 61, 70 (for a write-protected file too), 75, 76; the old file then stands as it was and nothing is left

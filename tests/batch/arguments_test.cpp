@@ -1,6 +1,7 @@
 #include "batch/arguments.h"
 
 #include "batch/usage.h"
+#include "support/files/text_file.h"
 
 #include <gtest/gtest.h>
 
@@ -152,4 +153,6 @@ TEST(batch_arguments, the_usage_names_every_option)
           "--size",   "--random", "--data",   "--preview", "--answer",      "--out",      "--threads",
           "--keep",   "--jobs",   "--again",  "--list",    "--dump",        "-h, --help", "--version"})
         EXPECT_NE(usage().find(option), std::string::npos) << option;
+    for (const std::string & line : lines_of_text(usage()))
+        EXPECT_LE(line.size(), 120) << line;
 }

@@ -1,6 +1,7 @@
 #include "tests/batch/batch_program.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace {
 
@@ -28,10 +29,9 @@ TEST_F(design_choice, the_session_s_own_entries_are_neither_listed_nor_made)
 
 TEST_F(design_choice, a_design_of_frames_asks_for_a_set_that_is_there)
 {
-    const std::string fault = "\"Framed wall\" wears custom frames: --frames names a set";
-    EXPECT_EQ(refusal({"--photos", photos(), "--design", "Framed wall", "--out", out()}), fault);
-    EXPECT_EQ(refusal({"--photos", photos(), "--design", "Framed wall", "--frames", "nix", "--out", out()}),
-              fault);
+    EXPECT_EQ(refusal({"--photos", photos(), "--design", "Framed wall", "--out", out()}),
+              "\"Framed wall\" wears custom frames: --frames names a set; there are basketball, cardinals, "
+              "colts, rams, soccer");
     EXPECT_EQ(run({"--photos", photos(), "--design", "Framed wall", "--frames", "soccer", "--preview",
                    "--out", out()}),
               exit_status::made);
@@ -63,8 +63,32 @@ TEST_F(design_choice, one_of_several_designs_of_a_name_is_asked_for_by_its_secti
     EXPECT_FALSE(read_file(out()) == first);
 }
 
-TEST_F(design_choice, a_set_that_a_design_doesn_t_wear_is_noted)
+TEST_F(design_choice, a_set_that_isn_t_there_is_told_whatever_is_made)
 {
+    const std::vector<std::pair<std::string, std::string>> made{
+        {"--design", "Framed wall"}, {"--design", "Mosaic wall"}, {"--quick", "block"}};
+    for (const char * set : {"nix", "..", "../frames/soccer"})
+        for (const auto & [option, value] : made)
+            EXPECT_EQ(refusal({"--photos", photos(), option, value, "--frames", set, "--out", out()}),
+                      "there is no set of frames named \"" + std::string(set) +
+                          "\"; there are basketball, cardinals, colts, rams, soccer");
+    EXPECT_FALSE(file_exists(out()));
+}
+
+TEST_F(design_choice, where_there_are_no_sets_it_is_told)
+{
+    use_data_of_its_own();
+    std::filesystem::remove_all(joined(folders.data.public_folder, "frames"));
+    EXPECT_EQ(refusal({"--photos", photos(), "--quick", "block", "--frames", "soccer", "--out", out()}),
+              "there is no set of frames named \"soccer\"; there are none");
+}
+
+TEST_F(design_choice, a_set_that_a_design_or_a_style_doesn_t_wear_is_noted)
+{
+    EXPECT_NE(
+        noted({"--photos", photos(), "--quick", "block", "--frames", "soccer", "--preview", "--out", out()})
+            .find("A quick style wears no custom frames; it is made without \"soccer\".\n"),
+        std::string::npos);
     EXPECT_NE(noted({"--photos", photos(), "--design", "Mosaic wall", "--frames", "soccer", "--preview",
                      "--out", out()})
                   .find("Mosaic wall wears no custom frames; it is made without \"soccer\".\n"),

@@ -73,6 +73,18 @@ TEST_F(job_run, the_rest_goes_on_after_one_that_fails)
     EXPECT_TRUE(file_exists(out("d.jpg")));
 }
 
+TEST_F(job_run, a_recipe_that_is_gone_costs_its_own_job_only_and_none_that_is_done)
+{
+    const std::string gone = place.at("gone.flurn");
+    list("out\tphotos\tdesign\trecipe\n" + line("a.jpg", "\t\t" + gone) + line("b.jpg", "\t\t" + gone) +
+         line("c.jpg", photos() + "\tThree of us"));
+    write_file(out("a.jpg"), "made before");
+    EXPECT_EQ(told_of_jobs(exit_status::not_made),
+              "line 2: " + out("a.jpg") + " is there\nThere is no such file. " + gone +
+                  "\nline 3: " + out("b.jpg") + " NOT made\nline 4: " + out("c.jpg") +
+                  " made\n1 made, 1 there before, 1 not made\n");
+}
+
 TEST_F(job_run, a_bad_line_is_named_before_any_job_is_begun)
 {
     struct row {

@@ -47,13 +47,13 @@ TEST_F(settings, a_wrong_entry_is_refused_with_what_there_is_to_choose)
 
 TEST_F(settings, an_unknown_control_is_refused_with_those_that_can_be_set)
 {
-    for (const char * name : {"chkNone", "lblRows", "frmShake", "mnuFile"}) {
+    for (const char * name : {"chkNone", "lblRows", "frmShake", "mnuFile", "cmdCancel"}) {
         const std::string fault = refusal_of(std::string(name) + "=1");
         EXPECT_NE(fault.find("\"" + std::string(name) + "\""), std::string::npos) << fault;
         for (const char * control :
              {" chkMatch,", " cmbShapes,", " optLandscape,", " txtCaption,", " picBGcolor,"})
             EXPECT_NE(fault.find(control), std::string::npos) << control;
-        for (const char * fixed : {" lblFrame,", " frmBlend,", " mnuQuit,"})
+        for (const char * fixed : {" lblFrame,", " frmBlend,", " mnuQuit,", " cmdCancel,"})
             EXPECT_EQ(fault.find(fixed), std::string::npos) << fixed;
     }
 }

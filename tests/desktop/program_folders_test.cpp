@@ -7,6 +7,8 @@
 #include <QByteArray>
 
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 namespace {
 
@@ -28,6 +30,18 @@ TEST(data_folder_choice, lies_under_the_data_home_though_the_program_folder_can_
     const folder_choice choice = data_folder_choice();
     EXPECT_TRUE(choice.use_public_folder);
     EXPECT_EQ(choice.public_folder, joined(home.path(), "tessaloom4"));
+}
+
+TEST(take_home_of_user, asks_the_system_where_the_environment_names_none)
+{
+    for (const char * value : {"", "home", "."}) {
+        const auto variable = changed_variable("HOME", value);
+        take_home_of_user();
+        EXPECT_EQ(qgetenv("HOME"), QByteArray(::getpwuid(::geteuid())->pw_dir)) << value;
+    }
+    const auto variable = changed_variable("HOME", "/nowhere/of/mine");
+    take_home_of_user();
+    EXPECT_EQ(qgetenv("HOME"), "/nowhere/of/mine");
 }
 
 TEST(data_folder_choice, takes_a_relative_data_home_for_none)

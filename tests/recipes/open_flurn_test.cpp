@@ -106,7 +106,8 @@ TEST(open_flurn, tells_the_file_and_the_fault_of_one_that_is_none_and_leaves_all
     EXPECT_EQ(session.again->desk.next_message(),
               "This flurn can't be opened:\r\n" + nowhere + "\r\n\r\nThere is no such file.");
     session.again->open(session.folder.path());
-    EXPECT_TRUE(has(session.again->desk.next_message(), "This flurn can't be opened:"));
+    EXPECT_EQ(session.again->desk.next_message(), "This flurn can't be opened:\r\n" + session.folder.path() +
+                                                      "\r\n\r\nIt is a folder, not a flurn.");
 }
 
 TEST(open_flurn, takes_a_folder_that_was_moved_as_a_whole_with_its_recipe)

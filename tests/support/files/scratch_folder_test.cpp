@@ -1,5 +1,6 @@
 #include "support/files/scratch_folder.h"
 
+#include "support/files/file_steps.h"
 #include "support/files/paths.h"
 #include "support/files/text_file.h"
 #include "support/platform_error.h"
@@ -67,7 +68,7 @@ TEST(scratch_folder, goes_when_the_program_is_ended_by_a_signal_and_the_program_
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         const pid_t other = ::fork();
         if (other == 0) {
-            remove_scratch_folders_on_signals();
+            clear_away_on_signals();
             const scratch_folder scratch(place);
             write_file(joined(scratch.path(), "work"), "x");
             ::kill(::getpid(), number);
@@ -79,6 +80,29 @@ TEST(scratch_folder, goes_when_the_program_is_ended_by_a_signal_and_the_program_
         EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == number) << number;
         EXPECT_TRUE(folders_in(place).empty()) << number;
     }
+}
+
+TEST(clear_away_on_signals, takes_what_was_being_written_and_leaves_what_was_to_be_replaced)
+{
+    const temporary_folder folder;
+    const std::string poster = folder.write("poster.jpg", "old");
+    const pid_t other = ::fork();
+    if (other == 0) {
+        clear_away_on_signals();
+        const gated_files ended([](file_step step, const std::string &) {
+            if (step == file_step::flush)
+                ::kill(::getpid(), SIGTERM);
+            while (step == file_step::flush)
+                ::pause();
+            return 0;
+        });
+        replace_file(poster, "new");
+    }
+    int status = 0;
+    ::waitpid(other, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+    EXPECT_EQ(files_in(folder.path()), std::vector<std::string>{"poster.jpg"});
+    EXPECT_EQ(read_file(poster), "old");
 }
 
 TEST(scratch_folder, many_at_once_keep_out_of_each_others_way)
