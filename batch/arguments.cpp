@@ -1,6 +1,7 @@
 #include "batch/arguments.h"
 
 #include "batch/page_plan.h"
+#include "support/in_a_row.h"
 #include "support/workers.h"
 
 #include <algorithm>
@@ -289,14 +290,6 @@ std::string columns_of_a_job_list()
 }
 
 }  // namespace
-
-std::string in_a_row(const std::vector<std::string> & texts)
-{
-    std::string row;
-    for (const std::string & text : texts)
-        row += (row.empty() ? "" : ", ") + text;
-    return row;
-}
 
 batch_arguments parse_arguments(const std::vector<std::string> & given)
 {

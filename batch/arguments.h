@@ -41,9 +41,6 @@ struct bad_arguments {
     std::string what;
 };
 
-/// The texts in one line, as a fault names what there is to choose from.
-std::string in_a_row(const std::vector<std::string> & texts);
-
 /// The name that stands for standard output and standard input.
 inline constexpr const char * standard_stream = "-";
 

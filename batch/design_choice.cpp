@@ -7,6 +7,7 @@
 #include "frames/sets/frame_sets.h"
 #include "frames/sets/frames_template.h"
 #include "support/files/paths.h"
+#include "support/in_a_row.h"
 #include "support/platform_error.h"
 
 #include <algorithm>

@@ -57,7 +57,7 @@ std::string number(double value)
     return {text.data(), std::to_chars(text.data(), end, value, std::chars_format::fixed, 4).ptr};
 }
 
-std::string in_a_row(const std::array<double, 4> & values)
+std::string numbers_in_a_row(const std::array<double, 4> & values)
 {
     std::string text;
     for (const double value : values)
@@ -90,16 +90,16 @@ qpdf_oh image(const pdf & file, const page_picture & picture, qpdf_oh space)
 std::string drawn(const std::string & name, const std::array<double, 4> & area)
 {
     const auto & [left, bottom, width, height] = area;
-    return "q " + in_a_row({width, 0, 0, height}) + number(left) + " " + number(bottom) + " cm " + name +
-           " Do Q\n";
+    return "q " + numbers_in_a_row({width, 0, 0, height}) + number(left) + " " + number(bottom) + " cm " +
+           name + " Do Q\n";
 }
 
 std::string painted(const page_plan & plan, rgb_triple color)
 {
     constexpr double full = 255;
     return "q /sRGB cs " + number(color.red / full) + " " + number(color.green / full) + " " +
-           number(color.blue / full) + " sc " + in_a_row({0, 0, plan.whole_width(), plan.whole_height()}) +
-           "re f Q\n";
+           number(color.blue / full) + " sc " +
+           numbers_in_a_row({0, 0, plan.whole_width(), plan.whole_height()}) + "re f Q\n";
 }
 
 std::string content(const page_plan & plan, const page_ground & ground)
@@ -125,13 +125,14 @@ qpdf_oh resources(const pdf & file, const page_picture & poster, const page_grou
 
 qpdf_oh page(const pdf & file, const page_plan & plan, const page_ground & ground, qpdf_oh used)
 {
-    const std::string whole = "[ " + in_a_row({0, 0, plan.whole_width(), plan.whole_height()}) + "]";
+    const std::string whole = "[ " + numbers_in_a_row({0, 0, plan.whole_width(), plan.whole_height()}) + "]";
     const qpdf_oh sheet = file.parsed("<< /Type /Page >>");
     file.put(sheet, "/MediaBox", whole);
     file.put(sheet, "/BleedBox", whole);
     file.put(
         sheet, "/TrimBox",
-        "[ " + in_a_row({plan.bleed, plan.bleed, plan.bleed + plan.width, plan.bleed + plan.height}) + "]");
+        "[ " + numbers_in_a_row({plan.bleed, plan.bleed, plan.bleed + plan.width, plan.bleed + plan.height}) +
+            "]");
     file.put(sheet, "/Resources", used);
     file.put(sheet, "/Contents", file.stream(content(plan, ground)));
     return qpdf_make_indirect_object(file.file(), sheet);

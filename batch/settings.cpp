@@ -1,5 +1,6 @@
 #include "batch/settings.h"
 
+#include "support/in_a_row.h"
 #include "support/real_text.h"
 
 #include <algorithm>

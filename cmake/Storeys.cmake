@@ -14,13 +14,15 @@ endforeach()
 # Reads what most files include once. Whether each file includes what it needs is seen without: the linter reads
 # it so, and a development build is made so.
 if(TESSALOOM_READ_ONCE)
+    set(read_by_all <algorithm> <array> <filesystem> <functional> <map> <memory> <optional> <span> <string> <string_view>
+                    <utility> <vector>)
     foreach(name IN ITEMS ground records)  # the ground has settings of its libraries besides
-        target_precompile_headers(${name} PRIVATE <algorithm> <array> <filesystem> <functional> <map> <memory> <optional>
-                                                  <span> <string> <string_view> <utility> <vector>)
+        target_precompile_headers(${name} PRIVATE ${read_by_all})
     endforeach()
-    foreach(name IN ITEMS cores procedures handlers)
-        target_precompile_headers(${name} REUSE_FROM records)
-    endforeach()
+    target_precompile_headers(cores REUSE_FROM records)
+    # The session's main window, or all of its windows, are half of what such a source takes.
+    target_precompile_headers(procedures PRIVATE ${read_by_all} ${CMAKE_SOURCE_DIR}/session/frmMain.h)
+    target_precompile_headers(handlers PRIVATE ${read_by_all} ${CMAKE_BINARY_DIR}/windows/session/windows.h)
 endif()
 
 function(storey name)
@@ -63,6 +65,8 @@ function(compiled_by_room program)
         set_source_files_properties(${source} TARGET_DIRECTORY ${program} PROPERTIES UNITY_GROUP ${room})
     endforeach()
     set_target_properties(${program} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+    # GCC gathers up what it has done with less often: such a unit takes an eighth less for a tenth more memory.
+    target_compile_options(${program} PRIVATE $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=1000000>)
     # What one source names at its top may be what another calls a variable; and a fixture of a source that is included
     # looks to GCC as if others saw it.
     target_compile_options(${program} PRIVATE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)

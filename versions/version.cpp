@@ -1,16 +1,6 @@
 #include "versions/version.h"
 
-namespace {
-
-std::string in_a_row(const std::vector<std::string> & texts)
-{
-    std::string row;
-    for (const std::string & text : texts)
-        row += (row.empty() ? "" : ", ") + text;
-    return row;
-}
-
-}  // namespace
+#include "support/in_a_row.h"
 
 std::string own_version()
 {

@@ -10,7 +10,7 @@
 
 namespace {
 
-using poster = jigsaw::poster;
+using jigsaw_shape = jigsaw::poster;
 using rim = jigsaw::rim;
 using cut = jigsaw::cut;
 
@@ -34,7 +34,7 @@ TEST_P(jigsaws, interlock_with_thin_even_seams_on_the_poster)
     EXPECT_LE(found.widest_overlap, 2);
     EXPECT_LE(found.widest_seam, 6);
     EXPECT_GE(found.widest_seam, 2);
-    const int width = puzzle.shape == poster::landscape ? 3000 : 2000;
+    const int width = puzzle.shape == jigsaw_shape::landscape ? 3000 : 2000;
     EXPECT_GE(found.left, 0);
     EXPECT_GE(found.top, 0);
     EXPECT_LE(found.right, width);
@@ -43,25 +43,25 @@ TEST_P(jigsaws, interlock_with_thin_even_seams_on_the_poster)
 }
 
 INSTANTIATE_TEST_SUITE_P(all, jigsaws,
-                         testing::Values(jigsaw{4, 6, poster::landscape, rim::knobs, cut::one},
-                                         jigsaw{6, 4, poster::portrait, rim::knobs, cut::one},
-                                         jigsaw{8, 12, poster::landscape, rim::straight, cut::one},
-                                         jigsaw{12, 8, poster::portrait, rim::straight, cut::one},
-                                         jigsaw{5, 7, poster::landscape, rim::straight, cut::one},
-                                         jigsaw{2, 3, poster::landscape, rim::straight, cut::one},
-                                         jigsaw{4, 4, poster::landscape, rim::knobs, cut::four},
-                                         jigsaw{4, 4, poster::portrait, rim::knobs, cut::four}));
+                         testing::Values(jigsaw{4, 6, jigsaw_shape::landscape, rim::knobs, cut::one},
+                                         jigsaw{6, 4, jigsaw_shape::portrait, rim::knobs, cut::one},
+                                         jigsaw{8, 12, jigsaw_shape::landscape, rim::straight, cut::one},
+                                         jigsaw{12, 8, jigsaw_shape::portrait, rim::straight, cut::one},
+                                         jigsaw{5, 7, jigsaw_shape::landscape, rim::straight, cut::one},
+                                         jigsaw{2, 3, jigsaw_shape::landscape, rim::straight, cut::one},
+                                         jigsaw{4, 4, jigsaw_shape::landscape, rim::knobs, cut::four},
+                                         jigsaw{4, 4, jigsaw_shape::portrait, rim::knobs, cut::four}));
 
 TEST(jigsaw, with_straight_edges_is_a_rectangle_without_a_hole)
 {
-    for (const jigsaw & puzzle : {jigsaw{8, 12, poster::landscape, rim::straight, cut::one},
-                                  jigsaw{6, 4, poster::portrait, rim::straight, cut::one}})
+    for (const jigsaw & puzzle : {jigsaw{8, 12, jigsaw_shape::landscape, rim::straight, cut::one},
+                                  jigsaw{6, 4, jigsaw_shape::portrait, rim::straight, cut::one}})
         EXPECT_GT(measure(assembled(puzzle)).filled, 0.999);
 }
 
 TEST(jigsaw, a_piece_in_the_wrong_place_is_seen)
 {
-    const jigsaw puzzle{4, 6, poster::landscape, rim::straight, cut::one};
+    const jigsaw puzzle{4, 6, jigsaw_shape::landscape, rim::straight, cut::one};
     laid_out pieces = laid(puzzle);
     pieces.spots[8].left += 9;
     const measured moved = measure(assembled(puzzle, pieces));

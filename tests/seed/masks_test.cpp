@@ -1,6 +1,7 @@
 // The rendered shape masks, held against the rules by which a shape is drawn.
 #include "support/MFreeImage.h"
 #include "tests/seed/mask_parts.h"
+#include "tests/sweep_stride.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -28,7 +29,7 @@ std::vector<std::string> grey_masks()
 {
     std::vector<std::string> found = masks();
     std::erase_if(found, [](const std::string & path) { return path.starts_with(BUILT_SEED "/puzzle"); });
-    return found;
+    return swept(found);
 }
 
 bool patterned(const std::string & path)
@@ -120,7 +121,8 @@ TEST(masks, are_there_for_every_letter_and_digit_of_each_alphabet)
 
 TEST(masks, no_letter_is_the_same_in_two_alphabets)
 {
-    for (const char character : std::string("abcdefghijklmnopqrstuvwxyz0123456789")) {
+    const std::string characters = "abcdefghijklmnopqrstuvwxyz0123456789";
+    for (const char character : swept(std::vector<char>(characters.begin(), characters.end()))) {
         std::set<std::vector<part>> drawn;
         for (const char * folder : {"", "sturdy/", "serif/"})
             drawn.insert(parts_of(load_picture(picture_format::gif, letter_path(folder, character))));
@@ -183,7 +185,7 @@ TEST(masks, hold_no_colour_that_would_be_taken_for_a_key)
 
 TEST(masks, leave_a_fair_share_of_the_square_to_the_photo)
 {
-    for (const std::string & path : masks()) {
+    for (const std::string & path : swept(masks())) {
         const double share = share_of_inside(load_picture(picture_format::gif, path));
         EXPECT_GT(share, 0.25) << path;
         EXPECT_LT(share, 0.95) << path;
