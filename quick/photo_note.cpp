@@ -13,7 +13,7 @@ std::string source_note(const frmMain & main)
 int photos_left_out(const frmMain & main)
 {
     const int shown = static_cast<int>(main.run.photos_shown.size());
-    return shown == 0 ? 0 : main.table.last_photo + 1 - shown;
+    return shown == 0 ? 0 : main.table.last_photo + 1 - shown + main.table.beyond;
 }
 
 std::string left_out_note(int photos)

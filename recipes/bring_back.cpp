@@ -122,6 +122,7 @@ void fill_table(frmMain & main, const recipe & wanted)
     table.photos = {};
     std::ranges::transform(wanted.photos, table.photos.begin(), &recipe_photo::path);
     table.last_photo = narrow(static_cast<long>(wanted.photos.size()) - 1);
+    table.beyond = 0;
 }
 
 bool is_saved_list(const frmMain & main, const std::string & path)

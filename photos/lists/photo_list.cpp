@@ -67,11 +67,24 @@ std::string measured_list(frmMain & main, const std::string & list)
     return text;
 }
 
+// How many there were more.
+int cut_to_limit(std::vector<std::string> & photos)
+{
+    const std::size_t found = photos.size();
+    photos.resize(std::min(found, folder_limit));
+    return static_cast<int>(found - photos.size());
+}
+
+void put_in_table(frmMain & main, const std::vector<std::string> & photos)
+{
+    std::ranges::copy(photos, main.table.photos.begin());
+    main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
+}
+
 void take_folder_of(frmMain & main, std::vector<std::string> photos)
 {
-    photos.resize(std::min(photos.size(), folder_limit));
-    std::ranges::move(photos, main.table.photos.begin());
-    main.table.last_photo = narrow(static_cast<long>(photos.size()) - 1);
+    main.table.beyond = cut_to_limit(photos);
+    put_in_table(main, photos);
 }
 
 std::vector<std::string> photos_of_table(const frmMain & main)
@@ -96,6 +109,7 @@ bool wants_reshuffle(frmMain & main)
 
 void get_photos(frmMain & main)
 {
+    main.table.beyond = 0;
     const std::string & list = main.txtPhotos.tag;
     if (!file_exists(list)) {
         main.table.last_photo = 0;
@@ -158,9 +172,9 @@ void look_again_at_folder(frmMain & main, const std::string & folder)
     }
     if (!now)
         now = alone_beside(main.desk, main.workers, [&folder] { return photos_in(folder); });
-    now->resize(std::min(now->size(), folder_limit));
+    main.table.beyond = cut_to_limit(*now);
     if (!std::ranges::is_permutation(before, *now))
-        take_folder_of(main, std::move(*now));
+        put_in_table(main, *now);
 }
 
 std::vector<std::string> choose_photos(frmMain & main)

@@ -20,6 +20,7 @@ struct photo_table {
     static constexpr int capacity = 1001;
     std::array<std::string, capacity> photos{};
     int16 last_photo = -1;  ///< index of the last valid entry; -1: empty
+    int beyond = 0;         ///< how many photos more the folder has than are taken of one
     std::array<std::string, capacity> shuffled_photos{};
     std::array<seen_orientation, capacity> photo_orientation{};  ///< cache of a run's matching
     int16 landscape_count = 0, portrait_count = 0;

@@ -54,6 +54,7 @@ kept_photos photos_of(const photo_table & table)
     const int count = std::clamp(table.last_photo + 1, 0, photo_table::capacity);
     return {.photos = {table.photos.begin(), table.photos.begin() + count},
             .last_photo = table.last_photo,
+            .beyond = table.beyond,
             .landscape_count = table.landscape_count,
             .portrait_count = table.portrait_count,
             .orientation_list = table.orientation_list};
@@ -63,6 +64,7 @@ void put_photos_back(photo_table & table, const kept_photos & kept)
 {
     std::ranges::copy(kept.photos, table.photos.begin());
     table.last_photo = kept.last_photo;
+    table.beyond = kept.beyond;
     table.landscape_count = kept.landscape_count;
     table.portrait_count = kept.portrait_count;
     table.orientation_list = kept.orientation_list;

@@ -31,7 +31,9 @@ using held_values = decltype(values_of(held_beside_controls(std::declval<frmMain
 /// The table of photos as far as it outlives a run.
 struct kept_photos {
     std::vector<std::string> photos;
-    int16 last_photo = -1, landscape_count = 0, portrait_count = 0;
+    int16 last_photo = -1;
+    int beyond = 0;
+    int16 landscape_count = 0, portrait_count = 0;
     std::string orientation_list;
     bool operator==(const kept_photos &) const = default;
 };

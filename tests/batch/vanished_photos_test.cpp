@@ -263,6 +263,15 @@ protected:
                 << where << spoiled.told;
     }
 
+    static std::vector<const named_change *> changes_met(std::size_t kind, int match)
+    {
+        std::vector<const named_change *> met;
+        for (std::size_t i = match == 1 ? kind % 2 : 1 - kind % 2; i < std::size(photo_changes); i += 2)
+            if ((i / 2 + kind) % sweep_stride == 0)
+                met.push_back(&photo_changes[i]);
+        return met;
+    }
+
     // Each kind of picture meets each change, and each change meets photos that are matched and that aren't.
     // Of posters, which take long, each kind meets every second change.
     void expect_changes_survived(run_size size, thumbnail_fate thumbnails) const
@@ -273,18 +282,18 @@ protected:
             for (const int match : {1, 0}) {
                 if (size == run_size::full && match == static_cast<int>(kind % 2))
                     continue;
+                const std::vector<const named_change *> met = changes_met(kind, match);
+                if (met.empty())
+                    continue;
                 const way_of_run way{.size = size, .match = match};
                 const std::string where = name + (match == 1 ? " matched: " : " unmatched: ");
                 const poster sound = poster_after(way, [] {});
                 EXPECT_TRUE(sound.shown) << where;
                 EXPECT_EQ(times_told(sound, "left out"), 0) << where << sound.told;
-                for (std::size_t i = match == 1 ? kind % 2 : 1 - kind % 2; i < std::size(photo_changes);
-                     i += 2)
-                    if ((i / 2 + kind) % sweep_stride == 0)
-                        expect_survived(where, photo_changes[i], thumbnails, sound,
-                                        [&way, &after = poster_after](const auto & change) {
-                                            return after(way, change);
-                                        });
+                for (const named_change * change : met)
+                    expect_survived(
+                        where, *change, thumbnails, sound,
+                        [&way, &after = poster_after](const auto & done) { return after(way, done); });
             }
         }
     }

@@ -6,6 +6,7 @@
 #include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/stages.h"
 #include "tests/desktop/window_views.h"
+#include "tests/sweep_stride.h"
 
 #include <QApplication>
 #include <QImage>
@@ -248,8 +249,9 @@ TEST_P(small_screens, show_what_has_the_keyboard)
 // Without the frame of a window and the bar of the desktop: 1280 by 720 pixels, 1366 by 768, and 1280 by 720
 // at two and at three times the usual density.
 INSTANTIATE_TEST_SUITE_P(sizes, small_screens,
-                         testing::Combine(testing::Values(QSize(1272, 644), QSize(1358, 692), QSize(632, 284),
-                                                          QSize(418, 180)),
+                         testing::Combine(testing::ValuesIn(swept<QSize>({QSize(632, 284), QSize(418, 180),
+                                                                          QSize(1272, 644),
+                                                                          QSize(1358, 692)})),
                                           testing::Values(smallest_letters, roomy_letters)));
 
 TEST(the_main_window, gives_up_what_it_does_not_need_before_it_scrolls)

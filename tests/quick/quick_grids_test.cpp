@@ -127,6 +127,9 @@ TEST(note, says_how_many_photos_are_left_out)
     EXPECT_EQ(main.lblOutput.caption(), source);
     main.cmbBlanks.set_text("3");
     EXPECT_EQ(main.lblOutput.caption(), source + "   -   2 photos left out");
+    main.table.beyond = 2501;  // of a large folder
+    main.cmbBlanks.set_text("2");
+    EXPECT_EQ(main.lblOutput.caption(), source + "   -   2504 photos left out");
 }
 
 TEST(cmdMore, is_for_the_matrix_alone)

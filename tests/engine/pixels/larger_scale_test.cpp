@@ -9,6 +9,7 @@
 #include "engine/pixels/draw_shadow.h"
 #include "engine/pixels/soft_edge_paste.h"
 #include "tests/pictures.h"
+#include "tests/sweep_stride.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -179,4 +180,4 @@ TEST_P(larger_scale, a_photo_shows_the_same_part_of_itself)
     EXPECT_TRUE(is_possible(larger));
 }
 
-INSTANTIATE_TEST_SUITE_P(scales, larger_scale, testing::Values(2, 3, 4));
+INSTANTIATE_TEST_SUITE_P(scales, larger_scale, testing::ValuesIn(swept<int>({2, 3, 4})));

@@ -91,6 +91,15 @@ TEST_F(photo_list_test, a_folder_gives_499_photos_at_most)
     photos_of_folder(main, folder.at("photos"));
     EXPECT_EQ(main.table.last_photo, 498);
     EXPECT_EQ(main.table[498], folder.at("photos/498.jpg"));
+    const int more = main.table.beyond;
+    EXPECT_EQ(more, static_cast<int>(files_in(folder.at("photos")).size()) - 499);
+    EXPECT_GT(more, 0);
+    folder.write("photos/one_more.jpg", "");
+    look_again_at_folder(main, folder.at("photos"));
+    EXPECT_EQ(main.table.beyond, more + 1);
+    main.txtPhotos.tag = folder.write("list.pls", "P /x/a.jpg\r\n");
+    get_photos(main);
+    EXPECT_EQ(main.table.beyond, 0);
 }
 
 TEST_F(photo_list_test, a_folder_without_photos_leaves_an_empty_table_and_no_message)
