@@ -93,8 +93,10 @@ void print_designs(frmMain & main)
 
 void check_frames(const frmMain & main, const batch_arguments & arguments)
 {
+    if (arguments.frames.empty())
+        return;
     const std::vector<std::string> sets = frame_sets(main);
-    if (!arguments.frames.empty() && std::ranges::find(sets, arguments.frames) == sets.end())
+    if (std::ranges::find(sets, arguments.frames) == sets.end())
         throw bad_arguments{"there is no set of frames named \"" + arguments.frames + "\"; " +
                             sets_there_are(sets)};
 }
